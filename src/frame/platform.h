@@ -1,0 +1,125 @@
+// What the library asks of the operating system, as small interfaces; windows/ and posix/ implement them under equal
+// file names. They are handed in through the thread's state, so that a test can put its own in their place.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "frame/text.h"
+#include "frame/value.h"
+
+namespace qvr {
+
+// The per-user application settings.
+struct Settings {
+  // The value of application / section / key, or `fallback` when there is none.
+  virtual Text read(TextView application, TextView section, TextView key, TextView fallback) = 0;
+
+ protected:
+  ~Settings() = default;
+};
+
+struct UserLanguage {
+  // The user's default language identifier in Windows' numbering (0x0C0A is Spanish, Spain).
+  virtual std::uint16_t default_identifier() = 0;
+
+ protected:
+  ~UserLanguage() = default;
+};
+
+struct InputFile {
+  virtual ~InputFile() = default;
+  // Fills the buffer from the file; fewer bytes only at its end. Throws on a read error.
+  virtual std::size_t read(std::span<char> buffer) = 0;
+};
+
+struct OutputFile {
+  virtual ~OutputFile() = default;
+  virtual void write(std::string_view bytes) = 0;  // all of them, or throws
+  virtual void close() = 0;                        // throws when what was written could not be kept
+};
+
+struct Files {
+  // Whether a directory search for the path (wildcards allowed) with this mask of file attributes finds anything.
+  virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
+  virtual std::unique_ptr<InputFile> open(TextView path) = 0;     // throws when it cannot be read
+  virtual std::unique_ptr<OutputFile> create(TextView path) = 0;  // replaces a file that is there; throws
+  // Text in the system's single-byte or multi-byte page. Throws when a character has no place in that page.
+  virtual std::string to_system_page(TextView text) = 0;
+  virtual Text from_system_page(std::string_view bytes) = 0;
+
+ protected:
+  ~Files() = default;
+};
+
+enum class BoxButtons { Ok, YesNo };
+enum class BoxAnswer { Ok, Yes, No };
+
+struct MessageBoxes {
+  // Shows a modal box titled with the library's name. Where nobody could see it, the text is logged once and the
+  // answer is No.
+  virtual BoxAnswer show(TextView text, BoxButtons buttons) = 0;
+
+ protected:
+  ~MessageBoxes() = default;
+};
+
+struct HostEvents {
+  virtual void process_pending() = 0;  // lets the host paint and react; does not wait
+
+ protected:
+  ~HostEvents() = default;
+};
+
+// The user's conventions for dates and numbers.
+struct Locale {
+  virtual std::optional<Date> parse_date(TextView text) = 0;
+  virtual std::optional<double> parse_number(TextView text) = 0;
+  virtual Text date_text(Date date) = 0;  // short date, and the time unless it is midnight
+  virtual char16_t decimal_separator() = 0;
+
+ protected:
+  ~Locale() = default;
+};
+
+using Bytes = std::span<const std::uint8_t>;
+using MutableBytes = std::span<std::uint8_t>;
+
+// Primitives of the platform's own cryptographic library.
+struct Cryptography {
+  // AES of each 16-byte block by itself, in place; the key has 16, 24 or 32 bytes.
+  virtual void aes_encrypt_blocks(Bytes key, MutableBytes blocks) = 0;
+  virtual void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) = 0;
+  virtual void wipe(MutableBytes secret) = 0;  // not optimised away
+
+ protected:
+  ~Cryptography() = default;
+};
+
+struct OwnModule {
+  virtual Text path() = 0;  // full path of the file that holds this code
+
+ protected:
+  ~OwnModule() = default;
+};
+
+struct Platform {
+  Settings& settings;
+  UserLanguage& user_language;
+  Files& files;
+  MessageBoxes& message_boxes;
+  HostEvents& host_events;
+  Locale& locale;
+  Cryptography& cryptography;
+  OwnModule& own_module;
+};
+
+// The implementation for the system that this build runs on; stateless, usable from any thread.
+const Platform& system_platform();
+
+}  // namespace qvr

@@ -1,0 +1,15 @@
+// Conversions between values as a Visual Basic host makes them: text counts as a number, a date or a truth value when
+// the locale reads it so, true is -1, Empty is zero or no text. What cannot be converted throws RuntimeFailure: 13 type
+// mismatch, 94 for Null, 6 for overflow.
+#pragma once
+
+#include "frame/value.h"
+
+namespace qvr {
+
+Text to_text(const Value& value);
+double to_number(const Value& value);
+bool to_truth(const Value& value);
+Date to_date(const Value& value);
+
+}  // namespace qvr

@@ -1,0 +1,35 @@
+// Reporting of failed commands and procedure calls to the user.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "frame/failure.h"
+#include "services/ado.h"
+
+namespace qvr::services {
+
+struct Captions {
+  Text server_not_found = u"Servidor no encontrado";
+  Text duplicate_record = u"Registro duplicado";
+  Text unknown_error = u"Error indeterminado";
+  Text method = u"M\u00e9todo";
+  Text object = u"Objeto";
+};
+
+struct ErrorNotice {
+  FailureDetail failure;
+  std::int32_t motor = 0;         // engine selector, as the caller gave it
+  Text label;                     // the operation that failed
+  Captions captions;
+  std::vector<AdoError> errors;   // of the ADO connection, in order
+};
+
+class ErrorReport {
+ public:
+  virtual ~ErrorReport() = default;
+  virtual void Informar(const ErrorNotice& notice) = 0;
+};
+
+}  // namespace qvr::services
