@@ -1,0 +1,70 @@
+#include "frame/text.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "frame/fold_table.h"
+
+namespace qvr {
+
+char16_t fold(char16_t unit) {
+  if (unit < 0x80) return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
+  const auto* run = std::upper_bound(std::begin(kFoldRuns), std::end(kFoldRuns), unit,
+                                     [](char16_t value, const FoldRun& r) { return value < r.first; });
+  if (run == std::begin(kFoldRuns)) return unit;
+  --run;
+  if (unit > run->last || (unit - run->first) % run->stride != 0) return unit;
+  return static_cast<char16_t>(unit + run->shift);
+}
+
+bool equal_no_case(TextView a, TextView b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](char16_t x, char16_t y) { return x == y || fold(x) == fold(y); });
+}
+
+bool starts_with_no_case(TextView text, TextView prefix) {
+  return text.size() >= prefix.size() && equal_no_case(text.substr(0, prefix.size()), prefix);
+}
+
+Text replace_all(TextView text, TextView what, TextView by) {
+  Text result;
+  std::size_t from = 0;
+  if (!what.empty()) {
+    for (auto at = text.find(what); at != TextView::npos; at = text.find(what, from)) {
+      result.append(text, from, at - from).append(by);
+      from = at + what.size();
+    }
+  }
+  return result.append(text, from);
+}
+
+Text decimal(std::int64_t number) {
+  const std::string digits = std::to_string(number);
+  return Text(digits.begin(), digits.end());
+}
+
+Text join(std::initializer_list<TextView> pieces) {
+  std::size_t size = 0;
+  for (TextView piece : pieces) size += piece.size();
+  Text result;
+  result.reserve(size);
+  for (TextView piece : pieces) result.append(piece);
+  return result;
+}
+
+Text abbreviate_for_display(TextView text) {
+  constexpr std::size_t kLongest = 500, kPart = 250;
+  if (text.size() <= kLongest) return Text(text);
+  const Text line = replace_all(text, kLineBreak, u" ");
+  const TextView view = line;
+  const std::size_t tail = std::min(kPart, view.size());
+  return join({view.substr(0, kPart), u"\r\n\r\n...\r\n\r\n", view.substr(view.size() - tail)});
+}
+
+void wipe(Text& text) {
+  volatile char16_t* unit = text.data();
+  for (std::size_t left = text.size(); left != 0; --left) *unit++ = 0;
+  text.clear();
+}
+
+}  // namespace qvr

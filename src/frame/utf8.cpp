@@ -1,0 +1,84 @@
+#include "frame/utf8.h"
+
+namespace qvr {
+namespace {
+
+constexpr bool is_high(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
+constexpr bool is_low(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
+
+void append_bytes(std::string& bytes, char32_t c) {
+  const auto put = [&bytes](char32_t byte) { bytes.push_back(static_cast<char>(static_cast<unsigned char>(byte))); };
+  if (c < 0x80) return put(c);
+  if (c < 0x800) {
+    put(0xC0 | c >> 6);
+  } else {
+    if (c < 0x10000) {
+      put(0xE0 | c >> 12);
+    } else {
+      put(0xF0 | c >> 18);
+      put(0x80 | (c >> 12 & 0x3F));
+    }
+    put(0x80 | (c >> 6 & 0x3F));
+  }
+  put(0x80 | (c & 0x3F));
+}
+
+// How many bytes follow a first byte, and the least code point that needs that many.
+struct Lead {
+  int following;
+  char32_t bits;
+  char32_t least;
+};
+
+std::optional<Lead> read_lead(unsigned char byte) {
+  if (byte < 0x80) return Lead{0, byte, 0};
+  if (byte >= 0xC2 && byte < 0xE0) return Lead{1, byte & 0x1Fu, 0x80};
+  if (byte >= 0xE0 && byte < 0xF0) return Lead{2, byte & 0x0Fu, 0x800};
+  if (byte >= 0xF0 && byte < 0xF5) return Lead{3, byte & 0x07u, 0x10000};
+  return std::nullopt;
+}
+
+void append_units(Text& text, char32_t c) {
+  if (c < 0x10000) {
+    text.push_back(static_cast<char16_t>(c));
+  } else {
+    text.push_back(static_cast<char16_t>(0xD7C0 + (c >> 10)));
+    text.push_back(static_cast<char16_t>(0xDC00 | (c & 0x3FF)));
+  }
+}
+
+}  // namespace
+
+std::string to_utf8(TextView text) {
+  std::string bytes;
+  bytes.reserve(text.size() + text.size() / 8);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char32_t c = text[i];
+    if (is_high(c) && i + 1 < text.size() && is_low(text[i + 1])) {
+      c = 0x10000 + ((c & 0x3FF) << 10) + (text[++i] & 0x3FFu);
+    }
+    append_bytes(bytes, c);
+  }
+  return bytes;
+}
+
+std::optional<Text> from_utf8(std::string_view bytes) {
+  Text text;
+  text.reserve(bytes.size());
+  for (std::size_t i = 0; i < bytes.size();) {
+    const auto lead = read_lead(static_cast<unsigned char>(bytes[i++]));
+    if (!lead) return std::nullopt;
+    char32_t c = lead->bits;
+    for (int k = 0; k < lead->following; ++k) {
+      if (i == bytes.size() || (static_cast<unsigned char>(bytes[i]) & 0xC0) != 0x80) return std::nullopt;
+      c = c << 6 | (static_cast<unsigned char>(bytes[i++]) & 0x3Fu);
+    }
+    if (c < lead->least || c > 0x10FFFF) return std::nullopt;
+    // Two halves of one pair in three bytes each would be a second spelling of a four-byte character.
+    if (is_low(c) && !text.empty() && is_high(text.back()) && lead->following == 2) return std::nullopt;
+    append_units(text, c);
+  }
+  return text;
+}
+
+}  // namespace qvr
