@@ -90,10 +90,15 @@ struct Locale {
 using Bytes = std::span<const std::uint8_t>;
 using MutableBytes = std::span<std::uint8_t>;
 
-// Primitives of the platform's own cryptographic library.
+// AES under one key.
+struct BlockCipher {
+  virtual ~BlockCipher() = default;
+  virtual void encrypt(MutableBytes blocks) = 0;  // each 16-byte block by itself, in place
+};
+
+// Primitives of the platform's own cryptographic library; they throw when it refuses.
 struct Cryptography {
-  // AES of each 16-byte block by itself, in place; the key has 16, 24 or 32 bytes.
-  virtual void aes_encrypt_blocks(Bytes key, MutableBytes blocks) = 0;
+  virtual std::unique_ptr<BlockCipher> aes(Bytes key) = 0;  // a key of 16, 24 or 32 bytes
   virtual void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) = 0;
   virtual void wipe(MutableBytes secret) = 0;  // not optimised away
 

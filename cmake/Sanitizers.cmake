@@ -1,0 +1,5 @@
+set(QVR_SANITIZE "" CACHE STRING "Checks to compile in, as -fsanitize= takes them")
+if(QVR_SANITIZE)
+  add_compile_options(-fsanitize=${QVR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${QVR_SANITIZE})
+endif()

@@ -1,0 +1,23 @@
+# Type libraries and headers from IDL with Wine's compiler.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(widl_prefix x86_64-w64-mingw32)
+  set(wine_libraries /usr/lib/x86_64-linux-gnu/wine/x86_64-windows)
+else()
+  set(widl_prefix i686-w64-mingw32)
+  set(wine_libraries /usr/lib/i386-linux-gnu/wine/i386-windows)
+endif()
+find_program(WIDL_EXECUTABLE ${widl_prefix}-widl REQUIRED)
+set(WIDL_INCLUDES -I/usr/include/wine/wine/windows -L${wine_libraries})
+
+# Compiles IDL to generated/<name>.tlb and generated/<name>.h. `DEPENDS` names what it imports.
+function(qvr_idl idl)
+  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  cmake_path(GET idl STEM name)
+  set(out ${PROJECT_BINARY_DIR}/generated)
+  add_custom_command(
+    OUTPUT ${out}/${name}.tlb ${out}/${name}.h
+    COMMAND ${WIDL_EXECUTABLE} -t -o ${out}/${name}.tlb ${WIDL_INCLUDES} -I${out} -L${out} ${idl}
+    COMMAND ${WIDL_EXECUTABLE} -h -o ${out}/${name}.h ${WIDL_INCLUDES} -I${out} -L${out} ${idl}
+    DEPENDS ${idl} ${arg_DEPENDS}
+    VERBATIM)
+endfunction()

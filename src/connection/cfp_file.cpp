@@ -1,0 +1,109 @@
+#include "connection/cfp_file.h"
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "frame/failure.h"
+#include "frame/number_text.h"
+
+namespace qvr {
+namespace {
+
+// Lines 2 to 9; line 1 is the engine.
+constexpr Text ConnectionParameters::* kTextLines[] = {
+    &ConnectionParameters::Provider,   &ConnectionParameters::DataSource, &ConnectionParameters::InitialCatalogOTablespace,
+    &ConnectionParameters::UsuarioAdm, &ConnectionParameters::ClaveAdm,   &ConnectionParameters::UsuarioCli,
+    &ConnectionParameters::ClaveCli,   &ConnectionParameters::OtrosParametros,
+};
+
+// Far beyond any field, and short enough that a file of another kind is given up early.
+constexpr std::size_t kLongestLine = std::size_t{16} << 20;
+
+class LineReader {
+ public:
+  explicit LineReader(InputFile& file) : file_(file) {}
+
+  // The next line without its CR LF; throws when the file ends before one.
+  std::string next() {
+    std::string line;
+    for (;;) {
+      const auto window = std::string_view(buffer_.data(), filled_).substr(at_);
+      const auto end = window.find('\n');
+      line.append(window.substr(0, end));
+      if (end != std::string_view::npos) {
+        at_ += end + 1;
+        return without_carriage_return(std::move(line));
+      }
+      if (line.size() > kLongestLine) throw RuntimeFailure(failure_number::kFile);
+      refill();
+    }
+  }
+
+ private:
+  static std::string without_carriage_return(std::string line) {
+    if (!line.ends_with('\r')) throw RuntimeFailure(failure_number::kFile);
+    line.pop_back();
+    return line;
+  }
+
+  void refill() {
+    filled_ = file_.read(buffer_);
+    at_ = 0;
+    if (filled_ == 0) throw RuntimeFailure(failure_number::kFile);
+  }
+
+  InputFile& file_;
+  std::array<char, 8192> buffer_;
+  std::size_t at_ = 0, filled_ = 0;
+};
+
+// The whole text as a 32-bit integer; the locale plays no part in a file that travels.
+std::int32_t engine_number(const Text& text) {
+  const double number = number_prefix(text);
+  if (!(number >= INT32_MIN && number <= INT32_MAX) || decimal(static_cast<std::int32_t>(number)) != text) {
+    throw RuntimeFailure(failure_number::kTypeMismatch);
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+Text check_text(const ConnectionParameters& parameters) {
+  Text text = decimal(parameters.MotorBD);
+  for (const auto line : kTextLines) text += parameters.*line;
+  return text;
+}
+
+}  // namespace
+
+Text cfp_path(TextView folder, TextView name) { return join({folder, u"\\", name, u".cfp"}); }
+
+std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, services::TextProtection& protection,
+                                             TextView key) {
+  LineReader lines(file);
+  const auto next_line = [&] { return encoding.from_system_page(lines.next()); };
+  ConnectionParameters parameters;
+  parameters.MotorBD = engine_number(protection.Descifrar(key, next_line()));
+  for (const auto line : kTextLines) parameters.*line = protection.Descifrar(key, next_line());
+  Text check = check_text(parameters);
+  const bool matches = equal_no_case(next_line(), protection.Cifrar(key, check));
+  wipe(check);
+  if (!matches) return std::nullopt;
+  return parameters;
+}
+
+std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, services::TextProtection& protection,
+                      TextView key) {
+  std::string bytes;
+  const auto append_line = [&](TextView text) {
+    bytes += encoding.to_system_page(protection.Cifrar(key, text));
+    bytes += "\r\n";
+  };
+  append_line(decimal(parameters.MotorBD));
+  for (const auto line : kTextLines) append_line(parameters.*line);
+  Text check = check_text(parameters);
+  append_line(check);
+  wipe(check);
+  return bytes;
+}
+
+}  // namespace qvr

@@ -1,0 +1,24 @@
+// The ".cfp" file: ten protected lines, the last a check over the other nine.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "connection/qvrcfp.h"
+#include "frame/platform.h"
+#include "services/text_protection.h"
+
+namespace qvr {
+
+Text cfp_path(TextView folder, TextView name);
+
+// The parameters, without Archivo; nothing when the check line does not match. Throws when there are fewer than ten
+// lines, one is of absurd length, the first is no number, or the protection refuses one.
+std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, services::TextProtection& protection,
+                                             TextView key);
+
+// The file's bytes for these parameters.
+std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, services::TextProtection& protection,
+                      TextView key);
+
+}  // namespace qvr

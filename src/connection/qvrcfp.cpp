@@ -1,0 +1,84 @@
+#include "connection/qvrcfp.h"
+
+#include "connection/cfp_file.h"
+#include "connection/connection_string.h"
+#include "connection/typed_text.h"
+#include "frame/failure.h"
+#include "frame/global.h"
+#include "frame/thread_state.h"
+
+namespace qvr {
+
+QVRcfp::QVRcfp() noexcept { InicializarComun(); }
+
+QVRcfp::~QVRcfp() { clear(); }
+
+void QVRcfp::clear() noexcept {
+  wipe(fields_.ClaveAdm);
+  wipe(fields_.ClaveCli);
+  fields_ = ConnectionParameters();
+  created_ = false;
+}
+
+bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept {
+  return or_default(false, [&] {
+    ConnectionParameters copy = parameters;
+    copy.Archivo = fields_.Archivo;
+    std::swap(fields_, copy);
+    wipe(copy.ClaveAdm);
+    wipe(copy.ClaveCli);
+    return created_ = true;
+  });
+}
+
+bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
+  clear();
+  return or_default(false, [&] {
+    ThreadState& state = thread_state();
+    const auto file = state.platform().files.open(cfp_path(R, A));
+    auto loaded = read_cfp(*file, state.platform().files, state.text_protection(), ID);
+    if (!loaded) return false;
+    loaded->Archivo = A;
+    fields_ = std::move(*loaded);
+    return created_ = true;
+  });
+}
+
+bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
+  return or_default(false, [&] {
+    if (!created_) return false;
+    ThreadState& state = thread_state();
+    // Protected first and written after: a protection that fails leaves the file that is there alone.
+    const std::string bytes = cfp_bytes(fields_, state.platform().files, state.text_protection(), ID);
+    const auto file = state.platform().files.create(cfp_path(R, A));
+    if (fields_.Archivo.empty()) fields_.Archivo = A;
+    file->write(bytes);
+    file->close();
+    return true;
+  });
+}
+
+Text QVRcfp::CadenaADO(TextView, bool Adm) const noexcept {
+  return or_built_so_far([&](Text& built) {
+    if (!created_) return;
+    const bool administrator = Adm && !fields_.UsuarioAdm.empty();
+    built = connection_string(fields_, administrator ? Account{fields_.UsuarioAdm, fields_.ClaveAdm}
+                                                     : Account{fields_.UsuarioCli, fields_.ClaveCli});
+  });
+}
+
+Text QVRcfp::CadenaADOUsuario(TextView Usuario, TextView Clave) const noexcept {
+  return or_built_so_far([&](Text& built) {
+    if (created_) built = connection_string(fields_, {Usuario, Clave});
+  });
+}
+
+Value QVRcfp::TextoAValor(TextView TipoTNFL, TextView Texto) const noexcept {
+  return or_default(Value(), [&] { return value_from_typed_text(TipoTNFL, Texto); });
+}
+
+Text QVRcfp::ValorATexto(TextView TipoTNFL, const Value& Valor) const noexcept {
+  return or_default(Text(), [&] { return typed_text_from_value(TipoTNFL, Valor); });
+}
+
+}  // namespace qvr

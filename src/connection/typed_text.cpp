@@ -1,0 +1,38 @@
+#include "connection/typed_text.h"
+
+#include "frame/date_text.h"
+#include "frame/failure.h"
+#include "frame/number_text.h"
+#include "frame/value_convert.h"
+
+namespace qvr {
+namespace {
+
+// The number text keeps the type's own precision where the value is a number.
+Text number_text(const Value& value) {
+  if (const auto* held = value.as<float>()) return shortest_number(*held);
+  if (const auto* held = value.as<Currency>()) return shortest_number(*held);
+  if (const auto* held = value.as<Decimal>()) return shortest_number(*held);
+  if (const auto* held = value.as<std::int64_t>()) return decimal(*held);
+  return shortest_number(to_number(value));
+}
+
+}  // namespace
+
+Value value_from_typed_text(TextView code, TextView text) {
+  if (equal_no_case(code, u"T")) return Text(text);
+  if (equal_no_case(code, u"N")) return number_prefix(text);
+  if (equal_no_case(code, u"F")) return to_date(Text(text));
+  if (equal_no_case(code, u"L")) return number_prefix(text) != 0;
+  return {};
+}
+
+Text typed_text_from_value(TextView code, const Value& value) {
+  if (equal_no_case(code, u"T")) return to_text(value);
+  if (equal_no_case(code, u"N")) return number_text(value);
+  if (equal_no_case(code, u"F")) return year_month_day(to_date(value), u'/');
+  if (equal_no_case(code, u"L")) return to_truth(value) ? u"1" : u"0";
+  return {};
+}
+
+}  // namespace qvr

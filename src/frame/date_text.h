@@ -1,0 +1,27 @@
+// Dates taken apart and written, independent of the locale.
+#pragma once
+
+#include <optional>
+
+#include "frame/value.h"
+
+namespace qvr {
+
+// A date and time of day in the proleptic Gregorian calendar, to the second.
+struct CalendarTime {
+  int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
+};
+
+// To the nearest second, which can be midnight of the next day. Throws failure 6 outside the years 100 to 9999.
+CalendarTime calendar_time(Date date);
+
+// The inverse; nothing when a part is out of its range.
+std::optional<Date> date_from(const CalendarTime& time);
+
+// "yyyy/mm/dd" with this separator between the parts.
+Text year_month_day(Date date, char16_t separator);
+
+// The number's digits, with zeros in front up to this width.
+Text padded(int number, std::size_t width);
+
+}  // namespace qvr

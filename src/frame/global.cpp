@@ -1,0 +1,51 @@
+#include "frame/global.h"
+
+#include <cmath>
+
+#include "frame/failure.h"
+#include "frame/number_text.h"
+#include "frame/thread_state.h"
+
+namespace qvr {
+namespace {
+
+// To the nearest 32-bit integer, halves to the even one, as a Visual Basic host converts.
+std::int32_t to_long(double number) {
+  const double rounded = std::nearbyint(number);
+  if (!(rounded >= INT32_MIN && rounded <= INT32_MAX)) throw RuntimeFailure(failure_number::kOverflow);
+  return static_cast<std::int32_t>(rounded);
+}
+
+double read_default_language(ThreadState& state) {
+  const Text system = decimal(state.idioma.IdiomaDesdeSOP());
+  return number_prefix(state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system));
+}
+
+}  // namespace
+
+void InicializarComun() noexcept {
+  or_default(false, [] {
+    ThreadState& state = thread_state();
+    if (state.idioma.Creado()) return true;
+    CtesMensajes(state.mensajes);
+    const std::int32_t omision = IdiomaOmision();
+    std::vector<Value> carried;
+    for (std::int32_t number = 0; number < language::kCarried; ++number) carried.emplace_back(number);
+    return state.idioma.CargarEnMemoria(omision, std::move(carried), state.mensajes);
+  });
+}
+
+std::int32_t IdiomaOmision() noexcept {
+  return or_default(language::kSpanish, [] {
+    ThreadState& state = thread_state();
+    if (!state.idioma_omision) state.idioma_omision = read_default_language(state);
+    return to_long(*state.idioma_omision);
+  });
+}
+
+bool ExisteArchivo(TextView path, std::int32_t attributes) noexcept {
+  return or_default(false,
+                    [&] { return !path.empty() && thread_state().platform().files.any_entry(path, attributes); });
+}
+
+}  // namespace qvr

@@ -1,0 +1,21 @@
+// Functions that every class shares.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/text.h"
+
+namespace qvr {
+
+// Loads this thread's catalogue in the default language, once per thread; every public class calls it when it is made.
+void InicializarComun() noexcept;
+
+// The default language: the per-user setting "QVR" / "Idioma" / "IdiomaOmision", or the operating system's language
+// where there is none. Read once per thread.
+std::int32_t IdiomaOmision() noexcept;
+
+// Whether a directory search for the path with this attribute mask finds an entry; false for an empty path and on any
+// failure.
+bool ExisteArchivo(TextView path, std::int32_t attributes) noexcept;
+
+}  // namespace qvr

@@ -1,0 +1,57 @@
+// The language in force on a thread and the texts that it shows. No member fails: what cannot be answered is an empty
+// text, 0 or false.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "frame/languages/catalogue.h"
+#include "frame/platform.h"
+#include "frame/value.h"
+
+namespace qvr {
+
+class IdiomaSimple {
+ public:
+  explicit IdiomaSimple(UserLanguage& user_language) : user_language_(&user_language) {}
+
+  // Takes over the catalogue (a copy) and selects the language, or the nearest one that the list carries; false, and
+  // not loaded, when that language has no column.
+  bool CargarEnMemoria(std::int32_t Idioma, std::vector<Value> Idiomas, const TextTable& Mensajes) noexcept;
+
+  std::int32_t Idioma() const noexcept { return current_; }
+  void Idioma(std::int32_t NuevoIdioma) noexcept;  // ignored while not loaded
+  bool Creado() const noexcept { return loaded_; }
+
+  // The row's text in the current language with "||" as line breaks.
+  Text CI(std::int32_t row) const noexcept;
+  // CI with "|1", "|2"... replaced in ascending order, each over the result of the one before.
+  Text CIp(std::int32_t row, std::span<const Value> Param) const noexcept;
+  // The row when Cantidad is 1, else the one after it; "|1" is Cantidad, the list goes on at "|2".
+  Text CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const Value> Param) const noexcept;
+
+  std::int32_t NumIdiomas() const noexcept { return language_count_; }
+  std::int32_t NumMensajes() const noexcept { return message_count_; }
+  // The language number of the operating system's user language. Before loading, languages that need a look at the
+  // list give 0.
+  std::int32_t IdiomaDesdeSOP() const noexcept;
+  std::vector<Value> IdiomasDisponibles() const noexcept;
+
+ private:
+  bool load(std::int32_t idioma, std::vector<Value> idiomas, const TextTable& mensajes);
+  std::int32_t nearest_available(std::int32_t idioma) const noexcept;
+  Text text_of(std::int32_t row) const;
+
+  std::int32_t current_ = 0;
+  std::int32_t language_count_ = 0;
+  std::vector<Value> available_;
+  std::int32_t message_count_ = 0;
+  std::vector<Text> texts_;
+  bool loaded_ = false;
+  TextTable catalogue_;
+  UserLanguage* user_language_;
+};
+
+}  // namespace qvr

@@ -1,0 +1,139 @@
+#include "frame/number_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "frame/failure.h"
+
+namespace qvr {
+namespace {
+
+Text widen_upper(const char* first, const char* last) {
+  Text text(first, last);
+  for (char16_t& unit : text) {
+    if (unit == u'e') unit = u'E';
+  }
+  return text;
+}
+
+// Between these, plain digits are what people and databases expect; outside, an exponent keeps the text short.
+template <class Float>
+bool reads_well_in_digits(Float magnitude) {
+  return magnitude == 0 || (magnitude >= Float(1e-5) && magnitude < Float(1e15));
+}
+
+template <class Float>
+Text shortest(Float number) {
+  if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
+  if (number == 0) return u"0";  // also for negative zero
+  const auto format =
+      reads_well_in_digits(std::fabs(number)) ? std::chars_format::fixed : std::chars_format::scientific;
+  std::array<char, 64> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format).ptr;
+  return widen_upper(buffer.data(), end);
+}
+
+// Digits of an integer magnitude with the decimal point put `scale` digits from the right, without trailing zeros.
+Text scaled(Text digits, std::size_t scale, bool negative) {
+  if (digits.size() <= scale) digits.insert(0, scale + 1 - digits.size(), u'0');
+  Text decimals = digits.substr(digits.size() - scale);
+  digits.resize(digits.size() - scale);
+  while (!decimals.empty() && decimals.back() == u'0') decimals.pop_back();
+  const bool zero = decimals.empty() && digits == u"0";
+  if (!decimals.empty()) digits.append(u".").append(decimals);
+  return negative && !zero ? u"-" + digits : digits;
+}
+
+// Divides the 96-bit magnitude by ten and gives the remainder.
+std::uint32_t divide_by_ten(Decimal& number) {
+  std::uint64_t rest = 0;
+  for (std::uint32_t* part : {&number.high, &number.mid, &number.low}) {
+    rest = rest << 32 | *part;
+    *part = static_cast<std::uint32_t>(rest / 10);
+    rest %= 10;
+  }
+  return static_cast<std::uint32_t>(rest);
+}
+
+bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+
+}  // namespace
+
+Text shortest_number(double number) { return shortest(number); }
+Text shortest_number(float number) { return shortest(number); }
+
+Text shortest_number(Currency amount) {
+  const bool negative = amount.scaled < 0;
+  const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(amount.scaled) : static_cast<std::uint64_t>(amount.scaled);
+  const std::string digits = std::to_string(magnitude);
+  return scaled(Text(digits.begin(), digits.end()), 4, negative);
+}
+
+Text shortest_number(const Decimal& number) {
+  Decimal rest = number;
+  Text digits;
+  do {
+    digits.insert(digits.begin(), static_cast<char16_t>(u'0' + divide_by_ten(rest)));
+  } while (rest.high != 0 || rest.mid != 0 || rest.low != 0);
+  return scaled(std::move(digits), number.scale, number.negative);
+}
+
+Text rounded_number(double number, int significant_digits) {
+  if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
+  std::array<char, 64> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number == 0 ? 0.0 : number,
+                                 std::chars_format::general, significant_digits)
+                       .ptr;
+  return widen_upper(buffer.data(), end);
+}
+
+std::size_t number_length(TextView text) {
+  std::size_t at = !text.empty() && (text[0] == u'-' || text[0] == u'+') ? 1 : 0;
+  const auto skip_digits = [&text](std::size_t from) {
+    while (from < text.size() && is_digit(text[from])) ++from;
+    return from;
+  };
+  const std::size_t whole_end = skip_digits(at);
+  std::size_t end = whole_end;
+  std::size_t digits = whole_end - at;
+  if (end < text.size() && text[end] == u'.') {
+    end = skip_digits(whole_end + 1);
+    digits += end - whole_end - 1;
+  }
+  if (digits == 0) return 0;
+  if (end < text.size() && (text[end] == u'E' || text[end] == u'e')) {
+    std::size_t exponent = end + 1;
+    if (exponent < text.size() && (text[exponent] == u'-' || text[exponent] == u'+')) ++exponent;
+    if (skip_digits(exponent) > exponent) end = skip_digits(exponent);
+  }
+  return end;
+}
+
+double number_prefix(TextView text) {
+  const std::size_t start = text.find_first_not_of(u" \t\r\n");
+  if (start == TextView::npos) return 0;
+  text.remove_prefix(start);
+  std::string narrow;
+  for (char16_t unit : text.substr(0, number_length(text))) narrow.push_back(static_cast<char>(unit));
+  const char* first = narrow.data() + (narrow.starts_with('+') ? 1 : 0);  // from_chars takes no plus sign
+  double number = 0;
+  const auto [end, error] = std::from_chars(first, narrow.data() + narrow.size(), number);
+  if (error == std::errc::result_out_of_range) {
+    const auto exponent = narrow.find_first_of("eE");
+    if (exponent != std::string::npos && narrow.find('-', exponent) != std::string::npos) return 0;  // too small
+    throw RuntimeFailure(failure_number::kOverflow);
+  }
+  return number == 0 ? 0 : number;  // no negative zero
+}
+
+double number_of(Currency amount) { return static_cast<double>(amount.scaled) / 10000; }
+
+double number_of(const Decimal& number) {
+  const double magnitude =
+      (static_cast<double>(number.high) * 4294967296.0 + static_cast<double>(number.mid)) * 4294967296.0 +
+      static_cast<double>(number.low);
+  return (number.negative ? -magnitude : magnitude) / std::pow(10.0, number.scale);
+}
+
+}  // namespace qvr

@@ -1,0 +1,39 @@
+#include "frame/ov.h"
+
+#include "frame/date_text.h"
+#include "frame/failure.h"
+#include "frame/number_text.h"
+#include "frame/version.h"
+
+namespace qvr {
+
+VersionNumbers own_version() { return {QVR_VERSION_MAJOR, QVR_VERSION_MINOR, QVR_VERSION_REVISION}; }
+
+std::int32_t Ov::Version(VersionNumbers numbers) noexcept {
+  return or_default(0, [&] {
+    const Text digits = join({decimal(numbers.major), padded(numbers.minor, 2), padded(numbers.revision, 2)});
+    return static_cast<std::int32_t>(number_prefix(digits));
+  });
+}
+
+Text Ov::CadenaVersion(VersionNumbers numbers) noexcept {
+  return or_default(Text(), [&] {
+    return join({decimal(numbers.major), u".", padded(numbers.minor, 2), u".", padded(numbers.revision, 2)});
+  });
+}
+
+Text Ov::Path(TextView library_file) noexcept {
+  return or_default(Text(), [&] {
+    const std::size_t separator = library_file.find_last_of(u"\\/");
+    return separator == TextView::npos ? Text() : Text(library_file.substr(0, separator));
+  });
+}
+
+Text Ov::PathCompleto(TextView library_file) noexcept {
+  return or_default(Text(), [&] {
+    const TextView name = library_file.substr(library_file.find_last_of(u"\\/") + 1);
+    return join({Path(library_file), u"\\", name.substr(0, name.rfind(u'.')), u".dll"});
+  });
+}
+
+}  // namespace qvr

@@ -1,0 +1,127 @@
+#include <fcntl.h>
+#include <glob.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+
+#include "frame/failure.h"
+#include "frame/posix/parts.h"
+#include "frame/utf8.h"
+
+namespace qvr::posix {
+namespace {
+
+[[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kFile); }
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {
+    if (number_ < 0) refuse();
+  }
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int number() const { return number_; }
+  int release() { return std::exchange(number_, -1); }
+
+ private:
+  int number_;
+};
+
+class DescriptorInput : public InputFile {
+ public:
+  explicit DescriptorInput(int number) : descriptor_(number) {}
+
+  std::size_t read(std::span<char> buffer) override {
+    std::size_t filled = 0;
+    while (filled < buffer.size()) {
+      const ssize_t count = ::read(descriptor_.number(), buffer.data() + filled, buffer.size() - filled);
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) refuse();
+      if (count == 0) break;
+      filled += static_cast<std::size_t>(count);
+    }
+    return filled;
+  }
+
+ private:
+  Descriptor descriptor_;
+};
+
+class DescriptorOutput : public OutputFile {
+ public:
+  explicit DescriptorOutput(int number) : descriptor_(number) {}
+
+  void write(std::string_view bytes) override {
+    while (!bytes.empty()) {
+      const ssize_t count = ::write(descriptor_.number(), bytes.data(), bytes.size());
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) refuse();
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+  }
+
+  void close() override {
+    if (::close(descriptor_.release()) != 0) refuse();
+  }
+
+ private:
+  Descriptor descriptor_;
+};
+
+constexpr std::int32_t kDirectoryAttribute = 16;
+
+class PosixFiles : public Files {
+ public:
+  bool any_entry(TextView path, std::int32_t attributes) override {
+    glob_t found{};
+    const int result = ::glob(native_path(path).c_str(), GLOB_NOSORT, nullptr, &found);
+    bool any = false;
+    for (std::size_t i = 0; result == 0 && i < found.gl_pathc && !any; ++i) {
+      struct stat entry{};
+      // A search shows folders only where the mask asks for them.
+      any = ::stat(found.gl_pathv[i], &entry) == 0 &&
+            (!S_ISDIR(entry.st_mode) || (attributes & kDirectoryAttribute) != 0);
+    }
+    ::globfree(&found);
+    return any;
+  }
+
+  std::unique_ptr<InputFile> open(TextView path) override {
+    return std::make_unique<DescriptorInput>(::open(native_path(path).c_str(), O_RDONLY | O_CLOEXEC));
+  }
+
+  std::unique_ptr<OutputFile> create(TextView path) override {
+    const int number = ::open(native_path(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    return std::make_unique<DescriptorOutput>(number);
+  }
+
+  // This system's page is UTF-8.
+  std::string to_system_page(TextView text) override { return to_utf8(text); }
+  Text from_system_page(std::string_view bytes) override {
+    auto text = from_utf8(bytes);
+    if (!text) refuse();
+    return std::move(*text);
+  }
+};
+
+}  // namespace
+
+std::string native_path(TextView path) {
+  std::string bytes = to_utf8(path);
+  std::ranges::replace(bytes, '\\', '/');
+  if (bytes.find('\0') != std::string::npos) refuse();  // the system would see a shorter path
+  return bytes;
+}
+
+Files& files() {
+  static PosixFiles instance;
+  return instance;
+}
+
+}  // namespace qvr::posix

@@ -1,0 +1,9 @@
+// One pointer per thread. Windows frees nothing by itself: the library's entry point is told when a thread leaves.
+#pragma once
+
+namespace qvr::thread_slot {
+
+void* get() noexcept;
+void set(void* pointer) noexcept;
+
+}  // namespace qvr::thread_slot

@@ -1,0 +1,40 @@
+#include "frame/thread_state.h"
+
+#include "frame/thread_slot.h"
+
+namespace qvr {
+namespace {
+
+ThreadState* current() { return static_cast<ThreadState*>(thread_slot::get()); }
+
+template <class Service>
+Service& made_once(std::unique_ptr<Service>& service, std::unique_ptr<Service> (*make)(const Platform&),
+                   const Platform& platform) {
+  if (!service) service = make(platform);
+  return *service;
+}
+
+}  // namespace
+
+services::TextProtection& ThreadState::text_protection() {
+  return made_once(text_protection_, environment_.make_text_protection, platform());
+}
+
+services::ErrorReport& ThreadState::error_report() {
+  return made_once(error_report_, environment_.make_error_report, platform());
+}
+
+services::Ado& ThreadState::ado() { return made_once(ado_, environment_.make_ado, platform()); }
+
+ThreadState& thread_state() {
+  if (current() == nullptr) exchange_thread_state(std::make_unique<ThreadState>(environment()));
+  return *current();
+}
+
+std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {
+  std::unique_ptr<ThreadState> former(current());
+  thread_slot::set(state.release());
+  return former;
+}
+
+}  // namespace qvr

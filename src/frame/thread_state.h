@@ -1,0 +1,53 @@
+// Everything that the library keeps between calls, once per client thread: created by the first use on a thread, gone
+// when the thread detaches, never shared.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "frame/languages/idioma_simple.h"
+#include "frame/platform.h"
+#include "services/ado.h"
+#include "services/error_report.h"
+#include "services/text_protection.h"
+
+namespace qvr {
+
+// What a program puts behind the library: the system and the outside services. Each program (the DLL, a test) defines
+// `environment()` once; services are made on first use, once per thread.
+struct Environment {
+  const Platform& platform;
+  std::unique_ptr<services::TextProtection> (*make_text_protection)(const Platform&);
+  std::unique_ptr<services::ErrorReport> (*make_error_report)(const Platform&);
+  std::unique_ptr<services::Ado> (*make_ado)(const Platform&);
+};
+const Environment& environment();
+
+class ThreadState {
+ public:
+  explicit ThreadState(const Environment& environment)
+      : idioma(environment.platform.user_language), environment_(environment) {}
+
+  const Platform& platform() const { return environment_.platform; }
+  services::TextProtection& text_protection();
+  services::ErrorReport& error_report();
+  services::Ado& ado();
+
+  IdiomaSimple idioma;
+  TextTable mensajes{kMessageCount, language::kCarried};
+  std::optional<double> idioma_omision;  // the setting as read, once it was
+
+ private:
+  const Environment environment_;
+  std::unique_ptr<services::TextProtection> text_protection_;
+  std::unique_ptr<services::ErrorReport> error_report_;
+  std::unique_ptr<services::Ado> ado_;
+};
+
+// This thread's state, created when there is none.
+ThreadState& thread_state();
+
+// Puts this state (or none) in place for this thread and gives back the one that was there.
+std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state);
+
+}  // namespace qvr

@@ -1,0 +1,136 @@
+#include "frame/failure.h"
+#include "frame/windows/parts.h"
+
+namespace qvr::windows {
+namespace {
+
+[[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kFile); }
+
+class FileHandle {
+ public:
+  explicit FileHandle(HANDLE handle) : handle_(handle) {
+    if (handle_ == INVALID_HANDLE_VALUE) refuse();
+  }
+  ~FileHandle() { close(); }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  HANDLE get() const { return handle_; }
+  bool close() {
+    const HANDLE handle = std::exchange(handle_, INVALID_HANDLE_VALUE);
+    return handle == INVALID_HANDLE_VALUE || CloseHandle(handle) != FALSE;
+  }
+
+ private:
+  HANDLE handle_;
+};
+
+class HandleInput : public InputFile {
+ public:
+  explicit HandleInput(HANDLE handle) : file_(handle) {}
+
+  std::size_t read(std::span<char> buffer) override {
+    std::size_t filled = 0;
+    while (filled < buffer.size()) {
+      DWORD count = 0;
+      const auto wanted = static_cast<DWORD>(buffer.size() - filled);
+      if (!ReadFile(file_.get(), buffer.data() + filled, wanted, &count, nullptr)) refuse();
+      if (count == 0) break;
+      filled += count;
+    }
+    return filled;
+  }
+
+ private:
+  FileHandle file_;
+};
+
+class HandleOutput : public OutputFile {
+ public:
+  explicit HandleOutput(HANDLE handle) : file_(handle) {}
+
+  void write(std::string_view bytes) override {
+    constexpr std::size_t kAtOnce = std::size_t{1} << 20;
+    while (!bytes.empty()) {
+      DWORD count = 0;
+      const auto part = static_cast<DWORD>(std::min(bytes.size(), kAtOnce));
+      if (!WriteFile(file_.get(), bytes.data(), part, &count, nullptr) || count == 0) refuse();
+      bytes.remove_prefix(count);
+    }
+  }
+
+  void close() override {
+    if (!file_.close()) refuse();
+  }
+
+ private:
+  FileHandle file_;
+};
+
+std::wstring path_of(TextView path) {
+  if (path.find(u'\0') != TextView::npos) refuse();  // the system would see a shorter path
+  return wide(path);
+}
+
+// A directory search finds plain files always, folders and hidden and system files only where the mask asks for them.
+bool shown(DWORD attributes, std::int32_t mask) {
+  constexpr DWORD kOnRequest = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+  return (attributes & kOnRequest & ~static_cast<DWORD>(mask)) == 0;
+}
+
+class SystemFiles : public Files {
+ public:
+  bool any_entry(TextView path, std::int32_t attributes) override {
+    WIN32_FIND_DATAW entry;
+    const HANDLE search = FindFirstFileW(path_of(path).c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    bool found = false;
+    do {
+      found = shown(entry.dwFileAttributes, attributes);
+    } while (!found && FindNextFileW(search, &entry));
+    FindClose(search);
+    return found;
+  }
+
+  std::unique_ptr<InputFile> open(TextView path) override {
+    return std::make_unique<HandleInput>(CreateFileW(path_of(path).c_str(), GENERIC_READ,
+                                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+
+  std::unique_ptr<OutputFile> create(TextView path) override {
+    return std::make_unique<HandleOutput>(CreateFileW(path_of(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                                      FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+
+  std::string to_system_page(TextView text) override {
+    const std::wstring from = wide(text);
+    if (from.empty()) return {};
+    BOOL replaced = FALSE;
+    BOOL* const report = GetACP() == CP_UTF8 ? nullptr : &replaced;  // the UTF-8 page has no such report
+    const auto convert = [&](char* to, int room) {
+      return WideCharToMultiByte(CP_ACP, 0, from.data(), static_cast<int>(from.size()), to, room, nullptr, report);
+    };
+    std::string bytes(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+    if (bytes.empty() || convert(bytes.data(), static_cast<int>(bytes.size())) == 0 || replaced) refuse();
+    return bytes;
+  }
+
+  Text from_system_page(std::string_view bytes) override {
+    if (bytes.empty()) return {};
+    const auto convert = [&](wchar_t* to, int room) {
+      return MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()), to, room);
+    };
+    std::wstring text(static_cast<std::size_t>(convert(nullptr, 0)), L'\0');
+    if (text.empty() || convert(text.data(), static_cast<int>(text.size())) == 0) refuse();
+    return text_from(text);
+  }
+};
+
+}  // namespace
+
+Files& files() {
+  static SystemFiles instance;
+  return instance;
+}
+
+}  // namespace qvr::windows

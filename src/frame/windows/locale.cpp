@@ -1,0 +1,48 @@
+#include <oleauto.h>
+
+#include "frame/failure.h"
+#include "frame/windows/parts.h"
+
+namespace qvr::windows {
+namespace {
+
+// Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
+class UserLocale : public Locale {
+ public:
+  std::optional<Date> parse_date(TextView text) override {
+    Date date;
+    if (FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days))) return std::nullopt;
+    return date;
+  }
+
+  std::optional<double> parse_number(TextView text) override {
+    double number = 0;
+    if (FAILED(VarR8FromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &number))) return std::nullopt;
+    return number;
+  }
+
+  Text date_text(Date date) override {
+    BSTR written = nullptr;
+    if (FAILED(VarBstrFromDate(date.days, LOCALE_USER_DEFAULT, 0, &written))) {
+      throw RuntimeFailure(failure_number::kTypeMismatch);
+    }
+    Text text = text_from({written, SysStringLen(written)});
+    SysFreeString(written);
+    return text;
+  }
+
+  char16_t decimal_separator() override {
+    wchar_t separator[8] = L".";
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, static_cast<int>(std::size(separator)));
+    return static_cast<char16_t>(separator[0]);
+  }
+};
+
+}  // namespace
+
+Locale& locale() {
+  static UserLocale instance;
+  return instance;
+}
+
+}  // namespace qvr::windows

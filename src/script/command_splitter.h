@@ -1,0 +1,30 @@
+// Commands separated by lines that hold only "GO".
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+#include "frame/text.h"
+
+namespace qvr {
+
+// Where the first separator (CR LF "GO" CR LF, without regard to case) at or after `from` starts; npos for none.
+std::size_t find_separator(TextView text, std::size_t from);
+
+// At how many positions a separator starts, those included that overlap another.
+std::int32_t count_separators(TextView text);
+
+// Walks over the commands of a text without copying any of it. What follows the last separator is no command.
+class CommandSplitter {
+ public:
+  explicit CommandSplitter(TextView text) : text_(text) {}
+
+  // The next command, a view into the text; nothing after the last. Blank lines behind a separator belong to it.
+  std::optional<TextView> next();
+
+ private:
+  TextView text_;
+  std::size_t start_ = 0;
+};
+
+}  // namespace qvr

@@ -1,0 +1,59 @@
+#include "script/qvrscr.h"
+
+#include "frame/failure.h"
+#include "frame/global.h"
+#include "frame/thread_state.h"
+#include "script/failure_report.h"
+#include "script/script_run.h"
+
+namespace qvr {
+namespace {
+
+constexpr TextView kAvoidTransaction = u"EvitarTransaccion";
+constexpr TextView kAccounts[] = {u"Admin", u"sa", u"System"};  // by engine number, from 1
+
+}  // namespace
+
+QVRScr::QVRScr(ScriptEvents& events) noexcept : events_(events) { InicializarComun(); }
+
+bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
+                              Text& TextoMostrar) noexcept {
+  if (running_) return false;
+  running_ = true;
+  InicializarComun();
+  const bool success = or_default(false, [&] {
+    if (TextoMostrar.empty()) TextoMostrar = thread_state().idioma.CI(MsgComandosEjecutados) + u": ";
+    const bool avoid = starts_with_no_case(ID, kAvoidTransaction);
+    if (avoid) ID.erase(0, kAvoidTransaction.size());
+    return ScriptRun(*this, events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
+  });
+  events_.Terminado(success);
+  running_ = false;
+  return success;
+}
+
+bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept {
+  return or_reported(
+      [&] {
+        const auto command = thread_state().ado().new_command();
+        if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
+        command->set_active_connection(*Conexion);
+        command->set_command_type(services::CommandType::Text);
+        command->set_command_text(TextoComando);
+        command->set_command_timeout(0);
+        command->execute();
+        return true;
+      },
+      [&](const FailureDetail& failure) {
+        report_failure(failure, join({u"Ejecutar1Comando: ", TextoComando}), MotorBD, Conexion);
+      });
+}
+
+Text QVRScr::UsuarioSegunMotor(std::int32_t MotorBD) const noexcept {
+  return or_default(Text(), [&] {
+    const bool known = MotorBD >= 1 && MotorBD <= static_cast<std::int32_t>(std::size(kAccounts));
+    return known ? Text(kAccounts[MotorBD - 1]) : Text();
+  });
+}
+
+}  // namespace qvr

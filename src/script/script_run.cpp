@@ -1,0 +1,89 @@
+#include "script/script_run.h"
+
+#include "frame/failure.h"
+#include "frame/thread_state.h"
+#include "script/command_splitter.h"
+#include "script/failure_report.h"
+
+namespace qvr {
+namespace {
+
+bool user_says_yes(TextView question) {
+  return thread_state().platform().message_boxes.show(question, BoxButtons::YesNo) == BoxAnswer::Yes;
+}
+
+}  // namespace
+
+bool ScriptRun::run() noexcept {
+  const bool success = or_reported(
+      [this] {
+        open();
+        if (!run_commands()) return false;
+        complete();
+        return true;
+      },
+      [this](const FailureDetail& failure) { report(failure); });
+  abandon();
+  return success;
+}
+
+void ScriptRun::open() {
+  connection_ = thread_state().ado().new_connection();
+  connection_->set_connection_string(request_.connection_string);
+  connection_->open();
+  connection_open_ = true;
+  if (!request_.use_transaction) return;
+  connection_->begin_trans();
+  transaction_open_ = true;
+}
+
+// False when the user does not want to go on after a failure.
+bool ScriptRun::run_commands() {
+  ThreadState& state = thread_state();
+  events_.Progreso(state.idioma.CI(MsgContandoComandos));
+  const Text question = state.idioma.CI(MsgEjecutarRestantes);
+  const Text total = decimal(count_separators(request_.commands));
+  std::int32_t done = 0;
+  CommandSplitter commands(request_.commands);
+  while (const auto command = commands.next()) {
+    events_.Progreso(join({request_.progress_text, decimal(done), u"/", total}));
+    if (runner_.Ejecutar1Comando(connection_.get(), *command, request_.motor)) {
+      ++done;
+    } else if (!user_says_yes(question)) {
+      return false;
+    }
+    state.platform().host_events.process_pending();
+  }
+  return true;
+}
+
+void ScriptRun::complete() {
+  if (transaction_open_) {
+    connection_->commit_trans();
+    transaction_open_ = false;
+  }
+  connection_->close();
+  connection_open_ = false;
+}
+
+// Each step on its own: a rollback that fails must not leave the connection open.
+void ScriptRun::abandon() noexcept {
+  const auto reporting = [this](const FailureDetail& failure) { report(failure); };
+  if (transaction_open_) {
+    or_reported([this] { return connection_->rollback_trans(), true; }, reporting);
+    transaction_open_ = false;
+  }
+  if (connection_open_) {
+    or_reported([this] { return connection_->close(), true; }, reporting);
+    connection_open_ = false;
+  }
+  connection_.reset();
+}
+
+void ScriptRun::report(const FailureDetail& failure) {
+  if (reported_) return;
+  reported_ = true;
+  report_failure(failure, u"EjecutarComandos", request_.motor, connection_.get());
+}
+
+}  // namespace qvr

@@ -1,0 +1,43 @@
+// One run of a command list: its connection and its transaction, from the opening to the end.
+#pragma once
+
+#include <memory>
+
+#include "frame/failure.h"
+#include "script/qvrscr.h"
+
+namespace qvr {
+
+struct RunRequest {
+  std::int32_t motor;
+  TextView commands;
+  TextView connection_string;
+  TextView progress_text;
+  bool use_transaction;
+};
+
+class ScriptRun {
+ public:
+  ScriptRun(QVRScr& runner, ScriptEvents& events, const RunRequest& request)
+      : runner_(runner), events_(events), request_(request) {}
+
+  // True when the list ran to its end and was committed. Leaves no transaction and no connection open, whatever fails.
+  bool run() noexcept;
+
+ private:
+  void open();
+  bool run_commands();
+  void complete();
+  void abandon() noexcept;
+  void report(const FailureDetail& failure);
+
+  QVRScr& runner_;
+  ScriptEvents& events_;
+  const RunRequest& request_;
+  std::unique_ptr<services::AdoConnection> connection_;
+  bool connection_open_ = false;
+  bool transaction_open_ = false;
+  bool reported_ = false;  // a second report of what the first failure brought with it helps nobody
+};
+
+}  // namespace qvr

@@ -1,0 +1,80 @@
+#include "services/builtin_error_report.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace qvr::services {
+namespace {
+
+constexpr std::int32_t kJet = 1, kSqlServer = 2, kOracle = 3;
+
+enum class Kind { DuplicateRecord, ServerNotFound };
+
+// Native error numbers by which the engines' own providers tell these two cases.
+struct NativeError {
+  std::int32_t motor;
+  std::int32_t number;
+  Kind kind;
+};
+
+constexpr NativeError kNativeErrors[] = {
+    {kJet, -1605, Kind::DuplicateRecord},       {kJet, -105121349, Kind::DuplicateRecord},
+    {kJet, -1811, Kind::ServerNotFound},        {kSqlServer, 2601, Kind::DuplicateRecord},
+    {kSqlServer, 2627, Kind::DuplicateRecord},  {kSqlServer, 17, Kind::ServerNotFound},
+    {kSqlServer, 53, Kind::ServerNotFound},     {kOracle, 1, Kind::DuplicateRecord},
+    {kOracle, 12154, Kind::ServerNotFound},     {kOracle, 12170, Kind::ServerNotFound},
+    {kOracle, 12514, Kind::ServerNotFound},     {kOracle, 12535, Kind::ServerNotFound},
+    {kOracle, 12541, Kind::ServerNotFound},
+};
+
+struct State {
+  TextView sql_state;
+  Kind kind;
+};
+
+constexpr State kStates[] = {
+    {u"23505", Kind::DuplicateRecord}, {u"3022", Kind::DuplicateRecord},  {u"08001", Kind::ServerNotFound},
+    {u"08004", Kind::ServerNotFound},  {u"08S01", Kind::ServerNotFound},  {u"IM002", Kind::ServerNotFound},
+};
+
+const Text& caption_for(const AdoError& error, std::int32_t motor, const Captions& captions) {
+  const auto caption = [&captions](Kind kind) -> const Text& {
+    return kind == Kind::DuplicateRecord ? captions.duplicate_record : captions.server_not_found;
+  };
+  for (const NativeError& row : kNativeErrors) {
+    if (row.motor == motor && row.number == error.native_error) return caption(row.kind);
+  }
+  for (const State& row : kStates) {
+    if (equal_no_case(row.sql_state, error.sql_state)) return caption(row.kind);
+  }
+  return captions.unknown_error;
+}
+
+Text caption_of(const ErrorNotice& notice) {
+  for (const AdoError& error : notice.errors) {
+    const Text& caption = caption_for(error, notice.motor, notice.captions);
+    if (caption != notice.captions.unknown_error) return caption;
+  }
+  return notice.captions.unknown_error;
+}
+
+Text error_line(std::int32_t number, TextView description, TextView source) {
+  Text line = join({u"Error ", decimal(number), u": ", description});
+  if (!source.empty()) line += join({u" (", source, u")"});
+  return line;
+}
+
+}  // namespace
+
+Text error_report_text(const ErrorNotice& notice) {
+  Text text = join({caption_of(notice), kLineBreak, kLineBreak,
+                    error_line(notice.failure.number, notice.failure.description, notice.failure.source)});
+  for (const AdoError& error : notice.errors) {
+    // ADO repeats the first of its errors as the error of the call.
+    if (error.number == notice.failure.number && error.description == notice.failure.description) continue;
+    text += join({kLineBreak, error_line(error.number, error.description, error.source)});
+  }
+  return text += join({kLineBreak, kLineBreak, notice.captions.method, u": ", abbreviate_for_display(notice.label)});
+}
+
+}  // namespace qvr::services

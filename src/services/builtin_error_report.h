@@ -1,0 +1,22 @@
+// The library's own error report: one message box.
+#pragma once
+
+#include "frame/platform.h"
+#include "services/error_report.h"
+
+namespace qvr::services {
+
+// The text of the box: what kind of error it is in one of the captions, the error with every error of the ADO
+// connection, and the operation that failed.
+Text error_report_text(const ErrorNotice& notice);
+
+class BuiltinErrorReport : public ErrorReport {
+ public:
+  explicit BuiltinErrorReport(MessageBoxes& boxes) : boxes_(&boxes) {}
+  void Informar(const ErrorNotice& notice) override { boxes_->show(error_report_text(notice), BoxButtons::Ok); }
+
+ private:
+  MessageBoxes* boxes_;
+};
+
+}  // namespace qvr::services

@@ -1,0 +1,51 @@
+#include "support/ado/native_ado.h"
+
+#include <vector>
+
+#include "support/ado/ado_command_state.h"
+#include "support/ado/ado_failure.h"
+#include "support/ado/ado_session.h"
+
+namespace qvr::tests {
+namespace {
+
+class NativeConnection : public services::AdoConnection {
+ public:
+  void set_connection_string(TextView text) override { session_->set_connection_string(text); }
+  void open() override { session_->open(); }
+  void begin_trans() override { session_->begin_trans(); }
+  void commit_trans() override { session_->commit_trans(); }
+  void rollback_trans() override { session_->rollback_trans(); }
+  void close() override { session_->close(); }
+  std::vector<services::AdoError> errors() override { return session_->errors(); }
+
+  const std::shared_ptr<AdoSession>& session() const { return session_; }
+
+ private:
+  // Shared with the commands, which may outlive the connection object as they may in ADO.
+  std::shared_ptr<AdoSession> session_ = std::make_shared<AdoSession>();
+};
+
+class NativeCommand : public services::AdoCommand {
+ public:
+  void set_active_connection(services::AdoConnection& connection) override {
+    const auto* own = dynamic_cast<NativeConnection*>(&connection);
+    if (own == nullptr) fail_ado(ado_number::kInvalidArgument, u"ADODB.Command");
+    state_.set_session(own->session());
+  }
+  void set_command_type(services::CommandType type) override { state_.set_type(static_cast<std::int32_t>(type)); }
+  void set_command_text(TextView text) override { state_.set_text(text); }
+  void set_command_timeout(std::int32_t seconds) override { state_.set_timeout(seconds); }
+  void execute() override { state_.execute({}); }
+
+ private:
+  AdoCommandState state_;
+};
+
+}  // namespace
+
+std::unique_ptr<services::AdoConnection> OdbcAdo::new_connection() { return std::make_unique<NativeConnection>(); }
+
+std::unique_ptr<services::AdoCommand> OdbcAdo::new_command() { return std::make_unique<NativeCommand>(); }
+
+}  // namespace qvr::tests
