@@ -40,7 +40,7 @@ class OpensslAes : public BlockCipher {
   std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)> context_;
 };
 
-class OpensslCryptography : public Cryptography {
+class OpensslCryptography final : public Cryptography {
  public:
   std::unique_ptr<BlockCipher> aes(Bytes key) override { return std::make_unique<OpensslAes>(key); }
 

@@ -76,7 +76,7 @@ class DescriptorOutput : public OutputFile {
 
 constexpr std::int32_t kDirectoryAttribute = 16;
 
-class PosixFiles : public Files {
+class PosixFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override {
     glob_t found{};

@@ -4,7 +4,7 @@ namespace qvr::posix {
 namespace {
 
 // A native program has no message loop to give way to.
-class NoHostEvents : public HostEvents {
+class NoHostEvents final : public HostEvents {
  public:
   void process_pending() override {}
 };

@@ -101,7 +101,7 @@ TextView trimmed(TextView text) {
   return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
-class EnvironmentLocale : public Locale {
+class EnvironmentLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {
     const auto fields = numeric_fields(trimmed(text));

@@ -7,7 +7,7 @@ namespace qvr::posix {
 namespace {
 
 // There is no desktop here: the text is logged once per call.
-class LoggedBoxes : public MessageBoxes {
+class LoggedBoxes final : public MessageBoxes {
  public:
   BoxAnswer show(TextView text, BoxButtons buttons) override {
     std::fprintf(stderr, "QVRlib21: %s\n", to_utf8(text).c_str());

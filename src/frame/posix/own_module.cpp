@@ -9,7 +9,7 @@
 namespace qvr::posix {
 namespace {
 
-class ProgramModule : public OwnModule {
+class ProgramModule final : public OwnModule {
  public:
   Text path() override {
     std::array<char, 4096> buffer;

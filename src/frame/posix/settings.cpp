@@ -15,7 +15,7 @@ std::string configuration_folder() {
 }
 
 // One file per value: application / section / key below the user's configuration folder.
-class FileSettings : public Settings {
+class FileSettings final : public Settings {
  public:
   Text read(TextView application, TextView section, TextView key, TextView fallback) override {
     const std::string relative = to_utf8(join({application, u"/", section, u"/", key}));

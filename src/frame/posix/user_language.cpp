@@ -18,7 +18,7 @@ constexpr LocaleIdentifier kIdentifiers[] = {
     {"it", 0x0410},    {"ca", 0x0403},    {"gl", 0x0456},    {"eu", 0x042D}, {"pt", 0x0816},
 };
 
-class EnvironmentLanguage : public UserLanguage {
+class EnvironmentLanguage final : public UserLanguage {
  public:
   std::uint16_t default_identifier() override {
     const std::string name = locale_name();

@@ -50,7 +50,7 @@ class CngAes : public BlockCipher {
   BCRYPT_KEY_HANDLE key_ = nullptr;
 };
 
-class Cng : public Cryptography {
+class Cng final : public Cryptography {
  public:
   std::unique_ptr<BlockCipher> aes(Bytes key) override { return std::make_unique<CngAes>(key); }
 

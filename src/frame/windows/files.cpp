@@ -77,7 +77,7 @@ bool shown(DWORD attributes, std::int32_t mask) {
   return (attributes & kOnRequest & ~static_cast<DWORD>(mask)) == 0;
 }
 
-class SystemFiles : public Files {
+class SystemFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override {
     WIN32_FIND_DATAW entry;

@@ -3,7 +3,7 @@
 namespace qvr::windows {
 namespace {
 
-class MessageLoop : public HostEvents {
+class MessageLoop final : public HostEvents {
  public:
   void process_pending() override {
     MSG message;

@@ -7,7 +7,7 @@ namespace qvr::windows {
 namespace {
 
 // Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
-class UserLocale : public Locale {
+class UserLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {
     Date date;

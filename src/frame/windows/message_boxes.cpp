@@ -13,7 +13,7 @@ bool has_desktop() {
   return (flags.dwFlags & WSF_VISIBLE) != 0;
 }
 
-class SystemBoxes : public MessageBoxes {
+class SystemBoxes final : public MessageBoxes {
  public:
   BoxAnswer show(TextView text, BoxButtons buttons) override {
     const bool question = buttons == BoxButtons::YesNo;

@@ -11,7 +11,7 @@ HMODULE module_of_this_code() {
   return module;
 }
 
-class LoadedModule : public OwnModule {
+class LoadedModule final : public OwnModule {
  public:
   Text path() override {
     std::wstring buffer(MAX_PATH, L'\0');

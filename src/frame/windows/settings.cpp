@@ -9,7 +9,7 @@ namespace {
 // Where the application-settings functions of Visual Basic hosts keep their values.
 constexpr TextView kArea = u"Software\\VB and VBA Program Settings\\";
 
-class RegistrySettings : public Settings {
+class RegistrySettings final : public Settings {
  public:
   Text read(TextView application, TextView section, TextView key, TextView fallback) override {
     const std::wstring path = wide(join({kArea, application, u"\\", section}));

@@ -3,7 +3,7 @@
 namespace qvr::windows {
 namespace {
 
-class SystemUserLanguage : public UserLanguage {
+class SystemUserLanguage final : public UserLanguage {
  public:
   std::uint16_t default_identifier() override { return GetUserDefaultLangID(); }
 };
