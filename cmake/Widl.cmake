@@ -9,15 +9,17 @@ endif()
 find_program(WIDL_EXECUTABLE ${widl_prefix}-widl REQUIRED)
 set(WIDL_INCLUDES -I/usr/include/wine/wine/windows -L${wine_libraries})
 
-# Compiles IDL to generated/<name>.tlb and generated/<name>.h. `DEPENDS` names what it imports.
+# Compiles IDL to generated/<name>.tlb and generated/<name>.h. `DEPENDS` names what it imports,
+# `INCLUDES` the folders of it.
 function(qvr_idl idl)
-  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(arg "" "" "DEPENDS;INCLUDES" ${ARGN})
+  list(TRANSFORM arg_INCLUDES PREPEND -I)
   cmake_path(GET idl STEM name)
   set(out ${PROJECT_BINARY_DIR}/generated)
   add_custom_command(
     OUTPUT ${out}/${name}.tlb ${out}/${name}.h
-    COMMAND ${WIDL_EXECUTABLE} -t -o ${out}/${name}.tlb ${WIDL_INCLUDES} -I${out} -L${out} ${idl}
-    COMMAND ${WIDL_EXECUTABLE} -h -o ${out}/${name}.h ${WIDL_INCLUDES} -I${out} -L${out} ${idl}
+    COMMAND ${WIDL_EXECUTABLE} -t -o ${out}/${name}.tlb ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
+    COMMAND ${WIDL_EXECUTABLE} -h -o ${out}/${name}.h ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
     DEPENDS ${idl} ${arg_DEPENDS}
     VERBATIM)
 endfunction()

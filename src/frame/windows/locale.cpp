@@ -1,7 +1,7 @@
-#include <oleauto.h>
-
 #include "frame/failure.h"
 #include "frame/windows/parts.h"
+
+#include <oleauto.h>
 
 namespace qvr::windows {
 namespace {

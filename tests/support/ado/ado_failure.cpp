@@ -12,7 +12,7 @@ struct Description {
 };
 
 constexpr std::array kDescriptions = {
-    Description{ado_number::kInvalidArgument, u"An argument has the wrong type, is out of range or contradicts another."},
+    Description{ado_number::kInvalidArgument, u"An argument has a wrong type, is out of range or contradicts another."},
     Description{ado_number::kNoCurrentRecord, u"There is no current record."},
     Description{ado_number::kInTransaction, u"The connection cannot be closed while it is in a transaction."},
     Description{ado_number::kFeatureNotAvailable, u"The object or its provider cannot do this."},

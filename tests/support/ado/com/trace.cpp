@@ -77,7 +77,8 @@ FailurePlan& failure_plan() {
 
 void trace(TextView operation, TextView detail) {
   log(operation, detail);
-  if (failure_plan().fails(operation)) fail_provider(hresult::kFail, join({u"injected failure: ", operation}));
+  if (!failure_plan().fails(operation)) return;
+  throw RuntimeFailure(FailureDetail{hresult::kFail, join({u"injected failure: ", operation}), u"testado"});
 }
 
 }  // namespace qvr::tests::com

@@ -98,7 +98,7 @@ BSTR to_bstr(TextView text) {
 void follow(const VARIANT& from, OwnedVariant& to) {
   const VARIANT* source = &from;
   while (source->vt == (VT_BYREF | VT_VARIANT) && source->pvarVal != nullptr) source = source->pvarVal;
-  require(VariantCopyInd(&to, source));
+  require(VariantCopyInd(&to, const_cast<VARIANT*>(source)));  // reads only, whatever its declaration says
 }
 
 void convert(const VARIANT& from, VARTYPE type, OwnedVariant& to) {

@@ -1,0 +1,66 @@
+// The way of every member from its automation signature to the core and back. The one place where an exception becomes
+// an HRESULT.
+#pragma once
+
+#include "frame/automation/com.h"
+#include "frame/automation/late_failure.h"
+#include "frame/automation/text_bstr.h"
+#include "frame/automation/variant.h"
+
+namespace qvr::automation {
+
+// Arguments as the core takes them. Early-bound callers may pass null for a pointer and for a string.
+inline Text text_of(BSTR* argument) { return argument != nullptr ? text_from(*argument) : Text(); }
+inline bool truth_of(const VARIANT_BOOL* argument) { return argument != nullptr && *argument != VARIANT_FALSE; }
+template <class Number>
+std::int32_t number_of(const Number* argument) {
+  return argument != nullptr ? static_cast<std::int32_t>(*argument) : 0;
+}
+inline Value value_of(const VARIANT* argument) {
+  return argument != nullptr ? value_from(*argument) : Value(Missing{});
+}
+
+// Gives a changed text back to the caller's variable; an unchanged one stays untouched.
+inline void give_back(BSTR* argument, const Text& text) {
+  if (argument == nullptr || text_from(*argument) == text) return;
+  OwnedBstr changed(text);
+  std::swap(*argument, *changed.out());
+}
+
+// Results. The core's type chooses, since VARIANT_BOOL and a 16-bit number are one type here.
+inline void put_result(VARIANT_BOOL* out, bool result) { *out = result ? VARIANT_TRUE : VARIANT_FALSE; }
+inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
+inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
+template <class Number>
+  requires(std::is_enum_v<Number> || std::is_same_v<Number, LONG>)
+void put_result(Number* out, std::int32_t result) {
+  *out = static_cast<Number>(result);
+}
+
+// Runs the body, which gives an HRESULT. A run-time failure becomes its HRESULT with error info; anything else, which
+// is want of memory, `otherwise`.
+template <class Body>
+HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
+  try {
+    return std::forward<Body>(body)();
+  } catch (const RuntimeFailure& failure) {
+    set_error_info(failure.detail());
+    return result_of(failure.detail().number);
+  } catch (...) {
+    return otherwise;
+  }
+}
+
+// Runs the member's body and hands over its result. Want of memory for an argument's copy leaves the default result,
+// like any other failure that the contract does not let reach the caller.
+template <class Out, class Body>
+HRESULT answer(Out* out, Body&& body) noexcept {
+  if (out == nullptr) return E_POINTER;
+  *out = Out{};
+  return guarded(S_OK, [&] {
+    put_result(out, std::forward<Body>(body)());
+    return S_OK;
+  });
+}
+
+}  // namespace qvr::automation

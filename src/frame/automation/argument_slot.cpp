@@ -1,0 +1,135 @@
+#include "frame/automation/argument_slot.h"
+
+#include <cstring>
+
+namespace qvr::automation {
+namespace {
+
+bool is_missing(const VARIANT* argument) {
+  return argument == nullptr || (argument->vt == VT_ERROR && argument->scode == DISP_E_PARAMNOTFOUND);
+}
+
+// Hosts tell overflow from a wrong type; all other refusals are one to them.
+HRESULT refusal(HRESULT result) {
+  return result == DISP_E_OVERFLOW || result == E_OUTOFMEMORY ? result : DISP_E_TYPEMISMATCH;
+}
+
+HRESULT take_object(VARIANT& target, const VARIANT& source) {
+  OwnedVariant value;
+  if (FAILED(copy_content(*value.get(), source))) return DISP_E_TYPEMISMATCH;
+  target.pdispVal = nullptr;
+  target.vt = VT_DISPATCH;
+  if (value->vt == VT_EMPTY) return S_OK;  // a script's variable that no object was assigned to
+  if (value->vt != VT_DISPATCH && value->vt != VT_UNKNOWN) return DISP_E_TYPEMISMATCH;
+  if (value->punkVal == nullptr) return S_OK;
+  return SUCCEEDED(value->punkVal->QueryInterface(IID_PPV_ARGS(&target.pdispVal))) ? S_OK : DISP_E_TYPEMISMATCH;
+}
+
+HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
+  const HRESULT result =
+      VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  return SUCCEEDED(result) ? S_OK : refusal(result);
+}
+
+LCID usable(LCID locale) { return locale != 0 ? locale : LOCALE_USER_DEFAULT; }
+
+std::size_t size_of(VARTYPE type) {
+  switch (type) {
+    case VT_I1:
+    case VT_UI1: return 1;
+    case VT_I2:
+    case VT_UI2:
+    case VT_BOOL: return 2;
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_R4:
+    case VT_ERROR: return 4;
+    case VT_I8:
+    case VT_UI8:
+    case VT_R8:
+    case VT_CY:
+    case VT_DATE: return 8;
+    default: return 0;
+  }
+}
+
+// Into a typed variable of the caller: its old content is released first.
+void store(VARTYPE type, void* target, VARIANT& value) {
+  if (type == VT_BSTR) {
+    std::swap(*static_cast<BSTR*>(target), value.bstrVal);
+  } else if (type == VT_DISPATCH || type == VT_UNKNOWN) {
+    std::swap(*static_cast<IUnknown**>(target), value.punkVal);
+  } else if (type == VT_DECIMAL) {
+    const DECIMAL number = value.decVal;
+    *static_cast<DECIMAL*>(target) = number;
+  } else {
+    std::memcpy(target, &value.llVal, size_of(type));
+  }
+}
+
+}  // namespace
+
+HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
+  if (!parameter.optional) return DISP_E_PARAMNOTOPTIONAL;
+  if (type_ == VT_VARIANT) {
+    held_->vt = VT_ERROR;
+    held_->scode = DISP_E_PARAMNOTFOUND;
+    return S_OK;
+  }
+  VARIANT number;
+  VariantInit(&number);
+  if (parameter.fallback) {
+    number.vt = VT_I4;
+    number.lVal = *parameter.fallback;
+  }
+  if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), number);
+  return take_typed(*held_.get(), number, type_, LOCALE_USER_DEFAULT);
+}
+
+HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept {
+  type_ = parameter.type;
+  by_reference_ = parameter.by_reference;
+  const VARIANT* inner = argument != nullptr ? innermost(*argument) : nullptr;
+  if (argument != nullptr && inner == nullptr) return DISP_E_TYPEMISMATCH;
+  if (inner != nullptr && (inner->vt & VT_BYREF) && inner->byref == nullptr) return DISP_E_TYPEMISMATCH;
+  HRESULT result = S_OK;
+  if (is_missing(inner)) {
+    result = take_missing(parameter);
+  } else if (type_ == VT_VARIANT) {
+    result = copy_content(*held_.get(), *inner);
+    if (FAILED(result)) result = refusal(result);
+  } else if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) {
+    result = take_object(*held_.get(), *inner);
+  } else {
+    result = take_typed(*held_.get(), *inner, type_, usable(locale));
+  }
+  std::memcpy(&before_, held_.get(), sizeof before_);
+  return result;
+}
+
+VARIANT ArgumentSlot::as_passed() noexcept {
+  if (!by_reference_) return *held_;
+  VARIANT passed;
+  passed.vt = static_cast<VARTYPE>(VT_BYREF | type_);
+  passed.byref = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
+  return passed;
+}
+
+bool ArgumentSlot::changed() const noexcept { return std::memcmp(&before_, &*held_, sizeof before_) != 0; }
+
+void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
+  if (!by_reference_ || !(argument.vt & VT_BYREF) || !changed()) return;
+  VARIANT* target = const_cast<VARIANT*>(innermost(argument));
+  if (target == &argument || (target->vt & VT_BYREF)) {
+    const auto type = static_cast<VARTYPE>(target->vt & ~VT_BYREF);
+    OwnedVariant converted;
+    // A variable of a type that the new value does not convert to keeps what it has.
+    if (SUCCEEDED(take_typed(*converted.get(), *held_, type, usable(locale)))) store(type, target->byref, *converted.get());
+    return;
+  }
+  VariantCopy(target, held_.get());
+}
+
+}  // namespace qvr::automation

@@ -1,0 +1,18 @@
+// The creatable classes: one table for class objects, registration and unregistration.
+#pragma once
+
+#include <span>
+
+#include "frame/automation/com.h"
+
+namespace qvr::automation {
+
+struct ClassRow {
+  const CLSID& id;
+  const wchar_t* name;          // the program id is the library's name, ".", this
+  IUnknown* (*create)();        // a new object with one reference; throws
+};
+
+std::span<const ClassRow> class_table();
+
+}  // namespace qvr::automation

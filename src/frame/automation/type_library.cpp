@@ -1,0 +1,22 @@
+#include "frame/automation/type_library.h"
+
+#include "frame/automation/late_failure.h"
+#include "frame/automation/text_bstr.h"
+#include "frame/platform.h"
+
+namespace qvr::automation {
+
+ComPtr<ITypeLib> own_type_library() {
+  ComPtr<ITypeLib> library;
+  const Text path = system_platform().own_module.path();
+  require(LoadTypeLibEx(std::wstring(path.begin(), path.end()).c_str(), REGKIND_NONE, &library));
+  return library;
+}
+
+ComPtr<ITypeInfo> own_type_info(REFGUID id) {
+  ComPtr<ITypeInfo> info;
+  require(own_type_library()->GetTypeInfoOfGuid(id, &info));
+  return info;
+}
+
+}  // namespace qvr::automation

@@ -1,0 +1,156 @@
+#include "frame/automation/variant.h"
+
+#include <new>
+
+#include "frame/automation/text_bstr.h"
+
+namespace qvr::automation {
+namespace {
+
+ObjectRef object_from(IUnknown* object) {
+  return object == nullptr ? ObjectRef() : std::make_shared<DispatchObject>(object);
+}
+
+Decimal decimal_from(const DECIMAL& number) {
+  return {number.Hi32, number.Mid32, number.Lo32, number.scale, (number.sign & DECIMAL_NEG) != 0};
+}
+
+// A number of a width that the contract's types lack.
+Value wide_number(ULONGLONG number) {
+  if (number <= INT64_MAX) return static_cast<std::int64_t>(number);
+  return Decimal{0, static_cast<std::uint32_t>(number >> 32), static_cast<std::uint32_t>(number), 0, false};
+}
+
+// An element into a variant of its own type. Records and other kinds without a value of ours become error values.
+Value element_from(SAFEARRAY* array, VARTYPE type, LONG index) {
+  OwnedVariant item;
+  void* target = &item->llVal;
+  if (type == VT_VARIANT) target = item.get();
+  if (type == VT_DECIMAL) target = &item->decVal;
+  if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
+  if (FAILED(SafeArrayGetElement(array, &index, target))) throw std::bad_alloc();
+  if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
+  return value_from(*item);
+}
+
+Value array_from(SAFEARRAY* array) {
+  Array result;
+  VARTYPE type = VT_EMPTY;
+  LONG lower = 0, upper = -1;
+  result.dimensions = array == nullptr ? std::uint16_t{0} : static_cast<std::uint16_t>(SafeArrayGetDim(array));
+  if (result.dimensions != 1 || FAILED(SafeArrayGetVartype(array, &type)) ||
+      FAILED(SafeArrayGetLBound(array, 1, &lower)) || FAILED(SafeArrayGetUBound(array, 1, &upper))) {
+    return result;
+  }
+  result.lower = lower;
+  for (LONGLONG index = lower; index <= upper; ++index) {
+    result.items.push_back(element_from(array, type, static_cast<LONG>(index)));
+  }
+  return result;
+}
+
+Value scalar_from(const VARIANT& v) {
+  switch (v.vt) {
+    case VT_EMPTY: return Empty{};
+    case VT_NULL: return Null{};
+    case VT_BOOL: return v.boolVal != VARIANT_FALSE;
+    case VT_UI1: return v.bVal;
+    case VT_I2: return v.iVal;
+    case VT_I4:
+    case VT_INT: return static_cast<std::int32_t>(v.lVal);
+    case VT_I1: return static_cast<std::int64_t>(v.cVal);
+    case VT_UI2: return static_cast<std::int64_t>(v.uiVal);
+    case VT_UI4:
+    case VT_UINT: return static_cast<std::int64_t>(v.ulVal);
+    case VT_I8: return static_cast<std::int64_t>(v.llVal);
+    case VT_UI8: return wide_number(v.ullVal);
+    case VT_R4: return v.fltVal;
+    case VT_R8: return v.dblVal;
+    case VT_CY: return Currency{v.cyVal.int64};
+    case VT_DECIMAL: return decimal_from(v.decVal);
+    case VT_DATE: return Date{v.date};
+    case VT_BSTR: return text_from(v.bstrVal);
+    case VT_ERROR: return v.scode == DISP_E_PARAMNOTFOUND ? Value(Missing{}) : Value(ErrorValue{v.scode});
+    case VT_DISPATCH:
+    case VT_UNKNOWN: return object_from(v.punkVal);
+    default: return ErrorValue{DISP_E_BADVARTYPE};
+  }
+}
+
+struct Put {
+  VARIANT& v;
+
+  void operator()(const Empty&) const {}
+  void operator()(const Missing&) const { v.vt = VT_ERROR, v.scode = DISP_E_PARAMNOTFOUND; }
+  void operator()(const Null&) const { v.vt = VT_NULL; }
+  void operator()(bool held) const { v.vt = VT_BOOL, v.boolVal = held ? VARIANT_TRUE : VARIANT_FALSE; }
+  void operator()(std::uint8_t held) const { v.vt = VT_UI1, v.bVal = held; }
+  void operator()(std::int16_t held) const { v.vt = VT_I2, v.iVal = held; }
+  void operator()(std::int32_t held) const { v.vt = VT_I4, v.lVal = held; }
+  void operator()(std::int64_t held) const { v.vt = VT_I8, v.llVal = held; }
+  void operator()(float held) const { v.vt = VT_R4, v.fltVal = held; }
+  void operator()(double held) const { v.vt = VT_R8, v.dblVal = held; }
+  void operator()(Currency held) const { v.vt = VT_CY, v.cyVal.int64 = held.scaled; }
+  void operator()(Date held) const { v.vt = VT_DATE, v.date = held.days; }
+  void operator()(const ErrorValue& held) const { v.vt = VT_ERROR, v.scode = held.code; }
+  void operator()(const Decimal& held) const {
+    v.decVal.Hi32 = held.high, v.decVal.Mid32 = held.mid, v.decVal.Lo32 = held.low;
+    v.decVal.scale = held.scale, v.decVal.sign = held.negative ? DECIMAL_NEG : BYTE{0};
+    v.vt = VT_DECIMAL;  // last: it shares its place with a part of the number's structure
+  }
+  void operator()(const Text& held) const {
+    v.bstrVal = new_bstr(held);
+    if (v.bstrVal == nullptr) throw std::bad_alloc();
+    v.vt = VT_BSTR;
+  }
+  void operator()(const ObjectRef& held) const {
+    v.vt = VT_DISPATCH, v.pdispVal = nullptr;
+    const auto* object = dynamic_cast<const DispatchObject*>(held.get());
+    if (object == nullptr) return;
+    v.vt = VT_UNKNOWN, object->object.CopyTo(&v.punkVal);
+    IDispatch* dispatch = nullptr;
+    if (FAILED(object->object->QueryInterface(IID_PPV_ARGS(&dispatch)))) return;
+    v.punkVal->Release();
+    v.vt = VT_DISPATCH, v.pdispVal = dispatch;
+  }
+  void operator()(const Array& held) const {
+    SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, held.lower, static_cast<ULONG>(held.items.size()));
+    if (array == nullptr) throw std::bad_alloc();
+    v.vt = VT_ARRAY | VT_VARIANT, v.parray = array;
+    LONG index = held.lower;
+    for (const Value& item : held.items) {
+      OwnedVariant element;
+      put_value(*element.get(), item);
+      if (FAILED(SafeArrayPutElement(array, &index, element.get()))) throw std::bad_alloc();
+      ++index;
+    }
+  }
+};
+
+}  // namespace
+
+const VARIANT* innermost(const VARIANT& variant) noexcept {
+  constexpr int kDeepest = 16;  // far beyond what hosts nest; a variant that refers to itself never ends
+  const VARIANT* at = &variant;
+  for (int depth = 0; at != nullptr && at->vt == (VT_BYREF | VT_VARIANT); ++depth) {
+    at = depth < kDeepest ? at->pvarVal : nullptr;
+  }
+  return at;
+}
+
+Value value_from(const VARIANT& variant) {
+  const VARIANT* inner = innermost(variant);
+  if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
+  if (inner->vt & VT_ARRAY) {
+    SAFEARRAY* array = inner->vt & VT_BYREF ? (inner->pparray != nullptr ? *inner->pparray : nullptr) : inner->parray;
+    return array_from(array);
+  }
+  if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
+  OwnedVariant copy;
+  if (inner->byref == nullptr || FAILED(copy_content(*copy.get(), *inner))) return ErrorValue{DISP_E_BADVARTYPE};
+  return scalar_from(*copy);
+}
+
+void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
+
+}  // namespace qvr::automation

@@ -1,0 +1,50 @@
+// Values as VARIANTs.
+#pragma once
+
+#include "frame/automation/com.h"
+#include "frame/value.h"
+
+namespace qvr::automation {
+
+class OwnedVariant {
+ public:
+  OwnedVariant() noexcept { VariantInit(&held_); }
+  ~OwnedVariant() { VariantClear(&held_); }
+  OwnedVariant(const OwnedVariant&) = delete;
+  OwnedVariant& operator=(const OwnedVariant&) = delete;
+
+  VARIANT* get() { return &held_; }
+  const VARIANT& operator*() const { return held_; }
+  VARIANT* operator->() { return &held_; }
+  // Gives the content away; what stays is Empty.
+  VARIANT release() noexcept {
+    const VARIANT content = held_;
+    VariantInit(&held_);
+    return content;
+  }
+
+ private:
+  VARIANT held_;
+};
+
+// An object that a host handed over, kept alive by the value that holds it.
+struct DispatchObject : Object {
+  explicit DispatchObject(IUnknown* held) : object(held) {}
+  ComPtr<IUnknown> object;
+};
+
+// A deep copy of what the variant holds or refers to.
+inline HRESULT copy_content(VARIANT& to, const VARIANT& from) noexcept {
+  return VariantCopyInd(&to, const_cast<VARIANT*>(&from));
+}
+
+// Variants of variants by reference lead to the value in the end; null for one that leads nowhere or into itself.
+const VARIANT* innermost(const VARIANT& variant) noexcept;
+
+// By-reference variants count as what they refer to. A kind of variant that no value stands for is an ErrorValue.
+Value value_from(const VARIANT& variant);
+
+// Writes the value into the variant, which is Empty. Throws when there is no memory.
+void put_value(VARIANT& variant, const Value& value);
+
+}  // namespace qvr::automation

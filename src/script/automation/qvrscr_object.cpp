@@ -1,0 +1,62 @@
+#include "script/automation/qvrscr_object.h"
+
+#include "services/automation/com_ado.h"
+
+namespace qvr::automation {
+namespace {
+
+constexpr DISPID kProgreso = 1, kTerminado = 2;
+
+}  // namespace
+
+HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComandos, BSTR* CadenaConexion,
+                                       BSTR* TextoMostrar, VARIANT_BOOL* Resultado) noexcept {
+  // The host may let go of its last reference in an event of this very run.
+  const ComPtr<IConnectionPointContainer> alive(this);
+  return answer(Resultado, [&] {
+    Text id = text_of(ID), progress_text = text_of(TextoMostrar);
+    const bool success =
+        core_.EjecutarComandos(id, number_of(MotorBD), text_of(TextosComandos), text_of(CadenaConexion), progress_text);
+    give_back(ID, id);
+    give_back(TextoMostrar, progress_text);
+    return success;
+  });
+}
+
+HRESULT QVRScrObject::Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando, LONG* MotorBD,
+                                       VARIANT_BOOL* Resultado) noexcept {
+  const ComPtr<IConnectionPointContainer> alive(this);
+  return answer(Resultado, [&] {
+    // Whatever the host's connection is, it is reached by name only.
+    const auto connection = wrap_connection(Conexion != nullptr ? reinterpret_cast<IDispatch*>(*Conexion) : nullptr);
+    return core_.Ejecutar1Comando(connection.get(), text_of(TextoComando), number_of(MotorBD));
+  });
+}
+
+HRESULT QVRScrObject::UsuarioSegunMotor(LONG* MotorBD, BSTR* Resultado) noexcept {
+  return answer(Resultado, [&] { return core_.UsuarioSegunMotor(number_of(MotorBD)); });
+}
+
+HRESULT QVRScrObject::EnumConnectionPoints(IEnumConnectionPoints** points) noexcept {
+  return enumerate_points(point_, points);
+}
+
+HRESULT QVRScrObject::FindConnectionPoint(REFIID id, IConnectionPoint** point) noexcept {
+  return find_point(point_, id, point);
+}
+
+void QVRScrObject::Progreso(const Text& Mensaje) noexcept {
+  OwnedVariant argument;
+  argument->bstrVal = new_bstr(Mensaje);
+  argument->vt = VT_BSTR;
+  point_.fire(kProgreso, *argument);
+}
+
+void QVRScrObject::Terminado(bool Exito) noexcept {
+  OwnedVariant argument;
+  argument->vt = VT_BOOL;
+  argument->boolVal = Exito ? VARIANT_TRUE : VARIANT_FALSE;
+  point_.fire(kTerminado, *argument);
+}
+
+}  // namespace qvr::automation

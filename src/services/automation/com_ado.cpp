@@ -1,0 +1,86 @@
+#include "services/automation/com_ado.h"
+
+#include "frame/failure.h"
+#include "frame/value_convert.h"
+#include "services/automation/late_object.h"
+
+namespace qvr::automation {
+namespace {
+
+constexpr std::int32_t kOptionsUnspecified = -1;
+
+services::AdoError error_from(const LateObject& error) {
+  const auto number = [&error](const wchar_t* name) {
+    const Value value = error.get(name);
+    const auto* held = value.as<std::int32_t>();
+    return held != nullptr ? *held : 0;
+  };
+  return {number(L"Number"), to_text(error.get(L"Description")), to_text(error.get(L"Source")),
+          to_text(error.get(L"SQLState")), number(L"NativeError")};
+}
+
+class ComConnection final : public services::AdoConnection {
+ public:
+  explicit ComConnection(LateObject object) : object_(std::move(object)) {}
+
+  void set_connection_string(TextView text) override { object_.put(L"ConnectionString", Text(text)); }
+  void open() override { object_.call(L"Open", {Text(), Text(), Text(), kOptionsUnspecified}); }
+  void begin_trans() override { object_.call(L"BeginTrans", {}); }
+  void commit_trans() override { object_.call(L"CommitTrans", {}); }
+  void rollback_trans() override { object_.call(L"RollbackTrans", {}); }
+  void close() override { object_.call(L"Close", {}); }
+
+  std::vector<services::AdoError> errors() override {
+    std::vector<services::AdoError> found;
+    const LateObject collection = object_.get_object(L"Errors");
+    const auto count = static_cast<std::int32_t>(to_number(collection.get(L"Count")));
+    for (std::int32_t i = 0; i < count; ++i) found.push_back(error_from(object_in(collection.get(L"Item", {i}))));
+    return found;
+  }
+
+  const LateObject& object() const { return object_; }
+
+ private:
+  LateObject object_;
+};
+
+class ComCommand final : public services::AdoCommand {
+ public:
+  explicit ComCommand(LateObject object) : object_(std::move(object)) {}
+
+  void set_active_connection(services::AdoConnection& connection) override {
+    object_.put_object(L"ActiveConnection", dynamic_cast<ComConnection&>(connection).object());
+  }
+  void set_command_type(services::CommandType type) override {
+    object_.put(L"CommandType", static_cast<std::int32_t>(type));
+  }
+  void set_command_text(TextView text) override { object_.put(L"CommandText", Text(text)); }
+  void set_command_timeout(std::int32_t seconds) override { object_.put(L"CommandTimeout", seconds); }
+  void execute() override { object_.call(L"Execute", {Missing{}, Missing{}, kOptionsUnspecified}); }
+
+ private:
+  LateObject object_;
+};
+
+LateObject create(const wchar_t* program_id) {
+  const auto id = registered_class(program_id);
+  if (!id) throw RuntimeFailure(failure_number::kCannotCreateObject);
+  return LateObject::create(*id);
+}
+
+}  // namespace
+
+std::unique_ptr<services::AdoConnection> ComAdo::new_connection() {
+  return std::make_unique<ComConnection>(create(L"ADODB.Connection"));
+}
+
+std::unique_ptr<services::AdoCommand> ComAdo::new_command() {
+  return std::make_unique<ComCommand>(create(L"ADODB.Command"));
+}
+
+std::unique_ptr<services::AdoConnection> wrap_connection(IDispatch* connection) {
+  if (connection == nullptr) return nullptr;
+  return std::make_unique<ComConnection>(LateObject(ComPtr<IDispatch>(connection)));
+}
+
+}  // namespace qvr::automation

@@ -1,0 +1,18 @@
+// The system's ADO, reached by name only: the ids of its interfaces differ between systems.
+#pragma once
+
+#include "frame/automation/com.h"
+#include "services/ado.h"
+
+namespace qvr::automation {
+
+class ComAdo : public services::Ado {
+ public:
+  std::unique_ptr<services::AdoConnection> new_connection() override;
+  std::unique_ptr<services::AdoCommand> new_command() override;
+};
+
+// A connection that a host handed over; null for Nothing.
+std::unique_ptr<services::AdoConnection> wrap_connection(IDispatch* connection);
+
+}  // namespace qvr::automation

@@ -1,0 +1,16 @@
+#include "services/automation/com_error_report.h"
+
+namespace qvr::automation {
+
+void ComErrorReport::Informar(const services::ErrorNotice& notice) {
+  const services::Captions& captions = notice.captions;
+  Array texts;
+  for (const Text* caption : {&captions.server_not_found, &captions.duplicate_record, &captions.unknown_error,
+                              &captions.method, &captions.object}) {
+    texts.items.emplace_back(*caption);
+  }
+  component_.call(L"Informar", {notice.failure.number, notice.failure.description, notice.failure.source, notice.motor,
+                                notice.label, std::move(texts)});
+}
+
+}  // namespace qvr::automation

@@ -1,0 +1,40 @@
+// Wires the library: the system it runs on, and for each outside service the application family's component where one
+// is registered, else the library's own.
+
+#include "frame/thread_state.h"
+#include "services/automation/com_ado.h"
+#include "services/automation/com_error_report.h"
+#include "services/automation/com_text_protection.h"
+#include "services/builtin_error_report.h"
+#include "services/builtin_text_protection.h"
+
+namespace qvr {
+namespace {
+
+using namespace automation;
+
+std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
+  // A component that is registered but cannot be created must not be replaced: its files are not ours to read.
+  if (const auto id = registered_class(ComTextProtection::kProgramId)) {
+    return std::make_unique<ComTextProtection>(LateObject::create(*id));
+  }
+  return std::make_unique<services::BuiltinTextProtection>(platform.cryptography);
+}
+
+std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platform) {
+  if (const auto id = registered_class(ComErrorReport::kProgramId)) {
+    return std::make_unique<ComErrorReport>(LateObject::create(*id));
+  }
+  return std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
+}
+
+std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<ComAdo>(); }
+
+}  // namespace
+
+const Environment& environment() {
+  static const Environment wired{system_platform(), make_text_protection, make_error_report, make_ado};
+  return wired;
+}
+
+}  // namespace qvr

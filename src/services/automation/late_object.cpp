@@ -1,0 +1,111 @@
+#include "services/automation/late_object.h"
+
+#include <vector>
+
+#include "frame/automation/late_failure.h"
+#include "frame/automation/text_bstr.h"
+
+namespace qvr::automation {
+namespace {
+
+// The texts of an error report, released whatever happens.
+struct Exception : EXCEPINFO {
+  Exception() : EXCEPINFO{} {}
+  ~Exception() {
+    SysFreeString(bstrSource);
+    SysFreeString(bstrDescription);
+    SysFreeString(bstrHelpFile);
+  }
+  Exception(const Exception&) = delete;
+  Exception& operator=(const Exception&) = delete;
+};
+
+[[noreturn]] void raise(Exception& exception) {
+  if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+  const std::int32_t number = exception.wCode != 0 ? exception.wCode : failure_number_of(exception.scode);
+  throw RuntimeFailure(number, text_from(exception.bstrDescription), text_from(exception.bstrSource));
+}
+
+// Arguments as Invoke wants them: last one first.
+class Arguments {
+ public:
+  explicit Arguments(std::span<const Value> values) : owned_(values.size()) {
+    passed_.reserve(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      put_value(*owned_[i].get(), values[values.size() - 1 - i]);
+      passed_.push_back(*owned_[i]);
+    }
+  }
+
+  DISPPARAMS parameters(WORD flags) {
+    const bool put = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    return {passed_.data(), put ? &put_name_ : nullptr, static_cast<UINT>(passed_.size()), put ? 1u : 0u};
+  }
+
+ private:
+  std::vector<OwnedVariant> owned_;
+  std::vector<VARIANT> passed_;  // the same contents side by side, as Invoke wants them
+  DISPID put_name_ = DISPID_PROPERTYPUT;
+};
+
+}  // namespace
+
+LateObject LateObject::create(REFCLSID id) {
+  ComPtr<IDispatch> object;
+  if (FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(&object)))) {
+    throw RuntimeFailure(failure_number::kCannotCreateObject);
+  }
+  return LateObject(std::move(object));
+}
+
+Value LateObject::invoke(const wchar_t* name, WORD flags, std::span<const Value> arguments) const {
+  DISPID id = DISPID_UNKNOWN;
+  LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
+  require(object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id));
+  Arguments passed(arguments);
+  DISPPARAMS parameters = passed.parameters(flags);
+  const bool wants_result = parameters.cNamedArgs == 0;
+  OwnedVariant result;
+  Exception exception;
+  const HRESULT called = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
+                                         wants_result ? result.get() : nullptr, &exception, nullptr);
+  if (called == DISP_E_EXCEPTION) raise(exception);
+  require(called);
+  return value_from(*result);
+}
+
+Value LateObject::call(const wchar_t* name, std::initializer_list<Value> arguments) const {
+  return invoke(name, DISPATCH_METHOD, {arguments.begin(), arguments.size()});
+}
+
+Value LateObject::get(const wchar_t* name, std::initializer_list<Value> arguments) const {
+  return invoke(name, DISPATCH_PROPERTYGET, {arguments.begin(), arguments.size()});
+}
+
+void LateObject::put(const wchar_t* name, const Value& value) const {
+  invoke(name, DISPATCH_PROPERTYPUT, {&value, 1});
+}
+
+void LateObject::put_object(const wchar_t* name, const LateObject& object) const {
+  const Value value = object.as_value();
+  invoke(name, DISPATCH_PROPERTYPUTREF, {&value, 1});
+}
+
+LateObject LateObject::get_object(const wchar_t* name) const { return object_in(get(name)); }
+
+std::optional<CLSID> registered_class(const wchar_t* program_id) {
+  CLSID id;
+  return SUCCEEDED(CLSIDFromProgID(program_id, &id)) ? std::optional(id) : std::nullopt;
+}
+
+LateObject object_in(const Value& value) {
+  const ObjectRef* reference = value.as<ObjectRef>();
+  if (reference == nullptr) throw RuntimeFailure(failure_number::kTypeMismatch);
+  const auto* held = dynamic_cast<const DispatchObject*>(reference->get());
+  if (held == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
+  ComPtr<IDispatch> dispatch;
+  require(held->object.As(&dispatch));
+  return LateObject(std::move(dispatch));
+}
+
+}  // namespace qvr::automation

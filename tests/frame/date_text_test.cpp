@@ -1,0 +1,116 @@
+#include "frame/date_text.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+#include "frame/failure.h"
+
+namespace qvr::tests {
+namespace {
+
+constexpr double kSecond = 1.0 / 86400;
+
+struct Row {
+  const char* name;
+  double days;
+  CalendarTime time;
+};
+
+constexpr Row kRows[] = {
+    {"day zero", 0, {1899, 12, 30, 0, 0, 0}},
+    {"the day after", 1, {1899, 12, 31, 0, 0, 0}},
+    {"the day before", -1, {1899, 12, 29, 0, 0, 0}},
+    {"fraction counts forward before day zero", -1.25, {1899, 12, 29, 6, 0, 0}},
+    {"fraction of day zero, either sign", -0.5, {1899, 12, 30, 12, 0, 0}},
+    {"half past six", 36526.0 + 18.5 / 24, {2000, 1, 1, 18, 30, 0}},
+    {"leap day", 36585, {2000, 2, 29, 0, 0, 0}},
+    {"no leap day in 1900", 61, {1900, 3, 1, 0, 0, 0}},
+    {"59.4 seconds round down", 36526 + 86399.4 * kSecond, {2000, 1, 1, 23, 59, 59}},
+    {"59.6 seconds round up to the next day", 36526 + 86399.6 * kSecond, {2000, 1, 2, 0, 0, 0}},
+    {"rounding up at the end of a year", 36890 + 0.5 + 0.4999999, {2000, 12, 31, 0, 0, 0}},
+    {"rounding up before day zero", -2 - 86399.6 * kSecond, {1899, 12, 29, 0, 0, 0}},
+    {"first day", -657434, {100, 1, 1, 0, 0, 0}},
+    {"last second of the first day", -657434 - 86399 * kSecond, {100, 1, 1, 23, 59, 59}},
+    {"last day", 2958465, {9999, 12, 31, 0, 0, 0}},
+    {"last second", 2958465 + 86399 * kSecond, {9999, 12, 31, 23, 59, 59}},
+};
+
+void expect_equal(const CalendarTime& a, const CalendarTime& b) {
+  EXPECT_EQ(a.year, b.year);
+  EXPECT_EQ(a.month, b.month);
+  EXPECT_EQ(a.day, b.day);
+  EXPECT_EQ(a.hour, b.hour);
+  EXPECT_EQ(a.minute, b.minute);
+  EXPECT_EQ(a.second, b.second);
+}
+
+TEST(CalendarTime, TakesDatesApart) {
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    expect_equal(calendar_time(Date{row.days}), row.time);
+  }
+}
+
+TEST(CalendarTime, OverflowsOutsideTheYears100To9999) {
+  for (double days : {-657435.0, 2958466.0, 2958465 + 86399.6 * kSecond, 1e300, -1e300,
+                      std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+    SCOPED_TRACE(days);
+    try {
+      const CalendarTime time = calendar_time(Date{days});
+      ADD_FAILURE() << "year " << time.year;
+    } catch (const RuntimeFailure& failure) {
+      EXPECT_EQ(failure.detail().number, failure_number::kOverflow);
+    }
+  }
+}
+
+TEST(DateFrom, GivesBackWhatCalendarTimeTookApart) {
+  std::mt19937 random(5);
+  std::uniform_int_distribution<int> year(100, 9999), month(1, 12), day(1, 28), hour(0, 23), sixtieth(0, 59);
+  for (int round = 0; round < 20000; ++round) {
+    const CalendarTime time{year(random), month(random), day(random), hour(random), sixtieth(random), sixtieth(random)};
+    const auto date = date_from(time);
+    ASSERT_TRUE(date) << "round " << round;
+    expect_equal(calendar_time(*date), time);
+    ASSERT_FALSE(HasFailure()) << "round " << round;
+  }
+}
+
+TEST(DateFrom, HasNothingForPartsOutOfRange) {
+  struct Bad {
+    const char* name;
+    CalendarTime time;
+  };
+  constexpr Bad kBad[] = {
+      {"year 99", {99, 12, 31}},          {"year 10000", {10000, 1, 1}},       {"month 0", {2000, 0, 1}},
+      {"month 13", {2000, 13, 1}},        {"day 0", {2000, 1, 0}},             {"day 32", {2000, 1, 32}},
+      {"30 February", {2000, 2, 30}},     {"29 February 1900", {1900, 2, 29}}, {"31 April", {2001, 4, 31}},
+      {"hour 24", {2000, 1, 1, 24}},      {"hour -1", {2000, 1, 1, -1}},       {"minute 60", {2000, 1, 1, 0, 60}},
+      {"second 60", {2000, 1, 1, 0, 0, 60}}, {"month -1", {2000, -1, 1}},      {"month 257", {2000, 257, 1}},
+      {"day 257", {2000, 1, 257}},        {"year far away", {100000, 1, 1}},
+  };
+  for (const Bad& row : kBad) {
+    SCOPED_TRACE(row.name);
+    EXPECT_FALSE(date_from(row.time));
+  }
+}
+
+TEST(YearMonthDay, WritesFourTwoAndTwoDigits) {
+  EXPECT_EQ(year_month_day(Date{36526}, u'/'), u"2000/01/01");
+  EXPECT_EQ(year_month_day(Date{-657434}, u'-'), u"0100-01-01");
+  EXPECT_EQ(year_month_day(Date{2958465.75}, u'/'), u"9999/12/31");
+  EXPECT_EQ(year_month_day(Date{36526 + 86399.6 * kSecond}, u'.'), u"2000.01.02");
+  EXPECT_THROW(year_month_day(Date{1e9}, u'/'), RuntimeFailure);
+}
+
+TEST(Padded, NeverTruncates) {
+  EXPECT_EQ(padded(5, 2), u"05");
+  EXPECT_EQ(padded(0, 4), u"0000");
+  EXPECT_EQ(padded(24, 2), u"24");
+  EXPECT_EQ(padded(124, 2), u"124");
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,104 @@
+#include "frame/failure.h"
+
+#include <gtest/gtest.h>
+
+#include <new>
+#include <stdexcept>
+
+namespace qvr::tests {
+namespace {
+
+template <class Thrown>
+FailureDetail seen_when(const Thrown& thrown) {
+  try {
+    throw thrown;
+  } catch (...) {
+    return current_failure();
+  }
+}
+
+void expect_detail(const FailureDetail& detail, std::int32_t number, TextView description, TextView source) {
+  EXPECT_EQ(detail.number, number);
+  EXPECT_EQ(detail.description, description);
+  EXPECT_EQ(detail.source, source);
+}
+
+TEST(CurrentFailure, KeepsWhatOurOwnSays) {
+  expect_detail(seen_when(RuntimeFailure(13)), 13, u"Type mismatch", u"QVRlib21");
+  expect_detail(seen_when(RuntimeFailure(5, u"own text")), 5, u"own text", u"QVRlib21");
+  expect_detail(seen_when(RuntimeFailure(5, u"own text", u"QVRScr")), 5, u"own text", u"QVRScr");
+  expect_detail(seen_when(RuntimeFailure(FailureDetail{-2147467259, u"", u""})), -2147467259, u"", u"");
+}
+
+TEST(CurrentFailure, NamesWhatOthersThrow) {
+  expect_detail(seen_when(std::bad_alloc()), 7, u"Out of memory", u"QVRlib21");
+  expect_detail(seen_when(std::bad_array_new_length()), 7, u"Out of memory", u"QVRlib21");
+  expect_detail(seen_when(std::logic_error("any")), 5, u"Invalid procedure call or argument", u"QVRlib21");
+  expect_detail(seen_when(42), 5, u"Invalid procedure call or argument", u"QVRlib21");
+}
+
+TEST(DescriptionOf, HasTheHostsTexts) {
+  struct Row {
+    std::int32_t number;
+    TextView text;
+  };
+  constexpr Row kRows[] = {
+      {5, u"Invalid procedure call or argument"},
+      {6, u"Overflow"},
+      {7, u"Out of memory"},
+      {9, u"Subscript out of range"},
+      {13, u"Type mismatch"},
+      {75, u"Path/File access error"},
+      {91, u"Object variable or With block variable not set"},
+      {94, u"Invalid use of Null"},
+      {429, u"ActiveX component can't create object"},
+      {12345, u"Application-defined or object-defined error"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.number);
+    EXPECT_EQ(description_of(row.number), Text(row.text));
+  }
+}
+
+TEST(OrDefault, GivesTheResultOrTheFallback) {
+  EXPECT_EQ(or_default(1, [] { return 2; }), 2);
+  EXPECT_EQ(or_default(1, []() -> int { throw RuntimeFailure(5); }), 1);
+  EXPECT_EQ(or_default(1, []() -> int { throw std::bad_alloc(); }), 1);
+  EXPECT_EQ(or_default(1, []() -> int { throw 0; }), 1);
+}
+
+TEST(OrBuiltSoFar, KeepsWhatWasAppended) {
+  EXPECT_EQ(or_built_so_far([](Text& built) { built = u"whole"; }), u"whole");
+  EXPECT_EQ(or_built_so_far([](Text& built) {
+              built += u"first";
+              throw RuntimeFailure(5);
+            }),
+            u"first");
+  EXPECT_EQ(or_built_so_far([](Text&) { throw 0; }), u"");
+}
+
+TEST(OrReported, ReportsOnlyWhatWasThrown) {
+  int reports = 0;
+  const auto report = [&reports](const FailureDetail& detail) {
+    ++reports;
+    EXPECT_EQ(detail.number, 13);
+  };
+  EXPECT_TRUE(or_reported([] { return true; }, report));
+  EXPECT_FALSE(or_reported([] { return false; }, report));
+  EXPECT_EQ(reports, 0);
+  EXPECT_FALSE(or_reported([]() -> bool { throw RuntimeFailure(13); }, report));
+  EXPECT_EQ(reports, 1);
+}
+
+TEST(OrReported, DropsAFailingReport) {
+  bool asked = false;
+  const auto failing = [&asked](const FailureDetail&) {
+    asked = true;
+    throw RuntimeFailure(429);
+  };
+  EXPECT_FALSE(or_reported([]() -> bool { throw std::bad_alloc(); }, failing));
+  EXPECT_TRUE(asked);
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,154 @@
+#include "frame/text.h"
+
+#include <gtest/gtest.h>
+
+namespace qvr::tests {
+namespace {
+
+TEST(Fold, FollowsSimpleUpperCaseMapping) {
+  struct Row {
+    const char* name;
+    char16_t unit, folded;
+  };
+  constexpr Row kRows[] = {
+      {"lower ascii", u'a', u'A'},        {"last lower ascii", u'z', u'Z'},   {"upper ascii", u'A', u'A'},
+      {"before a", u'`', u'`'},           {"behind z", u'{', u'{'},           {"digit", u'7', u'7'},
+      {"a acute", u'\u00e1', u'\u00c1'},  {"n tilde", u'\u00f1', u'\u00d1'},  {"u diaeresis", u'\u00fc', u'\u00dc'},
+      {"division sign", u'\u00f7', u'\u00f7'},                                {"y diaeresis", u'\u00ff', u'\u0178'},
+      {"sharp s has none of one unit", u'\u00df', u'\u00df'},                 {"s caron", u'\u0161', u'\u0160'},
+      {"greek alpha", u'\u03b1', u'\u0391'}, {"final sigma", u'\u03c2', u'\u03a3'},
+      {"cyrillic ya", u'\u044f', u'\u042f'}, {"surrogate", u'\xd801', u'\xd801'}, {"last unit", u'\xffff', u'\xffff'},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(fold(row.unit), row.folded);
+    EXPECT_EQ(fold(row.folded), row.folded);
+  }
+}
+
+TEST(Fold, IsSettledAfterOnce) {
+  for (std::uint32_t unit = 0; unit <= 0xFFFF; ++unit) {
+    const char16_t once = fold(static_cast<char16_t>(unit));
+    ASSERT_EQ(fold(once), once) << "unit " << unit;
+  }
+}
+
+TEST(EqualNoCase, ComparesWholeTexts) {
+  struct Row {
+    const char* name;
+    TextView a, b;
+    bool equal;
+  };
+  constexpr Row kRows[] = {
+      {"both empty", u"", u"", true},
+      {"empty and not", u"", u"a", false},
+      {"case", u"Jet", u"jET", true},
+      {"accents and case", u"\u00d1and\u00da", u"\u00f1AND\u00fa", true},
+      {"accent is no case", u"a", u"\u00e1", false},
+      {"prefix", u"abc", u"ab", false},
+      {"trailing blank", u"abc", u"abc ", false},
+      {"sharp s is not ss", u"\u00df", u"SS", false},
+      {"zero units count", TextView(u"a\0b", 3), TextView(u"A\0c", 3), false},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(equal_no_case(row.a, row.b), row.equal);
+    EXPECT_EQ(equal_no_case(row.b, row.a), row.equal);
+  }
+}
+
+TEST(StartsWithNoCase, LooksAtTheBeginningOnly) {
+  EXPECT_TRUE(starts_with_no_case(u"EVITARtransaccion rest", u"EvitarTransaccion"));
+  EXPECT_TRUE(starts_with_no_case(u"abc", u""));
+  EXPECT_TRUE(starts_with_no_case(u"abc", u"ABC"));
+  EXPECT_FALSE(starts_with_no_case(u"ab", u"abc"));
+  EXPECT_FALSE(starts_with_no_case(u" abc", u"abc"));
+  EXPECT_FALSE(starts_with_no_case(u"", u"a"));
+}
+
+TEST(ReplaceAll, GoesLeftToRightOverTheOriginal) {
+  struct Row {
+    const char* name;
+    TextView text, what, by, result;
+  };
+  constexpr Row kRows[] = {
+      {"none", u"abc", u"x", u"y", u"abc"},
+      {"every one", u"a||b||", u"||", u"\r\n", u"a\r\nb\r\n"},
+      {"three bars", u"|||", u"||", u"-", u"-|"},
+      {"not what it wrote", u"aa", u"a", u"aa", u"aaaa"},
+      {"overlapping", u"aaa", u"aa", u"b", u"ba"},
+      {"exact in case", u"aA", u"a", u"b", u"bA"},
+      {"by nothing", u"axbx", u"x", u"", u"ab"},
+      {"empty what", u"abc", u"", u"x", u"abc"},
+      {"empty text", u"", u"a", u"b", u""},
+      {"whole text", u"ab", u"ab", u"", u""},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(replace_all(row.text, row.what, row.by), Text(row.result));
+  }
+}
+
+TEST(DecimalDigits, CoverTheWholeRange) {
+  EXPECT_EQ(decimal(0), u"0");
+  EXPECT_EQ(decimal(-7), u"-7");
+  EXPECT_EQ(decimal(INT32_MIN), u"-2147483648");
+  EXPECT_EQ(decimal(INT64_MAX), u"9223372036854775807");
+  EXPECT_EQ(decimal(INT64_MIN), u"-9223372036854775808");
+}
+
+TEST(Join, KeepsOrderAndBlanks) {
+  EXPECT_EQ(join({}), u"");
+  EXPECT_EQ(join({u" TOP ", u"", u"10", u" "}), u" TOP 10 ");
+}
+
+TEST(AbbreviateForDisplay, LeavesFiveHundredUnitsAlone) {
+  EXPECT_EQ(abbreviate_for_display(u""), u"");
+  const Text lines = Text(249, u'a') + u"\r\n" + Text(249, u'b');
+  ASSERT_EQ(lines.size(), 500u);
+  EXPECT_EQ(abbreviate_for_display(lines), lines);
+}
+
+TEST(AbbreviateForDisplay, KeepsBothEndsOfALongerText) {
+  const Text text = Text(250, u'a') + u"x" + Text(250, u'b');
+  EXPECT_EQ(abbreviate_for_display(text), Text(250, u'a') + u"\r\n\r\n...\r\n\r\n" + Text(250, u'b'));
+}
+
+TEST(AbbreviateForDisplay, WritesLineBreaksAsBlanksBeforeItCuts) {
+  const Text text = u"one\r\ntwo" + Text(600, u'-') + u"three\r\nfour";
+  const Text expected =
+      u"one two" + Text(243, u'-') + u"\r\n\r\n...\r\n\r\n" + Text(240, u'-') + u"three four";
+  EXPECT_EQ(abbreviate_for_display(text), expected);
+}
+
+TEST(AbbreviateForDisplay, RepeatsTheMiddleWhenOneLineIsShorterThanBothEnds) {
+  Text breaks;
+  for (int i = 0; i < 251; ++i) breaks += kLineBreak;
+  EXPECT_EQ(abbreviate_for_display(breaks), Text(250, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(250, u' '));
+  Text more;
+  for (int i = 0; i < 260; ++i) more += kLineBreak;
+  more.replace(0, 2, u"\n\r");
+  EXPECT_EQ(abbreviate_for_display(more),
+            u"\n\r" + Text(248, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(250, u' '));
+}
+
+TEST(AbbreviateForDisplay, TakesWholeShortLineTwice) {
+  Text text;
+  for (int i = 0; i < 250; ++i) text += kLineBreak;
+  text += u"\n";  // 501 units, 251 once in one line
+  EXPECT_EQ(abbreviate_for_display(text), Text(250, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(249, u' ') + u"\n");
+}
+
+TEST(Wipe, EmptiesAndOverwrites) {
+  Text secret = u"a password longer than what a text keeps inside itself";
+  const char16_t* units = secret.data();
+  const std::size_t size = secret.size();
+  wipe(secret);
+  EXPECT_TRUE(secret.empty());
+  ASSERT_EQ(secret.data(), units);  // the same memory, so what was in it can be looked at
+  secret.resize(size, u'\0');
+  EXPECT_EQ(secret, Text(size, u'\0'));
+}
+
+}  // namespace
+}  // namespace qvr::tests

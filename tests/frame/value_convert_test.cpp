@@ -1,0 +1,146 @@
+#include "frame/value_convert.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "frame/failure.h"
+#include "support/describe.h"
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+namespace {
+
+// The number of the failure that the body ends in; 0 for none.
+std::int32_t failure_of(const std::function<void()>& body) {
+  try {
+    body();
+    return 0;
+  } catch (const RuntimeFailure& failure) {
+    return failure.detail().number;
+  }
+}
+
+Value nothing() { return ObjectRef(); }
+Value two_items() { return Array{{Value(1), Value(2)}, 0, 1}; }
+
+struct Row {
+  const char* name;
+  Value value;
+  TextView text;
+  double number;
+};
+
+std::vector<Row> rows() {
+  return {
+      {"Empty", Empty{}, u"", 0},
+      {"Boolean true", true, u"True", -1},
+      {"Boolean false", false, u"False", 0},
+      {"Byte", std::uint8_t{255}, u"255", 255},
+      {"Integer", std::int16_t{-32768}, u"-32768", -32768},
+      {"Long", std::int32_t{2147483647}, u"2147483647", 2147483647},
+      {"64 bits", std::int64_t{-5000000000}, u"-5000000000", -5000000000.0},
+      {"Single", 0.1f, u"0.1", static_cast<double>(0.1f)},
+      {"Double", 2.5, u"2.5", 2.5},
+      {"Double of more digits than people read", 0.1 + 0.2, u"0.3", 0.1 + 0.2},
+      {"Currency", Currency{-12345}, u"-1.2345", -1.2345},
+      {"Decimal", Decimal{0, 0, 25, 2, false}, u"0.25", 0.25},
+      {"Date", Date{36526}, u"01/01/2000", 36526},
+      {"Date with time", Date{36526.75}, u"01/01/2000 18:00:00", 36526.75},
+      {"String of a number", u"12.5", u"12.5", 12.5},
+  };
+}
+
+TEST(ValueConvert, EachKindAsTextAndNumber) {
+  TestThread thread;
+  for (const Row& row : rows()) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(to_text(row.value), Text(row.text));
+    EXPECT_EQ(to_number(row.value), row.number);
+  }
+}
+
+TEST(ValueConvert, NumbersAreWrittenAndReadByTheLocale) {
+  TestThread thread;
+  thread.locale.decimal = u',';
+  EXPECT_EQ(to_text(2.5), u"2,5");
+  EXPECT_EQ(to_text(0.1f), u"0,1");
+  EXPECT_EQ(to_text(Currency{-5}), u"-0,0005");
+  EXPECT_EQ(to_text(Decimal{0, 0, 15, 1, true}), u"-1,5");
+  EXPECT_EQ(to_text(std::int32_t{1000}), u"1000");
+  EXPECT_EQ(to_number(u"2,5"), 2.5);
+  EXPECT_EQ(failure_of([] { to_number(u"2.5"); }), 13);
+}
+
+TEST(ValueConvert, DatesAreWrittenAndReadByTheLocale) {
+  TestThread thread;
+  thread.locale.day_first = false;
+  thread.locale.date_separator = u'-';
+  EXPECT_EQ(to_text(Date{36557}), u"02-01-2000");
+  EXPECT_EQ(to_date(u"02-01-2000").days, 36557);
+  thread.locale.day_first = true;
+  EXPECT_EQ(to_date(u"02-01-2000").days, 36527);
+}
+
+TEST(ValueConvert, WhatHasNoTextFails) {
+  TestThread thread;
+  EXPECT_EQ(failure_of([] { to_text(Null{}); }), 94);
+  EXPECT_EQ(failure_of([] { to_text(Missing{}); }), 13);
+  EXPECT_EQ(failure_of([] { to_text(nothing()); }), 13);
+  EXPECT_EQ(failure_of([] { to_text(two_items()); }), 13);
+  EXPECT_EQ(to_text(ErrorValue{static_cast<std::int32_t>(0x800A000D)}), u"Error 13");
+}
+
+TEST(ValueConvert, WhatHasNoNumberFails) {
+  TestThread thread;
+  EXPECT_EQ(failure_of([] { to_number(Null{}); }), 94);
+  EXPECT_EQ(failure_of([] { to_number(Missing{}); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(nothing()); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(two_items()); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(ErrorValue{13}); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(u""); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(u"abc"); }), 13);
+  EXPECT_EQ(failure_of([] { to_number(u"12abc"); }), 13);
+}
+
+TEST(ValueConvert, TruthIsWhatIsNotZero) {
+  TestThread thread;
+  struct Truth {
+    const char* name;
+    Value value;
+    bool truth;
+  };
+  const Truth kTruths[] = {
+      {"Boolean", true, true},        {"not", false, false},           {"Empty", Empty{}, false},
+      {"zero", std::int32_t{0}, false}, {"one", std::int16_t{1}, true}, {"minus one", -1.0, true},
+      {"a little", 0.001, true},      {"no amount", Currency{0}, false}, {"day zero", Date{0}, false},
+      {"another day", Date{1}, true}, {"true in letters", u"tRuE", true}, {"false in letters", u"FALSE", false},
+      {"number in digits", u"2", true}, {"zero in digits", u"0", false}, {"Decimal", Decimal{0, 0, 1, 28, false}, true},
+  };
+  for (const Truth& row : kTruths) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(to_truth(row.value), row.truth);
+  }
+  EXPECT_EQ(failure_of([] { to_truth(Null{}); }), 94);
+  EXPECT_EQ(failure_of([] { to_truth(u"yes"); }), 13);
+  EXPECT_EQ(failure_of([] { to_truth(nothing()); }), 13);
+}
+
+TEST(ValueConvert, DatesComeFromDatesTextsAndNumbers) {
+  TestThread thread;
+  EXPECT_EQ(to_date(Date{1.5}).days, 1.5);
+  EXPECT_EQ(to_date(36526.25).days, 36526.25);
+  EXPECT_EQ(to_date(std::int32_t{2}).days, 2);
+  EXPECT_EQ(to_date(Empty{}).days, 0);
+  EXPECT_EQ(to_date(u"31/12/1999").days, 36525);
+  EXPECT_EQ(to_date(u"31/12/1999 06:00:00").days, 36525.25);
+  EXPECT_EQ(failure_of([] { to_date(u"31/02/1999"); }), 13);
+  EXPECT_EQ(failure_of([] { to_date(u"abc"); }), 13);
+  EXPECT_EQ(failure_of([] { to_date(Null{}); }), 94);
+  EXPECT_EQ(failure_of([] { to_date(two_items()); }), 13);
+  EXPECT_EQ(failure_of([] { to_date(1e10); }), 6);
+  EXPECT_EQ(failure_of([] { to_date(Date{-700000}); }), 6);
+}
+
+}  // namespace
+}  // namespace qvr::tests

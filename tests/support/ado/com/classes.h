@@ -1,0 +1,18 @@
+// The classes that can be created by identifier.
+#pragma once
+
+#include <span>
+
+#include "support/ado/com/dispatch_object.h"
+
+namespace qvr::tests::com {
+
+struct Class {
+  GUID id;
+  TextView name;  // after "ADODB."
+  Ref<DispatchObject> (*create)();
+};
+
+std::span<const Class> classes();
+
+}  // namespace qvr::tests::com

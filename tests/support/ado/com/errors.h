@@ -1,0 +1,13 @@
+// The Errors collection of a connection.
+#pragma once
+
+#include <memory>
+
+#include "support/ado/ado_session.h"
+#include "support/ado/com/collection.h"
+
+namespace qvr::tests::com {
+
+Ref<Collection> make_errors(std::shared_ptr<AdoSession> session);
+
+}  // namespace qvr::tests::com

@@ -1,0 +1,113 @@
+#include "support/ado/com/parameter.h"
+
+#include <algorithm>
+#include <array>
+
+#include "support/ado/ado_failure.h"
+
+namespace qvr::tests::com {
+namespace {
+
+constexpr TextView kSource = u"ADODB.Parameter";
+constexpr std::int32_t kInput = 1;
+
+// Values of DataTypeEnum with what a value of that type is held as, and whether it needs a size.
+struct DataType {
+  std::int32_t number;
+  VARTYPE held_as;
+  bool sized = false;
+};
+
+constexpr std::array kDataTypes = {
+    DataType{2, VT_I2},
+    DataType{3, VT_I4},
+    DataType{4, VT_R4},
+    DataType{5, VT_R8},
+    DataType{6, VT_CY},
+    DataType{7, VT_DATE},
+    DataType{8, VT_BSTR},
+    DataType{11, VT_BOOL},
+    DataType{14, VT_R8},
+    DataType{16, VT_I2},
+    DataType{17, VT_UI1},
+    DataType{18, VT_I4},
+    DataType{19, VT_I8},
+    DataType{20, VT_I8},
+    DataType{129, VT_BSTR, true},
+    DataType{130, VT_BSTR, true},
+    DataType{131, VT_R8},
+    DataType{133, VT_DATE},
+    DataType{134, VT_DATE},
+    DataType{135, VT_DATE},
+    DataType{200, VT_BSTR, true},
+    DataType{201, VT_BSTR, true},
+    DataType{202, VT_BSTR, true},
+    DataType{203, VT_BSTR, true},
+};
+
+const DataType* data_type(std::int32_t number) {
+  const auto found = std::find_if(kDataTypes.begin(), kDataTypes.end(),
+                                  [&](const DataType& each) { return each.number == number; });
+  return found == kDataTypes.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+Parameter::Parameter(const Call& call)
+    : name_(call.text_or_none(0)),
+      type_(call.integer_or(1, 0)),
+      direction_(call.integer_or(2, kInput)),
+      size_(call.integer_or(3, 0)) {
+  if (call.given(4)) set_value(call.raw(4));
+}
+
+bool Parameter::is_input() const { return direction_ == kInput; }
+
+bool Parameter::defined() const {
+  const DataType* type = data_type(type_);
+  return type_ != 0 && (type == nullptr || !type->sized || size_ > 0);
+}
+
+// The value takes the parameter's type as soon as there is one; a text may not be longer than the size.
+void Parameter::set_value(const VARIANT& argument) {
+  Value value = to_value(argument);
+  const DataType* type = data_type(type_);
+  if (type == nullptr || value.is<Null>() || value.is<Empty>()) {
+    value_ = std::move(value);
+    return;
+  }
+  OwnedVariant direct, converted;
+  follow(argument, direct);
+  if (FAILED(VariantChangeType(&converted, &direct, 0, type->held_as))) fail_ado(ado_number::kDataConversion, kSource);
+  value = to_value(converted);
+  const Text* text = value.as<Text>();
+  if (text != nullptr && size_ > 0 && text->size() > static_cast<std::size_t>(size_)) {
+    fail_ado(ado_number::kDataConversion, kSource);
+  }
+  value_ = std::move(value);
+}
+
+const Members& Parameter::members() const {
+  using T = Table<Parameter>;
+  static const Members table = {
+      T::get(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) { call.answer(self.value_); }),
+      T::put(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) { self.set_value(call.raw(0)); }),
+      T::get(1, u"Name", [](Parameter& self, Call& call) { call.answer(self.name_); }),
+      T::put(1, u"Name", [](Parameter& self, Call& call) { self.name_ = call.text(0); }),
+      T::get(2, u"Type", [](Parameter& self, Call& call) { call.answer(self.type_); }),
+      T::put(2, u"Type", [](Parameter& self, Call& call) { self.type_ = call.integer(0); }),
+      T::get(3, u"Direction", [](Parameter& self, Call& call) { call.answer(self.direction_); }),
+      T::put(3, u"Direction", [](Parameter& self, Call& call) { self.direction_ = call.integer(0); }),
+      T::get(4, u"Size", [](Parameter& self, Call& call) { call.answer(self.size_); }),
+      T::put(4, u"Size", [](Parameter& self, Call& call) { self.size_ = call.integer(0); }),
+      T::get(5, u"Precision", [](Parameter& self, Call& call) { call.answer(self.precision_); }),
+      T::put(5, u"Precision", [](Parameter& self, Call& call) { self.precision_ = call.integer(0); }),
+      T::get(6, u"NumericScale", [](Parameter& self, Call& call) { call.answer(self.scale_); }),
+      T::put(6, u"NumericScale", [](Parameter& self, Call& call) { self.scale_ = call.integer(0); }),
+      T::get(7, u"Attributes", [](Parameter& self, Call& call) { call.answer(self.attributes_); }),
+      T::put(7, u"Attributes", [](Parameter& self, Call& call) { self.attributes_ = call.integer(0); }),
+  };
+  return table;
+}
+
+}  // namespace qvr::tests::com

@@ -1,0 +1,92 @@
+#include "support/fake_files.h"
+
+#include <algorithm>
+
+#include "frame/failure.h"
+
+namespace qvr::tests {
+namespace {
+
+[[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kFile); }
+
+Files& real() { return system_platform().files; }
+
+class MemoryOutput final : public OutputFile {
+ public:
+  MemoryOutput(std::string& bytes, std::optional<std::size_t> room, bool close_fails)
+      : bytes_(bytes), room_(room), close_fails_(close_fails) {}
+
+  void write(std::string_view bytes) override {
+    const std::size_t room = room_ ? *room_ - std::min(*room_, bytes_.size()) : bytes.size();
+    bytes_ += bytes.substr(0, room);
+    if (room < bytes.size()) refuse();
+  }
+
+  void close() override {
+    if (close_fails_) refuse();
+  }
+
+ private:
+  std::string& bytes_;
+  std::optional<std::size_t> room_;
+  bool close_fails_;
+};
+
+}  // namespace
+
+bool FakeFiles::any_entry(TextView path, std::int32_t attributes) {
+  ++searches;
+  if (search_fails) refuse();
+  return in_memory_ ? memory.contains(Text(path)) : real().any_entry(path, attributes);
+}
+
+std::unique_ptr<InputFile> FakeFiles::open(TextView path) {
+  ++opened;
+  if (input) return input();
+  if (!in_memory_) return real().open(path);
+  const auto found = memory.find(Text(path));
+  if (found == memory.end()) refuse();
+  return std::make_unique<MemoryInput>(found->second);
+}
+
+std::unique_ptr<OutputFile> FakeFiles::create(TextView path) {
+  ++created;
+  if (!in_memory_) return real().create(path);
+  std::string& bytes = memory[Text(path)];
+  bytes.clear();
+  return std::make_unique<MemoryOutput>(bytes, writable_bytes, close_fails);
+}
+
+std::string FakeFiles::to_system_page(TextView text) {
+  if (!single_byte_page) return real().to_system_page(text);
+  std::string bytes;
+  for (char16_t unit : text) {
+    if (unit > 0xFF) refuse();
+    bytes.push_back(static_cast<char>(unit));
+  }
+  return bytes;
+}
+
+Text FakeFiles::from_system_page(std::string_view bytes) {
+  if (!single_byte_page) return real().from_system_page(bytes);
+  Text text;
+  for (char byte : bytes) text.push_back(static_cast<unsigned char>(byte));
+  return text;
+}
+
+std::size_t MemoryInput::read(std::span<char> buffer) {
+  const std::size_t count = std::min(buffer.size(), bytes_.size() - at_);
+  std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(at_), count, buffer.begin());
+  at_ += count;
+  return count;
+}
+
+std::size_t EndlessLine::read(std::span<char> buffer) {
+  const std::size_t count = std::min(buffer.size(), left_);
+  std::fill_n(buffer.begin(), count, 'a');
+  left_ -= count;
+  taken_ += count;
+  return count;
+}
+
+}  // namespace qvr::tests

@@ -1,0 +1,21 @@
+// A locale whose separators and date order a test chooses.
+#pragma once
+
+#include "frame/platform.h"
+
+namespace qvr::tests {
+
+class FakeLocale final : public Locale {
+ public:
+  // Three numbers in this locale's order, "/" or its own separator between them, and perhaps "hh:mm:ss" behind a blank.
+  std::optional<Date> parse_date(TextView text) override;
+  std::optional<double> parse_number(TextView text) override;  // the whole text, without thousands separators
+  Text date_text(Date date) override;
+  char16_t decimal_separator() override { return decimal; }
+
+  char16_t decimal = u'.';
+  char16_t date_separator = u'/';
+  bool day_first = true;
+};
+
+}  // namespace qvr::tests

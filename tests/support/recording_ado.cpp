@@ -1,0 +1,84 @@
+#include "support/recording_ado.h"
+
+namespace qvr::tests {
+namespace {
+
+class RecordingConnection final : public services::AdoConnection {
+ public:
+  explicit RecordingConnection(RecordingAdo& ado) : ado_(ado) {}
+  ~RecordingConnection() override { ado_.log().add("Connection released"); }
+  void set_connection_string(TextView text) override { ado_.call("Connection.ConnectionString", text); }
+  void open() override { ado_.call("Connection.Open"); }
+  void begin_trans() override { ado_.call("Connection.BeginTrans"); }
+  void commit_trans() override { ado_.call("Connection.CommitTrans"); }
+  void rollback_trans() override { ado_.call("Connection.RollbackTrans"); }
+  void close() override { ado_.call("Connection.Close"); }
+  std::vector<services::AdoError> errors() override { return ado_.errors(); }
+
+ private:
+  RecordingAdo& ado_;
+};
+
+class RecordingCommand final : public services::AdoCommand {
+ public:
+  explicit RecordingCommand(RecordingAdo& ado) : ado_(ado) {}
+  ~RecordingCommand() override { ado_.log().add("Command released"); }
+  void set_active_connection(services::AdoConnection&) override { ado_.call("Command.ActiveConnection"); }
+  void set_command_type(services::CommandType type) override {
+    ado_.call("Command.CommandType", decimal(static_cast<std::int32_t>(type)));
+  }
+  void set_command_text(TextView text) override {
+    text_ = text;
+    ado_.call("Command.CommandText", text);
+  }
+  void set_command_timeout(std::int32_t seconds) override { ado_.call("Command.CommandTimeout", decimal(seconds)); }
+  void execute() override { ado_.call("Command.Execute", text_); }
+
+ private:
+  RecordingAdo& ado_;
+  Text text_;
+};
+
+}  // namespace
+
+std::unique_ptr<services::AdoConnection> RecordingAdo::new_connection() {
+  call("new Connection");
+  return std::make_unique<RecordingConnection>(*this);
+}
+
+std::unique_ptr<services::AdoCommand> RecordingAdo::new_command() {
+  call("new Command");
+  return std::make_unique<RecordingCommand>(*this);
+}
+
+void RecordingAdo::fail(std::string operation, int occurrence, FailureDetail failure,
+                        std::vector<services::AdoError> errors) {
+  planned_.emplace(std::move(operation), Planned{occurrence, std::move(failure), std::move(errors)});
+}
+
+void RecordingAdo::call(const std::string& operation) {
+  log_.add(operation);
+  count(operation);
+}
+
+void RecordingAdo::call(const std::string& operation, TextView argument) {
+  log_.add(operation, argument);
+  count(operation);
+}
+
+std::vector<services::AdoError> RecordingAdo::errors() {
+  count("Connection.Errors");
+  return errors_;
+}
+
+void RecordingAdo::count(const std::string& operation) {
+  const int occurrence = ++calls_[operation];
+  const auto [first, last] = planned_.equal_range(operation);
+  for (auto plan = first; plan != last; ++plan) {
+    if (plan->second.occurrence != occurrence) continue;
+    errors_ = plan->second.errors;
+    throw RuntimeFailure(plan->second.failure);
+  }
+}
+
+}  // namespace qvr::tests

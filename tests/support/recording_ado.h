@@ -1,0 +1,47 @@
+// ADO that logs every call and fails where it is told to. Names of operations: "new Connection",
+// "Connection.ConnectionString", ".Open", ".BeginTrans", ".CommitTrans", ".RollbackTrans", ".Close", ".Errors",
+// "new Command", "Command.ActiveConnection", ".CommandType", ".CommandText", ".CommandTimeout", ".Execute".
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/failure.h"
+#include "services/ado.h"
+#include "support/call_log.h"
+
+namespace qvr::tests {
+
+class RecordingAdo final : public services::Ado {
+ public:
+  explicit RecordingAdo(CallLog& log) : log_(log) {}
+  std::unique_ptr<services::AdoConnection> new_connection() override;
+  std::unique_ptr<services::AdoCommand> new_command() override;
+
+  // The operation's n-th call (counted from 1) fails with this; the connection then tells these errors.
+  void fail(std::string operation, int occurrence, FailureDetail failure, std::vector<services::AdoError> errors = {});
+
+  // For the recording objects.
+  void call(const std::string& operation);
+  void call(const std::string& operation, TextView argument);
+  std::vector<services::AdoError> errors();
+  CallLog& log() { return log_; }
+
+ private:
+  struct Planned {
+    int occurrence;
+    FailureDetail failure;
+    std::vector<services::AdoError> errors;
+  };
+
+  void count(const std::string& operation);
+
+  CallLog& log_;
+  std::map<std::string, int> calls_;
+  std::multimap<std::string, Planned> planned_;
+  std::vector<services::AdoError> errors_;
+};
+
+}  // namespace qvr::tests

@@ -1,0 +1,66 @@
+#include "support/test_thread.h"
+
+#include "frame/global.h"
+
+namespace qvr::tests {
+namespace {
+
+thread_local TestThread* current = nullptr;
+
+// The state owns what it is given, the test keeps the recorder: these stand between.
+class ReportOf final : public services::ErrorReport {
+ public:
+  explicit ReportOf(RecordingErrorReport& recorder) : recorder_(recorder) {}
+  void Informar(const services::ErrorNotice& notice) override { recorder_.Informar(notice); }
+
+ private:
+  RecordingErrorReport& recorder_;
+};
+
+class AdoOf final : public services::Ado {
+ public:
+  explicit AdoOf(RecordingAdo& recorder) : recorder_(recorder) {}
+  std::unique_ptr<services::AdoConnection> new_connection() override { return recorder_.new_connection(); }
+  std::unique_ptr<services::AdoCommand> new_command() override { return recorder_.new_command(); }
+
+ private:
+  RecordingAdo& recorder_;
+};
+
+std::unique_ptr<services::TextProtection> protection_of_test(const Platform&) {
+  ++current->protections_made;
+  return current->make_text_protection();
+}
+
+std::unique_ptr<services::ErrorReport> report_of_test(const Platform&) { return current->make_error_report(); }
+
+std::unique_ptr<services::Ado> ado_of_test(const Platform&) { return std::make_unique<AdoOf>(current->ado); }
+
+std::unique_ptr<ThreadState> state_over(const Platform& platform) {
+  return std::make_unique<ThreadState>(Environment{platform, protection_of_test, report_of_test, ado_of_test});
+}
+
+}  // namespace
+
+TestThread::TestThread()
+    : make_text_protection([] { return std::make_unique<CheapProtection>(); }),
+      make_error_report([this] { return std::make_unique<ReportOf>(report); }),
+      platform_{settings,    user_language, files,      boxes, host_events, locale, system_platform().cryptography,
+                own_module},
+      outer_(std::exchange(current, this)),
+      former_(exchange_thread_state(state_over(platform_))) {}
+
+TestThread::~TestThread() {
+  exchange_thread_state(std::move(former_));
+  current = outer_;
+}
+
+void TestThread::renew() { exchange_thread_state(state_over(platform_)); }
+
+void TestThread::load_language(TextView number) {
+  settings.set_default_language(number);
+  renew();
+  InicializarComun();
+}
+
+}  // namespace qvr::tests
