@@ -23,8 +23,9 @@ TEST(ShortestNumber, WritesDoubles) {
       {2.5, u"2.5"}, {100, u"100"}, {1234567.875, u"1234567.875"}, {0.1 + 0.2, u"0.30000000000000004"},
       {1.0 / 3, u"0.3333333333333333"}, {0.001, u"0.001"}, {0.00001, u"0.00001"}, {0.000012345, u"0.000012345"},
       {9.99e-6, u"9.99E-06"}, {1e-7, u"1E-07"}, {999999999999999.0, u"999999999999999"}, {1e15, u"1E+15"},
-      {-1e15, u"-1E+15"}, {123456789012345680.0, u"1.2345678901234568E+17"}, {9007199254740992.0, u"9.007199254740992E+15"},
-      {1e300, u"1E+300"}, {1.5e-300, u"1.5E-300"}, {5e-324, u"5E-324"}, {std::numeric_limits<double>::max(), u"1.7976931348623157E+308"},
+      {-1e15, u"-1E+15"}, {123456789012345680.0, u"1.2345678901234568E+17"},
+      {9007199254740992.0, u"9.007199254740992E+15"}, {1e300, u"1E+300"}, {1.5e-300, u"1.5E-300"},
+      {5e-324, u"5E-324"}, {std::numeric_limits<double>::max(), u"1.7976931348623157E+308"},
       {std::numeric_limits<double>::min(), u"2.2250738585072014E-308"},
   };
   for (const Row& row : kRows) {
@@ -39,7 +40,8 @@ TEST(ShortestNumber, WritesSinglesWithTheirOwnPrecision) {
     TextView text;
   };
   constexpr Row kRows[] = {
-      {0.0f, u"0"}, {-0.0f, u"0"}, {0.1f, u"0.1"}, {-2.5f, u"-2.5"}, {1.0f / 3, u"0.33333334"}, {16777216.0f, u"16777216"},
+      {0.0f, u"0"}, {-0.0f, u"0"}, {0.1f, u"0.1"}, {-2.5f, u"-2.5"}, {1.0f / 3, u"0.33333334"},
+      {16777216.0f, u"16777216"},
       {0.00001f, u"0.00001"}, {1e-6f, u"1E-06"}, {1e15f, u"1E+15"}, {1e20f, u"1E+20"},
       {std::numeric_limits<float>::max(), u"3.4028235E+38"}, {1e-45f, u"1E-45"},
   };
@@ -76,6 +78,8 @@ void expect_shortest_for_random(std::uint32_t seed, int rounds) {
     if (!std::isfinite(number) || number == 0) continue;
     const Text text = shortest_number(number);
     ASSERT_EQ(read_back<Float>(text), number) << "round " << round;
+    // A whole number in plain digits shows all digits before its point, and a single may need fewer to be told apart.
+    if (text.find_first_of(u".E") == Text::npos) continue;
     const std::size_t digits = significant_digits(text);
     if (digits < 2) continue;
     char buffer[64];

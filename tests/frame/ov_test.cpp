@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "frame/platform.h"
+
 namespace qvr::tests {
 namespace {
 
@@ -54,6 +58,15 @@ TEST(Ov, TellsFolderAndFile) {
     EXPECT_EQ(Ov::Path(row.file), Text(row.folder));
     EXPECT_EQ(Ov::PathCompleto(row.file), Text(row.whole));
   }
+}
+
+TEST(Ov, FindsTheFolderOfThisProgram) {
+  const Text file = system_platform().own_module.path();
+  EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::path(file)));
+  const Text folder = Ov::Path(file);
+  EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(folder)));
+  EXPECT_TRUE(Ov::PathCompleto(file).starts_with(folder + u"\\qvr_tests"));
+  EXPECT_TRUE(Ov::PathCompleto(file).ends_with(u".dll"));
 }
 
 }  // namespace

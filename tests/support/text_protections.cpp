@@ -28,7 +28,9 @@ Text CheapProtection::Cifrar(TextView Clave, TextView Texto) {
   Text written(1, u'x');  // an empty text is written, too
   for (char16_t unit : Texto) {
     const unsigned scrambled = static_cast<char16_t>(unit + shift);
-    for (unsigned digit = 0; digit < 4; ++digit) written.push_back(alphabets_[digit % 2][scrambled >> (12 - 4 * digit) & 15]);
+    for (unsigned digit = 0; digit < 4; ++digit) {
+      written.push_back(alphabets_[digit % 2][scrambled >> (12 - 4 * digit) & 15]);
+    }
   }
   return written;
 }
@@ -65,6 +67,8 @@ void FailingProtection::count() {
 
 Text LatinProtection::Cifrar(TextView Clave, TextView Texto) { return moved(inner_.Cifrar(Clave, Texto), kLatin); }
 
-Text LatinProtection::Descifrar(TextView Clave, TextView Texto) { return inner_.Descifrar(Clave, moved(Texto, -kLatin)); }
+Text LatinProtection::Descifrar(TextView Clave, TextView Texto) {
+  return inner_.Descifrar(Clave, moved(Texto, -kLatin));
+}
 
 }  // namespace qvr::tests

@@ -99,7 +99,7 @@ class Call {
     }
     VARIANT returned;
     VariantInit(&returned);
-    const HRESULT called = DispCallFunc(object, static_cast<ULONG_PTR>(member_.slot_offset), CC_STDCALL, VT_HRESULT,
+    const HRESULT called = DispCallFunc(object, static_cast<ULONG_PTR>(member_.slot_offset), CC_STDCALL, VT_ERROR,
                                         count, types.data(), pointers.data(), &returned);
     if (FAILED(called)) return called;
     if (FAILED(returned.scode)) return raise(returned.scode);

@@ -1,4 +1,4 @@
-// Windows and COM headers in the order that they need, and the smart pointer used throughout the automation edge.
+// Windows and COM headers in the order that they need, and the reference used throughout the automation edge.
 #pragma once
 
 #include <windows.h>
@@ -6,10 +6,5 @@
 #include <ocidl.h>
 #include <oleauto.h>
 #include <olectl.h>
-#include <wrl/client.h>
 
-namespace qvr::automation {
-
-using Microsoft::WRL::ComPtr;
-
-}  // namespace qvr::automation
+#include "frame/automation/com_ptr.h"

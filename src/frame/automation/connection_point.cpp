@@ -11,9 +11,7 @@ struct Connections {
   using Item = CONNECTDATA;
   using Stored = std::pair<ComPtr<IUnknown>, DWORD>;
   static CONNECTDATA give(const Stored& sink) noexcept {
-    CONNECTDATA data{nullptr, sink.second};
-    sink.first.CopyTo(&data.pUnk);
-    return data;
+    return {ComPtr<IUnknown>(sink.first).Detach(), sink.second};
   }
 };
 
@@ -22,8 +20,7 @@ struct Points {
   using Item = IConnectionPoint*;
   using Stored = ComPtr<IConnectionPoint>;
   static IConnectionPoint* give(const Stored& point) noexcept {
-    point->AddRef();
-    return point.Get();
+    return ComPtr<IConnectionPoint>(point).Detach();
   }
 };
 
@@ -86,7 +83,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
   *cookie = 0;
   return guarded(E_OUTOFMEMORY, [&] {
     ComPtr<IDispatch> dispatch;
-    void** const out = reinterpret_cast<void**>(dispatch.ReleaseAndGetAddressOf());
+    void** const out = reinterpret_cast<void**>(&dispatch);
     // Script hosts answer to the event interface's own id; some sinks know only IDispatch.
     if (FAILED(sink->QueryInterface(events_, out)) && FAILED(sink->QueryInterface(IID_IDispatch, out))) {
       return CONNECT_E_CANNOTCONNECT;

@@ -107,11 +107,8 @@ struct Put {
     v.vt = VT_DISPATCH, v.pdispVal = nullptr;
     const auto* object = dynamic_cast<const DispatchObject*>(held.get());
     if (object == nullptr) return;
-    v.vt = VT_UNKNOWN, object->object.CopyTo(&v.punkVal);
-    IDispatch* dispatch = nullptr;
-    if (FAILED(object->object->QueryInterface(IID_PPV_ARGS(&dispatch)))) return;
-    v.punkVal->Release();
-    v.vt = VT_DISPATCH, v.pdispVal = dispatch;
+    if (SUCCEEDED(object->object->QueryInterface(IID_PPV_ARGS(&v.pdispVal)))) return;
+    v.vt = VT_UNKNOWN, v.punkVal = ComPtr<IUnknown>(object->object).Detach();
   }
   void operator()(const Array& held) const {
     SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, held.lower, static_cast<ULONG>(held.items.size()));

@@ -112,6 +112,17 @@ TEST_F(IdiomaSimpleTest, TakesTheFirstPositionOfALanguage) {
   EXPECT_EQ(idioma.CI(0), u"first three");
 }
 
+TEST_F(IdiomaSimpleTest, TakesLanguageNumbersOfAnyKind) {
+  const std::vector<Value> numbers = {0.0, Text(u"1"), std::int16_t{3}};
+  EXPECT_TRUE(idioma.CargarEnMemoria(3, numbers, TextTable(1, 3)));
+  EXPECT_EQ(idioma.Idioma(), 3);
+  idioma.Idioma(1);
+  EXPECT_EQ(idioma.Idioma(), 1);
+  std::string list;
+  for (const Value& number : idioma.IdiomasDisponibles()) list += describe(number) + ";";
+  EXPECT_EQ(list, "Double 0;String 1;Integer 3;");
+}
+
 TEST_F(IdiomaSimpleTest, KeepsACopyOfTheCatalogue) {
   TextTable table = catalogue();
   ASSERT_TRUE(idioma.CargarEnMemoria(0, {0, 1, 2, 3}, table));
@@ -176,7 +187,7 @@ TEST_F(IdiomaSimpleTest, ChoosesSingularOrPlural) {
   EXPECT_EQ(idioma.CIsp(1, 5, {}), u"50");
 }
 
-TEST_F(IdiomaSimpleTest, WritingTheLanguageInForceReloadsNothing) {
+TEST_F(IdiomaSimpleTest, WritingTheLanguageInForceChangesNothing) {
   ASSERT_TRUE(load(1));
   idioma.Idioma(8);  // falls back to the one in force
   EXPECT_EQ(idioma.Idioma(), 1);

@@ -1,0 +1,26 @@
+// What the program was asked to do, and where its files are.
+#pragma once
+
+#include <string>
+
+namespace gestion {
+
+struct Setting {
+  std::wstring library;         // the DLL
+  std::wstring folder;          // for the program's own files
+  std::wstring script;          // UTF-8, commands separated by GO lines
+  std::wstring driver = L"SQLite3";
+  bool answer_boxes = false;    // start the program that answers the library's boxes
+  bool unregister = false;      // leave the machine as it was
+  std::wstring database;        // the database file, for this program
+  std::wstring driver_database; // and for the driver, which may live on another system
+};
+
+inline constexpr const wchar_t* kIdentification = L"Gestión 1.0";
+inline constexpr const wchar_t* kParameterFile = L"gestion";
+inline constexpr long kJet = 1;  // an embedded database goes under the number of the embedded engine
+
+// Reads the arguments of the command line; throws with the usage when they make no sense.
+Setting read_setting(int count, wchar_t** arguments);
+
+}  // namespace gestion

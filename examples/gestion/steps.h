@@ -1,0 +1,26 @@
+// The steps of the demonstration; each throws when something is not as it should be.
+#pragma once
+
+#include <string>
+
+#include "business_script.h"
+#include "setting.h"
+
+namespace gestion {
+
+void show_version(const Setting& setting);
+
+// The parameter file from its creation to its refusal.
+void show_parameter_file(const Setting& setting);
+
+// The strings of the parameters in the file; the administrator's is the answer.
+std::wstring show_connection_strings(const Setting& setting);
+
+void show_script(const BusinessScript& script, const std::wstring& connection_string);
+
+// A script with a wrong command, once for each answer to the library's question. Rows that stay are added to `script`.
+void show_failures(const Setting& setting, BusinessScript& script, const std::wstring& connection_string);
+
+void show_rows(const BusinessScript& script, const std::wstring& connection_string);
+
+}  // namespace gestion

@@ -1,0 +1,111 @@
+// Every call to ADO fails once: one outcome, one Terminado, nothing left open, and the object works again.
+#include <algorithm>
+
+#include "automation/boxes.h"
+#include "automation/database.h"
+#include "automation/library.h"
+#include "automation/sink.h"
+
+namespace qvr::tests {
+namespace {
+
+struct Failing {
+  const wchar_t* where;
+  const char* calls;  // what reached ADO, in order
+  std::size_t boxes;
+  bool outcome;
+};
+
+std::ostream& operator<<(std::ostream& out, const Failing& row) { return out << narrow(row.where); }
+
+class AdoFailures : public testing::TestWithParam<Failing> {};
+
+constexpr const wchar_t* kCommands = L"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\n";
+
+TEST_P(AdoFailures, EndTheRunInOrder) {
+  const Failing& row = GetParam();
+  Database database;
+  LateObject runner(L"QVRlib21.QVRScr");
+  {
+    Connected connected(runner);
+    Person person(IDNO);
+    FaultyAdo faulty(row.where);
+    const LateAnswer ran = runner.call(L"EjecutarComandos", {L"", 2, kCommands, database.connection_string()});
+    EXPECT_EQ(describe(ran.value.raw()), row.outcome ? "BOOL true" : "BOOL false");
+    EXPECT_EQ(person.boxes().size(), row.boxes);
+    EXPECT_EQ(std::ranges::count_if(connected.events(), [](const auto& e) { return e.starts_with("Terminado"); }), 1);
+    EXPECT_EQ(connected.events().back(), row.outcome ? "Terminado BOOL* true" : "Terminado BOOL* false");
+    std::string calls;
+    for (const char* name : {"Open", "BeginTrans", "CommitTrans", "RollbackTrans", "Close"}) {
+      const std::string all = "\n" + faulty.calls();
+      for (auto at = all.find("\n" + std::string(name)); at != std::string::npos; at = all.find("\n" + std::string(name), at + 1)) {
+        calls += std::string(name) + " ";
+      }
+    }
+    EXPECT_EQ(calls, row.calls) << faulty.calls();
+    EXPECT_EQ(test_ado().can_unload(), S_OK) << "an ADO object was left behind";
+  }
+  EXPECT_EQ(describe(runner.call(L"EjecutarComandos", {L"", 2, L"create table Later(N int)\r\nGO\r\n",
+                                                       database.connection_string()}).value.raw()), "BOOL true");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, AdoFailures,
+    testing::Values(Failing{L"CreateConnection", "", 1, false}, Failing{L"ConnectionString", "", 1, false},
+                    Failing{L"Open", "Open ", 1, false}, Failing{L"BeginTrans", "Open BeginTrans Close ", 1, false},
+                    Failing{L"CreateCommand:1", "Open BeginTrans RollbackTrans Close ", 2, false},
+                    Failing{L"ActiveConnection:2", "Open BeginTrans RollbackTrans Close ", 2, false},
+                    Failing{L"CommandText:1", "Open BeginTrans RollbackTrans Close ", 2, false},
+                    Failing{L"Execute:1", "Open BeginTrans RollbackTrans Close ", 2, false},
+                    Failing{L"Execute:2", "Open BeginTrans RollbackTrans Close ", 2, false},
+                    Failing{L"CommitTrans", "Open BeginTrans CommitTrans RollbackTrans Close ", 1, false},
+                    Failing{L"Close:1", "Open BeginTrans CommitTrans Close Close ", 1, false},
+                    Failing{L"Execute:2,RollbackTrans", "Open BeginTrans RollbackTrans Close ", 3, false},
+                    Failing{L"", "Open BeginTrans CommitTrans Close ", 0, true}),
+    [](const auto& row) {
+      std::string name = narrow(row.param.where);
+      std::ranges::replace_if(name, [](char c) { return c == ':' || c == ','; }, '_');
+      return name.empty() ? "Nowhere" : name;
+    });
+
+TEST(AdoMissing, AnUnregisteredAdoIsReportedAndTheRunnerGoesOnWorking) {
+  Database database;
+  LateObject runner(L"QVRlib21.QVRScr");
+  Connected connected(runner);
+  ASSERT_EQ(test_ado().unregister_it(), S_OK);
+  Person person;
+  const LateAnswer ran = runner.call(L"EjecutarComandos", {L"", 2, kCommands, database.connection_string()});
+  ASSERT_EQ(test_ado().register_it(), S_OK);
+  EXPECT_EQ(describe(ran.value.raw()), "BOOL false");
+  ASSERT_EQ(person.boxes().size(), 1u);
+  EXPECT_EQ(person.boxes()[0].text,
+            L"Error indeterminado\r\n\r\nError 429: ActiveX component can't create object (QVRlib21)\r\n\r\n"
+            L"M\u00e9todo: EjecutarComandos");
+  EXPECT_EQ(connected.events(), std::vector<std::string>{"Terminado BOOL* false"});
+  EXPECT_EQ(describe(runner.call(L"EjecutarComandos", {L"", 2, kCommands, database.connection_string()}).value.raw()),
+            "BOOL true");
+}
+
+TEST(AdoMissing, EveryOtherMemberWorksWithoutItsTypeLibrary) {
+  ASSERT_EQ(test_ado().unregister_it(), S_OK);
+  const LateObject runner(L"QVRlib21.QVRScr");
+  const LateAnswer answer = runner.call(L"UsuarioSegunMotor", {3});
+  ASSERT_EQ(test_ado().register_it(), S_OK);
+  EXPECT_EQ(describe(answer.value.raw()), "BSTR System");
+}
+
+TEST(AdoRefusals, ConnectionStringsThatCannotServe) {
+  LateObject runner(L"QVRlib21.QVRScr");
+  for (const wchar_t* refused : {L"", L"Provider=NoSuchProvider;Data Source=x;", L"Provider=MSDASQL;Data Source=NoSuchDsn;",
+                                 L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=/no/such/folder/x.db;\""}) {
+    SCOPED_TRACE(narrow(refused));
+    Connected connected(runner);
+    Person person;
+    EXPECT_EQ(describe(runner.call(L"EjecutarComandos", {L"", 2, kCommands, refused}).value.raw()), "BOOL false");
+    EXPECT_EQ(person.boxes().size(), 1u);
+    EXPECT_EQ(connected.events(), std::vector<std::string>{"Terminado BOOL* false"});
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,141 @@
+// What scripting hosts send, and what must be refused.
+#include "automation/both.h"
+
+namespace qvr::tests {
+namespace {
+
+struct ArgumentsTest : testing::Test {
+  LateObject cfp{L"QVRlib21.QVRcfp"};
+  LateObject scr{L"QVRlib21.QVRScr"};
+
+  std::string account(Var engine) const { return describe(scr.call(L"UsuarioSegunMotor", {std::move(engine)}).value.raw()); }
+  std::string written(Var value) const {
+    return describe(cfp.call(L"ValorATexto", {L"T", std::move(value)}).value.raw());
+  }
+};
+
+TEST_F(ArgumentsTest, NumbersOfAnyTypeForAnInteger) {
+  EXPECT_EQ(account(2), "BSTR sa");
+  EXPECT_EQ(account(static_cast<short>(3)), "BSTR System");
+  EXPECT_EQ(account(1.0), "BSTR Admin");
+  EXPECT_EQ(account(L"2"), "BSTR sa");
+  EXPECT_EQ(account(Var()), "BSTR ");
+  EXPECT_EQ(account(true), "BSTR ");
+}
+
+TEST_F(ArgumentsTest, NumbersForAText) {
+  const LateAnswer answer = cfp.call(L"TextoAValor", {L"T", 12});
+  EXPECT_EQ(describe(answer.value.raw()), "BSTR 12");
+  EXPECT_EQ(describe(cfp.call(L"TextoAValor", {L"T", true}).value.raw()), "BSTR True");
+}
+
+TEST_F(ArgumentsTest, VariablesByReference) {
+  Var engine(2), text_engine(L"3");
+  long number = 1;
+  short narrow_number = 2;
+  Bstr text(L"3");
+  EXPECT_EQ(account(Var::by_reference(engine)), "BSTR sa");
+  EXPECT_EQ(account(Var::by_reference(text_engine)), "BSTR System");
+  EXPECT_EQ(account(Var::by_reference(number)), "BSTR Admin");
+  EXPECT_EQ(account(Var::by_reference(narrow_number)), "BSTR sa");
+  EXPECT_EQ(account(Var::by_reference(*&text)), "BSTR System");
+}
+
+TEST_F(ArgumentsTest, ReferencesOfReferences) {
+  Var engine(2);
+  Var once = Var::by_reference(engine);
+  Var twice = Var::by_reference(once);
+  EXPECT_EQ(account(Var::by_reference(twice)), "BSTR sa");
+  EXPECT_EQ(written(Var::by_reference(twice)), "BSTR 2");
+}
+
+TEST_F(ArgumentsTest, AVariantThatRefersToItselfIsRefused) {
+  Var loop;
+  loop.raw().vt = VT_BYREF | VT_VARIANT;
+  loop.raw().pvarVal = &loop.raw();
+  const LateAnswer answer = scr.call(L"UsuarioSegunMotor", {loop});
+  EXPECT_EQ(answer.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(answer.wrong_argument, 0u);
+  loop.raw().vt = VT_EMPTY;
+}
+
+TEST_F(ArgumentsTest, UnconvertibleArgumentsAreNamedByTheirIndex) {
+  const LateAnswer last = cfp.call(L"Crear", {L"id", L"folder", Var::null()});
+  EXPECT_EQ(last.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(last.wrong_argument, 0u);
+  const LateAnswer first = cfp.call(L"Crear", {Var::null(), L"folder", L"name"});
+  EXPECT_EQ(first.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(first.wrong_argument, 2u);
+  EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {L"dos"}).result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {3e9}).result, DISP_E_OVERFLOW);
+}
+
+TEST_F(ArgumentsTest, WrongCounts) {
+  EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {}).result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {1, 2}).result, DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(cfp.get(L"Provider", {1}).result, DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {Var::missing()}).result, DISP_E_PARAMNOTOPTIONAL);
+}
+
+TEST_F(ArgumentsTest, NamedArgumentsInAnyOrder) {
+  const LateAnswer answer = cfp.call_named(L"ValorATexto", {L"valor", L"TIPOTNFL"}, {2.5, L"N"});
+  EXPECT_EQ(describe(answer.value.raw()), "BSTR 2.5");
+  const LateAnswer mixed = cfp.call_named(L"ValorATexto", {L"Valor"}, {2.5, L"N"});
+  EXPECT_EQ(describe(mixed.value.raw()), "BSTR 2.5");
+  EXPECT_EQ(cfp.call_named(L"ValorATexto", {L"Otro"}, {2.5, L"N"}).result, DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(cfp.call_named(L"ValorATexto", {L"TipoTNFL"}, {L"N", 2.5}).result, DISP_E_PARAMNOTFOUND);
+}
+
+TEST_F(ArgumentsTest, UnknownMembersIdsAndFlags) {
+  EXPECT_EQ(cfp.call(L"NoExiste").result, DISP_E_UNKNOWNNAME);
+  DISPPARAMS none{};
+  EXPECT_EQ(cfp.invoke(12345, DISPATCH_METHOD, none).result, DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(cfp.put(L"Provider", L"x").result, DISP_E_MEMBERNOTFOUND) << "read-only";
+  EXPECT_EQ(cfp.get()->Invoke(0x68030009, IID_IUnknown, 0, DISPATCH_PROPERTYGET, &none, nullptr, nullptr, nullptr),
+            DISP_E_UNKNOWNINTERFACE);
+  EXPECT_EQ(cfp.get()->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYGET, nullptr, nullptr, nullptr, nullptr),
+            E_INVALIDARG);
+  EXPECT_EQ(cfp.get()->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, nullptr, nullptr, nullptr), S_OK)
+      << "a host may not want the result";
+}
+
+TEST_F(ArgumentsTest, NamesWithoutRegardToCase) {
+  EXPECT_EQ(cfp.get(L"pROVIDER").result, S_OK);
+  EXPECT_EQ(describe(scr.call(L"usuariosegunmotor", {2}).value.raw()), "BSTR sa");
+}
+
+TEST_F(ArgumentsTest, ScriptHostsAskForPropertiesAndMethodsAtOnce) {
+  constexpr WORD kBoth = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+  EXPECT_EQ(cfp.call(L"Provider", {}, kBoth).result, S_OK);
+  EXPECT_EQ(describe(scr.call(L"UsuarioSegunMotor", {3}, kBoth).value.raw()), "BSTR System");
+}
+
+TEST_F(ArgumentsTest, ArraysOfAnyKindAreNoText) {
+  for (const VARTYPE type : {VT_VARIANT, VT_I4, VT_BSTR, VT_R8, VT_DECIMAL, VT_UI1}) {
+    SCOPED_TRACE(type);
+    Var array;
+    array.raw().vt = static_cast<VARTYPE>(VT_ARRAY | type);
+    array.raw().parray = SafeArrayCreateVector(type, -3, 5);
+    const LateAnswer answer = cfp.call(L"ValorATexto", {L"T", array});
+    EXPECT_EQ(answer.result, S_OK);
+    EXPECT_EQ(describe(answer.value.raw()), "BSTR ");
+  }
+}
+
+TEST_F(ArgumentsTest, ObjectsAreNoTextAndNothingIsNoConnection) {
+  EXPECT_EQ(written(cfp.get()), "BSTR ");
+  EXPECT_EQ(written(static_cast<IDispatch*>(nullptr)), "BSTR ");
+  EXPECT_EQ(scr.call(L"Ejecutar1Comando", {L"no object", L"SELECT 1", 2}).result, DISP_E_TYPEMISMATCH);
+}
+
+TEST_F(ArgumentsTest, AReferenceToNowhereIsRefused) {
+  Var nowhere;
+  nowhere.raw().vt = VT_BYREF | VT_BSTR;
+  nowhere.raw().byref = nullptr;
+  EXPECT_EQ(cfp.call(L"ValorATexto", {L"T", nowhere}).result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(cfp.call(L"TextoAValor", {L"T", nowhere}).result, DISP_E_TYPEMISMATCH);
+  nowhere.raw().vt = VT_EMPTY;
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,40 @@
+#include "automation/boxes.h"
+
+namespace qvr::tests {
+
+thread_local Person* Person::present_ = nullptr;
+
+Person::Person(int answer)
+    : answer_(answer), hook_(SetWindowsHookExW(WH_CBT, on_event, nullptr, GetCurrentThreadId())) {
+  present_ = this;
+}
+
+Person::~Person() {
+  UnhookWindowsHookEx(hook_);
+  present_ = nullptr;
+}
+
+LRESULT CALLBACK Person::on_event(int code, WPARAM window, LPARAM detail) {
+  wchar_t kind[16] = L"";
+  const auto handle = reinterpret_cast<HWND>(window);
+  if (code == HCBT_ACTIVATE && GetClassNameW(handle, kind, 16) != 0 && std::wstring(kind) == L"#32770") {
+    present_->answer(handle);
+  }
+  if (code == HCBT_DESTROYWND && handle == present_->last_) present_->last_ = nullptr;
+  return CallNextHookEx(nullptr, code, window, detail);
+}
+
+void Person::answer(HWND box) {
+  if (box == last_) return;  // one box can be activated more than once
+  last_ = box;
+  constexpr int kTextControl = 0xFFFF;
+  std::vector<wchar_t> text(1 << 16);
+  wchar_t title[256] = L"";
+  GetDlgItemTextW(box, kTextControl, text.data(), static_cast<int>(text.size()));
+  GetWindowTextW(box, title, 256);
+  const bool question = GetDlgItem(box, IDYES) != nullptr;
+  boxes_.push_back({title, text.data(), question});
+  PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(question ? answer_ : IDOK), 0);
+}
+
+}  // namespace qvr::tests

@@ -1,0 +1,36 @@
+// The person in front of the screen: answers the message boxes of this thread and remembers what they said.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace qvr::tests {
+
+class Person {
+ public:
+  // Presses this button in boxes that have it (IDYES, IDNO), else OK.
+  explicit Person(int answer = IDNO);
+  ~Person();
+  Person(const Person&) = delete;
+  Person& operator=(const Person&) = delete;
+
+  struct Box {
+    std::wstring title, text;
+    bool question;
+  };
+  const std::vector<Box>& boxes() const { return boxes_; }
+
+ private:
+  static LRESULT CALLBACK on_event(int code, WPARAM window, LPARAM detail);
+  void answer(HWND box);
+
+  static thread_local Person* present_;
+  int answer_;
+  HHOOK hook_;
+  HWND last_ = nullptr;
+  std::vector<Box> boxes_;
+};
+
+}  // namespace qvr::tests

@@ -1,0 +1,90 @@
+// The application family's components take over from the built-in services where they are registered.
+#include <thread>
+
+#include "automation/both.h"
+#include "automation/boxes.h"
+#include "automation/database.h"
+#include "automation/family_component.h"
+
+namespace qvr::tests {
+namespace {
+
+// Services are chosen once per thread: each case gets a thread of its own.
+void on_fresh_thread(const std::function<void()>& body) {
+  std::thread([&] {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    body();
+    CoUninitialize();
+  }).join();
+}
+
+// A reversible protection that nobody would take for a good one.
+LateAnswer rot(const std::wstring& member, const std::vector<Var>& arguments) {
+  LateAnswer answer;
+  answer.result = arguments.size() == 2 ? S_OK : DISP_E_BADPARAMCOUNT;
+  std::wstring text = arguments[1].text();
+  const int shift = member == L"Cifrar" ? 1 : -1;
+  for (wchar_t& unit : text) unit = static_cast<wchar_t>(unit + shift);
+  answer.value = Var(text);
+  return answer;
+}
+
+void save_and_load(const wchar_t* name, bool expected) {
+  const LateObject written(L"QVRlib21.QVRcfp"), read(L"QVRlib21.QVRcfp");
+  written.call(L"Asignar", {L"id", 1, L"PROV", L"", L"", L"", L"", L"", L"", L""});
+  EXPECT_EQ(describe(written.call(L"Guardar", {L"id", work_folder(), name}).value.raw()), expected ? "BOOL true" : "BOOL false");
+  EXPECT_EQ(describe(read.call(L"Crear", {L"id", work_folder(), name}).value.raw()), expected ? "BOOL true" : "BOOL false");
+  EXPECT_EQ(describe(read.get(L"Provider").value.raw()), expected ? "BSTR PROV" : "BSTR ");
+}
+
+TEST(TextProtectionComponent, ProtectsTheFileWhenItIsRegistered) {
+  on_fresh_thread([] {
+    FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
+    save_and_load(L"component", true);
+    // Ten lines written, ten read back with the check line written again: all through the component.
+    EXPECT_EQ(component.calls().size(), 20u);
+    EXPECT_EQ(component.calls()[1], "Cifrar(BSTR id, BSTR PROV)");
+    EXPECT_EQ(component.calls()[10], "Descifrar(BSTR id, BSTR 2)");
+  });
+}
+
+TEST(TextProtectionComponent, FailsTheMembersWhenItFails) {
+  on_fresh_thread([] {
+    FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, [](auto&, auto&) {
+      LateAnswer answer;
+      answer.result = E_FAIL;
+      return answer;
+    });
+    save_and_load(L"failing", false);
+  });
+}
+
+TEST(TextProtectionComponent, IsNotReplacedWhenItIsRegisteredButCannotBeCreated) {
+  on_fresh_thread([] {
+    FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
+    component.revoke();
+    save_and_load(L"absent", false);
+  });
+}
+
+TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
+  on_fresh_thread([] {
+    FamilyComponent component(L"QVRServicios.InformeErrores", {L"Informar"}, [](auto&, auto&) {
+      LateAnswer answer;
+      answer.result = S_OK;
+      return answer;
+    });
+    Person person;
+    const LateObject runner(L"QVRlib21.QVRScr");
+    EXPECT_EQ(describe(runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3}).value.raw()),
+              "BOOL false");
+    EXPECT_TRUE(person.boxes().empty());
+    EXPECT_EQ(component.calls(),
+              std::vector<std::string>{"Informar(I4 91, BSTR Object variable or With block variable not set, BSTR QVRlib21, "
+                                       "I4 3, BSTR Ejecutar1Comando: select 1, {BSTR Servidor no encontrado; BSTR Registro "
+                                       "duplicado; BSTR Error indeterminado; BSTR M\u00e9todo; BSTR Objeto})"});
+  });
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,31 @@
+// A component of the application family as a test plays it: registered under its program id for as long as it lives.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "automation/host.h"
+
+namespace qvr::tests {
+
+class FamilyComponent {
+ public:
+  using Answer = std::function<LateAnswer(const std::wstring& member, const std::vector<Var>& arguments)>;
+
+  FamilyComponent(const wchar_t* program_id, std::vector<std::wstring> members, Answer answer);
+  ~FamilyComponent();
+  FamilyComponent(const FamilyComponent&) = delete;
+  FamilyComponent& operator=(const FamilyComponent&) = delete;
+
+  // Takes the class away but leaves the program id registered.
+  void revoke();
+  const std::vector<std::string>& calls() const { return calls_; }
+
+ private:
+  std::wstring program_id_;
+  DWORD cookie_ = 0;
+  std::vector<std::string> calls_;
+};
+
+}  // namespace qvr::tests

@@ -1,0 +1,145 @@
+// What a host does over and over leaves nothing behind: blocks of memory and handles are counted before and after.
+#include <map>
+
+#include "automation/both.h"
+#include "automation/boxes.h"
+#include "automation/database.h"
+#include "automation/library.h"
+#include "automation/sink.h"
+
+namespace qvr::tests {
+namespace {
+
+std::size_t blocks_in_use() {
+  std::size_t count = 0;
+  HANDLE heaps[64];
+  const DWORD found = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
+  for (DWORD i = 0; i < found; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps[i]);
+    while (HeapWalk(heaps[i], &entry)) count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+    HeapUnlock(heaps[i]);
+  }
+  return count;
+}
+
+// Automation keeps released strings for reuse, which would hide and feign leaks.
+void stop_string_cache() {
+  using SetOaNoCache = void(WINAPI*)();
+  const auto stop = GetProcAddress(GetModuleHandleW(L"oleaut32"), "SetOaNoCache");
+  ASSERT_NE(stop, nullptr);
+  reinterpret_cast<SetOaNoCache>(reinterpret_cast<void*>(stop))();
+}
+
+DWORD handles_in_use() {
+  DWORD count = 0;
+  GetProcessHandleCount(GetCurrentProcess(), &count);
+  return count;
+}
+
+// Runs the body often and expects that the second half of the runs costs no memory and no handle that stays.
+void expect_no_leak(const std::function<void()>& body) {
+  constexpr int kRuns = 20;
+  stop_string_cache();
+  for (int i = 0; i < kRuns; ++i) body();
+  const std::size_t blocks = blocks_in_use();
+  const DWORD handles = handles_in_use();
+  for (int i = 0; i < kRuns; ++i) body();
+  // A leak shows at least once a run; caches of the system may grow by a few.
+  EXPECT_LT(blocks_in_use(), blocks + kRuns / 2);
+  EXPECT_LT(handles_in_use(), handles + kRuns / 2);
+  EXPECT_EQ(library().can_unload(), S_OK);
+}
+
+TEST(Leaks, TheCountSeesALeak) {
+  stop_string_cache();
+  const std::size_t before = blocks_in_use();
+  BSTR lost[10];
+  for (BSTR& text : lost) text = SysAllocString(L"a text that is held");
+  EXPECT_GE(blocks_in_use(), before + 10);
+  for (BSTR& text : lost) SysFreeString(text);
+}
+
+TEST(Leaks, CreatingAndAsking) {
+  expect_no_leak([] {
+    const LateObject cfp(L"QVRlib21.QVRcfp"), ov(L"QVRlib21.Ov");
+    cfp.call(L"Asignar", {L"id", 2, L"P", L"D", L"C", L"u", L"k", L"v", L"w", L"o"});
+    cfp.call(L"CadenaADO", {L"id", true});
+    cfp.call(L"ValorATexto", {L"T", L"text"});
+    cfp.call(L"TextoAValor", {L"T", L"text"});
+    ov.call(L"PathCompleto");
+  });
+}
+
+TEST(Leaks, SavingLoadingAndRefusing) {
+  expect_no_leak([] {
+    const LateObject cfp(L"QVRlib21.QVRcfp");
+    cfp.call(L"Asignar", {L"id", 2, L"P", L"D", L"C", L"u", L"k", L"v", L"w", L"o"});
+    cfp.call(L"Guardar", {L"id", work_folder(), L"leak"});
+    cfp.call(L"Crear", {L"id", work_folder(), L"leak"});
+    cfp.call(L"Crear", {L"id", work_folder(), L"missing"});
+  });
+}
+
+TEST(Leaks, WrongCalls) {
+  expect_no_leak([] {
+    const LateObject cfp(L"QVRlib21.QVRcfp");
+    Var text(L"by reference");
+    cfp.call(L"Crear", {Var::null(), Var::by_reference(text), L"x"});
+    cfp.call(L"Crear", {L"too", L"many", L"texts", L"here"});
+    cfp.call_named(L"ValorATexto", {L"TipoTNFL"}, {L"N", 2.5});
+    cfp.call(L"NoExiste");
+  });
+}
+
+TEST(Leaks, RunsThatWork) {
+  Database database;
+  expect_no_leak([&] {
+    const LateObject runner(L"QVRlib21.QVRScr");
+    Connected connected(runner);
+    runner.call(L"EjecutarComandos", {L"id", 2, L"select 1\r\nGO\r\n", database.connection_string()});
+  });
+}
+
+TEST(Leaks, RunsThatCannotOpen) {
+  expect_no_leak([&] {
+    Person person(IDNO);
+    const LateObject runner(L"QVRlib21.QVRScr");
+    runner.call(L"EjecutarComandos", {L"id", 2, L"", L"Provider=NoSuchProvider"});
+  });
+}
+
+TEST(Leaks, CommandsThatFail) {
+  Database database;
+  expect_no_leak([&] {
+    Person person(IDNO);
+    const LateObject runner(L"QVRlib21.QVRScr");
+    Connected connected(runner);
+    runner.call(L"EjecutarComandos", {L"id", 2, L"select 1\r\nGO\r\nnonsense\r\nGO\r\n", database.connection_string()});
+  });
+}
+
+TEST(Leaks, Boxes) {
+  expect_no_leak([&] {
+    Person person(IDNO);
+    MessageBoxW(nullptr, L"x", L"QVRlib21", MB_OK);
+  });
+}
+
+DWORD WINAPI create_and_leave(void*) {
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  { const LateObject cfp(L"QVRlib21.QVRcfp"); }
+  CoUninitialize();
+  return 0;
+}
+
+TEST(Leaks, ThreadsThatComeAndGo) {
+  expect_no_leak([] {
+    const HANDLE thread = CreateThread(nullptr, 0, create_and_leave, nullptr, 0, nullptr);
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+  });
+}
+
+}  // namespace
+}  // namespace qvr::tests

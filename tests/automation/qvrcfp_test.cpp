@@ -1,0 +1,161 @@
+#include "automation/both.h"
+
+namespace qvr::tests {
+namespace {
+
+struct QVRcfpTest : testing::Test {
+  LateObject late{L"QVRlib21.QVRcfp"};
+  LateObject other{L"QVRlib21.QVRcfp"};
+  ComPtr<_QVRcfp> early = other.as<_QVRcfp>();
+  Bstr id{L"mi aplicaci\u00f3n"};
+  MotoresBD engine = MotorBDSQLServer;
+  Bstr provider{L"SQLOLEDB"}, source{L"SRV01"}, catalogue{L"Gesti\u00f3n"}, adm{L"sa"}, adm_key{L"cl\u00e1ve"},
+      cli{L"app"}, cli_key{L"pw"}, others{L"Mode=Read"};
+
+  HRESULT assign_early(VARIANT_BOOL& done) {
+    return early->Asignar(&id, &engine, &provider, &source, &catalogue, &adm, &adm_key, &cli, &cli_key, &others, &done);
+  }
+  LateAnswer assign_late() const {
+    return late.call(L"Asignar", {id.get(), 2, provider.get(), source.get(), catalogue.get(), adm.get(), adm_key.get(),
+                                  cli.get(), cli_key.get(), others.get()});
+  }
+  void assign_both() {
+    VARIANT_BOOL done = 0;
+    const HRESULT status = assign_early(done);
+    expect_same(assign_late(), status, early_result(done), "BOOL true");
+  }
+
+  using TextGetter = HRESULT (STDMETHODCALLTYPE _QVRcfp::*)(BSTR*);
+  void expect_property(const wchar_t* name, TextGetter getter, const std::string& expected) {
+    SCOPED_TRACE(narrow(name));
+    Bstr result(L"left over");
+    BSTR raw = nullptr;
+    const HRESULT status = (early.Get()->*getter)(&raw);
+    *&result = raw;
+    expect_same(late.get(name), status, early_result(result), expected);
+  }
+};
+
+TEST_F(QVRcfpTest, AsignarAndEveryProperty) {
+  assign_both();
+  expect_property(L"Archivo", &_QVRcfp::get_Archivo, "BSTR ");
+  expect_property(L"Provider", &_QVRcfp::get_Provider, "BSTR SQLOLEDB");
+  expect_property(L"DataSource", &_QVRcfp::get_DataSource, "BSTR SRV01");
+  expect_property(L"InitialCatalogOTablespace", &_QVRcfp::get_InitialCatalogOTablespace, "BSTR Gesti\u00f3n");
+  expect_property(L"UsuarioAdm", &_QVRcfp::get_UsuarioAdm, "BSTR sa");
+  expect_property(L"UsuarioCli", &_QVRcfp::get_UsuarioCli, "BSTR app");
+  expect_property(L"OtrosParametros", &_QVRcfp::get_OtrosParametros, "BSTR Mode=Read");
+  MotoresBD held{};
+  const HRESULT status = early->get_MotorBD(&held);
+  expect_same(late.get(L"MotorBD"), status, early_result(static_cast<long>(held)), "I4 2");
+}
+
+TEST_F(QVRcfpTest, Passwords) {
+  assign_both();
+  Bstr first, second;
+  const HRESULT status = early->get_ClaveAdm(&id, &first);
+  expect_same(late.get(L"ClaveAdm", {id.get()}), status, early_result(first), "BSTR cl\u00e1ve");
+  const HRESULT again = early->get_ClaveCli(&id, &second);
+  expect_same(late.get(L"ClaveCli", {id.get()}), again, early_result(second), "BSTR pw");
+}
+
+TEST_F(QVRcfpTest, FreshObjectIsEmpty) {
+  expect_property(L"Provider", &_QVRcfp::get_Provider, "BSTR ");
+  MotoresBD held = MotorBDOracle;
+  const HRESULT status = early->get_MotorBD(&held);
+  expect_same(late.get(L"MotorBD"), status, early_result(static_cast<long>(held)), "I4 0");
+}
+
+TEST_F(QVRcfpTest, ConnectionStrings) {
+  assign_both();
+  VARIANT_BOOL adm_wanted = VARIANT_TRUE, cli_wanted = VARIANT_FALSE;
+  Bstr first, second, third;
+  const HRESULT of_adm = early->CadenaADO(&id, &adm_wanted, &first);
+  expect_same(late.call(L"CadenaADO", {id.get(), true}), of_adm, early_result(first),
+              "BSTR Provider=SQLOLEDB;Data Source=\"SRV01\";Persist Security Info=False;User ID=\"sa\";"
+              "Password=\"cl\u00e1ve\";Initial Catalog=Gesti\u00f3n;Mode=Read;");
+  const HRESULT of_cli = early->CadenaADO(&id, &cli_wanted, &second);
+  expect_same(late.call(L"CadenaADO", {id.get(), false}), of_cli, early_result(second),
+              "BSTR Provider=SQLOLEDB;Data Source=\"SRV01\";Persist Security Info=False;User ID=\"app\";"
+              "Password=\"pw\";Initial Catalog=Gesti\u00f3n;Mode=Read;");
+  Bstr user(L"ana"), key(L"");
+  const HRESULT of_user = early->CadenaADOUsuario(&user, &key, &third);
+  expect_same(late.call(L"CadenaADOUsuario", {L"ana", L""}), of_user, early_result(third),
+              "BSTR Provider=SQLOLEDB;Data Source=\"SRV01\";Persist Security Info=False;User ID=\"ana\";"
+              "Initial Catalog=Gesti\u00f3n;Mode=Read;");
+}
+
+TEST_F(QVRcfpTest, GuardarAndCrear) {
+  assign_both();
+  Bstr folder(work_folder()), name(L"enlace"), result_text;
+  VARIANT_BOOL saved = 0, loaded = 0, refused = VARIANT_TRUE;
+  const HRESULT status = early->Guardar(&id, &folder, &name, &saved);
+  expect_same(late.call(L"Guardar", {id.get(), work_folder(), L"enlace"}), status, early_result(saved), "BOOL true");
+  const HRESULT loading = early->Crear(&id, &folder, &name, &loaded);
+  expect_same(late.call(L"Crear", {id.get(), work_folder(), L"enlace"}), loading, early_result(loaded), "BOOL true");
+  expect_property(L"Archivo", &_QVRcfp::get_Archivo, "BSTR enlace");
+  expect_property(L"InitialCatalogOTablespace", &_QVRcfp::get_InitialCatalogOTablespace, "BSTR Gesti\u00f3n");
+  Bstr stranger(L"otra");
+  const HRESULT refusing = early->Crear(&stranger, &folder, &name, &refused);
+  expect_same(late.call(L"Crear", {L"otra", work_folder(), L"enlace"}), refusing, early_result(refused), "BOOL false");
+  expect_property(L"Archivo", &_QVRcfp::get_Archivo, "BSTR ");
+}
+
+TEST_F(QVRcfpTest, TextoAValor) {
+  struct Row {
+    const wchar_t *code, *text;
+    const char* expected;
+  };
+  for (const Row& row : {Row{L"T", L"abc", "BSTR abc"}, {L"n", L"2.5kg", "R8 2.500000"}, {L"L", L"0", "BOOL false"},
+                         {L"L", L"1", "BOOL true"}, {L"F", L"2011-01-05", "DATE 40548.000000"},
+                         {L"F", L"ma\u00f1ana", "Empty"}, {L"X", L"abc", "Empty"}}) {
+    SCOPED_TRACE(narrow(std::wstring(row.code) + L" " + row.text));
+    Bstr code(row.code), text(row.text);
+    Var result;
+    const HRESULT status = early->TextoAValor(&code, &text, &result.raw());
+    expect_same(late.call(L"TextoAValor", {row.code, row.text}), status, result, row.expected);
+  }
+}
+
+TEST_F(QVRcfpTest, ValorATexto) {
+  struct Row {
+    const wchar_t* code;
+    Var value;
+    const char* expected;
+  };
+  for (const Row& row : {Row{L"L", true, "BSTR 1"}, {L"n", 2.5, "BSTR 2.5"}, {L"N", -3, "BSTR -3"},
+                         {L"F", Var::date(40548.75), "BSTR 2011/01/05"}, {L"T", L"\u00f1", "BSTR \u00f1"},
+                         {L"T", Var::null(), "BSTR "}, {L"X", 1, "BSTR "}}) {
+    SCOPED_TRACE(std::string(row.expected));
+    Bstr code(row.code), result;
+    Var value = row.value;
+    const HRESULT status = early->ValorATexto(&code, &value.raw(), &result);
+    expect_same(late.call(L"ValorATexto", {row.code, row.value}), status, early_result(result), row.expected);
+  }
+}
+
+TEST_F(QVRcfpTest, NullPointersAndNullStringsCountAsEmpty) {
+  VARIANT_BOOL done = 0;
+  BSTR null_text = nullptr;
+  EXPECT_EQ(early->Asignar(nullptr, nullptr, nullptr, &null_text, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                           &done), S_OK);
+  EXPECT_EQ(done, VARIANT_TRUE);
+  Bstr result;
+  EXPECT_EQ(early->CadenaADO(nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(result.text(), L"Provider=;Data Source=\"\";Persist Security Info=False;");
+  EXPECT_EQ(early->Guardar(nullptr, nullptr, nullptr, &done), S_OK);
+  EXPECT_EQ(early->Crear(nullptr, &null_text, nullptr, &done), S_OK);
+  EXPECT_EQ(early->Asignar(&id, &engine, &provider, &source, &catalogue, &adm, &adm_key, &cli, &cli_key, &others,
+                           nullptr), E_POINTER);
+}
+
+TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {
+  assign_both();
+  const LateAnswer saved = late.call(L"Guardar", {id.get(), work_folder() + L"\\nowhere", L"x"});
+  EXPECT_EQ(describe(saved.value.raw()), "BOOL false");
+  const LateAnswer loaded = late.call(L"Crear", {id.get(), work_folder() + L"\\nowhere", L"x"});
+  EXPECT_EQ(describe(loaded.value.raw()), "BOOL false");
+}
+
+}  // namespace
+}  // namespace qvr::tests

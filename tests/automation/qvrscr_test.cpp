@@ -1,0 +1,236 @@
+#include "automation/both.h"
+#include "automation/boxes.h"
+#include "automation/database.h"
+#include "automation/sink.h"
+
+namespace qvr::tests {
+namespace {
+
+const wchar_t* const kTwoCommands =
+    L"create table Art\u00edculos(Nombre varchar(20))\r\nGO\r\n\r\ninsert into Art\u00edculos values('Jam\u00f3n')\r\ngo\r\n";
+
+struct QVRScrTest : testing::Test {
+  LateObject late{L"QVRlib21.QVRScr"};
+  Database database;
+
+  LateAnswer run_late(const wchar_t* id, const wchar_t* commands) const {
+    return late.call(L"EjecutarComandos", {id, 2, commands, database.connection_string()});
+  }
+};
+
+TEST_F(QVRScrTest, EjecutarComandosRunsIntoTheDatabase) {
+  Connected connected(late);
+  const LateAnswer ran = run_late(L"app", kTwoCommands);
+  Database second;
+  LateObject other(L"QVRlib21.QVRScr");
+  Connected early_connected(other);
+  Bstr id(L"app"), commands(kTwoCommands), connection(second.connection_string());
+  long engine = 2;
+  VARIANT_BOOL done = 0;
+  const HRESULT status = other.as<_QVRScr>()->EjecutarComandos(&id, &engine, &commands, &connection, nullptr, &done);
+  expect_same(ran, status, early_result(done), "BOOL true");
+  EXPECT_EQ(database.ask(L"select Nombre from Art\u00edculos"), "Jam\u00f3n");
+  EXPECT_EQ(second.ask(L"select Nombre from Art\u00edculos"), "Jam\u00f3n");
+  EXPECT_EQ(connected.events(), early_connected.events());
+}
+
+TEST_F(QVRScrTest, EventsOfARun) {
+  Connected connected(late);
+  late.call(L"EjecutarComandos", {L"app", 2, kTwoCommands, database.connection_string(), L"Hecho: "});
+  const std::vector<std::string> events = connected.events();
+  ASSERT_EQ(events.size(), 4u);
+  EXPECT_TRUE(events[0] == "Progreso BSTR* Contando comandos..." || events[0] == "Progreso BSTR* Counting commands..." ||
+              events[0] == "Progreso BSTR* Comptage des commandes...") << events[0];
+  EXPECT_EQ(events[1], "Progreso BSTR* Hecho: 0/2");
+  EXPECT_EQ(events[2], "Progreso BSTR* Hecho: 1/2");
+  EXPECT_EQ(events[3], "Terminado BOOL* true");
+}
+
+TEST_F(QVRScrTest, ADisconnectedSinkHearsNothing) {
+  Connected connected(late);
+  ComPtr<Sink> sink(&connected.sink());
+  connected.disconnect();
+  EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
+  EXPECT_TRUE(sink->events.empty());
+}
+
+TEST_F(QVRScrTest, EverySinkHearsARunAndOneThatFailsDisturbsNobody) {
+  Connected first(late), second(late);
+  first.sink().reaction = [](DISPID, VARIANT& argument) {
+    if (argument.vt == (VT_BYREF | VT_BSTR)) SysReAllocString(argument.pbstrVal, L"changed");
+    return E_FAIL;
+  };
+  EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
+  EXPECT_EQ(first.events(), second.events()) << "each has the text to itself";
+}
+
+TEST_F(QVRScrTest, ASinkMayLeaveDuringTheRun) {
+  Connected leaving(late), staying(late);
+  leaving.sink().reaction = [&](DISPID, VARIANT&) {
+    leaving.disconnect();
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  EXPECT_EQ(leaving.events().size(), 1u);
+  EXPECT_EQ(staying.events().size(), 4u);
+}
+
+TEST_F(QVRScrTest, ANestedRunOnTheSameObjectIsRefusedWithoutEvents) {
+  Connected connected(late);
+  std::vector<std::string> nested;
+  connected.sink().reaction = [&](DISPID, VARIANT&) {
+    const std::size_t before = connected.events().size();
+    nested.push_back(describe(run_late(L"app", kTwoCommands).value.raw()));
+    EXPECT_EQ(connected.events().size(), before);
+    return S_OK;
+  };
+  EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
+  EXPECT_EQ(nested, std::vector<std::string>(4, "BOOL false"));
+  connected.sink().reaction = nullptr;
+  EXPECT_EQ(describe(run_late(L"app", L"delete from Art\u00edculos\r\nGO\r\n").value.raw()), "BOOL true");
+}
+
+TEST_F(QVRScrTest, TheObjectLivesThroughARunThatReleasesIt) {
+  ComPtr<Sink> sink;
+  sink.Attach(new Sink());
+  ComPtr<IDispatch> source(late.get());
+  DWORD cookie = 0;
+  ComPtr<IConnectionPoint> point;
+  late.as<IConnectionPointContainer>()->FindConnectionPoint(__uuidof(__QVRScr), &point);
+  point->Advise(sink.Get(), &cookie);
+  point.Reset();
+  sink->reaction = [&](DISPID, VARIANT&) {
+    late = LateObject(ComPtr<IDispatch>());
+    source.Reset();
+    return S_OK;
+  };
+  IDispatch* const raw = source.Get();  // called through the pointer that the event lets go of
+  Var arguments[] = {database.connection_string(), kTwoCommands, 2, L"app"};
+  VARIANT flat[] = {arguments[0].raw(), arguments[1].raw(), arguments[2].raw(), arguments[3].raw()};
+  DISPPARAMS parameters{flat, nullptr, 4, 0};
+  Var result;
+  EXPECT_EQ(raw->Invoke(0x60030000, IID_NULL, 0, DISPATCH_METHOD, &parameters, &result.raw(), nullptr, nullptr), S_OK);
+  EXPECT_EQ(describe(result.raw()), "BOOL true");
+  EXPECT_EQ(sink->events.size(), 4u);
+  sink->reaction = nullptr;
+}
+
+int timer_ticks;
+
+void CALLBACK on_timer(HWND, UINT, UINT_PTR, DWORD) { ++timer_ticks; }
+
+TEST_F(QVRScrTest, TheHostsMessagesAreProcessedBetweenCommands) {
+  const HWND window = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  timer_ticks = 0;
+  SetTimer(window, 1, USER_TIMER_MINIMUM, on_timer);
+  Connected connected(late);
+  connected.sink().reaction = [](DISPID, VARIANT&) {
+    Sleep(30);
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  KillTimer(window, 1);
+  DestroyWindow(window);
+  EXPECT_GE(timer_ticks, 2) << "once after each command";
+}
+
+TEST_F(QVRScrTest, AQuitMessageIsLeftToTheHost) {
+  PostQuitMessage(7);
+  EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
+  MSG message{};
+  EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST_F(QVRScrTest, ChangedArgumentsComeBackToTheCallersVariables) {
+  Var id(L"evitartransaccionApp"), shown;
+  const LateAnswer answer = late.call(L"EjecutarComandos", {Var::by_reference(id), 2, L"", database.connection_string(),
+                                                            Var::by_reference(shown)});
+  EXPECT_EQ(describe(answer.value.raw()), "BOOL true");
+  EXPECT_EQ(id.text(), L"App");
+  EXPECT_TRUE(shown.text() == L"Comandos ejecutados: " || shown.text() == L"Commands executed: " ||
+              shown.text() == L"Commandes ex\u00e9cut\u00e9es: ") << narrow(shown.text());
+  Bstr typed(L"EvitarTransaccion");
+  late.call(L"EjecutarComandos", {Var::by_reference(*&typed), 2, L"", database.connection_string(), L"x"});
+  EXPECT_EQ(typed.text(), L"");
+}
+
+TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerNo) {
+  late.call(L"EjecutarComandos", {L"app", 2, L"create table T(N int)\r\nGO\r\n", database.connection_string()});
+  Connected connected(late);
+  Person person(IDNO);
+  const wchar_t* const commands = L"insert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\ninsert into T values(2)\r\nGO\r\n";
+  EXPECT_EQ(describe(run_late(L"app", commands).value.raw()), "BOOL false");
+  ASSERT_EQ(person.boxes().size(), 2u);
+  EXPECT_EQ(person.boxes()[0].title, L"QVRlib21");
+  EXPECT_TRUE(person.boxes()[0].text.starts_with(L"Error indeterminado\r\n\r\nError -2147217900: ")) << narrow(person.boxes()[0].text);
+  EXPECT_TRUE(person.boxes()[0].text.ends_with(L"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense")) << narrow(person.boxes()[0].text);
+  EXPECT_TRUE(person.boxes()[1].question);
+  EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
+  EXPECT_EQ(database.ask(L"select count(*) from T"), "0");
+}
+
+TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerYes) {
+  Person person(IDYES);
+  const wchar_t* const commands =
+      L"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\ninsert into T values(2)\r\nGO\r\n";
+  Connected connected(late);
+  EXPECT_EQ(describe(run_late(L"app", commands).value.raw()), "BOOL true");
+  EXPECT_EQ(person.boxes().size(), 2u);
+  EXPECT_EQ(connected.events().back(), "Terminado BOOL* true");
+  EXPECT_EQ(database.ask(L"select count(*) from T"), "2");
+}
+
+TEST_F(QVRScrTest, WithoutATransactionWhatRanStaysWhenTheAnswerIsNo) {
+  Person person(IDNO);
+  const wchar_t* const commands = L"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n";
+  EXPECT_EQ(describe(run_late(L"EvitarTransaccion", commands).value.raw()), "BOOL false");
+  EXPECT_EQ(database.ask(L"select count(*) from T"), "1");
+}
+
+TEST_F(QVRScrTest, Ejecutar1Comando) {
+  const LateObject connection = database.open();
+  const LateAnswer ran = late.call(L"Ejecutar1Comando", {connection.get(), L"create table T(N int)", 2});
+  Bstr command(L"insert into T values(5)");
+  long engine = 2;
+  VARIANT_BOOL done = 0;
+  auto* raw = reinterpret_cast<Connection*>(connection.get());
+  const HRESULT status = late.as<_QVRScr>()->Ejecutar1Comando(&raw, &command, &engine, &done);
+  expect_same(ran, status, early_result(done), "BOOL true");
+  EXPECT_EQ(database.ask(L"select N from T"), "5");
+  connection.call(L"Close");
+}
+
+TEST_F(QVRScrTest, Ejecutar1ComandoWithoutAnOpenConnectionReportsAndIsFalse) {
+  Person person;
+  const LateAnswer nothing = late.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 2});
+  EXPECT_EQ(describe(nothing.value.raw()), "BOOL false");
+  VARIANT_BOOL done = VARIANT_TRUE;
+  EXPECT_EQ(late.as<_QVRScr>()->Ejecutar1Comando(nullptr, nullptr, nullptr, &done), S_OK);
+  EXPECT_EQ(done, VARIANT_FALSE);
+  const LateObject closed(L"ADODB.Connection");
+  EXPECT_EQ(describe(late.call(L"Ejecutar1Comando", {closed.get(), L"select 1", 2}).value.raw()), "BOOL false");
+  const LateObject no_connection(L"QVRlib21.Ov");
+  EXPECT_EQ(describe(late.call(L"Ejecutar1Comando", {no_connection.get(), L"select 1", 2}).value.raw()), "BOOL false");
+  ASSERT_EQ(person.boxes().size(), 4u);
+  EXPECT_EQ(person.boxes()[0].text,
+            L"Error indeterminado\r\n\r\nError 91: Object variable or With block variable not set (QVRlib21)\r\n\r\n"
+            L"M\u00e9todo: Ejecutar1Comando: select 1");
+  EXPECT_TRUE(person.boxes()[2].text.starts_with(L"Error indeterminado\r\n\r\nError 3709: ")) << narrow(person.boxes()[2].text);
+}
+
+TEST_F(QVRScrTest, UsuarioSegunMotor) {
+  struct Row {
+    long engine;
+    const char* expected;
+  };
+  for (const Row& row : {Row{1, "BSTR Admin"}, {2, "BSTR sa"}, {3, "BSTR System"}, {0, "BSTR "}, {-1, "BSTR "}}) {
+    Bstr result;
+    long engine = row.engine;
+    const HRESULT status = late.as<_QVRScr>()->UsuarioSegunMotor(&engine, &result);
+    expect_same(late.call(L"UsuarioSegunMotor", {static_cast<int>(row.engine)}), status, early_result(result), row.expected);
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,134 @@
+// Registration writes what it says and takes exactly that away again.
+#include <algorithm>
+
+#include "automation/both.h"
+#include "automation/library.h"
+#include "automation/registry_snapshot.h"
+
+namespace qvr::tests {
+namespace {
+
+constexpr const wchar_t* kWidth = sizeof(void*) == 8 ? L"64 " : L"32 ";
+
+struct RegistrationTest : testing::Test {
+  void SetUp() override {
+    ASSERT_EQ(library().unregister_it(), S_OK);
+    ASSERT_EQ(library().install(FALSE, L"user"), S_OK);
+    before = registry_snapshot();
+  }
+  void TearDown() override { ASSERT_EQ(library().register_it(), S_OK); }
+
+  void expect_nothing_left() const {
+    const RegistryLines after = registry_snapshot();
+    for (const auto& line : added(before, after)) ADD_FAILURE() << "left behind: " << narrow(line);
+    for (const auto& line : added(after, before)) ADD_FAILURE() << "taken away: " << narrow(line);
+  }
+  static bool has(const RegistryLines& lines, const std::wstring& part) {
+    return std::ranges::any_of(lines, [&](const auto& line) { return line.find(part) != std::wstring::npos; });
+  }
+
+  // This width's lines of one scope, without the scope's name.
+  static RegistryLines below(const RegistryLines& lines, const std::wstring& scope) {
+    RegistryLines found;
+    for (const auto& line : lines) {
+      if (line.starts_with(kWidth + scope) && line.find(L"Wow6432Node") == std::wstring::npos) {
+        found.insert(line.substr(3 + scope.size()));
+      }
+    }
+    return found;
+  }
+  // Keys that every machine has but a user who never registered anything has not.
+  static bool is_top(const std::wstring& line) { return line == L"CLSID" || line == L"Interface" || line == L"TypeLib"; }
+
+  RegistryLines before;
+};
+
+TEST_F(RegistrationTest, OfTheMachineIsTakenAwayWhole) {
+  ASSERT_EQ(library().register_it(), S_OK);
+  const RegistryLines written = added(before, registry_snapshot());
+  EXPECT_TRUE(has(written, L"machine"));
+  EXPECT_FALSE(has(written, L"user"));
+  ASSERT_EQ(library().unregister_it(), S_OK);
+  expect_nothing_left();
+}
+
+TEST_F(RegistrationTest, OfTheUserWritesTheSameKeysThereAndNothingOfTheMachine) {
+  ASSERT_EQ(library().register_it(), S_OK);
+  const RegistryLines of_machine = below(added(before, registry_snapshot()), L"machine\\");
+  ASSERT_EQ(library().unregister_it(), S_OK);
+  ASSERT_EQ(library().install(TRUE, L"user"), S_OK);
+  const RegistryLines written = added(before, registry_snapshot());
+  const RegistryLines of_user = below(written, L"user\\");
+  for (const auto& line : added(of_user, of_machine)) ADD_FAILURE() << "missing: " << narrow(line);
+  for (const auto& line : added(of_machine, of_user)) EXPECT_TRUE(is_top(line)) << "more: " << narrow(line);
+  EXPECT_GT(of_user.size(), 50u);
+  EXPECT_FALSE(has(written, L"machine"));
+  ASSERT_EQ(library().install(FALSE, L"USER"), S_OK);
+  expect_nothing_left();
+}
+
+TEST_F(RegistrationTest, WritesTheStandardKeys) {
+  ASSERT_EQ(library().register_it(), S_OK);
+  const RegistryLines written = added(before, registry_snapshot());
+  const std::wstring file = beside_program(L"QVRlib21.dll");
+  const std::wstring machine = std::wstring(kWidth) + L"machine\\";
+  for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr"}) {
+    SCOPED_TRACE(narrow(name));
+    const std::wstring program_id = std::wstring(L"QVRlib21.") + name;
+    CLSID id;
+    wchar_t id_text[40];
+    ASSERT_EQ(CLSIDFromProgID(program_id.c_str(), &id), S_OK);
+    StringFromGUID2(id, id_text, 40);
+    const std::wstring key = machine + L"CLSID\\" + id_text;
+    EXPECT_TRUE(has(written, key + L"\\InprocServer32 :  = " + file));
+    EXPECT_TRUE(has(written, key + L"\\InprocServer32 : ThreadingModel = Apartment"));
+    EXPECT_TRUE(has(written, key + L"\\ProgID :  = " + program_id));
+    EXPECT_TRUE(has(written, machine + program_id + L"\\CLSID :  = " + id_text));
+  }
+  EXPECT_TRUE(has(written, std::wstring(L"\\1.1\\0\\win") + (sizeof(void*) == 8 ? L"64" : L"32") + L" :  = " + file));
+  library().unregister_it();
+}
+
+TEST_F(RegistrationTest, TwiceIsTheSameAsOnce) {
+  library().register_it();
+  const RegistryLines once = registry_snapshot();
+  EXPECT_EQ(library().register_it(), S_OK);
+  EXPECT_TRUE(once == registry_snapshot());
+  EXPECT_EQ(library().unregister_it(), S_OK);
+  EXPECT_EQ(library().unregister_it(), S_OK) << "what is not there is no failure";
+  expect_nothing_left();
+}
+
+TEST_F(RegistrationTest, OtherInstallCommandsAreRefused) {
+  EXPECT_EQ(library().install(TRUE, L"everybody"), E_INVALIDARG);
+  expect_nothing_left();
+  EXPECT_EQ(library().install(TRUE, nullptr), S_OK);
+  EXPECT_TRUE(has(added(before, registry_snapshot()), L"machine"));
+  EXPECT_EQ(library().install(FALSE, L""), S_OK);
+  expect_nothing_left();
+}
+
+TEST_F(RegistrationTest, KeysSharedWithTheOtherWidthStayWhileThatOneIsRegistered) {
+  ASSERT_EQ(library().register_it(), S_OK);
+  CLSID id;
+  wchar_t id_text[40];
+  CLSIDFromProgID(L"QVRlib21.QVRcfp", &id);
+  StringFromGUID2(id, id_text, 40);
+  constexpr REGSAM kOther = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+  const std::wstring other = std::wstring(L"Software\\Classes\\CLSID\\") + id_text;
+  HKEY key = nullptr;
+  ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (other + L"\\InprocServer32").c_str(), 0, nullptr, 0,
+                            KEY_ALL_ACCESS | kOther, nullptr, &key, nullptr), ERROR_SUCCESS);
+  RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(L"other.dll"), 20);
+  RegCloseKey(key);
+  ASSERT_EQ(library().unregister_it(), S_OK);
+  EXPECT_TRUE(has(added(before, registry_snapshot()), L"machine\\QVRlib21.QVRcfp\\CLSID"));
+  RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\CLSID", 0, KEY_ALL_ACCESS | kOther, &key);
+  RegDeleteTreeW(key, id_text);
+  RegCloseKey(key);
+  ASSERT_EQ(library().unregister_it(), S_OK);
+  expect_nothing_left();
+}
+
+}  // namespace
+}  // namespace qvr::tests

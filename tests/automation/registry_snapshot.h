@@ -1,0 +1,19 @@
+// All keys and values of the registry's classes, as lines that can be compared.
+#pragma once
+
+#include <windows.h>
+
+#include <set>
+#include <string>
+
+namespace qvr::tests {
+
+using RegistryLines = std::set<std::wstring>;
+
+// Below Software\Classes of the machine and of the user, in both widths: one line for each key and each value.
+RegistryLines registry_snapshot();
+
+// What the second has and the first has not.
+RegistryLines added(const RegistryLines& before, const RegistryLines& after);
+
+}  // namespace qvr::tests

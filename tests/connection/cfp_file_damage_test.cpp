@@ -1,0 +1,209 @@
+// Files that are not what was written: each is refused as a whole, and the object is left cleared.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "connection/sample_parameters.h"
+#include "services/builtin_text_protection.h"
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+namespace {
+
+using services::BuiltinTextProtection;
+
+class CfpFileDamageTest : public ::testing::Test {
+ protected:
+  CfpFileDamageTest() {
+    thread.files.keep_in_memory();
+    write_sample();
+  }
+
+  void write_sample() {
+    QVRcfp cfp;
+    cfp.Asignar(u"id", sample_parameters());
+    ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+    whole = thread.files.memory[u"F\\a.cfp"];
+    lines.clear();
+    for (std::size_t at = 0; at < whole.size();) {
+      const std::size_t end = whole.find("\r\n", at);
+      lines.push_back(whole.substr(at, end - at));
+      at = end + 2;
+    }
+    ASSERT_EQ(lines.size(), 10u);
+  }
+
+  static std::string of(const Lines& lines, std::string_view line_end = "\r\n") {
+    std::string bytes;
+    for (const std::string& line : lines) bytes.append(line).append(line_end);
+    return bytes;
+  }
+
+  std::string protected_line(TextView text) {
+    return to_utf8(CheapProtection().Cifrar(u"id", text));
+  }
+
+  void expect_refused(const std::string& bytes, TextView id = u"id") {
+    thread.files.memory[u"F\\a.cfp"] = bytes;
+    QVRcfp cfp;
+    cfp.Asignar(u"id", sample_parameters());
+    EXPECT_FALSE(cfp.Crear(id, u"F", u"a"));
+    expect_cleared(cfp);
+    EXPECT_TRUE(thread.log.take().empty()) << "nothing may be shown";
+  }
+
+  void expect_read(const std::string& bytes) {
+    thread.files.memory[u"F\\a.cfp"] = bytes;
+    QVRcfp cfp;
+    EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
+    expect_parameters(cfp, sample_parameters(), u"a");
+  }
+
+  TestThread thread;
+  std::string whole;
+  Lines lines;
+};
+
+TEST_F(CfpFileDamageTest, TheUndamagedFileIsRead) { expect_read(whole); }
+
+TEST_F(CfpFileDamageTest, AMissingFileIsRefused) {
+  thread.files.memory.clear();
+  QVRcfp cfp;
+  EXPECT_FALSE(cfp.Crear(u"id", u"F", u"a"));
+  expect_cleared(cfp);
+}
+
+TEST_F(CfpFileDamageTest, TruncatedAtAnyByteOfItsLinesItIsRefused) {
+  const std::size_t end_of_last_line = whole.size() - 2;
+  for (std::size_t size = 0; size < end_of_last_line; ++size) {
+    expect_refused(whole.substr(0, size));
+    ASSERT_FALSE(HasFailure()) << size << " bytes";
+  }
+}
+
+TEST_F(CfpFileDamageTest, WithoutAnyOneLineItIsRefused) {
+  for (std::size_t missing = 0; missing < lines.size(); ++missing) {
+    SCOPED_TRACE(missing);
+    Lines fewer = lines;
+    fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(missing));
+    expect_refused(of(fewer));
+  }
+}
+
+TEST_F(CfpFileDamageTest, LinesBehindTheTenthAreNotRead) {
+  expect_read(whole + "anything\r\nat all");
+  expect_read(whole + std::string(100, '\0'));
+}
+
+TEST_F(CfpFileDamageTest, WithAnyTwoLinesSwappedItIsRefused) {
+  for (std::size_t a = 0; a < lines.size(); ++a) {
+    for (std::size_t b = a + 1; b < lines.size(); ++b) {
+      SCOPED_TRACE(::testing::Message() << a << " and " << b);
+      Lines swapped = lines;
+      std::swap(swapped[a], swapped[b]);
+      expect_refused(of(swapped));
+    }
+  }
+}
+
+TEST_F(CfpFileDamageTest, WithAnotherValueInAnyLineItIsRefused) {
+  for (std::size_t edited = 0; edited < lines.size(); ++edited) {
+    SCOPED_TRACE(edited);
+    Lines changed = lines;
+    changed[edited] = protected_line(u"3");
+    expect_refused(of(changed));
+  }
+}
+
+TEST_F(CfpFileDamageTest, WithAFirstLineThatIsNoNumberItIsRefused) {
+  for (TextView text : {TextView(u""), TextView(u"abc"), TextView(u"2x"), TextView(u"99999999999"), TextView(u"SQL")}) {
+    SCOPED_TRACE(to_utf8(text));
+    Lines changed = lines;
+    changed[0] = protected_line(text);
+    expect_refused(of(changed));
+  }
+}
+
+TEST_F(CfpFileDamageTest, WithAnyOneCharacterChangedItIsRefused) {
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    std::string changed = whole;
+    changed[at] = whole[at] == 'b' ? 'c' : 'b';
+    expect_refused(changed);
+    ASSERT_FALSE(HasFailure()) << "byte " << at;
+  }
+}
+
+TEST_F(CfpFileDamageTest, WithOtherLineEndsItIsRefused) {
+  expect_refused(of(lines, "\n"));
+  expect_refused(of(lines, "\r"));
+  expect_refused(of(lines, ""));
+  expect_refused("\r\n" + whole);
+}
+
+TEST_F(CfpFileDamageTest, WithAnotherIdentificationItIsRefused) {
+  for (TextView id : {TextView(u""), TextView(u"ID"), TextView(u"id "), TextView(u"other")}) {
+    SCOPED_TRACE(to_utf8(id));
+    expect_refused(whole, id);
+  }
+}
+
+TEST_F(CfpFileDamageTest, FilesOfAnotherKindAreRefused) {
+  std::mt19937 random(3);
+  std::string binary;
+  for (int i = 0; i < 100000; ++i) binary.push_back(static_cast<char>(random()));
+  for (const std::string& bytes : {std::string(), std::string("\r\n"), std::string(50, '\0'), binary,
+                                   of(Lines(10, "")), of(Lines(10, "hello")), of(Lines(10, "x")),
+                                   std::string("\xff\xfe" "a\0\r\0\n\0", 8)}) {
+    SCOPED_TRACE(bytes.size());
+    expect_refused(bytes);
+  }
+}
+
+TEST_F(CfpFileDamageTest, ALineWithoutEndIsGivenUpEarly) {
+  static constexpr std::size_t kSize = 100u << 20, kEnough = 20u << 20;
+  std::size_t taken = 0;
+  thread.files.input = [&taken] { return std::make_unique<EndlessLine>(kSize, taken); };
+  QVRcfp cfp;
+  EXPECT_FALSE(cfp.Crear(u"id", u"F", u"a"));
+  expect_cleared(cfp);
+  EXPECT_GT(taken, 0u);
+  EXPECT_LT(taken, kEnough);
+}
+
+TEST_F(CfpFileDamageTest, AReadErrorIsAFalseResult) {
+  struct Broken final : InputFile {
+    std::size_t read(std::span<char>) override { throw RuntimeFailure(failure_number::kFile); }
+  };
+  thread.files.input = [] { return std::make_unique<Broken>(); };
+  QVRcfp cfp;
+  EXPECT_FALSE(cfp.Crear(u"id", u"F", u"a"));
+  expect_cleared(cfp);
+}
+
+TEST_F(CfpFileDamageTest, AProtectionThatFailsAtAnyCallIsAFalseResult) {
+  for (int failing = 1; failing <= 10; ++failing) {
+    SCOPED_TRACE(failing);
+    int calls = 0;
+    thread.make_text_protection = [&] { return std::make_unique<FailingProtection>(failing, calls); };
+    thread.renew();
+    expect_refused(whole);
+    EXPECT_EQ(calls, failing);
+    expect_read(whole);
+  }
+}
+
+TEST_F(CfpFileDamageTest, TheBuiltInProtectionNoticesEveryCharacterToo) {
+  thread.make_text_protection = [] { return std::make_unique<BuiltinTextProtection>(system_platform().cryptography); };
+  thread.renew();
+  write_sample();
+  expect_read(whole);
+  for (std::size_t at = 0; at < whole.size(); at += 7) {
+    std::string changed = whole;
+    changed[at] = whole[at] == 'b' ? 'c' : 'b';
+    expect_refused(changed);
+    ASSERT_FALSE(HasFailure()) << "byte " << at;
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,179 @@
+// What a file holds and what comes back from it.
+#include "connection/cfp_file.h"
+
+#include <gtest/gtest.h>
+
+#include "connection/sample_parameters.h"
+#include "frame/utf8.h"
+#include "services/builtin_text_protection.h"
+#include "support/temporary_folder.h"
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+namespace {
+
+using services::BuiltinTextProtection;
+
+class CfpFileTest : public ::testing::Test {
+ protected:
+  void use_builtin_protection() {
+    thread.make_text_protection = [] {
+      return std::make_unique<BuiltinTextProtection>(system_platform().cryptography);
+    };
+    thread.renew();
+  }
+
+  Text protected_text(TextView text) { return CheapProtection().Cifrar(u"id", text); }
+
+  TestThread thread;
+  TemporaryFolder folder;
+};
+
+TEST_F(CfpFileTest, IsNamedByFolderAndName) {
+  EXPECT_EQ(cfp_path(u"C:\\Datos", u"Gestion"), u"C:\\Datos\\Gestion.cfp");
+}
+
+TEST_F(CfpFileTest, HasTenProtectedLines) {
+  QVRcfp cfp;
+  const ConnectionParameters sample = sample_parameters();
+  ASSERT_TRUE(cfp.Asignar(u"id", sample));
+  ASSERT_TRUE(cfp.Guardar(u"id", folder.text(), u"a"));
+  const Text kFields[] = {u"2",
+                          sample.Provider,
+                          sample.DataSource,
+                          sample.InitialCatalogOTablespace,
+                          sample.UsuarioAdm,
+                          sample.ClaveAdm,
+                          sample.UsuarioCli,
+                          sample.ClaveCli,
+                          sample.OtrosParametros};
+  Text expected, all;
+  for (const Text& field : kFields) {
+    expected += protected_text(field) + u"\r\n";
+    all += field;
+  }
+  expected += protected_text(all) + u"\r\n";
+  EXPECT_EQ(folder.read(u"a.cfp"), to_utf8(expected));
+}
+
+TEST_F(CfpFileTest, GivesParametersBack) {
+  struct Row {
+    const char* name;
+    ConnectionParameters parameters;
+  };
+  ConnectionParameters nothing, large = sample_parameters(), negative = sample_parameters();
+  large.DataSource = Text(65536, u'\u00f1');
+  large.ClaveCli = Text(65536, u'x');
+  negative.MotorBD = INT32_MIN;
+  for (const Row& row : {Row{"sample", sample_parameters()}, Row{"empty values", nothing}, Row{"64 K values", large},
+                         Row{"any engine", negative}}) {
+    SCOPED_TRACE(row.name);
+    QVRcfp saved, loaded;
+    ASSERT_TRUE(saved.Asignar(u"id", row.parameters));
+    ASSERT_TRUE(saved.Guardar(u"id", folder.text(), u"x \u00f1"));
+    EXPECT_TRUE(loaded.Crear(u"id", folder.text(), u"x \u00f1"));
+    expect_parameters(loaded, row.parameters, u"x \u00f1");
+  }
+}
+
+TEST_F(CfpFileTest, GivesParametersBackThroughTheBuiltInProtection) {
+  use_builtin_protection();
+  ConnectionParameters parameters = sample_parameters();
+  parameters.OtrosParametros = Text(65536, u'\u20ac');
+  QVRcfp saved, loaded;
+  ASSERT_TRUE(saved.Asignar(u"id", parameters));
+  ASSERT_TRUE(saved.Guardar(u"id", folder.text(), u"a"));
+  EXPECT_TRUE(loaded.Crear(u"id", folder.text(), u"a"));
+  expect_parameters(loaded, parameters, u"a");
+  EXPECT_FALSE(loaded.Crear(u"ID", folder.text(), u"a"));
+  expect_cleared(loaded);
+}
+
+TEST_F(CfpFileTest, ShowsNoFieldInPlainText) {
+  use_builtin_protection();
+  QVRcfp cfp;
+  const ConnectionParameters sample = sample_parameters();
+  ASSERT_TRUE(cfp.Asignar(u"id", sample));
+  ASSERT_TRUE(cfp.Guardar(u"id", folder.text(), u"a"));
+  const std::string bytes = folder.read(u"a.cfp");
+  for (const Text& field : {sample.Provider, sample.DataSource, sample.InitialCatalogOTablespace, sample.ClaveAdm,
+                            sample.ClaveCli, sample.OtrosParametros}) {
+    EXPECT_EQ(bytes.find(to_utf8(field)), std::string::npos) << to_utf8(field);
+  }
+  EXPECT_EQ(bytes.find_first_of(", \""), std::string::npos);
+}
+
+TEST_F(CfpFileTest, IsReadWhateverTheCaseOfItsCheckLine) {
+  thread.files.keep_in_memory();
+  thread.make_text_protection = [] {
+    return std::make_unique<CheapProtection>(CheapProtection::kUpper, CheapProtection::kLower);
+  };
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+  std::string& bytes = thread.files.memory[u"F\\a.cfp"];
+  const std::size_t check = bytes.rfind('\n', bytes.size() - 2) + 1;
+  for (std::size_t i = check; i + 2 < bytes.size(); ++i) bytes[i] = static_cast<char>(bytes[i] ^ 0x20);
+  EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
+  expect_parameters(cfp, sample_parameters(), u"a");
+}
+
+TEST_F(CfpFileTest, KeepsLinesInTheSystemsPage) {
+  thread.files.keep_in_memory();
+  thread.files.single_byte_page = true;
+  thread.make_text_protection = [] { return std::make_unique<LatinProtection>(); };
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+  EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
+  expect_parameters(cfp, sample_parameters(), u"a");
+}
+
+TEST_F(CfpFileTest, IsNotMadeWhereThereIsNoPlace) {
+  folder.write(u"plain", "");
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  EXPECT_FALSE(cfp.Guardar(u"id", folder.file_text(u"missing"), u"a"));
+  EXPECT_FALSE(cfp.Guardar(u"id", folder.file_text(u"plain"), u"a"));
+  EXPECT_FALSE(cfp.Guardar(u"id", folder.text(), u"sub\\a"));
+  EXPECT_EQ(cfp.Archivo(), u"");
+  expect_parameters(cfp, sample_parameters(), u"");
+}
+
+TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
+  thread.files.keep_in_memory();
+  for (int failing = 1; failing <= 10; ++failing) {
+    SCOPED_TRACE(failing);
+    int calls = 0;
+    thread.make_text_protection = [&] { return std::make_unique<FailingProtection>(failing, calls); };
+    thread.renew();
+    thread.files.memory[u"F\\a.cfp"] = "what was there";
+    QVRcfp cfp;
+    ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+    EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"a"));
+    EXPECT_EQ(thread.files.memory[u"F\\a.cfp"], "what was there");
+    EXPECT_EQ(calls, failing);
+    EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a")) << "the object still holds its parameters";
+  }
+}
+
+TEST_F(CfpFileTest, AFullDiskIsAFalseResult) {
+  thread.files.keep_in_memory();
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"whole"));
+  const std::size_t size = thread.files.memory[u"F\\whole.cfp"].size();
+  for (std::size_t room : {std::size_t{0}, std::size_t{1}, size - 1}) {
+    SCOPED_TRACE(room);
+    thread.files.writable_bytes = room;
+    EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"part"));
+    EXPECT_EQ(thread.files.memory[u"F\\part.cfp"].size(), room);
+  }
+  thread.files.writable_bytes = size;
+  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"part"));
+  thread.files.close_fails = true;
+  EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"part"));
+}
+
+}  // namespace
+}  // namespace qvr::tests

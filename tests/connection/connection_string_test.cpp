@@ -1,0 +1,142 @@
+#include "connection/connection_string.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+namespace {
+
+struct Fields {
+  std::int32_t motor;
+  TextView catalogue, user_adm, password_adm, user_cli, password_cli, other;
+};
+
+ConnectionParameters parameters_of(const Fields& fields) {
+  ConnectionParameters parameters;
+  parameters.MotorBD = fields.motor;
+  parameters.Provider = u"PROV";
+  parameters.DataSource = u"SRC";
+  parameters.InitialCatalogOTablespace = fields.catalogue;
+  parameters.UsuarioAdm = fields.user_adm;
+  parameters.ClaveAdm = fields.password_adm;
+  parameters.UsuarioCli = fields.user_cli;
+  parameters.ClaveCli = fields.password_cli;
+  parameters.OtrosParametros = fields.other;
+  return parameters;
+}
+
+// What follows `Provider=PROV;Data Source="SRC";Persist Security Info=False;`.
+struct Row {
+  const char* name;
+  Fields fields;
+  TextView administrator, client;
+};
+
+constexpr Row kRows[] = {
+    {"nothing else", {1, u"", u"", u"", u"", u"", u""}, u"", u""},
+    {"both accounts",
+     {1, u"", u"adm", u"pa", u"cli", u"pc", u""},
+     u"User ID=\"adm\";Password=\"pa\";",
+     u"User ID=\"cli\";Password=\"pc\";"},
+    {"no administrator",
+     {1, u"", u"", u"pa", u"cli", u"pc", u""},
+     u"User ID=\"cli\";Password=\"pc\";",
+     u"User ID=\"cli\";Password=\"pc\";"},
+    {"no client", {1, u"", u"adm", u"pa", u"", u"pc", u""}, u"User ID=\"adm\";Password=\"pa\";", u""},
+    {"no passwords", {1, u"", u"adm", u"", u"cli", u"", u""}, u"User ID=\"adm\";", u"User ID=\"cli\";"},
+    {"administrator without password keeps to itself",
+     {1, u"", u"adm", u"", u"cli", u"pc", u""},
+     u"User ID=\"adm\";",
+     u"User ID=\"cli\";Password=\"pc\";"},
+    {"passwords without users", {2, u"", u"", u"pa", u"", u"pc", u""}, u"", u""},
+    {"quotes are not escaped",
+     {1, u"", u"a\"d", u"p\"a", u"", u"", u""},
+     u"User ID=\"a\"d\";Password=\"p\"a\";",
+     u""},
+    {"catalogue, Jet", {1, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, SQL Server",
+     {2, u"Cat", u"", u"", u"", u"", u""},
+     u"Initial Catalog=Cat;",
+     u"Initial Catalog=Cat;"},
+    {"catalogue, Oracle", {3, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, no engine", {0, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, unknown engine", {99, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"options without end", {1, u"", u"", u"", u"", u"", u"Mode=Read"}, u"Mode=Read;", u"Mode=Read;"},
+    {"options with end", {1, u"", u"", u"", u"", u"", u"Mode=Read;"}, u"Mode=Read;", u"Mode=Read;"},
+    {"options with two ends", {1, u"", u"", u"", u"", u"", u"A=1;;"}, u"A=1;;", u"A=1;;"},
+    {"options of an end only", {1, u"", u"", u"", u"", u"", u";"}, u";", u";"},
+    {"options with a blank behind", {1, u"", u"", u"", u"", u"", u"A=1; "}, u"A=1; ;", u"A=1; ;"},
+    {"everything, SQL Server",
+     {2, u"Cat", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
+     u"User ID=\"adm\";Password=\"pa\";Initial Catalog=Cat;Mode=Read;",
+     u"User ID=\"cli\";Password=\"pc\";Initial Catalog=Cat;Mode=Read;"},
+    {"everything, Oracle",
+     {3, u"Tab", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
+     u"User ID=\"adm\";Password=\"pa\";Mode=Read;",
+     u"User ID=\"cli\";Password=\"pc\";Mode=Read;"},
+};
+
+const Text kHead = u"Provider=PROV;Data Source=\"SRC\";Persist Security Info=False;";
+
+TEST(CadenaADO, JoinsItsPartsInOrder) {
+  TestThread thread;
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    QVRcfp cfp;
+    ASSERT_TRUE(cfp.Asignar(u"id", parameters_of(row.fields)));
+    EXPECT_EQ(cfp.CadenaADO(u"id", true), kHead + Text(row.administrator));
+    EXPECT_EQ(cfp.CadenaADO(u"other", false), kHead + Text(row.client));
+  }
+}
+
+TEST(CadenaADO, WritesAWholeSqlServerString) {
+  TestThread thread;
+  QVRcfp cfp;
+  ConnectionParameters parameters;
+  parameters.MotorBD = 2;
+  parameters.Provider = u"SQLOLEDB";
+  parameters.DataSource = u"SRV01";
+  parameters.InitialCatalogOTablespace = u"Gestion";
+  parameters.UsuarioCli = u"app";
+  parameters.ClaveCli = u"pw";
+  ASSERT_TRUE(cfp.Asignar(u"id", parameters));
+  EXPECT_EQ(cfp.CadenaADO(u"id", false),
+            u"Provider=SQLOLEDB;Data Source=\"SRV01\";Persist Security Info=False;User ID=\"app\";Password=\"pw\";"
+            u"Initial Catalog=Gestion;");
+}
+
+TEST(CadenaADO, WritesTheFrameOfEmptyParameters) {
+  TestThread thread;
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", ConnectionParameters()));
+  EXPECT_EQ(cfp.CadenaADO(u"id", true), u"Provider=;Data Source=\"\";Persist Security Info=False;");
+}
+
+TEST(CadenaADOUsuario, UsesTheGivenAccount) {
+  TestThread thread;
+  struct Account {
+    const char* name;
+    Fields fields;
+    TextView user, password, rest;
+  };
+  constexpr Account kAccounts[] = {
+      {"user and password", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"me", u"mine",
+       u"User ID=\"me\";Password=\"mine\";"},
+      {"user alone", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"me", u"", u"User ID=\"me\";"},
+      {"password alone", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"mine", u""},
+      {"neither", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"", u""},
+      {"SQL Server with all", {2, u"Cat", u"", u"", u"", u"", u"A=1"}, u"me", u"mine",
+       u"User ID=\"me\";Password=\"mine\";Initial Catalog=Cat;A=1;"},
+      {"Oracle with all", {3, u"Cat", u"", u"", u"", u"", u"A=1;"}, u"me", u"", u"User ID=\"me\";A=1;"},
+  };
+  for (const Account& row : kAccounts) {
+    SCOPED_TRACE(row.name);
+    QVRcfp cfp;
+    ASSERT_TRUE(cfp.Asignar(u"id", parameters_of(row.fields)));
+    EXPECT_EQ(cfp.CadenaADOUsuario(row.user, row.password), kHead + Text(row.rest));
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

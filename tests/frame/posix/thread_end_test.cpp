@@ -1,0 +1,35 @@
+// Here the thread itself takes its state along; on Windows the library's entry point does.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "frame/thread_state.h"
+
+namespace qvr::tests {
+namespace {
+
+class Mortal final : public services::TextProtection {
+ public:
+  ~Mortal() override { ++ended; }
+  Text Cifrar(TextView, TextView Texto) override { return Text(Texto); }
+  Text Descifrar(TextView, TextView Texto) override { return Text(Texto); }
+
+  static inline int ended = 0;
+};
+
+std::unique_ptr<services::TextProtection> make_mortal(const Platform&) { return std::make_unique<Mortal>(); }
+
+TEST(ThreadEnd, TakesTheStateAlong) {
+  Mortal::ended = 0;
+  std::thread([] {
+    const Environment& usual = environment();
+    const Environment mortal{usual.platform, make_mortal, usual.make_error_report, usual.make_ado};
+    exchange_thread_state(std::make_unique<ThreadState>(mortal));
+    thread_state().text_protection();
+    EXPECT_EQ(Mortal::ended, 0);
+  }).join();
+  EXPECT_EQ(Mortal::ended, 1);
+}
+
+}  // namespace
+}  // namespace qvr::tests

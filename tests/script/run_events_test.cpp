@@ -1,0 +1,94 @@
+// What a host may do from inside the events of a run.
+#include "script/script_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+class RunEventsTest : public ScriptTest {
+ protected:
+  bool nested_run() {
+    if (++attempts > 5) return true;  // a run that is let in must not go on for ever
+    Text nested_id = u"EvitarTransaccionOther", nested_text;
+    const bool result = runner.EjecutarComandos(nested_id, 1, u"B\r\nGO\r\n", u"other", nested_text);
+    EXPECT_EQ(nested_id, u"EvitarTransaccionOther") << "a refused run leaves its arguments alone";
+    EXPECT_EQ(nested_text, u"");
+    return result;
+  }
+
+  int attempts = 0;
+  const Lines whole_run = together({opening(),
+                                    {"Progreso: Comandos ejecutados: 0/1"},
+                                    command_lines("A"),
+                                    {"Host events"},
+                                    closing()});
+};
+
+TEST_F(RunEventsTest, ARunFromProgresoIsRefusedWithoutEvents) {
+  int refused = 0;
+  events.on_progress = [&] { refused += nested_run() ? 0 : 1; };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(refused, 2);
+  EXPECT_EQ(taken(), whole_run);
+}
+
+TEST_F(RunEventsTest, ARunFromTerminadoIsRefusedWithoutEvents) {
+  int refused = 0;
+  events.on_end = [&] { refused += nested_run() ? 0 : 1; };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(refused, 1);
+  EXPECT_EQ(taken(), whole_run);
+}
+
+TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
+  int refused = 0;
+  thread.host_events.on_process = [&] { refused += nested_run() ? 0 : 1; };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(refused, 1);
+  EXPECT_EQ(taken(), whole_run);
+}
+
+TEST_F(RunEventsTest, AnotherRunFollowsWhenTheFirstHasEnded) {
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(taken(), whole_run);
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(taken(), whole_run);
+}
+
+TEST_F(RunEventsTest, AnotherObjectMayRunFromInside) {
+  LoggingEvents other_events(thread.log);
+  QVRScr other(other_events);
+  bool inner_result = false;
+  events.on_end = [&] {
+    Text other_id = u"x", other_text;
+    inner_result = other.EjecutarComandos(other_id, 1, u"", u"Provider=P;", other_text);
+  };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_TRUE(inner_result);
+  EXPECT_EQ(taken(), together({whole_run, opening(), closing()}));
+}
+
+TEST_F(RunEventsTest, OneCommandMayRunFromInside) {
+  const auto connection = thread.ado.new_connection();
+  taken();
+  bool inner_result = false;
+  thread.host_events.on_process = [&] { inner_result = runner.Ejecutar1Comando(connection.get(), u"X", 2); };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_TRUE(inner_result);
+  EXPECT_EQ(taken(), together({opening(),
+                               {"Progreso: Comandos ejecutados: 0/1"},
+                               command_lines("A"),
+                               {"Host events"},
+                               command_lines("X"),
+                               closing()}));
+}
+
+TEST_F(RunEventsTest, AChangedLanguageIsKeptForTheNextText) {
+  events.on_progress = [] { thread_state().idioma.Idioma(1); };
+  thread.ado.fail("Command.Execute", 1, refusal());
+  thread.boxes.answer(BoxAnswer::No);
+  EXPECT_FALSE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(thread.boxes.shown.at(0), u"Do you want further commands to execute?");
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,115 @@
+#include "services/builtin_error_report.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+namespace {
+
+using services::AdoError;
+using services::BuiltinErrorReport;
+using services::ErrorNotice;
+
+ErrorNotice notice_of(std::int32_t motor, FailureDetail failure, std::vector<AdoError> errors = {}) {
+  ErrorNotice notice;
+  notice.failure = std::move(failure);
+  notice.motor = motor;
+  notice.label = u"EjecutarComandos";
+  notice.errors = std::move(errors);
+  return notice;
+}
+
+// The one box that the report shows.
+Text box_for(const ErrorNotice& notice) {
+  TestThread thread;
+  thread.boxes.answer(BoxAnswer::Ok);
+  BuiltinErrorReport report(thread.boxes);
+  report.Informar(notice);
+  EXPECT_EQ(thread.log.take().at(0).substr(0, 7), "Box OK:");
+  return thread.boxes.shown.at(0);
+}
+
+TEST(BuiltinErrorReport, ShowsAFailureWithoutDatabaseErrors) {
+  EXPECT_EQ(box_for(notice_of(1, {13, u"Type mismatch", u"QVRlib21"})),
+            u"Error indeterminado\r\n\r\nError 13: Type mismatch (QVRlib21)\r\n\r\nM\u00e9todo: EjecutarComandos");
+  EXPECT_EQ(box_for(notice_of(0, {429, u"No object", u""})),
+            u"Error indeterminado\r\n\r\nError 429: No object\r\n\r\nM\u00e9todo: EjecutarComandos");
+}
+
+TEST(BuiltinErrorReport, ShowsADuplicateRecord) {
+  const FailureDetail failure{-2147217873, u"Duplicate key", u"Provider"};
+  EXPECT_EQ(box_for(notice_of(2, failure, {{-2147217873, u"Duplicate key", u"Provider", u"23000", 2627}})),
+            u"Registro duplicado\r\n\r\nError -2147217873: Duplicate key (Provider)\r\n\r\n"
+            u"M\u00e9todo: EjecutarComandos");
+}
+
+TEST(BuiltinErrorReport, ShowsAMissingServer) {
+  const FailureDetail failure{-2147467259, u"Server not there", u"Provider"};
+  EXPECT_EQ(box_for(notice_of(3, failure, {{-2147467259, u"Server not there", u"Provider", u"", 12154}})),
+            u"Servidor no encontrado\r\n\r\nError -2147467259: Server not there (Provider)\r\n\r\n"
+            u"M\u00e9todo: EjecutarComandos");
+}
+
+TEST(BuiltinErrorReport, ShowsEveryErrorOfTheConnectionInOrder) {
+  const FailureDetail failure{5, u"first", u"P"};
+  const Text box = box_for(notice_of(
+      2, failure, {{5, u"first", u"P", u"", 0}, {6, u"second", u"P", u"", 0}, {7, u"third", u"", u"", 2601}}));
+  EXPECT_EQ(box,
+            u"Registro duplicado\r\n\r\nError 5: first (P)\r\nError 6: second (P)\r\nError 7: third\r\n\r\n"
+            u"M\u00e9todo: EjecutarComandos");
+}
+
+TEST(BuiltinErrorReport, TellsTheKindsOfErrorByEngine) {
+  struct Row {
+    std::int32_t motor, native;
+    TextView sql_state, caption;
+  };
+  constexpr TextView kDuplicate = u"Registro duplicado", kServer = u"Servidor no encontrado",
+                     kUnknown = u"Error indeterminado";
+  constexpr Row kRows[] = {
+      {1, -1605, u"", kDuplicate},  {1, -105121349, u"", kDuplicate}, {1, -1811, u"", kServer},
+      {2, 2601, u"", kDuplicate},   {2, 2627, u"", kDuplicate},       {2, 17, u"", kServer},
+      {2, 53, u"", kServer},        {3, 1, u"", kDuplicate},          {3, 12154, u"", kServer},
+      {3, 12170, u"", kServer},     {3, 12514, u"", kServer},         {3, 12535, u"", kServer},
+      {3, 12541, u"", kServer},     {1, 2627, u"", kUnknown},         {2, 1, u"", kUnknown},
+      {3, 2601, u"", kUnknown},     {0, 2627, u"", kUnknown},         {99, 1, u"", kUnknown},
+      {0, 0, u"23505", kDuplicate}, {1, 0, u"3022", kDuplicate},      {2, 0, u"08001", kServer},
+      {3, 0, u"08004", kServer},    {0, 0, u"08S01", kServer},        {0, 0, u"08s01", kServer},
+      {0, 0, u"IM002", kServer},    {0, 0, u"42000", kUnknown},       {0, 0, u"", kUnknown},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(::testing::Message() << "engine " << row.motor << ", error " << row.native << ", state "
+                                      << to_utf8(row.sql_state));
+    const Text text = services::error_report_text(
+        notice_of(row.motor, {5, u"d", u""}, {{5, u"d", u"", Text(row.sql_state), row.native}}));
+    EXPECT_EQ(text, join({row.caption, u"\r\n\r\nError 5: d\r\n\r\nM\u00e9todo: EjecutarComandos"}));
+  }
+}
+
+TEST(BuiltinErrorReport, AbbreviatesALongCommand) {
+  ErrorNotice notice = notice_of(2, {5, u"d", u"s"});
+  notice.label = u"Ejecutar1Comando: INSERT\r\nINTO " + Text(1000, u'x');
+  const Text head = u"Ejecutar1Comando: INSERT INTO ";
+  EXPECT_EQ(box_for(notice), u"Error indeterminado\r\n\r\nError 5: d (s)\r\n\r\nM\u00e9todo: " + head +
+                                 Text(250 - head.size(), u'x') + u"\r\n\r\n...\r\n\r\n" + Text(250, u'x'));
+}
+
+TEST(BuiltinErrorReport, UsesTheCaptionsOfTheNotice) {
+  ErrorNotice notice = notice_of(2, {5, u"d", u"s"}, {{5, u"d", u"s", u"", 17}});
+  notice.captions.server_not_found = u"No server";
+  notice.captions.method = u"Method";
+  EXPECT_EQ(box_for(notice), u"No server\r\n\r\nError 5: d (s)\r\n\r\nMethod: EjecutarComandos");
+}
+
+TEST(Captions, AreTheFixedFive) {
+  const services::Captions captions;
+  EXPECT_EQ(captions.server_not_found, u"Servidor no encontrado");
+  EXPECT_EQ(captions.duplicate_record, u"Registro duplicado");
+  EXPECT_EQ(captions.unknown_error, u"Error indeterminado");
+  EXPECT_EQ(captions.method, u"M\u00e9todo");
+  EXPECT_EQ(captions.object, u"Objeto");
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Runs a Windows program in the prefix of the build folder: tools/wine.sh PROGRAM [ARGUMENTS]; --stop ends its server.
+set -eu
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+export WINEPREFIX=${QVR_WINEPREFIX:-$root/build/wine} WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+unset DISPLAY WAYLAND_DISPLAY
+[ "${1:-}" = --stop ] && exec wineserver -k
+exec wine "$@"
