@@ -63,6 +63,7 @@ long show_failure(const Setting& setting, const std::wstring& connection_string,
 void show_script(const BusinessScript& script, const std::wstring& connection_string) {
   item(L"commands in the script", std::to_wstring(script.commands));
   item(L"tables that it creates", std::to_wstring(script.tables.size()));
+  const Database reachable(connection_string);  // tells at once, where the library would ask somebody
   const RunOutcome outcome = run_script(script.text, connection_string);
   expect(outcome.result, L"The script did not run to its end");
   expect(outcome.total == script.commands, L"The library counts " + std::to_wstring(outcome.total) + L" commands");

@@ -32,16 +32,21 @@ bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept 
 }
 
 bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
-  clear();
-  return or_default(false, [&] {
+  const bool done = or_default(false, [&] {
+    // Copies first: a caller may pass this object's own fields, which are emptied now.
+    const Text key(ID), path = cfp_path(R, A);
+    Text name(A);
+    clear();
     ThreadState& state = thread_state();
-    const auto file = state.platform().files.open(cfp_path(R, A));
-    auto loaded = read_cfp(*file, state.platform().files, state.text_protection(), ID);
+    const auto file = state.platform().files.open(path);
+    auto loaded = read_cfp(*file, state.platform().files, state.text_protection(), key);
     if (!loaded) return false;
-    loaded->Archivo = A;
     fields_ = std::move(*loaded);
+    fields_.Archivo = std::move(name);
     return created_ = true;
   });
+  if (!done) clear();
+  return done;
 }
 
 bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {

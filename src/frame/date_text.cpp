@@ -37,10 +37,12 @@ CalendarTime calendar_time(Date date) {
 }
 
 std::optional<Date> date_from(const CalendarTime& time) {
+  const auto within = [](int part, int limit) { return part >= 0 && part < limit; };
+  // The calendar's own types keep only the low bits of a month or day far out of range.
+  if (!within(time.month, 13) || !within(time.day, 32)) return std::nullopt;
   const std::chrono::year_month_day calendar{std::chrono::year{time.year},
                                              std::chrono::month{static_cast<unsigned>(time.month)},
                                              std::chrono::day{static_cast<unsigned>(time.day)}};
-  const auto within = [](int part, int limit) { return part >= 0 && part < limit; };
   if (!calendar.ok() || time.year < 100 || time.year > 9999) return std::nullopt;
   if (!within(time.hour, 24) || !within(time.minute, 60) || !within(time.second, 60)) return std::nullopt;
   const auto day = static_cast<double>((sys_days{calendar} - kDayZero).count());

@@ -18,7 +18,8 @@ std::int32_t to_long(double number) {
 
 double read_default_language(ThreadState& state) {
   const Text system = decimal(state.idioma.IdiomaDesdeSOP());
-  return number_prefix(state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system));
+  const Text setting = state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system);
+  return or_default(0.0, [&] { return number_prefix(setting); });
 }
 
 }  // namespace

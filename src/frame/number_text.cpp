@@ -1,5 +1,6 @@
 #include "frame/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -18,9 +19,11 @@ Text widen_upper(const char* first, const char* last) {
 }
 
 // Between these, plain digits are what people and databases expect; outside, an exponent keeps the text short.
+// The upper bound is where the digits before the point begin to say more than the type holds.
 template <class Float>
 bool reads_well_in_digits(Float magnitude) {
-  return magnitude == 0 || (magnitude >= Float(1e-5) && magnitude < Float(1e15));
+  constexpr Float kUpper = std::is_same_v<Float, float> ? Float(16777216) : Float(1e15);
+  return magnitude >= Float(1e-5) && magnitude < kUpper;
 }
 
 template <class Float>
@@ -54,6 +57,24 @@ std::uint32_t divide_by_ten(Decimal& number) {
     rest %= 10;
   }
   return static_cast<std::uint32_t>(rest);
+}
+
+// The power of ten of the number's first digit that is not 0. Only its sign counts for a number out of range, so an
+// exponent beyond measure may be cut.
+long long decimal_magnitude(std::string_view number) {
+  const std::size_t exponent_at = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view digits = number.substr(0, exponent_at);
+  const std::size_t point = std::min(digits.find('.'), digits.size());
+  const std::size_t first = digits.find_first_of("123456789");
+  if (first == std::string_view::npos) return 0;
+  const auto power = static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
+  if (exponent_at == number.size()) return power;
+  const bool negative = number[exponent_at + 1] == '-';
+  const char* from = number.data() + exponent_at + 1 + (negative || number[exponent_at + 1] == '+' ? 1 : 0);
+  int exponent = 0;
+  constexpr int kBeyondMeasure = 1 << 30;
+  if (std::from_chars(from, number.data() + number.size(), exponent).ec != std::errc()) exponent = kBeyondMeasure;
+  return power + (negative ? -exponent : exponent);
 }
 
 bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
@@ -120,9 +141,8 @@ double number_prefix(TextView text) {
   double number = 0;
   const auto [end, error] = std::from_chars(first, narrow.data() + narrow.size(), number);
   if (error == std::errc::result_out_of_range) {
-    const auto exponent = narrow.find_first_of("eE");
-    if (exponent != std::string::npos && narrow.find('-', exponent) != std::string::npos) return 0;  // too small
-    throw RuntimeFailure(failure_number::kOverflow);
+    if (decimal_magnitude(narrow) > 0) throw RuntimeFailure(failure_number::kOverflow);
+    return 0;  // too small for a double
   }
   return number == 0 ? 0 : number;  // no negative zero
 }

@@ -27,18 +27,20 @@ struct RegistrationTest : testing::Test {
     return std::ranges::any_of(lines, [&](const auto& line) { return line.find(part) != std::wstring::npos; });
   }
 
-  // This width's lines of one scope, without the scope's name.
+  // This width's lines of one scope, without the scope's name, in one case: the registry keeps the first spelling.
   static RegistryLines below(const RegistryLines& lines, const std::wstring& scope) {
     RegistryLines found;
     for (const auto& line : lines) {
       if (line.starts_with(kWidth + scope) && line.find(L"Wow6432Node") == std::wstring::npos) {
-        found.insert(line.substr(3 + scope.size()));
+        std::wstring rest = line.substr(3 + scope.size());
+        CharLowerW(rest.data());
+        found.insert(rest);
       }
     }
     return found;
   }
   // Keys that every machine has but a user who never registered anything has not.
-  static bool is_top(const std::wstring& line) { return line == L"CLSID" || line == L"Interface" || line == L"TypeLib"; }
+  static bool is_top(const std::wstring& line) { return line == L"clsid" || line == L"interface" || line == L"typelib"; }
 
   RegistryLines before;
 };

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <vector>
 
+#include "QVRlib21.h"
+
 namespace qvr::tests {
 namespace {
 
@@ -23,15 +25,39 @@ void add_values(HKEY key, const std::wstring& path, RegistryLines& lines) {
   }
 }
 
-void add_tree(HKEY parent, const std::wstring& name, const std::wstring& path, REGSAM view, RegistryLines& lines) {
+// Whether a key below the classes root is this library's, so that all below it is of interest.
+bool is_ours(const std::wstring& path) {
+  static const std::vector<std::wstring> names = [] {
+    std::vector<std::wstring> all{L"QVRlib21."};
+    for (const GUID& id : {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, IID__Ov, IID__QVRcfp, IID__QVRScr,
+                           DIID___QVRScr}) {
+      wchar_t text[40];
+      StringFromGUID2(id, text, 40);
+      all.push_back(text);
+    }
+    return all;
+  }();
+  return std::ranges::any_of(names, [&](const auto& name) { return path.find(name) != std::wstring::npos; });
+}
+
+constexpr int kLevelsOfOthers = 2;
+
+void add_tree(HKEY parent, const std::wstring& name, const std::wstring& path, REGSAM view, int level,
+              RegistryLines& lines) {
   HKEY key = nullptr;
   if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ | view, &key) != ERROR_SUCCESS) return;
   lines.insert(path);
   add_values(key, path, lines);
+  // The other width's part stands below a key of its own.
+  const int children = name == L"Wow6432Node" ? level : level + 1;
+  if (children > kLevelsOfOthers && !is_ours(path)) {
+    RegCloseKey(key);
+    return;
+  }
   wchar_t child[256];
   for (DWORD index = 0, size = 256; RegEnumKeyExW(key, index, child, &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
        ++index, size = 256) {
-    add_tree(key, child, path + L"\\" + child, view, lines);
+    add_tree(key, child, path + L"\\" + child, view, children, lines);
   }
   RegCloseKey(key);
 }
@@ -42,8 +68,8 @@ RegistryLines registry_snapshot() {
   RegistryLines lines;
   for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
     const std::wstring width = view == KEY_WOW64_32KEY ? L"32 " : L"64 ";
-    add_tree(HKEY_LOCAL_MACHINE, L"Software\\Classes", width + L"machine", view, lines);
-    add_tree(HKEY_CURRENT_USER, L"Software\\Classes", width + L"user", view, lines);
+    add_tree(HKEY_LOCAL_MACHINE, L"Software\\Classes", width + L"machine", view, 0, lines);
+    add_tree(HKEY_CURRENT_USER, L"Software\\Classes", width + L"user", view, 0, lines);
   }
   return lines;
 }

@@ -1,4 +1,5 @@
-// All keys and values of the registry's classes, as lines that can be compared.
+// The keys and values of the registry's classes, as lines that can be compared: everything of ours whole, of everybody
+// else the first two levels.
 #pragma once
 
 #include <windows.h>

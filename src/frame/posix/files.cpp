@@ -76,11 +76,21 @@ class DescriptorOutput : public OutputFile {
 
 constexpr std::int32_t kDirectoryAttribute = 16;
 
+// Only "*" and "?" are wildcards; a bracket is part of a name.
+std::string search_pattern(TextView path) {
+  std::string pattern;
+  for (const char byte : native_path(path)) {
+    if (byte == '[') pattern.push_back('\\');
+    pattern.push_back(byte);
+  }
+  return pattern;
+}
+
 class PosixFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override {
     glob_t found{};
-    const int result = ::glob(native_path(path).c_str(), GLOB_NOSORT, nullptr, &found);
+    const int result = ::glob(search_pattern(path).c_str(), GLOB_NOSORT, nullptr, &found);
     bool any = false;
     for (std::size_t i = 0; result == 0 && i < found.gl_pathc && !any; ++i) {
       struct stat entry{};

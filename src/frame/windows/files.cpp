@@ -106,9 +106,12 @@ class SystemFiles final : public Files {
     const std::wstring from = wide(text);
     if (from.empty()) return {};
     BOOL replaced = FALSE;
-    BOOL* const report = GetACP() == CP_UTF8 ? nullptr : &replaced;  // the UTF-8 page has no such report
+    // The UTF-8 page has a place for everything and takes neither of these.
+    const bool total = GetACP() == CP_UTF8;
+    BOOL* const report = total ? nullptr : &replaced;
+    const DWORD flags = total ? 0 : WC_NO_BEST_FIT_CHARS;
     const auto convert = [&](char* to, int room) {
-      return WideCharToMultiByte(CP_ACP, 0, from.data(), static_cast<int>(from.size()), to, room, nullptr, report);
+      return WideCharToMultiByte(CP_ACP, flags, from.data(), static_cast<int>(from.size()), to, room, nullptr, report);
     };
     std::string bytes(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
     if (bytes.empty() || convert(bytes.data(), static_cast<int>(bytes.size())) == 0 || replaced) refuse();

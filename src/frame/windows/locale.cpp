@@ -7,17 +7,20 @@ namespace qvr::windows {
 namespace {
 
 // Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
+// The conversions stop at a zero unit, which belongs to no date and no number.
+bool has_zero(TextView text) { return text.find(u'\0') != TextView::npos; }
+
 class UserLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {
     Date date;
-    if (FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days))) return std::nullopt;
+    if (has_zero(text) || FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days))) return std::nullopt;
     return date;
   }
 
   std::optional<double> parse_number(TextView text) override {
     double number = 0;
-    if (FAILED(VarR8FromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &number))) return std::nullopt;
+    if (has_zero(text) || FAILED(VarR8FromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &number))) return std::nullopt;
     return number;
   }
 
