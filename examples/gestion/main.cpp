@@ -21,8 +21,8 @@ constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVR
 
 Scope show_registration(const Setting& setting) {
   const Scope scope = register_library(setting.library, kClasses[0]);
-  say(scope == Scope::User ? L"   Registered for this user."
-                           : L"   This system looks among the machine's registrations only: registered for the machine.");
+  if (scope == Scope::Machine) say(L"   This system looks among the machine's registrations only.");
+  say(scope == Scope::User ? L"   Registered for this user." : L"   Registered for the machine.");
   for (const wchar_t* name : kClasses) {
     expect(leads_to(name, setting.library), std::wstring(L"After registering there is no class ") + name);
     item(name, L"known");
@@ -61,7 +61,12 @@ void show_all(const Setting& setting) {
   say(L"Gestión: a business program and its database services");
   heading(L"Registration");
   const Scope scope = show_registration(setting);
-  show_steps(setting);
+  try {
+    show_steps(setting);
+  } catch (const Failure&) {
+    if (setting.unregister) unregister_library(setting.library, scope);
+    throw;
+  }
   if (!setting.unregister) return;
   heading(L"The registration is taken back");
   show_removal(setting, scope);

@@ -22,8 +22,8 @@ Text widen_upper(const char* first, const char* last) {
 // The upper bound is where the digits before the point begin to say more than the type holds.
 template <class Float>
 bool reads_well_in_digits(Float magnitude) {
-  constexpr Float kUpper = std::is_same_v<Float, float> ? Float(16777216) : Float(1e15);
-  return magnitude >= Float(1e-5) && magnitude < kUpper;
+  constexpr Float kUpper = std::is_same_v<Float, float> ? Float(16777216) : Float(999999999999999.875);
+  return magnitude >= Float(1e-5) && magnitude <= kUpper;
 }
 
 template <class Float>
