@@ -4,3 +4,9 @@ function(qvr_warnings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wformat=2 -Wno-restrict -Werror)
 endfunction()
+
+# A test program: what it tests is optimised as it will be used, the test code itself only costs time to compile so.
+function(qvr_test_program target)
+  qvr_warnings(${target})
+  target_compile_options(${target} PRIVATE -O0)
+endfunction()

@@ -34,7 +34,7 @@ std::unique_ptr<services::TextProtection> protection_of_test(const Platform&) {
 
 std::unique_ptr<services::ErrorReport> report_of_test(const Platform&) { return current->make_error_report(); }
 
-std::unique_ptr<services::Ado> ado_of_test(const Platform&) { return std::make_unique<AdoOf>(current->ado); }
+std::unique_ptr<services::Ado> ado_of_test(const Platform&) { return current->make_ado(); }
 
 std::unique_ptr<ThreadState> state_over(const Platform& platform) {
   return std::make_unique<ThreadState>(Environment{platform, protection_of_test, report_of_test, ado_of_test});
@@ -45,6 +45,7 @@ std::unique_ptr<ThreadState> state_over(const Platform& platform) {
 TestThread::TestThread()
     : make_text_protection([] { return std::make_unique<CheapProtection>(); }),
       make_error_report([this] { return std::make_unique<ReportOf>(report); }),
+      make_ado([this] { return std::make_unique<AdoOf>(ado); }),
       platform_{settings,    user_language, files,      boxes, host_events, locale, system_platform().cryptography,
                 own_module},
       outer_(std::exchange(current, this)),

@@ -40,6 +40,7 @@ class TestThread {
   // How the services are made, once per state; a test may put others here before the first use.
   std::function<std::unique_ptr<services::TextProtection>()> make_text_protection;
   std::function<std::unique_ptr<services::ErrorReport>()> make_error_report;
+  std::function<std::unique_ptr<services::Ado>()> make_ado;
   int protections_made = 0;
 
  private:
