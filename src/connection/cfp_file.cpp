@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cmath>
-#include <vector>
+#include <utility>
 
 #include "frame/failure.h"
 #include "frame/number_text.h"
@@ -81,14 +81,19 @@ std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, s
                                              TextView key) {
   LineReader lines(file);
   const auto next_line = [&] { return encoding.from_system_page(lines.next()); };
-  ConnectionParameters parameters;
+  // What a refused file had to say is not left in memory.
+  struct Refused {
+    ~Refused() { wipe(parameters); }
+    ConnectionParameters parameters;
+  } read;
+  ConnectionParameters& parameters = read.parameters;
   parameters.MotorBD = engine_number(protection.Descifrar(key, next_line()));
   for (const auto line : kTextLines) parameters.*line = protection.Descifrar(key, next_line());
   Text check = check_text(parameters);
   const bool matches = equal_no_case(next_line(), protection.Cifrar(key, check));
   wipe(check);
   if (!matches) return std::nullopt;
-  return parameters;
+  return std::exchange(parameters, {});
 }
 
 std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, services::TextProtection& protection,

@@ -9,14 +9,18 @@
 
 namespace qvr {
 
+void wipe(ConnectionParameters& parameters) noexcept {
+  wipe(parameters.ClaveAdm);
+  wipe(parameters.ClaveCli);
+  parameters = ConnectionParameters();
+}
+
 QVRcfp::QVRcfp() noexcept { InicializarComun(); }
 
 QVRcfp::~QVRcfp() { clear(); }
 
 void QVRcfp::clear() noexcept {
-  wipe(fields_.ClaveAdm);
-  wipe(fields_.ClaveCli);
-  fields_ = ConnectionParameters();
+  wipe(fields_);
   created_ = false;
 }
 
@@ -25,8 +29,7 @@ bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept 
     ConnectionParameters copy = parameters;
     copy.Archivo = fields_.Archivo;
     std::swap(fields_, copy);
-    wipe(copy.ClaveAdm);
-    wipe(copy.ClaveCli);
+    wipe(copy);
     return created_ = true;
   });
 }

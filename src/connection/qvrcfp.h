@@ -21,6 +21,9 @@ struct ConnectionParameters {
   Text OtrosParametros;
 };
 
+// Overwrites both passwords and empties all.
+void wipe(ConnectionParameters& parameters) noexcept;
+
 // No member fails: what cannot be done is false or an empty result.
 class QVRcfp {
  public:

@@ -62,7 +62,7 @@ enum class BoxAnswer { Ok, Yes, No };
 
 struct MessageBoxes {
   // Shows a modal box titled with the library's name. Where nobody could see it, the text is logged once and the
-  // answer is No.
+  // answer to a question is No.
   virtual BoxAnswer show(TextView text, BoxButtons buttons) = 0;
 
  protected:

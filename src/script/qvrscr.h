@@ -23,8 +23,8 @@ class QVRScr {
   explicit QVRScr(ScriptEvents& events) noexcept;
 
   // Runs every command of the text on a connection of its own, in one transaction unless ID begins with
-  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; a call from inside
-  // the events of a run on the same object is refused with false and no events.
+  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; a call on the same
+  // object while a run of it is under way, its Terminado included, is refused with false and no events.
   // ID loses the prefix and an empty TextoMostrar becomes the default text, as the caller can see.
   bool EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
                         Text& TextoMostrar) noexcept;

@@ -13,7 +13,7 @@ constexpr std::size_t kBlock = 16;
 Block doubled(const Block& block) {
   Block result;
   for (std::size_t i = 0; i < kBlock; ++i) {
-    const unsigned next = i + 1 < kBlock ? block[i + 1] >> 7 : 0;
+    const int next = i + 1 < kBlock ? block[i + 1] >> 7 : 0;
     result[i] = static_cast<std::uint8_t>(block[i] << 1 | next);
   }
   if (block[0] & 0x80) result[kBlock - 1] ^= 0x87;

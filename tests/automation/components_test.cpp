@@ -86,5 +86,20 @@ TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
   });
 }
 
+TEST(ErrorReportComponent, LeavesTheFailureToTheBoxWhenItFailsOrCannotBeCreated) {
+  for (const bool created : {true, false}) {
+    on_fresh_thread([created] {
+      FamilyComponent component(L"QVRServicios.InformeErrores", {L"Informar"}, [](auto&, auto&) { return LateAnswer(); });
+      if (!created) component.revoke();
+      Person person;
+      const LateObject runner(L"QVRlib21.QVRScr");
+      runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3});
+      EXPECT_EQ(component.calls().size(), created ? 1u : 0u);
+      ASSERT_EQ(person.boxes().size(), 1u);
+      EXPECT_TRUE(person.boxes()[0].text.ends_with(L"Ejecutar1Comando: select 1")) << narrow(person.boxes()[0].text);
+    });
+  }
+}
+
 }  // namespace
 }  // namespace qvr::tests

@@ -15,7 +15,6 @@ using namespace qvr::automation;
 
 }  // namespace
 
-
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID process_ends) {
   // At the end of the process the memory goes anyway, and what the state refers to may be gone already.
   const bool unloading = reason == DLL_PROCESS_DETACH && process_ends == nullptr;

@@ -21,5 +21,4 @@ class ModuleLock {
   static inline volatile LONG count_ = 0;
 };
 
-
 }  // namespace qvr::automation

@@ -86,7 +86,7 @@ HRESULT register_library(Scope scope) noexcept {
   return guarded(E_OUTOFMEMORY, [&] {
     const RegistryRows rows = registry_rows(own_file());
     RegistryKey classes;
-    LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE, classes);
+    LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE | DELETE, classes);
     for (auto value = rows.values.begin(); status == ERROR_SUCCESS && value != rows.values.end(); ++value) {
       status = write_value(classes.get(), *value);
     }

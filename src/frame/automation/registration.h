@@ -7,7 +7,8 @@ namespace qvr::automation {
 
 enum class Scope { Machine, User };  // User needs no administrator rights and shows to this user only
 
-// Writes the keys of every class, interface and the type library. On failure nothing of it stays behind.
+// Writes the keys of every class, interface and the type library. On failure nothing of it stays behind, an earlier
+// registration included.
 HRESULT register_library(Scope scope) noexcept;
 
 // Removes exactly those keys; what is not there is no failure. Keys that the library of the other width shares with

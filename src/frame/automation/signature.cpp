@@ -124,10 +124,6 @@ const Member* Signatures::called(DISPID id, WORD flags) const noexcept {
   return found == members_.end() ? nullptr : &*found;
 }
 
-bool Signatures::has(DISPID id) const noexcept {
-  return std::ranges::any_of(members_, [id](const Member& member) { return member.id == id; });
-}
-
 std::optional<DISPID> position_of(const Member& member, std::wstring_view parameter) noexcept {
   for (std::size_t index = 0; index < member.parameters.size(); ++index) {
     if (equal_names(member.parameters[index].name, parameter)) return static_cast<DISPID>(index);

@@ -39,8 +39,6 @@ class Signatures {
   const Member* named(std::wstring_view name) const noexcept;
   // The member that answers a call of this kind under this id; null for none.
   const Member* called(DISPID id, WORD flags) const noexcept;
-  bool has(DISPID id) const noexcept;
-  const std::vector<Member>& members() const { return members_; }
 
  private:
   std::vector<Member> members_;

@@ -14,25 +14,34 @@ void require(NTSTATUS status) {
 
 PUCHAR writable(Bytes bytes) { return const_cast<PUCHAR>(bytes.data()); }
 
-class Algorithm {
- public:
-  Algorithm(LPCWSTR name, ULONG flags) { require(BCryptOpenAlgorithmProvider(&handle_, name, nullptr, flags)); }
-  ~Algorithm() { BCryptCloseAlgorithmProvider(handle_, 0); }
-  Algorithm(const Algorithm&) = delete;
-  Algorithm& operator=(const Algorithm&) = delete;
-  BCRYPT_ALG_HANDLE get() const { return handle_; }
+// Opened once in the process and never closed: closing may unload the provider, and a thread that leaves gives its
+// keys back under the loader's lock.
+BCRYPT_ALG_HANDLE open_algorithm(LPCWSTR name, ULONG flags) {
+  BCRYPT_ALG_HANDLE handle = nullptr;
+  require(BCryptOpenAlgorithmProvider(&handle, name, nullptr, flags));
+  return handle;
+}
 
- private:
-  BCRYPT_ALG_HANDLE handle_ = nullptr;
-};
+BCRYPT_ALG_HANDLE aes_in_blocks() {
+  static const BCRYPT_ALG_HANDLE handle = [] {
+    const BCRYPT_ALG_HANDLE opened = open_algorithm(BCRYPT_AES_ALGORITHM, 0);
+    require(BCryptSetProperty(opened, BCRYPT_CHAINING_MODE,
+                              reinterpret_cast<PUCHAR>(const_cast<wchar_t*>(BCRYPT_CHAIN_MODE_ECB)),
+                              sizeof BCRYPT_CHAIN_MODE_ECB, 0));
+    return opened;
+  }();
+  return handle;
+}
+
+BCRYPT_ALG_HANDLE hmac_sha256() {
+  static const BCRYPT_ALG_HANDLE handle = open_algorithm(BCRYPT_SHA256_ALGORITHM, BCRYPT_ALG_HANDLE_HMAC_FLAG);
+  return handle;
+}
 
 class CngAes : public BlockCipher {
  public:
-  explicit CngAes(Bytes key) : algorithm_(BCRYPT_AES_ALGORITHM, 0) {
-    require(BCryptSetProperty(algorithm_.get(), BCRYPT_CHAINING_MODE,
-                              reinterpret_cast<PUCHAR>(const_cast<wchar_t*>(BCRYPT_CHAIN_MODE_ECB)),
-                              sizeof BCRYPT_CHAIN_MODE_ECB, 0));
-    require(BCryptGenerateSymmetricKey(algorithm_.get(), &key_, nullptr, 0, writable(key),
+  explicit CngAes(Bytes key) {
+    require(BCryptGenerateSymmetricKey(aes_in_blocks(), &key_, nullptr, 0, writable(key),
                                        static_cast<ULONG>(key.size()), 0));
   }
   ~CngAes() override { BCryptDestroyKey(key_); }
@@ -46,7 +55,6 @@ class CngAes : public BlockCipher {
   }
 
  private:
-  Algorithm algorithm_;
   BCRYPT_KEY_HANDLE key_ = nullptr;
 };
 
@@ -55,8 +63,7 @@ class Cng final : public Cryptography {
   std::unique_ptr<BlockCipher> aes(Bytes key) override { return std::make_unique<CngAes>(key); }
 
   void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) override {
-    const Algorithm hmac(BCRYPT_SHA256_ALGORITHM, BCRYPT_ALG_HANDLE_HMAC_FLAG);
-    require(BCryptDeriveKeyPBKDF2(hmac.get(), writable(password), static_cast<ULONG>(password.size()), writable(salt),
+    require(BCryptDeriveKeyPBKDF2(hmac_sha256(), writable(password), static_cast<ULONG>(password.size()), writable(salt),
                                   static_cast<ULONG>(salt.size()), rounds, derived.data(),
                                   static_cast<ULONG>(derived.size()), 0));
   }

@@ -6,10 +6,10 @@
 namespace qvr::windows {
 namespace {
 
-// Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
 // The conversions stop at a zero unit, which belongs to no date and no number.
 bool has_zero(TextView text) { return text.find(u'\0') != TextView::npos; }
 
+// Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
 class UserLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {

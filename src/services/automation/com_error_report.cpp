@@ -3,6 +3,11 @@
 namespace qvr::automation {
 
 void ComErrorReport::Informar(const services::ErrorNotice& notice) {
+  const bool taken = or_default(false, [&] { return hand_over(notice), true; });
+  if (!taken) otherwise_->Informar(notice);
+}
+
+void ComErrorReport::hand_over(const services::ErrorNotice& notice) {
   const services::Captions& captions = notice.captions;
   Array texts;
   for (const Text* caption : {&captions.server_not_found, &captions.duplicate_record, &captions.unknown_error,

@@ -22,10 +22,15 @@ std::unique_ptr<services::TextProtection> make_text_protection(const Platform& p
 }
 
 std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platform) {
-  if (const auto id = registered_class(ComErrorReport::kProgramId)) {
-    return std::make_unique<ComErrorReport>(LateObject::create(*id));
-  }
-  return std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
+  auto builtin = std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
+  const auto id = registered_class(ComErrorReport::kProgramId);
+  if (!id) return builtin;
+  std::unique_ptr<services::ErrorReport> component = or_default(
+      std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
+        auto created = LateObject::create(*id);
+        return std::make_unique<ComErrorReport>(std::move(created), std::move(builtin));
+      });
+  return component ? std::move(component) : std::move(builtin);
 }
 
 std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<ComAdo>(); }
