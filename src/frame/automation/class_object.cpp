@@ -4,28 +4,14 @@
 #include <new>
 
 #include "frame/automation/answer.h"
-#include "frame/automation/module.h"
+#include "frame/automation/counted.h"
 
 namespace qvr::automation {
 namespace {
 
-class ClassObject final : public IClassFactory {
+class ClassObject final : public Counted<IClassFactory> {
  public:
   explicit ClassObject(const ClassRow& row) : row_(row) {}
-
-  STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override {
-    if (found == nullptr) return E_POINTER;
-    *found = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
-    if (*found == nullptr) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() noexcept override { return static_cast<ULONG>(InterlockedIncrement(&count_)); }
-  STDMETHODIMP_(ULONG) Release() noexcept override {
-    const LONG left = InterlockedDecrement(&count_);
-    if (left == 0) delete this;
-    return static_cast<ULONG>(left);
-  }
 
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID id, void** found) noexcept override {
     if (found == nullptr) return E_POINTER;
@@ -44,11 +30,7 @@ class ClassObject final : public IClassFactory {
   }
 
  private:
-  ~ClassObject() = default;
-
   const ClassRow& row_;
-  volatile LONG count_ = 1;
-  ModuleLock lock_;
 };
 
 }  // namespace

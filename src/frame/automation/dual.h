@@ -10,8 +10,6 @@ namespace qvr::automation {
 template <class I>
 class Dual : public I {
  public:
-  using Interface = I;
-
   STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override {
     if (count == nullptr) return E_POINTER;
     *count = 1;

@@ -59,6 +59,16 @@ bool other_width_registered(Scope scope) {
   return RegGetValueW(other.get(), nullptr, nullptr, RRF_RT_REG_SZ, nullptr, file, &size) == ERROR_SUCCESS;
 }
 
+// The system's own keys above ours do not exist for a user who never registered anything: none is left behind empty.
+void remove_empty(HKEY classes, const wchar_t* name) {
+  RegistryKey key;
+  DWORD keys = 1, values = 1;
+  if (RegOpenKeyExW(classes, name, 0, KEY_READ, key.out()) != ERROR_SUCCESS) return;
+  RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr, nullptr,
+                   nullptr);
+  if (keys == 0 && values == 0) RegDeleteKeyW(classes, name);
+}
+
 LSTATUS remove_rows(HKEY classes, const RegistryRows& rows, Scope scope) {
   LSTATUS worst = ERROR_SUCCESS;
   const auto remove = [&](const std::wstring& key) {
@@ -68,10 +78,11 @@ LSTATUS remove_rows(HKEY classes, const RegistryRows& rows, Scope scope) {
   for (const RegistryTree& tree : rows.trees) {
     if (!tree.shared) remove(tree.key);
   }
-  if (other_width_registered(scope)) return worst;
+  const bool shared_stay = other_width_registered(scope);
   for (const RegistryTree& tree : rows.trees) {
-    if (tree.shared) remove(tree.key);
+    if (tree.shared && !shared_stay) remove(tree.key);
   }
+  for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) remove_empty(classes, name);
   return worst;
 }
 
