@@ -57,12 +57,13 @@ make_wine_prefix() {
   # A program that crashes ends with its backtrace instead of waiting in a dialog.
   "$root/tools/wine.sh" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >>"$log" 2>&1 ||
     fail "the crash dialog could not be turned off"
-  "$root/tools/wine.sh" --stop
+  "$root/tools/wine.sh" --stop || true
   touch "$build/wine/ready"
 }
 
 build_preset() {
   local preset=$1
+  rm -f "$build/$preset-build.log"
   (cd "$root" && { [ -e "$build/$preset/build.ninja" ] || cmake --preset "$preset" >>"$log" 2>&1; } &&
     cmake --build --preset "$preset" >"$build/$preset-build.log" 2>&1) || {
     tail -n 40 "$build/$preset-build.log" >&2 || true

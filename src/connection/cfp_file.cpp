@@ -67,11 +67,16 @@ std::int32_t engine_number(const Text& text) {
   return static_cast<std::int32_t>(number);
 }
 
-Text check_text(const ConnectionParameters& parameters) {
-  Text text = decimal(parameters.MotorBD);
-  for (const auto line : kTextLines) text += parameters.*line;
-  return text;
-}
+// The texts of all lines one behind the other; it holds the passwords.
+struct CheckText {
+  explicit CheckText(const ConnectionParameters& parameters) : text(decimal(parameters.MotorBD)) {
+    for (const auto line : kTextLines) text += parameters.*line;
+  }
+  ~CheckText() { wipe(text); }
+  CheckText(const CheckText&) = delete;
+  CheckText& operator=(const CheckText&) = delete;
+  Text text;
+};
 
 }  // namespace
 
@@ -89,9 +94,9 @@ std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, s
   ConnectionParameters& parameters = read.parameters;
   parameters.MotorBD = engine_number(protection.Descifrar(key, next_line()));
   for (const auto line : kTextLines) parameters.*line = protection.Descifrar(key, next_line());
-  Text check = check_text(parameters);
-  const bool matches = equal_no_case(next_line(), protection.Cifrar(key, check));
-  wipe(check);
+  const Text stored = next_line();
+  const CheckText check(parameters);
+  const bool matches = equal_no_case(stored, protection.Cifrar(key, check.text));
   if (!matches) return std::nullopt;
   return std::exchange(parameters, {});
 }
@@ -105,9 +110,7 @@ std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, s
   };
   append_line(decimal(parameters.MotorBD));
   for (const auto line : kTextLines) append_line(parameters.*line);
-  Text check = check_text(parameters);
-  append_line(check);
-  wipe(check);
+  append_line(CheckText(parameters).text);
   return bytes;
 }
 

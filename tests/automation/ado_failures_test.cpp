@@ -86,12 +86,21 @@ TEST(AdoMissing, AnUnregisteredAdoIsReportedAndTheRunnerGoesOnWorking) {
             "BOOL true");
 }
 
-TEST(AdoMissing, EveryOtherMemberWorksWithoutItsTypeLibrary) {
+// Run in a process of its own: the signatures are read by the first late-bound call of a process.
+TEST(WithoutAdo, MembersWorkAlthoughAdosTypesCannotBeRead) {
   ASSERT_EQ(test_ado().unregister_it(), S_OK);
-  const LateObject runner(L"QVRlib21.QVRScr");
-  const LateAnswer answer = runner.call(L"UsuarioSegunMotor", {3});
+  {
+    const LateObject runner(L"QVRlib21.QVRScr");
+    Person person;
+    const LateAnswer account = runner.call(L"UsuarioSegunMotor", {3});
+    const LateAnswer nothing = runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 2});
+    const LateAnswer wrong = runner.call(L"Ejecutar1Comando", {L"no object", L"select 1", 2});
+    EXPECT_EQ(describe(account.value.raw()), "BSTR System");
+    EXPECT_EQ(describe(nothing.value.raw()), "BOOL false");
+    EXPECT_EQ(wrong.result, DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(person.boxes().size(), 1u);
+  }
   ASSERT_EQ(test_ado().register_it(), S_OK);
-  EXPECT_EQ(describe(answer.value.raw()), "BSTR System");
 }
 
 TEST(AdoRefusals, ConnectionStringsThatCannotServe) {

@@ -122,6 +122,41 @@ TEST_F(ArgumentsTest, ArraysOfAnyKindAreNoText) {
   }
 }
 
+TEST_F(ArgumentsTest, ArraysInsideArraysAreReadToTheDepthThatHostsNest) {
+  Var array;
+  array.raw().vt = VT_ARRAY | VT_VARIANT;
+  array.raw().parray = SafeArrayCreateVector(VT_VARIANT, 0, 1);
+  VARIANT* element = nullptr;
+  SafeArrayAccessData(array.raw().parray, reinterpret_cast<void**>(&element));
+  element->vt = VT_BYREF | VT_ARRAY | VT_VARIANT;  // the array holds itself
+  SAFEARRAY* itself = array.raw().parray;
+  element->pparray = &itself;
+  SafeArrayUnaccessData(array.raw().parray);
+  VARIANT passed = array.raw();
+  Bstr code(L"T"), result;
+  EXPECT_EQ(cfp.as<_QVRcfp>()->ValorATexto(&code, &passed, &result), S_OK);
+  EXPECT_EQ(result.text(), L"");
+  element->vt = VT_EMPTY;
+}
+
+TEST_F(ArgumentsTest, ArraysOfRecordsAreNoTextWhateverTheRecordsHold) {
+  Var array;
+  array.raw().vt = VT_ARRAY | VT_RECORD;
+  SAFEARRAY* const records = SafeArrayCreateVector(VT_I8, 0, 2);
+  const USHORT features = records->fFeatures;
+  LONGLONG* content = nullptr;
+  SafeArrayAccessData(records, reinterpret_cast<void**>(&content));
+  content[0] = content[1] = 0x7777777777777777;  // taken for a pointer, this would end the host
+  SafeArrayUnaccessData(records);
+  records->fFeatures = FADF_RECORD;
+  array.raw().parray = records;
+  Bstr code(L"T"), result;
+  EXPECT_EQ(cfp.as<_QVRcfp>()->ValorATexto(&code, &array.raw(), &result), S_OK);
+  EXPECT_EQ(result.text(), L"");
+  records->fFeatures = features;
+  array.raw().vt = VT_ARRAY | VT_I8;
+}
+
 TEST_F(ArgumentsTest, ObjectsAreNoTextAndNothingIsNoConnection) {
   EXPECT_EQ(written(cfp.get()), "BSTR ");
   EXPECT_EQ(written(static_cast<IDispatch*>(nullptr)), "BSTR ");

@@ -18,15 +18,26 @@ LRESULT CALLBACK Person::on_event(int code, WPARAM window, LPARAM detail) {
   wchar_t kind[16] = L"";
   const auto handle = reinterpret_cast<HWND>(window);
   if (code == HCBT_ACTIVATE && GetClassNameW(handle, kind, 16) != 0 && std::wstring(kind) == L"#32770") {
-    present_->answer(handle);
+    present_->notice(handle);
   }
   if (code == HCBT_DESTROYWND && handle == present_->last_) present_->last_ = nullptr;
   return CallNextHookEx(nullptr, code, window, detail);
 }
 
-void Person::answer(HWND box) {
-  if (box == last_) return;  // one box can be activated more than once
+// A box may be activated before it has its text, and more than once: it is answered once, from its own message loop.
+void Person::notice(HWND box) {
+  constexpr UINT_PTR kTimer = 0x5156;
+  if (box == last_) return;
   last_ = box;
+  SetTimer(box, kTimer, USER_TIMER_MINIMUM, on_timer);
+}
+
+void CALLBACK Person::on_timer(HWND box, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(box, timer);
+  present_->answer(box);
+}
+
+void Person::answer(HWND box) {
   constexpr int kTextControl = 0xFFFF;
   std::vector<wchar_t> text(1 << 16);
   wchar_t title[256] = L"";

@@ -24,6 +24,8 @@ class Person {
 
  private:
   static LRESULT CALLBACK on_event(int code, WPARAM window, LPARAM detail);
+  static void CALLBACK on_timer(HWND box, UINT message, UINT_PTR timer, DWORD time);
+  void notice(HWND box);
   void answer(HWND box);
 
   static thread_local Person* present_;

@@ -1,6 +1,4 @@
 // The application family's components take over from the built-in services where they are registered.
-#include <thread>
-
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
@@ -8,15 +6,6 @@
 
 namespace qvr::tests {
 namespace {
-
-// Services are chosen once per thread: each case gets a thread of its own.
-void on_fresh_thread(const std::function<void()>& body) {
-  std::thread([&] {
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    body();
-    CoUninitialize();
-  }).join();
-}
 
 // A reversible protection that nobody would take for a good one.
 LateAnswer rot(const std::wstring& member, const std::vector<Var>& arguments) {

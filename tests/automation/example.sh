@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Runs the example host against the libraries in a folder of programs. Usage: example.sh BIN SCRIPT
+# Runs the example host against the libraries in a folder of programs. Usage: example.sh 32|64 BIN SCRIPT
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 wine() { timeout 200 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 system='C:\windows\system32'
-file "$1/testado.dll" | grep -q 'PE32 ' && system='C:\windows\syswow64'
-bin=$(windows_path "$1")
-work=$(mktemp -d)
-trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll"; rm -rf "$work"' EXIT
+[ "$1" = 64 ] || system='C:\windows\syswow64'
+bin=$(windows_path "$2")
+work=$(mktemp -d "$2/example.XXXXXX")
+trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || true; rm -rf "$work"' EXIT
 wine "$system\\regsvr32.exe" /s "$bin\\testado.dll"
-wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$2")"
+wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$3")"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <thread>
 
 namespace qvr::tests {
 namespace {
@@ -100,6 +101,14 @@ LateAnswer LateObject::call_named(const wchar_t* name, std::vector<const wchar_t
   for (std::size_t i = arguments.size(); i > named.size(); --i) raw.push_back(arguments[i - 1].raw());
   DISPPARAMS parameters{raw.data(), ids.data() + 1, static_cast<UINT>(raw.size()), static_cast<UINT>(named.size())};
   return invoke(ids[0], DISPATCH_METHOD, parameters);
+}
+
+void on_fresh_thread(const std::function<void()>& body) {
+  std::thread([&] {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    body();
+    CoUninitialize();
+  }).join();
 }
 
 std::wstring beside_program(const wchar_t* name) {

@@ -1,6 +1,7 @@
 // A host that knows only automation, and one that knows the interfaces.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,9 @@ class Bstr {
  private:
   BSTR text_ = nullptr;
 };
+
+// Runs the body on a thread of its own with an apartment: the language and the services are chosen once per thread.
+void on_fresh_thread(const std::function<void()>& body);
 
 // Path of a file beside the running test program.
 std::wstring beside_program(const wchar_t* name);

@@ -105,11 +105,11 @@ TEST(ClassObjects, LockTheLibrary) {
   ComPtr<IClassFactory> factory;
   library().class_object(CLSID_Ov, IID_IClassFactory, out(factory));
   factory->LockServer(TRUE);
-  IClassFactory* const raw = factory.Get();
-  raw->AddRef();
   factory.Reset();
-  raw->LockServer(FALSE);
-  raw->Release();
+  EXPECT_EQ(library().can_unload(), S_FALSE);
+  library().class_object(CLSID_Ov, IID_IClassFactory, out(factory));
+  factory->LockServer(FALSE);
+  factory.Reset();
   EXPECT_EQ(library().can_unload(), S_OK);
 }
 

@@ -119,20 +119,20 @@ TEST(Leaks, CommandsThatFail) {
   });
 }
 
-TEST(Leaks, Boxes) {
-  expect_no_leak([&] {
-    Person person(IDNO);
-    MessageBoxW(nullptr, L"x", L"QVRlib21", MB_OK);
-  });
-}
-
 DWORD WINAPI create_and_leave(void*) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  { const LateObject cfp(L"QVRlib21.QVRcfp"); }
+  {
+    const LateObject cfp(L"QVRlib21.QVRcfp"), runner(L"QVRlib21.QVRScr");
+    Person person;
+    cfp.call(L"Asignar", {L"id", 2, L"P", L"D", L"C", L"u", L"k", L"v", L"w", L"o"});
+    cfp.call(L"Guardar", {L"id", work_folder(), L"thread"});
+    runner.call(L"EjecutarComandos", {L"id", 2, L"", L"Provider=NoSuchProvider"});
+  }
   CoUninitialize();
   return 0;
 }
 
+// With every service made on the thread, so that its end has all of them to give back.
 TEST(Leaks, ThreadsThatComeAndGo) {
   expect_no_leak([] {
     const HANDLE thread = CreateThread(nullptr, 0, create_and_leave, nullptr, 0, nullptr);

@@ -143,8 +143,11 @@ TEST_F(QVRcfpTest, NullPointersAndNullStringsCountAsEmpty) {
   Bstr result;
   EXPECT_EQ(early->CadenaADO(nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(result.text(), L"Provider=;Data Source=\"\";Persist Security Info=False;");
-  EXPECT_EQ(early->Guardar(nullptr, nullptr, nullptr, &done), S_OK);
-  EXPECT_EQ(early->Crear(nullptr, &null_text, nullptr, &done), S_OK);
+  Bstr folder(work_folder());
+  EXPECT_EQ(early->Guardar(nullptr, &folder, nullptr, &done), S_OK);
+  EXPECT_EQ(done, VARIANT_TRUE) << "an identification and a name without text are still some";
+  EXPECT_EQ(early->Crear(&null_text, &folder, &null_text, &done), S_OK);
+  EXPECT_EQ(done, VARIANT_TRUE);
   EXPECT_EQ(early->Asignar(&id, &engine, &provider, &source, &catalogue, &adm, &adm_key, &cli, &cli_key, &others,
                            nullptr), E_POINTER);
 }

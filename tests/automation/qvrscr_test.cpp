@@ -34,16 +34,37 @@ TEST_F(QVRScrTest, EjecutarComandosRunsIntoTheDatabase) {
   EXPECT_EQ(connected.events(), early_connected.events());
 }
 
-TEST_F(QVRScrTest, EventsOfARun) {
+TEST_F(QVRScrTest, EventsOfARunInTheLanguageOfTheUsersSetting) {
+  constexpr const wchar_t* kKey = L"Software\\VB and VBA Program Settings\\QVR\\Idioma";
+  struct Row {
+    const wchar_t* setting;
+    std::string counting, done;
+  };
+  for (const Row& row : {Row{L"0", "Contando comandos...", "Comandos ejecutados"}, {L"1", "Counting commands...", "Commands executed"},
+                         {L"3", "Comptage des commandes...", "Commandes ex\u00e9cut\u00e9es"}}) {
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"IdiomaOmision", REG_SZ, row.setting, 2 * sizeof(wchar_t)), 0);
+    on_fresh_thread([&] {
+      Database own;
+      const LateObject runner(L"QVRlib21.QVRScr");
+      Connected connected(runner);
+      runner.call(L"EjecutarComandos", {L"app", 2, kTwoCommands, own.connection_string()});
+      const std::vector<std::string> expected{"Progreso BSTR* " + row.counting, "Progreso BSTR* " + row.done + ": 0/2",
+                                              "Progreso BSTR* " + row.done + ": 1/2", "Terminado BOOL* true"};
+      EXPECT_EQ(connected.events(), expected);
+    });
+  }
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\QVR");
+}
+
+TEST_F(QVRScrTest, TheHostsOwnChangeOfAnArgumentDuringARunStays) {
   Connected connected(late);
-  late.call(L"EjecutarComandos", {L"app", 2, kTwoCommands, database.connection_string(), L"Hecho: "});
-  const std::vector<std::string> events = connected.events();
-  ASSERT_EQ(events.size(), 4u);
-  EXPECT_TRUE(events[0] == "Progreso BSTR* Contando comandos..." || events[0] == "Progreso BSTR* Counting commands..." ||
-              events[0] == "Progreso BSTR* Comptage des commandes...") << events[0];
-  EXPECT_EQ(events[1], "Progreso BSTR* Hecho: 0/2");
-  EXPECT_EQ(events[2], "Progreso BSTR* Hecho: 1/2");
-  EXPECT_EQ(events[3], "Terminado BOOL* true");
+  Bstr id(L"app"), commands(kTwoCommands), connection(database.connection_string()), shown(L"x");
+  connected.sink().reaction = [&](DISPID, VARIANT&) { return SysReAllocString(&id, L"next") ? S_OK : E_OUTOFMEMORY; };
+  long engine = 2;
+  VARIANT_BOOL done = 0;
+  late.as<_QVRScr>()->EjecutarComandos(&id, &engine, &commands, &connection, &shown, &done);
+  EXPECT_EQ(done, VARIANT_TRUE);
+  EXPECT_EQ(id.text(), L"next");
 }
 
 TEST_F(QVRScrTest, ADisconnectedSinkHearsNothing) {

@@ -124,7 +124,10 @@ TEST_F(RegistrationTest, KeysSharedWithTheOtherWidthStayWhileThatOneIsRegistered
   RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(L"other.dll"), 20);
   RegCloseKey(key);
   ASSERT_EQ(library().unregister_it(), S_OK);
-  EXPECT_TRUE(has(added(before, registry_snapshot()), L"machine\\QVRlib21.QVRcfp\\CLSID"));
+  const RegistryLines left = added(before, registry_snapshot());
+  EXPECT_TRUE(has(left, L"machine\\QVRlib21.QVRcfp\\CLSID"));
+  EXPECT_TRUE(has(left, L"\\1.1\\FLAGS :  = 0"));
+  EXPECT_FALSE(has(left, sizeof(void*) == 8 ? L"\\1.1\\0\\win64" : L"\\1.1\\0\\win32"));
   RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\CLSID", 0, KEY_ALL_ACCESS | kOther, &key);
   RegDeleteTreeW(key, id_text);
   RegCloseKey(key);

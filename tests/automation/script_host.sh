@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Registers the library for the script host of its width, runs the script and compares all that it prints.
-# Usage: script_host.sh LIBRARY SCRIPT
+# Usage: script_host.sh 32|64 LIBRARY SCRIPT
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 wine() { timeout 60 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 system='C:\windows\system32'
-file "$1" 2>/dev/null | grep -q 'PE32 ' && system='C:\windows\syswow64'
-library=$(windows_path "$1")
-trap 'wine "$system\\regsvr32.exe" /u /s "$library"' EXIT
+[ "$1" = 64 ] || system='C:\windows\syswow64'
+library=$(windows_path "$2")
+trap 'wine "$system\\regsvr32.exe" /u /s "$library" || true' EXIT
 wine "$system\\regsvr32.exe" /s "$library"
-wine "$system\\cscript.exe" //nologo "$(windows_path "$2")" | tr -d '\r' | diff - "${2%.vbs}.approved.txt"
+wine "$system\\cscript.exe" //nologo "$(windows_path "$3")" | tr -d '\r' | diff - "${3%.vbs}.approved.txt"

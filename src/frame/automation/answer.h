@@ -20,10 +20,11 @@ inline Value value_of(const VARIANT* argument) {
   return argument != nullptr ? value_from(*argument) : Value(Missing{});
 }
 
-// Gives a changed text back to the caller's variable; an unchanged one stays untouched.
-inline void give_back(BSTR* argument, const Text& text) {
-  if (argument == nullptr || text_from(*argument) == text) return;
-  OwnedBstr changed(text);
+// Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
+// when the host wrote to the variable meanwhile.
+inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
+  if (argument == nullptr || taken == left) return;
+  OwnedBstr changed(left);
   std::swap(*argument, *changed.out());
 }
 

@@ -14,6 +14,11 @@ class ConnectionPoint final : public IConnectionPoint {
  public:
   ConnectionPoint(IConnectionPointContainer& container, const IID& events) : container_(container), events_(events) {}
 
+  // A sink that goes may come back here to unadvise.
+  ~ConnectionPoint() { const std::vector<Sink> leaving = std::exchange(sinks_, {}); }
+  ConnectionPoint(const ConnectionPoint&) = delete;
+  ConnectionPoint& operator=(const ConnectionPoint&) = delete;
+
   // Fires the event to every sink that is connected now. A sink that fails, leaves or connects another meanwhile does
   // not disturb the rest. Each gets the argument by reference, as a copy of its own: what one sink writes to it is
   // seen by nobody else.

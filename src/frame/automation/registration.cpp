@@ -82,7 +82,9 @@ LSTATUS remove_rows(HKEY classes, const RegistryRows& rows, Scope scope) {
   for (const RegistryTree& tree : rows.trees) {
     if (tree.shared && !shared_stay) remove(tree.key);
   }
-  for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) remove_empty(classes, name);
+  if (scope == Scope::User) {
+    for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) remove_empty(classes, name);
+  }
   return worst;
 }
 

@@ -21,8 +21,14 @@ Value wide_number(ULONGLONG number) {
   return Decimal{0, static_cast<std::uint32_t>(number >> 32), static_cast<std::uint32_t>(number), 0, false};
 }
 
-// An element into a variant of its own type. Records and other kinds without a value of ours become error values.
-Value element_from(SAFEARRAY* array, VARTYPE type, LONG index) {
+constexpr int kDeepest = 16;  // far beyond what hosts nest; what refers to itself never ends
+
+Value value_at_depth(const VARIANT& variant, int depth);
+
+// An element into a variant of its own type. Records have no value of ours, and without their description they could
+// not even be released.
+Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, int depth) {
+  if (type == VT_RECORD) return ErrorValue{DISP_E_BADVARTYPE};
   OwnedVariant item;
   void* target = &item->llVal;
   if (type == VT_VARIANT) target = item.get();
@@ -30,10 +36,10 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index) {
   if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
   if (FAILED(SafeArrayGetElement(array, &index, target))) throw std::bad_alloc();
   if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
-  return value_from(*item);
+  return value_at_depth(*item, depth + 1);
 }
 
-Value array_from(SAFEARRAY* array) {
+Value array_from(SAFEARRAY* array, int depth) {
   Array result;
   VARTYPE type = VT_EMPTY;
   LONG lower = 0, upper = -1;
@@ -44,7 +50,7 @@ Value array_from(SAFEARRAY* array) {
   }
   result.lower = lower;
   for (LONGLONG index = lower; index <= upper; ++index) {
-    result.items.push_back(element_from(array, type, static_cast<LONG>(index)));
+    result.items.push_back(element_from(array, type, static_cast<LONG>(index), depth));
   }
   return result;
 }
@@ -124,10 +130,22 @@ struct Put {
   }
 };
 
+Value value_at_depth(const VARIANT& variant, int depth) {
+  const VARIANT* inner = innermost(variant);
+  if (inner == nullptr || depth > kDeepest) return ErrorValue{DISP_E_BADVARTYPE};
+  if (inner->vt & VT_ARRAY) {
+    SAFEARRAY* array = inner->vt & VT_BYREF ? (inner->pparray != nullptr ? *inner->pparray : nullptr) : inner->parray;
+    return array_from(array, depth);
+  }
+  if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
+  OwnedVariant copy;
+  if (inner->byref == nullptr || FAILED(copy_content(*copy.get(), *inner))) return ErrorValue{DISP_E_BADVARTYPE};
+  return scalar_from(*copy);
+}
+
 }  // namespace
 
 const VARIANT* innermost(const VARIANT& variant) noexcept {
-  constexpr int kDeepest = 16;  // far beyond what hosts nest; a variant that refers to itself never ends
   const VARIANT* at = &variant;
   for (int depth = 0; at != nullptr && at->vt == (VT_BYREF | VT_VARIANT); ++depth) {
     at = depth < kDeepest ? at->pvarVal : nullptr;
@@ -135,18 +153,7 @@ const VARIANT* innermost(const VARIANT& variant) noexcept {
   return at;
 }
 
-Value value_from(const VARIANT& variant) {
-  const VARIANT* inner = innermost(variant);
-  if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
-  if (inner->vt & VT_ARRAY) {
-    SAFEARRAY* array = inner->vt & VT_BYREF ? (inner->pparray != nullptr ? *inner->pparray : nullptr) : inner->parray;
-    return array_from(array);
-  }
-  if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
-  OwnedVariant copy;
-  if (inner->byref == nullptr || FAILED(copy_content(*copy.get(), *inner))) return ErrorValue{DISP_E_BADVARTYPE};
-  return scalar_from(*copy);
-}
+Value value_from(const VARIANT& variant) { return value_at_depth(variant, 0); }
 
 void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
 

@@ -8,7 +8,7 @@ namespace qvr::automation {
 
 class OwnedVariant {
  public:
-  OwnedVariant() noexcept { VariantInit(&held_); }
+  OwnedVariant() noexcept = default;
   ~OwnedVariant() { VariantClear(&held_); }
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
@@ -24,7 +24,7 @@ class OwnedVariant {
   }
 
  private:
-  VARIANT held_;
+  VARIANT held_{};  // all zero, so that a typed variant is releasable before its content comes
 };
 
 // An object that a host handed over, kept alive by the value that holds it.

@@ -109,7 +109,7 @@ class SystemFiles final : public Files {
     // The UTF-8 page has a place for everything and takes neither of these.
     const bool total = GetACP() == CP_UTF8;
     BOOL* const report = total ? nullptr : &replaced;
-    const DWORD flags = total ? 0 : WC_NO_BEST_FIT_CHARS;
+    const DWORD flags = total ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS;
     const auto convert = [&](char* to, int room) {
       return WideCharToMultiByte(CP_ACP, flags, from.data(), static_cast<int>(from.size()), to, room, nullptr, report);
     };

@@ -21,8 +21,11 @@ class SystemBoxes final : public MessageBoxes {
       OutputDebugStringW((std::wstring(kLibraryName) + L": " + wide(text) + L"\r\n").c_str());
       return question ? BoxAnswer::No : BoxAnswer::Ok;
     }
+    const HWND owner = GetActiveWindow();
+    // With another application in front no window of the thread is active: the box still has to stop all of them.
+    const UINT reach = owner == nullptr ? MB_TASKMODAL : 0;
     const UINT style = question ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONEXCLAMATION;
-    const int answer = MessageBoxW(GetActiveWindow(), wide(text).c_str(), kLibraryName, style);
+    const int answer = MessageBoxW(owner, wide(text).c_str(), kLibraryName, style | reach);
     if (!question) return BoxAnswer::Ok;
     return answer == IDYES ? BoxAnswer::Yes : BoxAnswer::No;
   }

@@ -14,11 +14,12 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
   // The host may let go of its last reference in an event of this very run.
   const ComPtr<IConnectionPointContainer> alive(this);
   return answer(Resultado, [&] {
-    Text id = text_of(ID), progress_text = text_of(TextoMostrar);
+    const Text given_id = text_of(ID), given_text = text_of(TextoMostrar);
+    Text id = given_id, progress_text = given_text;
     const bool success =
         core_.EjecutarComandos(id, number_of(MotorBD), text_of(TextosComandos), text_of(CadenaConexion), progress_text);
-    give_back(ID, id);
-    give_back(TextoMostrar, progress_text);
+    give_back(ID, given_id, id);
+    give_back(TextoMostrar, given_text, progress_text);
     return success;
   });
 }
