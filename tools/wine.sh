@@ -5,4 +5,4 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export WINEPREFIX=${QVR_WINEPREFIX:-$root/build/wine} WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 unset DISPLAY WAYLAND_DISPLAY
 [ "${1:-}" = --stop ] && exec wineserver -k
-exec wine "$@"
+exec "${QVR_WINE:-wine}" "$@"

@@ -8,6 +8,8 @@ windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 system='C:\windows\system32'
 [ "$1" = 64 ] || system='C:\windows\syswow64'
+# The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
+[ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 library=$(windows_path "$2")
 trap 'wine "$system\\regsvr32.exe" /u /s "$library" || true' EXIT
 wine "$system\\regsvr32.exe" /s "$library"
