@@ -9,6 +9,7 @@ system='C:\windows\system32'
 [ "$1" = 64 ] || system='C:\windows\syswow64'
 bin=$(windows_path "$2")
 work=$(mktemp -d "$2/example.XXXXXX")
+# Tidying up must neither stop half-way nor replace the outcome of the test.
 trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || true; rm -rf "$work"' EXIT
 wine "$system\\regsvr32.exe" /s "$bin\\testado.dll"
 wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$3")"

@@ -11,6 +11,7 @@ system='C:\windows\system32'
 # The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
 [ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 library=$(windows_path "$2")
+# Tidying up must neither stop half-way nor replace the outcome of the test.
 trap 'wine "$system\\regsvr32.exe" /u /s "$library" || true' EXIT
 wine "$system\\regsvr32.exe" /s "$library"
 wine "$system\\cscript.exe" //nologo "$(windows_path "$3")" | tr -d '\r' | diff - "${3%.vbs}.approved.txt"
