@@ -41,6 +41,12 @@ class RuntimeFailure : public std::exception {
   FailureDetail detail_;
 };
 
+// A failure that one policy lets out to the caller; for all others it is one like any other.
+class CallerFailure : public RuntimeFailure {
+ public:
+  using RuntimeFailure::RuntimeFailure;
+};
+
 // The text that goes with a number when whoever throws has none of its own.
 Text description_of(std::int32_t number);
 
@@ -66,6 +72,18 @@ Text or_built_so_far(Body&& body) noexcept {
   } catch (...) {
   }
   return built;
+}
+
+// The policy of the few members whose caller is told by an error: a CallerFailure passes, `fallback` for all else.
+template <class R, class Body>
+R or_raised(R fallback, Body&& body) {
+  try {
+    return std::forward<Body>(body)();
+  } catch (const CallerFailure&) {
+    throw;
+  } catch (...) {
+    return fallback;
+  }
 }
 
 // Error-reporting policy: false when the body throws, after `report` has been given the failure. A report that throws

@@ -77,6 +77,30 @@ TEST(OrBuiltSoFar, KeepsWhatWasAppended) {
   EXPECT_EQ(or_built_so_far([](Text&) { throw 0; }), u"");
 }
 
+TEST(OrRaised, LetsOnlyWhatIsMeantForTheCallerOut) {
+  EXPECT_EQ(or_raised(1, [] { return 2; }), 2);
+  EXPECT_EQ(or_raised(1, []() -> int { throw RuntimeFailure(9); }), 1);
+  EXPECT_EQ(or_raised(1, []() -> int { throw std::bad_alloc(); }), 1);
+  EXPECT_EQ(or_raised(1, []() -> int { throw 0; }), 1);
+  try {
+    const int result = or_raised(1, []() -> int { throw CallerFailure(9); });
+    ADD_FAILURE() << "result " << result;
+  } catch (const CallerFailure& failure) {
+    expect_detail(failure.detail(), 9, u"Subscript out of range", u"QVRlib21");
+  }
+}
+
+TEST(CallerFailure, IsOneLikeAnyOtherForTheOtherPolicies) {
+  expect_detail(seen_when(CallerFailure(5)), 5, u"Invalid procedure call or argument", u"QVRlib21");
+  expect_detail(seen_when(CallerFailure(5, u"own text", u"own source")), 5, u"own text", u"own source");
+  const auto fail = []() -> bool { throw CallerFailure(5); };
+  EXPECT_TRUE(or_default(true, fail));
+  EXPECT_EQ(or_built_so_far([&](Text& built) { built = fail() ? u"" : u"built"; }), u"");
+  std::int32_t reported = 0;
+  EXPECT_FALSE(or_reported(fail, [&](const FailureDetail& detail) { reported = detail.number; }));
+  EXPECT_EQ(reported, 5);
+}
+
 TEST(OrReported, ReportsOnlyWhatWasThrown) {
   int reports = 0;
   const auto report = [&reports](const FailureDetail& detail) {
