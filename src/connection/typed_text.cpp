@@ -30,7 +30,7 @@ Value value_from_typed_text(TextView code, TextView text) {
 Text typed_text_from_value(TextView code, const Value& value) {
   if (equal_no_case(code, u"T")) return to_text(value);
   if (equal_no_case(code, u"N")) return number_text(value);
-  if (equal_no_case(code, u"F")) return year_month_day(to_date(value), u'/');
+  if (equal_no_case(code, u"F")) return formatted_date(to_date(value), u"yyyy/mm/dd");
   if (equal_no_case(code, u"L")) return to_truth(value) ? u"1" : u"0";
   return {};
 }

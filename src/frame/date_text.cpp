@@ -1,7 +1,9 @@
 #include "frame/date_text.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <iterator>
 
 #include "frame/failure.h"
 
@@ -15,25 +17,38 @@ constexpr sys_days kDayZero{std::chrono::year{1899} / 12 / 30};
 constexpr double kFirstDay = -657434, kLastDay = 2958465;  // 1 January 100 and 31 December 9999
 constexpr int kSecondsPerDay = 86400;
 
-}  // namespace
+struct DayAndSeconds {
+  int day, seconds;
+};
 
-CalendarTime calendar_time(Date date) {
+// To the nearest second; nothing outside the calendar.
+std::optional<DayAndSeconds> split(Date date) noexcept {
   const double whole = std::trunc(date.days);
-  if (!(whole >= kFirstDay && whole <= kLastDay)) throw RuntimeFailure(failure_number::kOverflow);
+  if (!(whole >= kFirstDay && whole <= kLastDay)) return std::nullopt;
   auto day = static_cast<int>(whole);
   auto seconds = static_cast<int>(std::lround(std::fabs(date.days - whole) * kSecondsPerDay));
   if (seconds == kSecondsPerDay) {
     ++day;
     seconds = 0;
   }
-  if (day > kLastDay) throw RuntimeFailure(failure_number::kOverflow);
-  const std::chrono::year_month_day calendar{kDayZero + days{day}};
+  if (day > kLastDay) return std::nullopt;
+  return DayAndSeconds{day, seconds};
+}
+
+}  // namespace
+
+bool has_calendar_time(Date date) noexcept { return split(date).has_value(); }
+
+CalendarTime calendar_time(Date date) {
+  const auto parts = split(date);
+  if (!parts) throw RuntimeFailure(failure_number::kOverflow);
+  const std::chrono::year_month_day calendar{kDayZero + days{parts->day}};
   return {static_cast<int>(calendar.year()),
           static_cast<int>(static_cast<unsigned>(calendar.month())),
           static_cast<int>(static_cast<unsigned>(calendar.day())),
-          seconds / 3600,
-          seconds / 60 % 60,
-          seconds % 60};
+          parts->seconds / 3600,
+          parts->seconds / 60 % 60,
+          parts->seconds % 60};
 }
 
 std::optional<Date> date_from(const CalendarTime& time) {
@@ -56,10 +71,26 @@ Text padded(int number, std::size_t width) {
   return digits;
 }
 
-Text year_month_day(Date date, char16_t separator) {
+Text formatted_date(Date date, TextView mask) {
   const CalendarTime time = calendar_time(date);
-  const TextView between(&separator, 1);
-  return join({padded(time.year, 4), between, padded(time.month, 2), between, padded(time.day, 2)});
+  const struct {
+    TextView token;
+    int part;
+  } parts[] = {{u"yyyy", time.year}, {u"mm", time.month},  {u"dd", time.day},
+               {u"hh", time.hour},   {u"nn", time.minute}, {u"ss", time.second}};
+  Text text;
+  text.reserve(mask.size());
+  while (!mask.empty()) {
+    const auto* part = std::ranges::find_if(parts, [&](const auto& row) { return mask.starts_with(row.token); });
+    if (part == std::end(parts)) {
+      text.push_back(mask.front());
+      mask.remove_prefix(1);
+    } else {
+      text += padded(part->part, part->token.size());
+      mask.remove_prefix(part->token.size());
+    }
+  }
+  return text;
 }
 
 }  // namespace qvr

@@ -18,8 +18,12 @@ CalendarTime calendar_time(Date date);
 // The inverse; nothing when a part is out of its range.
 std::optional<Date> date_from(const CalendarTime& time);
 
-// "yyyy/mm/dd" with this separator between the parts.
-Text year_month_day(Date date, char16_t separator);
+// Whether the date is within the years 100 to 9999, to the second.
+bool has_calendar_time(Date date) noexcept;
+
+// The date by a mask: "yyyy", "mm" (month), "dd", "hh", "nn" (minutes) and "ss" stand for its parts, everything else
+// for itself.
+Text formatted_date(Date date, TextView mask);
 
 // The number's digits, with zeros in front up to this width.
 Text padded(int number, std::size_t width);

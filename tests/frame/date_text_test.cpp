@@ -98,11 +98,16 @@ TEST(DateFrom, HasNothingForPartsOutOfRange) {
 }
 
 TEST(YearMonthDay, WritesFourTwoAndTwoDigits) {
-  EXPECT_EQ(year_month_day(Date{36526}, u'/'), u"2000/01/01");
-  EXPECT_EQ(year_month_day(Date{-657434}, u'-'), u"0100-01-01");
-  EXPECT_EQ(year_month_day(Date{2958465.75}, u'/'), u"9999/12/31");
-  EXPECT_EQ(year_month_day(Date{36526 + 86399.6 * kSecond}, u'.'), u"2000.01.02");
-  EXPECT_THROW(year_month_day(Date{1e9}, u'/'), RuntimeFailure);
+  EXPECT_EQ(formatted_date(Date{36526}, u"yyyy/mm/dd"), u"2000/01/01");
+  EXPECT_EQ(formatted_date(Date{-657434}, u"yyyy-mm-dd hh:nn:ss"), u"0100-01-01 00:00:00");
+  EXPECT_EQ(formatted_date(Date{2958465.75}, u"yyyy-mm-dd hh:nn:ss"), u"9999-12-31 18:00:00");
+  EXPECT_EQ(formatted_date(Date{36526 + 86399.6 * kSecond}, u"yyyy.mm.dd hh:nn:ss"), u"2000.01.02 00:00:00");
+  EXPECT_EQ(formatted_date(Date{36526 + 3723 * kSecond}, u"'hh' n:nn/ss"), u"'01' n:02/03");
+  EXPECT_EQ(formatted_date(Date{36526}, u""), u"");
+  EXPECT_THROW(formatted_date(Date{1e9}, u"yyyy"), RuntimeFailure);
+  EXPECT_FALSE(has_calendar_time(Date{1e9}));
+  EXPECT_FALSE(has_calendar_time(Date{2958465 + 86399.6 * kSecond}));
+  EXPECT_TRUE(has_calendar_time(Date{2958465 + 86399 * kSecond}));
 }
 
 TEST(Padded, NeverTruncates) {
