@@ -1,8 +1,10 @@
-// The connection parameters of an application: kept in a protected ".cfp" file, turned into connection strings.
+// The connection parameters of an application: kept in a protected ".cfp" file, turned into connection strings, and
+// their engine's way of writing SQL.
 #pragma once
 
 #include <cstdint>
 
+#include "dialect/ado_parameter.h"
 #include "frame/text.h"
 #include "frame/value.h"
 
@@ -24,7 +26,7 @@ struct ConnectionParameters {
 // Overwrites both passwords and empties all.
 void wipe(ConnectionParameters& parameters) noexcept;
 
-// No member fails: what cannot be done is false or an empty result.
+// No member fails but two that say so: what cannot be done is false or an empty result.
 class QVRcfp {
  public:
   QVRcfp() noexcept;
@@ -50,6 +52,43 @@ class QVRcfp {
   // Typed text: "T" text, "N" number with ".", "F" date, "L" logical. Empty for another code or what does not convert.
   Value TextoAValor(TextView TipoTNFL, TextView Texto) const noexcept;
   Text ValorATexto(TextView TipoTNFL, const Value& Valor) const noexcept;
+
+  // Literals; see dialect/literals.h and dialect/like_pattern.h.
+  Text ComillasSQL(TextView Cadena) const noexcept;
+  Text ExpSQL(const Value& Valor) const noexcept;
+  Text FechaSQL(const Value& Fecha) const noexcept;
+  Text HoraSQL(const Value& Fecha) const noexcept;
+  Text FechaHoraSQL(const Value& Fecha) const noexcept;
+  Text FechaSQLv(const Value& Fecha) const noexcept;
+  Text LogicoSQL(bool Valor) const noexcept;
+  Text AhoraSQL() const noexcept;
+  Text sqlEsTrue(TextView Campo) const noexcept;
+  Text sqlEsFalse(TextView Campo) const noexcept;
+  Text sqlFalse() const noexcept;
+  Text CadenaParaLikeSQL(TextView Cadena, bool ComodinInicial, bool ComodinFinal) const noexcept;
+  Text sqlFechaSistema() const noexcept;
+
+  // Pieces of clauses; see dialect/clauses.h and dialect/table_relations.h. The two that are not noexcept raise
+  // CallerFailure: 5 for a list without elements, 9 for one that cannot be walked or is not whole triples.
+  Text sqlTOP(std::int32_t Numero) const noexcept;
+  Text sqlRowNum(std::int32_t Numero, bool AnteponerAndSiProcede) const noexcept;
+  Text sqlWhereRelacionTablas(const Value& mCampo1Campo2Relacion) const;
+  Text sqlAlias(TextView Alias) const noexcept;
+  Text sqlConcatenar(const Value& Cadenas) const;
+  Text sqlEsNulo(TextView CampoComprobar, TextView CampoAlternativo) const noexcept;
+  Text sqlCASE(TextView Campo, const Value& ParejasValoresMasOmision) const noexcept;
+
+  // Statements; see dialect/statements.h.
+  Text SqlINSERT(TextView NombreTabla, const Value& MValores) const noexcept;
+  Text SqlUPDATE(TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd, const Value& MCampos,
+                 const Value& MValores) const noexcept;
+  Text SqlInsert2(TextView NombreTabla, const Value& MCampos, const Value& MValores) const noexcept;
+  Text SqlUpdate2(TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion) const noexcept;
+
+  // Stored procedures; see dialect/procedure_call.h and dialect/ado_parameter.h. A failed call is reported to the user,
+  // a parameter that ADO finds improperly defined is shown in a box.
+  bool EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) const noexcept;
+  bool AgregarParametroADO(services::AdoCommand* Comando, const dialect::ParameterRequest& request) const noexcept;
 
   const Text& Archivo() const noexcept { return fields_.Archivo; }
   const std::int32_t& MotorBD() const noexcept { return fields_.MotorBD; }

@@ -3,7 +3,7 @@
 #include "frame/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
-#include "script/failure_report.h"
+#include "services/failure_report.h"
 #include "script/script_run.h"
 
 namespace qvr {
@@ -45,7 +45,7 @@ bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoC
         return true;
       },
       [&](const FailureDetail& failure) {
-        report_failure(failure, join({u"Ejecutar1Comando: ", TextoComando}), MotorBD, Conexion);
+        report_failure(failure, {join({u"Ejecutar1Comando: ", TextoComando})}, MotorBD, Conexion);
       });
 }
 

@@ -3,7 +3,7 @@
 #include "frame/failure.h"
 #include "frame/thread_state.h"
 #include "script/command_splitter.h"
-#include "script/failure_report.h"
+#include "services/failure_report.h"
 
 namespace qvr {
 namespace {
@@ -83,7 +83,7 @@ void ScriptRun::abandon() noexcept {
 void ScriptRun::report(const FailureDetail& failure) {
   if (reported_) return;
   reported_ = true;
-  report_failure(failure, u"EjecutarComandos", request_.motor, connection_.get());
+  report_failure(failure, {u"EjecutarComandos"}, request_.motor, connection_.get());
 }
 
 }  // namespace qvr

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/text.h"
+#include "frame/value.h"
 
 namespace qvr::services {
 
@@ -31,7 +32,31 @@ class AdoConnection {
   virtual std::vector<AdoError> errors() = 0;  // the provider's errors of the last operation, in order
 };
 
-enum class CommandType : std::int32_t { Text = 1 };
+enum class CommandType : std::int32_t { Text = 1, StoredProcedure = 4 };
+
+// ADO's numbers for the types that procedure parameters get.
+enum class DataType : std::int32_t {
+  Integer = 3,
+  Single = 4,
+  Double = 5,
+  Boolean = 11,
+  Numeric = 131,
+  DbTimeStamp = 135,
+  VarChar = 200,
+  VarWChar = 202
+};
+
+class AdoParameter {
+ public:
+  virtual ~AdoParameter() = default;
+  virtual void set_type(DataType type) = 0;
+  virtual void set_size(std::int32_t characters) = 0;
+  virtual void set_precision(std::uint8_t digits) = 0;
+  virtual void set_numeric_scale(std::uint8_t decimals) = 0;
+  virtual void set_name(TextView name) = 0;
+  virtual void set_direction(std::int32_t direction) = 0;
+  virtual void set_value(const Value& value) = 0;
+};
 
 class AdoCommand {
  public:
@@ -40,7 +65,12 @@ class AdoCommand {
   virtual void set_command_type(CommandType type) = 0;
   virtual void set_command_text(TextView text) = 0;
   virtual void set_command_timeout(std::int32_t seconds) = 0;  // 0: no limit
-  virtual void execute() = 0;                                  // without parameters, options -1
+  virtual void execute() = 0;                                  // without further arguments, options -1
+
+  virtual void refresh_parameters() = 0;  // the server describes them; 0 is the procedure's return value
+  virtual Value parameter_value(std::int32_t index) = 0;
+  virtual void set_parameter_value(std::int32_t index, const Value& value) = 0;
+  virtual void append_parameter(AdoParameter& parameter) = 0;
 };
 
 class Ado {
@@ -48,6 +78,7 @@ class Ado {
   virtual ~Ado() = default;
   virtual std::unique_ptr<AdoConnection> new_connection() = 0;
   virtual std::unique_ptr<AdoCommand> new_command() = 0;
+  virtual std::unique_ptr<AdoParameter> new_parameter() = 0;
 };
 
 }  // namespace qvr::services

@@ -74,7 +74,11 @@ Text error_report_text(const ErrorNotice& notice) {
     if (error.number == notice.failure.number && error.description == notice.failure.description) continue;
     text += join({kLineBreak, error_line(error.number, error.description, error.source)});
   }
-  return text += join({kLineBreak, kLineBreak, notice.captions.method, u": ", abbreviate_for_display(notice.label)});
+  text += kLineBreak;
+  if (!notice.object.empty()) {
+    text += join({kLineBreak, notice.captions.object, u": ", abbreviate_for_display(notice.object)});
+  }
+  return text += join({kLineBreak, notice.captions.method, u": ", abbreviate_for_display(notice.label)});
 }
 
 }  // namespace qvr::services

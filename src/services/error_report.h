@@ -22,6 +22,7 @@ struct ErrorNotice {
   FailureDetail failure;
   std::int32_t motor = 0;         // engine selector, as the caller gave it
   Text label;                     // the operation that failed
+  Text object;                    // what it worked on; empty where the label says it
   Captions captions;
   std::vector<AdoError> errors;   // of the ADO connection, in order
 };

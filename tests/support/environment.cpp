@@ -19,6 +19,7 @@ class NoAdo final : public services::Ado {
  public:
   std::unique_ptr<services::AdoConnection> new_connection() override { refuse(); }
   std::unique_ptr<services::AdoCommand> new_command() override { refuse(); }
+  std::unique_ptr<services::AdoParameter> new_parameter() override { refuse(); }
 
  private:
   [[noreturn]] static void refuse() { throw RuntimeFailure(failure_number::kCannotCreateObject); }

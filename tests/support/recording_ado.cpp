@@ -1,7 +1,12 @@
 #include "support/recording_ado.h"
 
+#include "frame/utf8.h"
+#include "support/describe.h"
+
 namespace qvr::tests {
 namespace {
+
+Text described(const Value& value) { return from_utf8(describe(value)).value(); }
 
 class RecordingConnection final : public services::AdoConnection {
  public:
@@ -33,10 +38,38 @@ class RecordingCommand final : public services::AdoCommand {
   }
   void set_command_timeout(std::int32_t seconds) override { ado_.call("Command.CommandTimeout", decimal(seconds)); }
   void execute() override { ado_.call("Command.Execute", text_); }
+  void refresh_parameters() override { ado_.call("Parameters.Refresh"); }
+  Value parameter_value(std::int32_t index) override {
+    ado_.call("Parameters.Item.Value read", decimal(index));
+    const auto found = ado_.procedure_outputs.find(index);
+    return found == ado_.procedure_outputs.end() ? Value() : found->second;
+  }
+  void set_parameter_value(std::int32_t index, const Value& value) override {
+    ado_.call("Parameters.Item.Value", join({decimal(index), u"=", described(value)}));
+  }
+  void append_parameter(services::AdoParameter&) override { ado_.call("Parameters.Append"); }
 
  private:
   RecordingAdo& ado_;
   Text text_;
+};
+
+class RecordingParameter final : public services::AdoParameter {
+ public:
+  explicit RecordingParameter(RecordingAdo& ado) : ado_(ado) {}
+  ~RecordingParameter() override { ado_.log().add("Parameter released"); }
+  void set_type(services::DataType type) override {
+    ado_.call("Parameter.Type", decimal(static_cast<std::int32_t>(type)));
+  }
+  void set_size(std::int32_t characters) override { ado_.call("Parameter.Size", decimal(characters)); }
+  void set_precision(std::uint8_t digits) override { ado_.call("Parameter.Precision", decimal(digits)); }
+  void set_numeric_scale(std::uint8_t decimals) override { ado_.call("Parameter.NumericScale", decimal(decimals)); }
+  void set_name(TextView name) override { ado_.call("Parameter.Name", name); }
+  void set_direction(std::int32_t direction) override { ado_.call("Parameter.Direction", decimal(direction)); }
+  void set_value(const Value& value) override { ado_.call("Parameter.Value", described(value)); }
+
+ private:
+  RecordingAdo& ado_;
 };
 
 }  // namespace
@@ -49,6 +82,11 @@ std::unique_ptr<services::AdoConnection> RecordingAdo::new_connection() {
 std::unique_ptr<services::AdoCommand> RecordingAdo::new_command() {
   call("new Command");
   return std::make_unique<RecordingCommand>(*this);
+}
+
+std::unique_ptr<services::AdoParameter> RecordingAdo::new_parameter() {
+  call("new Parameter");
+  return std::make_unique<RecordingParameter>(*this);
 }
 
 void RecordingAdo::fail(std::string operation, int occurrence, FailureDetail failure,

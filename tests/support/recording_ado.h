@@ -1,6 +1,10 @@
 // ADO that logs every call and fails where it is told to. Names of operations: "new Connection",
 // "Connection.ConnectionString", ".Open", ".BeginTrans", ".CommitTrans", ".RollbackTrans", ".Close", ".Errors",
-// "new Command", "Command.ActiveConnection", ".CommandType", ".CommandText", ".CommandTimeout", ".Execute".
+// "new Command", "Command.ActiveConnection", ".CommandType", ".CommandText", ".CommandTimeout", ".Execute",
+// "Parameters.Refresh", "Parameters.Item.Value" (written, as "1=Long 5"), "Parameters.Item.Value read",
+// "Parameters.Append", "new Parameter", "Parameter.Type", ".Size", ".Precision", ".NumericScale", ".Name",
+// ".Direction",
+// ".Value".
 #pragma once
 
 #include <map>
@@ -19,6 +23,10 @@ class RecordingAdo final : public services::Ado {
   explicit RecordingAdo(CallLog& log) : log_(log) {}
   std::unique_ptr<services::AdoConnection> new_connection() override;
   std::unique_ptr<services::AdoCommand> new_command() override;
+  std::unique_ptr<services::AdoParameter> new_parameter() override;
+
+  // What a called procedure leaves in its parameters; 0 is its return value.
+  std::map<std::int32_t, Value> procedure_outputs;
 
   // The operation's n-th call (counted from 1) fails with this; the connection then tells these errors.
   void fail(std::string operation, int occurrence, FailureDetail failure, std::vector<services::AdoError> errors = {});

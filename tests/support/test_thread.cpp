@@ -22,6 +22,7 @@ class AdoOf final : public services::Ado {
   explicit AdoOf(RecordingAdo& recorder) : recorder_(recorder) {}
   std::unique_ptr<services::AdoConnection> new_connection() override { return recorder_.new_connection(); }
   std::unique_ptr<services::AdoCommand> new_command() override { return recorder_.new_command(); }
+  std::unique_ptr<services::AdoParameter> new_parameter() override { return recorder_.new_parameter(); }
 
  private:
   RecordingAdo& recorder_;

@@ -11,9 +11,7 @@ constexpr DISPID kProgreso = 1, kTerminado = 2;
 
 HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComandos, BSTR* CadenaConexion,
                                        BSTR* TextoMostrar, VARIANT_BOOL* Resultado) noexcept {
-  // The host may let go of its last reference in an event of this very run.
-  const ComPtr<IConnectionPointContainer> alive(this);
-  return answer(Resultado, [&] {
+  return answer_while_kept(Resultado, [&] {
     const Text given_id = text_of(ID), given_text = text_of(TextoMostrar);
     Text id = given_id, progress_text = given_text;
     const bool success =
@@ -26,10 +24,8 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
 
 HRESULT QVRScrObject::Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando, LONG* MotorBD,
                                        VARIANT_BOOL* Resultado) noexcept {
-  const ComPtr<IConnectionPointContainer> alive(this);
-  return answer(Resultado, [&] {
-    // Whatever the host's connection is, it is reached by name only.
-    const auto connection = wrap_connection(Conexion != nullptr ? reinterpret_cast<IDispatch*>(*Conexion) : nullptr);
+  return answer_while_kept(Resultado, [&] {
+    const auto connection = wrap_connection(object_of(Conexion));
     return core_.Ejecutar1Comando(connection.get(), text_of(TextoComando), number_of(MotorBD));
   });
 }

@@ -44,6 +44,24 @@ class ComConnection final : public services::AdoConnection {
   LateObject object_;
 };
 
+class ComParameter final : public services::AdoParameter {
+ public:
+  explicit ComParameter(LateObject object) : object_(std::move(object)) {}
+
+  void set_type(services::DataType type) override { object_.put(L"Type", static_cast<std::int32_t>(type)); }
+  void set_size(std::int32_t characters) override { object_.put(L"Size", characters); }
+  void set_precision(std::uint8_t digits) override { object_.put(L"Precision", digits); }
+  void set_numeric_scale(std::uint8_t decimals) override { object_.put(L"NumericScale", decimals); }
+  void set_name(TextView name) override { object_.put(L"Name", Text(name)); }
+  void set_direction(std::int32_t direction) override { object_.put(L"Direction", direction); }
+  void set_value(const Value& value) override { object_.put(L"Value", value); }
+
+  const LateObject& object() const { return object_; }
+
+ private:
+  LateObject object_;
+};
+
 class ComCommand final : public services::AdoCommand {
  public:
   explicit ComCommand(LateObject object) : object_(std::move(object)) {}
@@ -58,7 +76,17 @@ class ComCommand final : public services::AdoCommand {
   void set_command_timeout(std::int32_t seconds) override { object_.put(L"CommandTimeout", seconds); }
   void execute() override { object_.call(L"Execute", {Missing{}, Missing{}, kOptionsUnspecified}); }
 
+  void refresh_parameters() override { parameters().call(L"Refresh", {}); }
+  Value parameter_value(std::int32_t index) override { return parameter(index).get(L"Value"); }
+  void set_parameter_value(std::int32_t index, const Value& value) override { parameter(index).put(L"Value", value); }
+  void append_parameter(services::AdoParameter& added) override {
+    parameters().call(L"Append", {dynamic_cast<ComParameter&>(added).object().as_value()});
+  }
+
  private:
+  LateObject parameters() const { return object_.get_object(L"Parameters"); }
+  LateObject parameter(std::int32_t index) const { return object_in(parameters().get(L"Item", {index})); }
+
   LateObject object_;
 };
 
@@ -76,6 +104,15 @@ std::unique_ptr<services::AdoConnection> ComAdo::new_connection() {
 
 std::unique_ptr<services::AdoCommand> ComAdo::new_command() {
   return std::make_unique<ComCommand>(create(L"ADODB.Command"));
+}
+
+std::unique_ptr<services::AdoParameter> ComAdo::new_parameter() {
+  return std::make_unique<ComParameter>(create(L"ADODB.Parameter"));
+}
+
+std::unique_ptr<services::AdoCommand> wrap_command(IDispatch* command) {
+  if (command == nullptr) return nullptr;
+  return std::make_unique<ComCommand>(LateObject(ComPtr<IDispatch>(command)));
 }
 
 std::unique_ptr<services::AdoConnection> wrap_connection(IDispatch* connection) {

@@ -14,8 +14,10 @@ void ComErrorReport::hand_over(const services::ErrorNotice& notice) {
                               &captions.method, &captions.object}) {
     texts.items.emplace_back(*caption);
   }
+  // The component has one argument for both.
+  const Text label = notice.object.empty() ? notice.label : join({notice.label, u": ", notice.object});
   component_.call(L"Informar", {notice.failure.number, notice.failure.description, notice.failure.source, notice.motor,
-                                notice.label, std::move(texts)});
+                                label, std::move(texts)});
 }
 
 }  // namespace qvr::automation

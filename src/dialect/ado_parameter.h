@@ -1,0 +1,24 @@
+// Parameters for commands that the caller builds.
+#pragma once
+
+#include "dialect/engine.h"
+#include "frame/value.h"
+#include "services/ado.h"
+
+namespace qvr::dialect {
+
+inline constexpr std::int32_t kReturnValue = 4;  // ADO's number of this direction
+
+struct ParameterRequest {
+  TextView TipoSQLServer, Nombre;
+  Value Valor;  // Missing: none is set
+  std::int32_t Ancho = 0;
+  std::int32_t Direction = 1;
+};
+
+// Appends a parameter whose type fits the engine. Type names are those of SQL Server: "INT", "BIT", "REAL", "NVARCHAR",
+// "DATETIME"; another one is told in a message box, False, nothing appended. Oracle has no return values: True, nothing
+// appended. Throws what ADO refuses, and 91 without a command.
+bool AgregarParametroADO(const Engine& engine, services::AdoCommand* Comando, const ParameterRequest& request);
+
+}  // namespace qvr::dialect

@@ -1,0 +1,85 @@
+#include "dialect/clauses.h"
+
+#include "dialect/lists.h"
+#include "frame/failure.h"
+#include "frame/value_convert.h"
+
+namespace qvr::dialect {
+namespace {
+
+Text row_limit(const Engine& engine, std::int32_t count, bool prepend_and, TextView opener, TextView closer) {
+  if (count < 1 || engine != kOracle) return {};
+  return join({prepend_and ? u" And " : u" ", opener, decimal(count), closer});
+}
+
+// The pieces of a value map around its elements.
+struct CaseForm {
+  TextView opener, before_value, before_result, before_default, closer;
+};
+constexpr CaseForm kCase{u" CASE ", u" WHEN ", u" THEN ", u" ELSE ", u" END "};
+constexpr CaseForm kDecode{u" DECODE(", u",", u",", u",", u") "};
+
+Text value_map(const CaseForm& form, TextView field, const Value& pairs) {
+  const Array& elements = list_in(pairs);
+  if (elements.items.empty()) throw RuntimeFailure(failure_number::kSubscript);
+  Text text = join({form.opener, field});
+  for (std::size_t i = 0; i < elements.items.size(); ++i) {
+    const bool result = i % 2 == 1, alone = !result && i + 1 == elements.items.size();
+    text += result ? form.before_result : alone ? form.before_default : form.before_value;
+    text += to_text(elements.items[i]);
+  }
+  return text += form.closer;
+}
+
+}  // namespace
+
+Text ClausulaTop(const Engine& engine, std::int32_t count) {
+  if (count < 1 || (engine != kJet && engine != kSqlServer)) return {};
+  return join({u" TOP ", decimal(count), u" "});
+}
+
+Text sqlRowNum(const Engine& engine, std::int32_t count, bool prepend_and) {
+  return row_limit(engine, count, prepend_and, u"RowNum<=", u" ");
+}
+
+Text CondicionRowNum(const Engine& engine, std::int32_t count, bool prepend_and) {
+  return row_limit(engine, count, prepend_and, u"(RowNum<=", u") ");
+}
+
+Text ClausulaAlias(const Engine& engine, TextView alias) {
+  const auto opener = pick(engine, {u" As [", u" As [", u" \""});
+  const auto closer = pick(engine, {u"]", u"]", u"\""});
+  return opener ? join({*opener, alias, *closer}) : Text();
+}
+
+Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {
+  const TextView concatenation = pick(engine, {u" & ", u" + ", u" || "}).value_or(u"");
+  const Array& elements = list_in(Cadenas);
+  if (elements.items.empty() && !concatenation.empty()) throw CallerFailure(failure_number::kInvalidArgument);
+  Text text = u" ";
+  for (std::size_t i = 0; i < elements.items.size(); ++i) {
+    if (i > 0) text += concatenation;
+    text += to_text(elements.items[i]);
+  }
+  return text += u" ";
+}
+
+Text sqlEsNulo(const Engine& engine, TextView field, TextView alternative) {
+  switch (engine) {
+    case kJet: return join({u" IIf(IsNull(", field, u"),", alternative, u",", field, u") "});
+    case kSqlServer: return join({u" IsNull(", field, u",", alternative, u") "});
+    case kOracle: return join({u" NVL(", field, u",", alternative, u") "});
+    default: return {};
+  }
+}
+
+Text sqlCASE(const Engine& engine, TextView field, const Value& pairs) {
+  switch (engine) {
+    case kJet: return tell(u"Funci\u00f3n CASE no implementada para Motor Jet"), Text();
+    case kSqlServer: return value_map(kCase, field, pairs);
+    case kOracle: return value_map(kDecode, field, pairs);
+    default: return {};
+  }
+}
+
+}  // namespace qvr::dialect

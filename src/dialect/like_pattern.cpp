@@ -1,0 +1,43 @@
+#include "dialect/like_pattern.h"
+
+#include <algorithm>
+
+#include "dialect/literals.h"
+
+namespace qvr::dialect {
+namespace {
+
+TextView without_edge_blanks(TextView text) {
+  const std::size_t first = text.find_first_not_of(u' ');
+  return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+}  // namespace
+
+Text CaracterEscapeLibre(TextView text) {
+  constexpr TextView kCandidates = u"!&/()$#=|";
+  for (const char16_t& candidate : kCandidates) {
+    if (text.find(candidate) == TextView::npos) return Text(1, candidate);
+  }
+  return {};
+}
+
+Text PatronLikeMotor(const Engine& engine, TextView text, bool leading, bool trailing) {
+  Text pattern(without_edge_blanks(text));
+  if (leading && !pattern.starts_with(u'*')) pattern.insert(0, 1, u'*');
+  if (trailing && !pattern.ends_with(u'*')) pattern.push_back(u'*');
+  Text escape_clause;
+  if (pattern.find_first_of(u"%_") != Text::npos) {
+    const Text escape = CaracterEscapeLibre(pattern);
+    escape_clause = join({u"ESCAPE '", escape, u"' "});
+    pattern = replace_all(pattern, u"%", escape + u"%");
+    pattern = replace_all(pattern, u"_", escape + u"_");
+  }
+  // Only now: the user's own "%" and "_" are marked already, these are meant.
+  std::ranges::replace(pattern, u'*', u'%');
+  std::ranges::replace(pattern, u'?', u'_');
+  const TextView national = engine == kSqlServer ? u"N" : u"";
+  return join({national, ComillasSQL(pattern), u" ", escape_clause});
+}
+
+}  // namespace qvr::dialect

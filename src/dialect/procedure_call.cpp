@@ -1,0 +1,44 @@
+#include "dialect/procedure_call.h"
+
+#include "dialect/lists.h"
+#include "frame/failure.h"
+#include "frame/thread_state.h"
+#include "frame/value_convert.h"
+
+namespace qvr::dialect {
+namespace {
+
+// ADO's parameter for each element: 0 is the return value. By the element's own index, so that a zero-based array
+// begins with the first real parameter.
+std::int32_t parameter_of(const Array& list, std::size_t position) {
+  const std::int64_t index = list.lower + static_cast<std::int64_t>(position) + 1;
+  if (index > INT32_MAX) throw RuntimeFailure(failure_number::kOverflow);
+  return static_cast<std::int32_t>(index);
+}
+
+bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(returned) == 0; }
+
+}  // namespace
+
+bool EjecutarProcSQL7(const Engine& engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
+  if (engine != kSqlServer) return false;
+  const auto command = thread_state().ado().new_command();
+  if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
+  command->set_active_connection(*Conexion);
+  command->set_command_text(NombreProc);
+  command->set_command_type(services::CommandType::StoredProcedure);
+  command->refresh_parameters();
+  Array list = list_in(Parametros);
+  for (std::size_t i = 0; i < list.items.size(); ++i) {
+    command->set_parameter_value(parameter_of(list, i), list.items[i]);
+  }
+  command->execute();
+  if (!is_zero(command->parameter_value(0))) return false;
+  for (std::size_t i = 0; i < list.items.size(); ++i) {
+    list.items[i] = command->parameter_value(parameter_of(list, i));
+  }
+  Parametros = std::move(list);
+  return true;
+}
+
+}  // namespace qvr::dialect

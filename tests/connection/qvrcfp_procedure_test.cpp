@@ -1,0 +1,252 @@
+// The two members that work on ADO objects of the caller: neither raises, whatever ADO refuses.
+#include "connection/qvrcfp.h"
+#include "dialect/dialect_fixture.h"
+#include "support/describe.h"
+
+namespace qvr::tests {
+namespace {
+
+using dialect::ParameterRequest;
+
+// One call to ADO, by the name under which it can fail, and its line in the log.
+struct Step {
+  std::string operation;
+  int occurrence;
+  std::string line;
+};
+using Steps = std::vector<Step>;
+
+const Steps kProcedure = {
+    {"new Command", 2, "new Command"},  // the first is the test's own
+    {"Command.ActiveConnection", 1, "Command.ActiveConnection"},
+    {"Command.CommandText", 1, "Command.CommandText: dbo.Alta"},
+    {"Command.CommandType", 1, "Command.CommandType: 4"},
+    {"Parameters.Refresh", 1, "Parameters.Refresh"},
+    {"Parameters.Item.Value", 1, "Parameters.Item.Value: 1=Long 5"},
+    {"Parameters.Item.Value", 2, "Parameters.Item.Value: 2=String Ana"},
+    {"Command.Execute", 1, "Command.Execute: dbo.Alta"},
+    {"Parameters.Item.Value read", 1, "Parameters.Item.Value read: 0"},
+    {"Parameters.Item.Value read", 2, "Parameters.Item.Value read: 1"},
+    {"Parameters.Item.Value read", 3, "Parameters.Item.Value read: 2"},
+};
+
+const Steps kParameter = {
+    {"new Parameter", 1, "new Parameter"},
+    {"Parameter.Type", 1, "Parameter.Type: 200"},
+    {"Parameter.Size", 1, "Parameter.Size: 100"},
+    {"Parameter.Name", 1, "Parameter.Name: @p"},
+    {"Parameter.Direction", 1, "Parameter.Direction: 2"},
+    {"Parameter.Value", 1, "Parameter.Value: String Ana"},
+    {"Parameters.Append", 1, "Parameters.Append"},
+};
+
+// The lines up to the step that fails, which is logged as well, and the release of what was made by the first one.
+Lines lines_until(const Steps& steps, std::size_t failing, const std::string& release) {
+  Lines lines;
+  for (std::size_t i = 0; i <= failing && i < steps.size(); ++i) lines.push_back(steps[i].line);
+  if (failing > 0) lines.push_back(release);
+  return lines;
+}
+
+const FailureDetail kRefusal{-2147217900, u"refused", u"Provider"};
+
+ConnectionParameters parameters_with(Engine engine) {
+  ConnectionParameters parameters;
+  parameters.MotorBD = engine;
+  return parameters;
+}
+
+// A thread, an object of the engine, and one list of parameters for a procedure.
+struct Setting {
+  explicit Setting(Engine engine, TextView language = u"0") {
+    thread.load_language(language);
+    cfp.Asignar(u"id", parameters_with(engine));
+    thread.ado.procedure_outputs = {{0, 0}, {1, 7}, {2, u"Eva"}};
+    connection = thread.ado.new_connection();
+    command = thread.ado.new_command();
+    thread.log.take();
+  }
+  bool call(services::AdoConnection* used) { return cfp.EjecutarProcSQL7(used, u"dbo.Alta", parameters); }
+  bool append(TextView type = u"NVARCHAR") {
+    return cfp.AgregarParametroADO(command.get(), {type, u"@p", u"Ana", 50, 2});
+  }
+  std::string first_parameter() { return describe(parameters.as<Array>()->items[0]); }
+
+  TestThread thread;
+  QVRcfp cfp;
+  Value parameters = list({5, u"Ana"});
+  std::unique_ptr<services::AdoConnection> connection;
+  std::unique_ptr<services::AdoCommand> command;
+};
+
+TEST(QVRcfpProcedure, CallsSqlServerAndGivesTheParametersBack) {
+  Setting setting(kSqlServer);
+  EXPECT_TRUE(setting.call(setting.connection.get()));
+  EXPECT_EQ(setting.thread.log.take(), lines_until(kProcedure, kProcedure.size(), "Command released"));
+  EXPECT_EQ(setting.first_parameter(), "Long 7");
+}
+
+TEST(QVRcfpProcedure, OtherEnginesDoNotTouchTheConnection) {
+  for (const Engine engine : {kJet, kOracle, kNoEngine, 99}) {
+    SCOPED_TRACE(engine);
+    Setting setting(engine);
+    EXPECT_FALSE(setting.call(setting.connection.get()));
+    EXPECT_EQ(setting.thread.log.take(), Lines());
+  }
+  TestThread thread;
+  Value parameters;
+  EXPECT_FALSE(QVRcfp().EjecutarProcSQL7(nullptr, u"p", parameters));
+}
+
+TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
+  Setting setting(kSqlServer);
+  setting.thread.ado.procedure_outputs[0] = -1;
+  EXPECT_FALSE(setting.call(setting.connection.get()));
+  EXPECT_EQ(setting.thread.log.take(), lines_until(kProcedure, 8, "Command released"));
+  EXPECT_EQ(setting.first_parameter(), "Long 5");
+}
+
+TEST(QVRcfpProcedure, WhateverAdoRefusesIsReported) {
+  for (std::size_t failing = 0; failing < kProcedure.size(); ++failing) {
+    SCOPED_TRACE(kProcedure[failing].line);
+    Setting setting(kSqlServer);
+    setting.thread.ado.fail(kProcedure[failing].operation, kProcedure[failing].occurrence, kRefusal,
+                            {{-2147217900, u"refused", u"Provider", u"42000", 2812}, {1, u"also", u"", u"", 0}});
+    EXPECT_FALSE(setting.call(setting.connection.get()));
+    Lines expected = lines_until(kProcedure, failing, "Command released");
+    expected.push_back("Report: -2147217900|refused|Provider|2|EjecutarProc|refused|also");
+    EXPECT_EQ(setting.thread.log.take(), expected);
+    EXPECT_EQ(setting.first_parameter(), "Long 5") << "nothing is given back by halves";
+    const services::ErrorNotice& notice = setting.thread.report.notices.at(0);
+    EXPECT_EQ(notice.object, u"dbo.Alta");
+    EXPECT_EQ(notice.captions.object, u"Objeto");
+    EXPECT_EQ(notice.captions.method, u"M\u00e9todo");
+    EXPECT_EQ(notice.captions.unknown_error, u"Error indeterminado");
+    EXPECT_EQ(notice.captions.duplicate_record, u"Registro duplicado");
+    EXPECT_EQ(notice.captions.server_not_found, u"Servidor no encontrado");
+  }
+}
+
+TEST(QVRcfpProcedure, WhatIsNotAdosIsReportedToo) {
+  struct Row {
+    const char* name;
+    Value parameters;
+    bool connected;
+    std::string report;
+  };
+  const Row kRows[] = {
+      {"no connection", list({5}), false,
+       "Report: 91|Object variable or With block variable not set|QVRlib21|2|EjecutarProc"},
+      {"no list", u"5", true, "Report: 13|Type mismatch|QVRlib21|2|EjecutarProc"},
+      {"two dimensions", square({5}), true, "Report: 9|Subscript out of range|QVRlib21|2|EjecutarProc"},
+      {"an index too high", list({5}, INT32_MAX), true, "Report: 6|Overflow|QVRlib21|2|EjecutarProc"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    Setting setting(kSqlServer);
+    setting.parameters = row.parameters;
+    EXPECT_FALSE(setting.call(row.connected ? setting.connection.get() : nullptr));
+    const Lines log = setting.thread.log.take();
+    ASSERT_GE(log.size(), 2U);
+    EXPECT_EQ(log[log.size() - 2], "Command released");
+    EXPECT_EQ(log.back(), row.report);
+  }
+}
+
+TEST(QVRcfpProcedure, AReportThatFailsIsStillFalse) {
+  Setting setting(kSqlServer);
+  setting.thread.report.fails = true;
+  setting.thread.ado.fail("Command.Execute", 1, kRefusal);
+  EXPECT_FALSE(setting.call(setting.connection.get()));
+  EXPECT_EQ(setting.thread.report.notices.size(), 1U);
+}
+
+TEST(QVRcfpParameter, IsAppendedWithTheTypeOfTheEngine) {
+  Setting setting(kOracle);
+  EXPECT_TRUE(setting.append());
+  EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, kParameter.size(), "Parameter released"));
+}
+
+TEST(QVRcfpParameter, AnObjectWithoutParametersAppendsNone) {
+  Setting setting(kOracle);
+  const QVRcfp fresh;
+  EXPECT_FALSE(fresh.AgregarParametroADO(setting.command.get(), {u"INT", u"@p", Missing{}}));
+  EXPECT_FALSE(fresh.AgregarParametroADO(setting.command.get(), {u"no type", u"@p", Missing{}}));
+  EXPECT_EQ(setting.thread.log.take(), Lines());
+  QVRcfp other;
+  other.Asignar(u"id", parameters_with(kNoEngine));
+  EXPECT_TRUE(other.AgregarParametroADO(setting.command.get(), {u"no type", u"@p", Missing{}}));
+}
+
+TEST(QVRcfpParameter, AnUnexpectedTypeIsToldInTheUsersLanguage) {
+  struct Row {
+    TextView language;
+    std::string box;
+  };
+  const Row kRows[] = {{u"0", "Box OK: Tipo inesperado en AgregarParametroADO: @p (TEXT)"},
+                       {u"1", "Box OK: Unexpected type in AgregarParametroADO: @p (TEXT)"},
+                       {u"3", "Box OK: Type inattendu dans AgregarParametroADO: @p (TEXT)"}};
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.box);
+    Setting setting(kSqlServer, row.language);
+    setting.thread.boxes.answer(BoxAnswer::Ok);
+    EXPECT_FALSE(setting.append(u"TEXT"));
+    EXPECT_EQ(setting.thread.log.take(), (Lines{"new Parameter", row.box, "Parameter released"}));
+  }
+}
+
+TEST(QVRcfpParameter, OneThatIsImproperlyDefinedIsShownInTheUsersLanguage) {
+  struct Row {
+    TextView language;
+    std::string labels[3];
+  };
+  const Row kRows[] = {{u"0", {"Objeto", "M\u00e9todo", "Error"}},
+                       {u"1", {"Object", "Method", "Error"}},
+                       {u"3", {"Objet", "M\u00e9thode", "Erreur"}}};
+  for (const Row& row : kRows) {
+    for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
+      SCOPED_TRACE(row.labels[0] + ", " + kParameter[failing].line);
+      Setting setting(kOracle, row.language);
+      setting.thread.ado.fail(kParameter[failing].operation, 1, {3708, u"Mal definido", u"ADODB"});
+      setting.thread.boxes.answer(BoxAnswer::Ok);
+      EXPECT_FALSE(setting.append());
+      Lines expected = lines_until(kParameter, failing, "Parameter released");
+      expected.push_back("Box OK: " + row.labels[0] + ": QVRcfp\r\n" + row.labels[1] +
+                         ": AgregarParametroADO: @p(NVARCHAR)\r\n" + row.labels[2] + " 3708: Mal definido");
+      EXPECT_EQ(setting.thread.log.take(), expected);
+    }
+  }
+}
+
+TEST(QVRcfpParameter, OtherErrorsAreSilent) {
+  for (const std::int32_t number : {-2147217900, 3707, 3709, 91, 429}) {
+    for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
+      SCOPED_TRACE(::testing::Message() << number << ", " << kParameter[failing].line);
+      Setting setting(kOracle);
+      setting.thread.ado.fail(kParameter[failing].operation, 1, {number, u"refused", u"ADODB"});
+      EXPECT_FALSE(setting.append());
+      EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, failing, "Parameter released"));
+    }
+  }
+}
+
+TEST(QVRcfpParameter, WithoutACommandItIsFalse) {
+  for (const Engine engine : {kJet, kSqlServer, kOracle}) {
+    Setting setting(engine);
+    EXPECT_FALSE(setting.cfp.AgregarParametroADO(nullptr, {u"INT", u"@p", Missing{}}));
+  }
+  Setting setting(kOracle);
+  EXPECT_FALSE(setting.cfp.AgregarParametroADO(nullptr, {u"NVARCHAR", u"@p", u"x", INT32_MAX})) << "the size overflows";
+}
+
+TEST(QVRcfpParameter, ABoxThatCannotBeShownIsStillFalse) {
+  Setting setting(kOracle);
+  setting.thread.boxes.fail_next();
+  EXPECT_FALSE(setting.append(u"TEXT"));
+  setting.thread.ado.fail("Parameter.Type", 1, {3708, u"Mal definido", u"ADODB"});
+  setting.thread.boxes.fail_next();
+  EXPECT_FALSE(setting.append());
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,181 @@
+#include "dialect/clauses.h"
+
+#include "dialect/dialect_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+using ClausesTest = DialectTest;
+
+TEST_F(ClausesTest, ClausulaTopStandsBeforeTheSelectList) {
+  struct Row {
+    std::int32_t count;
+    TextView top;  // of Jet and SQL Server
+  };
+  constexpr Row kRows[] = {{0, u""},     {1, u" TOP 1 "}, {5, u" TOP 5 "},   {INT32_MAX, u" TOP 2147483647 "},
+                           {-1, u""}, {INT32_MIN, u""}, {1000, u" TOP 1000 "}};
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.count);
+    expect_each({Text(row.top), Text(row.top), u"", u""},
+                [&](const Engine& engine) { return dialect::ClausulaTop(engine, row.count); });
+  }
+}
+
+TEST_F(ClausesTest, RowNumIsAConditionOfOracle) {
+  struct Row {
+    std::int32_t count;
+    bool prepend_and;
+    Text method, function;  // they differ in the parentheses
+  };
+  const Row kRows[] = {
+      {5, false, u" RowNum<=5 ", u" (RowNum<=5) "},
+      {10, true, u" And RowNum<=10 ", u" And (RowNum<=10) "},
+      {1, false, u" RowNum<=1 ", u" (RowNum<=1) "},
+      {INT32_MAX, true, u" And RowNum<=2147483647 ", u" And (RowNum<=2147483647) "},
+      {0, true, u"", u""},
+      {-1, false, u"", u""},
+      {INT32_MIN, true, u"", u""},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(::testing::Message() << row.count << (row.prepend_and ? " with And" : ""));
+    expect_each({u"", u"", row.method, u""},
+                [&](const Engine& engine) { return dialect::sqlRowNum(engine, row.count, row.prepend_and); });
+    expect_each({u"", u"", row.function, u""},
+                [&](const Engine& engine) { return dialect::CondicionRowNum(engine, row.count, row.prepend_and); });
+  }
+}
+
+TEST_F(ClausesTest, ClausulaAliasEndsWithoutABlank) {
+  expect_each({u" As [Total]", u" As [Total]", u" \"Total\"", u""},
+              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u"Total"); });
+  expect_each({u" As [un a\u00f1o]", u" As [un a\u00f1o]", u" \"un a\u00f1o\"", u""},
+              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u"un a\u00f1o"); });
+  expect_each({u" As []", u" As []", u" \"\"", u""},
+              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u""); });
+}
+
+TEST_F(ClausesTest, EsNuloReplacesNull) {
+  expect_each({u" IIf(IsNull(Precio),0,Precio) ", u" IsNull(Precio,0) ", u" NVL(Precio,0) ", u""},
+              [](const Engine& engine) { return dialect::sqlEsNulo(engine, u"Precio", u"0"); });
+  expect_each({u" IIf(IsNull(),,) ", u" IsNull(,) ", u" NVL(,) ", u""},
+              [](const Engine& engine) { return dialect::sqlEsNulo(engine, u"", u""); });
+}
+
+TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
+  struct Row {
+    const char* name;
+    Value elements;
+    EachEngine expected;
+  };
+  const Row kRows[] = {
+      {"two", list({u"a", u"b"}), {u" a & b ", u" a + b ", u" a || b ", u" ab "}},
+      {"one", list({u"a"}), all_engines(u" a ")},
+      {"three, lower bound 1", list({u"a", u"b", u"c"}, 1),
+       {u" a & b & c ", u" a + b + c ", u" a || b || c ", u" abc "}},
+      {"negative lower bound", list({u"a", u"b"}, -5), {u" a & b ", u" a + b ", u" a || b ", u" ab "}},
+      {"an empty text", list({u"a", u"", u"b"}), {u" a &  & b ", u" a +  + b ", u" a ||  || b ", u" ab "}},
+      {"an empty text last", list({u"a", u""}), {u" a &  ", u" a +  ", u" a ||  ", u" a "}},
+      {"Empty", list({Empty{}, u"b"}), {u"  & b ", u"  + b ", u"  || b ", u" b "}},
+      {"numbers and truth", list({1, 2.5, true}), {u" 1 & 2.5 & True ", u" 1 + 2.5 + True ",
+                                                   u" 1 || 2.5 || True ", u" 12.5True "}},
+      {"elements that end like an operator", list({u"a & ", u"b || "}),
+       {u" a &  & b ||  ", u" a &  + b ||  ", u" a &  || b ||  ", u" a & b ||  "}},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    expect_each(row.expected, [&](const Engine& engine) { return dialect::sqlConcatenar(engine, row.elements); });
+  }
+}
+
+TEST_F(ClausesTest, ConcatenarFailsForWhatItCannotWalk) {
+  struct Row {
+    const char* name;
+    Value elements;
+    std::string thrown;
+  };
+  const Row kRows[] = {
+      {"an array without bounds", shapeless(), "CallerFailure 9"},
+      {"two dimensions", square({u"a", u"b"}), "CallerFailure 9"},
+      {"no array", u"a", "RuntimeFailure 13"},
+      {"Empty", Empty{}, "RuntimeFailure 13"},
+      {"Null as an element", list({u"a", Null{}}), "RuntimeFailure 94"},
+      {"an object as an element", list({object()}), "RuntimeFailure 13"},
+      {"an array as an element", list({list({u"a"})}), "RuntimeFailure 13"},
+      {"a missing element", list({Missing{}}), "RuntimeFailure 13"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    for (const Engine engine : {kJet, kSqlServer, kOracle, kNoEngine}) {
+      SCOPED_TRACE(engine);
+      EXPECT_EQ(thrown_by([&] { return dialect::sqlConcatenar(engine, row.elements); }), row.thrown);
+    }
+  }
+}
+
+// There is no operator behind nothing to take away again; without an engine there is none at all.
+TEST_F(ClausesTest, ConcatenarOfNothingFailsWhereThereIsAnOperator) {
+  for (const Engine engine : {kJet, kSqlServer, kOracle}) {
+    SCOPED_TRACE(engine);
+    EXPECT_EQ(thrown_by([&] { return dialect::sqlConcatenar(engine, list({}, 1)); }), "CallerFailure 5");
+  }
+  expect_outcome(u"  ", [] { return dialect::sqlConcatenar(kNoEngine, list({})); });
+}
+
+TEST_F(ClausesTest, CaseMapsPairsAndADefault) {
+  const Outcome kJetHasNone = told(u"Funci\u00f3n CASE no implementada para Motor Jet");
+  struct Row {
+    const char* name;
+    Value pairs;
+    Text sql_server, oracle;
+  };
+  const Row kRows[] = {
+      {"two pairs and a default", list({u"1", u"'Alta'", u"2", u"'Baja'", u"'Otra'"}),
+       u" CASE Estado WHEN 1 THEN 'Alta' WHEN 2 THEN 'Baja' ELSE 'Otra' END ",
+       u" DECODE(Estado,1,'Alta',2,'Baja','Otra') "},
+      {"one pair", list({u"1", u"'Alta'"}), u" CASE Estado WHEN 1 THEN 'Alta' END ", u" DECODE(Estado,1,'Alta') "},
+      {"two pairs", list({u"1", u"a", u"2", u"b"}), u" CASE Estado WHEN 1 THEN a WHEN 2 THEN b END ",
+       u" DECODE(Estado,1,a,2,b) "},
+      {"only a default", list({u"'Otra'"}), u" CASE Estado ELSE 'Otra' END ", u" DECODE(Estado,'Otra') "},
+      {"lower bound 1", list({u"1", u"a", u"z"}, 1), u" CASE Estado WHEN 1 THEN a ELSE z END ",
+       u" DECODE(Estado,1,a,z) "},
+      {"negative lower bound", list({u"1", u"a", u"z"}, -3), u" CASE Estado WHEN 1 THEN a ELSE z END ",
+       u" DECODE(Estado,1,a,z) "},
+      {"numbers", list({1, 2.5, -3}), u" CASE Estado WHEN 1 THEN 2.5 ELSE -3 END ", u" DECODE(Estado,1,2.5,-3) "},
+      {"Empty", list({Empty{}, u"a"}), u" CASE Estado WHEN  THEN a END ", u" DECODE(Estado,,a) "},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    expect_each({kJetHasNone, row.sql_server, row.oracle, u""},
+                [&](const Engine& engine) { return dialect::sqlCASE(engine, u"Estado", row.pairs); });
+  }
+}
+
+TEST_F(ClausesTest, CaseFailsForWhatItCannotWalk) {
+  struct Row {
+    const char* name;
+    Value pairs;
+    std::string thrown;
+  };
+  const Row kRows[] = {
+      {"no array", u"1", "RuntimeFailure 13"},
+      {"no elements", list({}), "RuntimeFailure 9"},
+      {"an array without bounds", shapeless(), "CallerFailure 9"},
+      {"two dimensions", square({u"1", u"a"}), "CallerFailure 9"},
+      {"Null as an element", list({u"1", Null{}}), "RuntimeFailure 94"},
+      {"an object as an element", list({u"1", object()}), "RuntimeFailure 13"},
+      {"an array as an element", list({u"1", u"a", list({})}), "RuntimeFailure 13"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    for (const Engine engine : {kSqlServer, kOracle}) {
+      EXPECT_EQ(thrown_by([&] { return dialect::sqlCASE(engine, u"Estado", row.pairs); }), row.thrown);
+    }
+    // The list is not looked at.
+    expect_outcome(u"", [&] { return dialect::sqlCASE(kNoEngine, u"Estado", row.pairs); });
+    expect_outcome(told(u"Funci\u00f3n CASE no implementada para Motor Jet"),
+                   [&] { return dialect::sqlCASE(kJet, u"Estado", row.pairs); });
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

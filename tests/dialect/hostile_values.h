@@ -1,0 +1,35 @@
+// Random values that try to get out of their literals, with what an engine must read of each.
+#pragma once
+
+#include <array>
+#include <random>
+
+#include "dialect/sql_tokens.h"
+#include "frame/value.h"
+
+namespace qvr::tests {
+
+struct Sample {
+  Value value;
+  std::array<Tokens, 3> tokens;  // of Jet, SQL Server and Oracle
+
+  const Tokens& for_engine(dialect::Engine engine) const { return tokens[static_cast<std::size_t>(engine) - 1]; }
+};
+
+// The same values from the same seed, on every platform.
+class HostileValues {
+ public:
+  explicit HostileValues(std::uint64_t seed) : random_(seed) {}
+
+  Sample next();
+  Text text();
+  std::size_t below(std::size_t limit) { return static_cast<std::size_t>(random_() % limit); }
+
+ private:
+  Sample text_sample();
+  Sample date_sample();
+
+  std::mt19937_64 random_;
+};
+
+}  // namespace qvr::tests

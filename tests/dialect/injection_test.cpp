@@ -1,0 +1,208 @@
+// No value ends its literal: every statement splits into exactly the tokens of its parts.
+#include "dialect/dialect_fixture.h"
+#include "dialect/hostile_values.h"
+#include "dialect/like_pattern.h"
+#include "dialect/literals.h"
+#include "dialect/statements.h"
+
+namespace qvr::tests {
+namespace {
+
+using enum TokenKind;
+
+constexpr int kRounds = 2000;
+constexpr Engine kEngines[] = {kJet, kSqlServer, kOracle};
+
+// Fields f0, f1... with values, both with the same random lower bound.
+struct Record {
+  Value fields, values;
+  std::vector<Sample> samples;
+};
+
+Record random_record(HostileValues& hostile) {
+  Record record;
+  std::vector<Value> names, values;
+  for (std::size_t i = 0, count = 1 + hostile.below(6); i < count; ++i) {
+    names.push_back(u"f" + decimal(static_cast<std::int64_t>(i)));
+    record.samples.push_back(hostile.next());
+    values.push_back(record.samples.back().value);
+  }
+  const auto lower = static_cast<std::int32_t>(hostile.below(7)) - 3;
+  record.fields = list(std::move(names), lower);
+  record.values = list(std::move(values), lower);
+  return record;
+}
+
+// Tokens put together by hand.
+class Expected {
+ public:
+  explicit Expected(Engine engine) : engine_(engine) {}
+
+  Expected& words(std::initializer_list<TextView> words) {
+    for (const TextView word : words) tokens_.push_back({Word, Text(word)});
+    return *this;
+  }
+  Expected& sign(char16_t sign) {
+    tokens_.push_back({Punctuation, Text(1, sign)});
+    return *this;
+  }
+  Expected& value(const Sample& sample) {
+    const Tokens& tokens = sample.for_engine(engine_);
+    tokens_.insert(tokens_.end(), tokens.begin(), tokens.end());
+    return *this;
+  }
+  Expected& field(std::size_t number) { return words({u"f" + decimal(static_cast<std::int64_t>(number))}); }
+  Expected& number(TextView digits) {
+    tokens_.push_back({Number, Text(digits)});
+    return *this;
+  }
+  // f0=v,f1=v but for the one left out.
+  Expected& assignments(const std::vector<Sample>& samples, std::size_t left_out) {
+    bool first = true;
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+      if (i == left_out) continue;
+      if (!std::exchange(first, false)) sign(u',');
+      field(i).sign(u'=').value(samples[i]);
+    }
+    return *this;
+  }
+  Expected& values(const std::vector<Sample>& samples) {
+    sign(u'(');
+    for (std::size_t i = 0; i < samples.size(); ++i) (i > 0 ? sign(u',') : *this).value(samples[i]);
+    return sign(u')');
+  }
+  Expected& fields(std::size_t count) {
+    sign(u'(');
+    for (std::size_t i = 0; i < count; ++i) (i > 0 ? sign(u',') : *this).field(i);
+    return sign(u')');
+  }
+
+  const Tokens& tokens() const { return tokens_; }
+
+ private:
+  Engine engine_;
+  Tokens tokens_;
+};
+
+class InjectionTest : public DialectTest, public ::testing::WithParamInterface<Engine> {
+ protected:
+  // `check` gets a random record each time.
+  template <class Check>
+  void for_records(std::uint64_t seed, const Check& check) {
+    HostileValues hostile(seed);
+    for (int round = 0; round < kRounds; ++round) {
+      SCOPED_TRACE(round);
+      check(random_record(hostile));
+      ASSERT_FALSE(HasFailure());
+    }
+  }
+  void expect_tokens(const Text& sql, const Tokens& expected) {
+    EXPECT_EQ(tokens_of(GetParam(), sql), expected) << to_utf8(sql);
+  }
+
+  static constexpr std::size_t kNone = 1000;
+};
+
+TEST_P(InjectionTest, ExpSQLIsTheValuesOwnTokens) {
+  for_records(1, [this](const Record& record) {
+    for (const Sample& sample : record.samples) {
+      expect_tokens(dialect::ExpSQL(GetParam(), sample.value), sample.for_engine(GetParam()));
+    }
+  });
+}
+
+TEST_P(InjectionTest, SqlINSERTHasOneLiteralForEachValue) {
+  for_records(2, [this](const Record& record) {
+    Expected expected(GetParam());
+    expected.words({u"INSERT", u"INTO", u"t", u"VALUES"}).values(record.samples);
+    expect_tokens(dialect::SqlINSERT(GetParam(), u"t", record.values), expected.tokens());
+  });
+}
+
+TEST_P(InjectionTest, SqlInsert2HasOneLiteralForEachField) {
+  for_records(3, [this](const Record& record) {
+    Expected expected(GetParam());
+    expected.words({u"INSERT", u"INTO", u"t"}).fields(record.samples.size()).words({u"VALUES"}).values(record.samples);
+    expect_tokens(dialect::SqlInsert2(GetParam(), u"t", record.fields, record.values), expected.tokens());
+  });
+}
+
+TEST_P(InjectionTest, SqlUPDATEEndsWithItsKey) {
+  for_records(4, [this](const Record& record) {
+    if (record.samples.size() == 1) return;  // nothing would be left to set
+    Expected expected(GetParam());
+    expected.words({u"UPDATE", u"t", u"SET"}).assignments(record.samples, 1);
+    expected.words({u"WHERE", u"F1"}).sign(u'=').number(u"-7");
+    expect_tokens(dialect::SqlUPDATE(GetParam(), u"t", u"F1", -7, record.fields, record.values), expected.tokens());
+  });
+}
+
+TEST_P(InjectionTest, SqlUpdate2EndsWithItsCondition) {
+  for_records(5, [this](const Record& record) {
+    Expected expected(GetParam());
+    expected.words({u"UPDATE", u"t", u"SET"}).assignments(record.samples, kNone);
+    expect_tokens(dialect::SqlUpdate2(GetParam(), u"t", record.fields, record.values, u""), expected.tokens());
+    expected.words({u"WHERE", u"c"}).sign(u'=').number(u"1");
+    expect_tokens(dialect::SqlUpdate2(GetParam(), u"t", record.fields, record.values, u"c=1"), expected.tokens());
+  });
+}
+
+// What the pattern says is another matter; here it only must not end before its time.
+TEST_P(InjectionTest, PatronLikeMotorIsOneLiteralAndPerhapsItsEscape) {
+  HostileValues hostile(6);
+  int escaped = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    SCOPED_TRACE(round);
+    const Text text = hostile.text();
+    const Text sql = dialect::PatronLikeMotor(GetParam(), text, hostile.below(2) == 0, hostile.below(2) == 0);
+    const Tokens tokens = tokens_of(GetParam(), sql);
+    const bool wants_escape = text.find_first_of(u"%_") != Text::npos;
+    ASSERT_EQ(tokens.size(), wants_escape ? 3U : 1U) << to_utf8(sql);
+    EXPECT_EQ(tokens[0].kind, GetParam() == kSqlServer ? Unicode : String);
+    if (!wants_escape) continue;
+    ++escaped;
+    EXPECT_EQ(tokens[1], (Token{Word, u"ESCAPE"}));
+    EXPECT_EQ(tokens[2].kind, String);
+    EXPECT_LE(tokens[2].content.size(), 1U);
+    EXPECT_NE(tokens[2].content, u"'");
+  }
+  EXPECT_GT(escaped, 100);
+}
+
+constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
+INSTANTIATE_TEST_SUITE_P(Engines, InjectionTest, ::testing::ValuesIn(kEngines), [](const auto& engine) {
+  return std::string(kEngineNames[engine.param - 1]);
+});
+
+TEST(SqlTokens, SeeWhereALiteralEndsTooEarly) {
+  struct Row {
+    Engine engine;
+    TextView sql;
+    Tokens tokens;
+  };
+  const Row kRows[] = {
+      {kJet, u"'O'Neil'", {{String, u"O"}, {Word, u"Neil"}, {Bad, u"'"}}},
+      {kJet, u"'a''b' , 1", {{String, u"a'b"}, {Punctuation, u","}, {Number, u"1"}}},
+      {kOracle, u"'a", {{Bad, u"'a"}}},
+      {kOracle, u"1 -- x", {{Number, u"1"}, {Bad, u"-- x"}}},
+      {kSqlServer, u"a /*", {{Word, u"a"}, {Bad, u"/*"}}},
+      {kSqlServer, u"a;b", {{Word, u"a"}, {Bad, u";b"}}},
+      {kSqlServer, u"N'a'", {{Unicode, u"a"}}},
+      {kOracle, u"N'a'", {{Word, u"N"}, {String, u"a"}}},
+      {kJet, u"#2011-01-05#", {{Date, u"2011-01-05"}}},
+      {kJet, u"#2011' --#", {{Bad, u"#2011' --#"}}},
+      {kOracle, u"#2011-01-05#", {{Bad, u"#2011-01-05#"}}},
+      {kSqlServer, u"{ ts '2011-01-05 14:07:09'}", {{Date, u"ts 2011-01-05 14:07:09"}}},
+      {kSqlServer, u"{ x '1'}", {{Bad, u"'1'}"}}},
+      {kOracle, u" TO_DATE('14:07:09','HH24:MI:SS') ", {{Date, u"14:07:09|HH24:MI:SS"}}},
+      {kOracle, u"TO_DATE('1')", {{Bad, u")"}}},
+      {kJet, u"-2.5E-07,12a", {{Number, u"-2.5E-07"}, {Punctuation, u","}, {Bad, u"a"}}},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(to_utf8(row.sql));
+    EXPECT_EQ(tokens_of(row.engine, row.sql), row.tokens);
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests

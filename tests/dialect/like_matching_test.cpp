@@ -1,0 +1,146 @@
+// What a pattern matches: exactly what its user meant by "*" and "?", and everything else for itself.
+#include <random>
+
+#include "dialect/dialect_fixture.h"
+#include "dialect/like_pattern.h"
+#include "dialect/sql_tokens.h"
+
+namespace qvr::tests {
+namespace {
+
+// One position of a pattern: a character for itself, any one, or any number of any.
+enum class Wild { Self, One, Any };
+struct Piece {
+  Wild wild;
+  char16_t unit;
+};
+using Pieces = std::vector<Piece>;
+
+bool matches(const Piece* piece, const Piece* end, TextView text) {
+  if (piece == end) return text.empty();
+  if (piece->wild == Wild::Any) {
+    for (std::size_t skipped = 0; skipped <= text.size(); ++skipped) {
+      if (matches(piece + 1, end, text.substr(skipped))) return true;
+    }
+    return false;
+  }
+  if (text.empty() || (piece->wild == Wild::Self && piece->unit != text[0])) return false;
+  return matches(piece + 1, end, text.substr(1));
+}
+
+bool matches(const Pieces& pieces, TextView text) {
+  return matches(pieces.data(), pieces.data() + pieces.size(), text);
+}
+
+// As the user means the text. Blanks at its edges are none of it.
+Pieces meant_by(TextView text, bool leading, bool trailing) {
+  while (text.starts_with(u' ')) text.remove_prefix(1);
+  while (text.ends_with(u' ')) text.remove_suffix(1);
+  Pieces pieces;
+  if (leading) pieces.push_back({Wild::Any, u'*'});
+  for (const char16_t unit : text) {
+    pieces.push_back({unit == u'*' ? Wild::Any : unit == u'?' ? Wild::One : Wild::Self, unit});
+  }
+  if (trailing) pieces.push_back({Wild::Any, u'*'});
+  return pieces;
+}
+
+// As LIKE reads the pattern: what stands behind the escape character stands for itself.
+Pieces read_by_like(TextView pattern, TextView escape) {
+  Pieces pieces;
+  for (std::size_t at = 0; at < pattern.size(); ++at) {
+    if (!escape.empty() && pattern[at] == escape[0]) {
+      if (++at == pattern.size()) throw RuntimeFailure(5, u"an escape character with nothing behind it");
+      pieces.push_back({Wild::Self, pattern[at]});
+    } else {
+      const char16_t unit = pattern[at];
+      pieces.push_back({unit == u'%' ? Wild::Any : unit == u'_' ? Wild::One : Wild::Self, unit});
+    }
+  }
+  return pieces;
+}
+
+class LikeMatchingTest : public DialectTest, public ::testing::WithParamInterface<Engine> {
+ protected:
+  Pieces pattern_of(TextView text, bool leading, bool trailing) {
+    const Text sql = dialect::PatronLikeMotor(GetParam(), text, leading, trailing);
+    const Tokens tokens = tokens_of(GetParam(), sql);
+    return read_by_like(tokens.at(0).content, tokens.size() > 2 ? TextView(tokens[2].content) : TextView());
+  }
+};
+
+TEST_P(LikeMatchingTest, FindsWhatIsMeant) {
+  struct Row {
+    TextView text;
+    bool leading, trailing;
+    TextView candidate;
+    bool found;
+  };
+  constexpr Row kRows[] = {
+      {u"ana", true, true, u"juliana", true},    {u"ana", false, true, u"juliana", false},
+      {u"ana", true, false, u"juliana", true},   {u"ana", false, false, u"ana", true},
+      {u"50%", false, false, u"50%", true},      {u"50%", false, false, u"500", false},
+      {u"50%", false, true, u"50% off", true},   {u"a_b", false, false, u"a_b", true},
+      {u"a_b", false, false, u"axb", false},     {u"a?b", false, false, u"axb", true},
+      {u"a?b", false, false, u"ab", false},      {u"a*b", false, false, u"ab", true},
+      {u"!%*", false, false, u"!%x", true},      {u"!%*", false, false, u"!x", false},
+      {u"O'N*", false, false, u"O'Neil", true},  {u"  ana ", false, false, u"ana", true},
+      {u"", true, true, u"anything", true},      {u"", false, false, u"", true},
+      {u"*%_?", false, false, u"x%_y", true},    {u"*%_?", false, false, u"x%y", false},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(to_utf8(row.text) + " | " + to_utf8(row.candidate));
+    EXPECT_EQ(matches(pattern_of(row.text, row.leading, row.trailing), row.candidate), row.found);
+  }
+}
+
+// Random texts of few characters, so that wildcards, escapes and candidates often meet.
+class Guesses {
+ public:
+  Text text(std::size_t longest) {
+    constexpr TextView kUnits = u"ab*?%_!&/' *?%_";
+    Text text;
+    for (std::size_t left = below(longest + 1); left != 0; --left) text.push_back(kUnits[below(kUnits.size())]);
+    return text;
+  }
+  // A text that the pieces match, and now and then one that they nearly do.
+  Text candidate(const Pieces& pieces) {
+    Text text;
+    for (const Piece& piece : pieces) {
+      if (piece.wild == Wild::Self) text.push_back(piece.unit);
+      if (piece.wild == Wild::One) text += one();
+      if (piece.wild == Wild::Any) text += this->text(3);
+    }
+    if (!text.empty() && below(2) == 0) text.replace(below(text.size()), 1, below(3) == 0 ? Text() : one());
+    return text;
+  }
+  std::size_t below(std::size_t limit) { return static_cast<std::size_t>(random_() % limit); }
+
+ private:
+  Text one() { return Text(1, TextView(u"ab%_!' ")[below(7)]); }
+
+  std::mt19937_64 random_{31};
+};
+
+TEST_P(LikeMatchingTest, FindsExactlyWhatIsMeantInRandomTexts) {
+  Guesses guesses;
+  int found = 0, not_found = 0;
+  for (int round = 0; round < 20000; ++round) {
+    const Text text = guesses.text(7);
+    const bool leading = guesses.below(4) == 0, trailing = guesses.below(4) == 0;
+    const Pieces meant = meant_by(text, leading, trailing), like = pattern_of(text, leading, trailing);
+    const Text candidate = guesses.candidate(meant);
+    const bool expected = matches(meant, candidate);
+    ++(expected ? found : not_found);
+    ASSERT_EQ(matches(like, candidate), expected) << to_utf8(text) << " | " << to_utf8(candidate);
+  }
+  EXPECT_GT(found, 5000);
+  EXPECT_GT(not_found, 3000);
+}
+
+constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
+INSTANTIATE_TEST_SUITE_P(Engines, LikeMatchingTest, ::testing::Values(kJet, kSqlServer, kOracle),
+                         [](const auto& engine) { return std::string(kEngineNames[engine.param - 1]); });
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,32 @@
+// SQL taken apart as an engine's parser would, written without a look at how the library puts it together.
+#pragma once
+
+#include <iosfwd>
+#include <vector>
+
+#include "dialect/engine.h"
+
+namespace qvr::tests {
+
+enum class TokenKind {
+  Word,         // a key word or a name
+  String,       // what a literal in quotes says, its doubled quotes taken for one
+  Unicode,      // the same with SQL Server's N in front
+  Number,
+  Date,         // "2011-01-05" of Jet, "d 2011-01-05" of SQL Server, "2011-01-05|YYYY-MM-DD" of Oracle
+  Punctuation,
+  Bad           // a comment, a literal without an end, a character that has no business here; nothing comes behind
+};
+
+struct Token {
+  TokenKind kind;
+  Text content;
+  bool operator==(const Token&) const = default;
+};
+using Tokens = std::vector<Token>;
+
+void PrintTo(const Token& token, std::ostream* out);
+
+Tokens tokens_of(dialect::Engine engine, TextView sql);
+
+}  // namespace qvr::tests
