@@ -38,7 +38,8 @@ TEST_P(AdoFailures, EndTheRunInOrder) {
     std::string calls;
     for (const char* name : {"Open", "BeginTrans", "CommitTrans", "RollbackTrans", "Close"}) {
       const std::string all = "\n" + faulty.calls();
-      for (auto at = all.find("\n" + std::string(name)); at != std::string::npos; at = all.find("\n" + std::string(name), at + 1)) {
+      for (auto at = all.find("\n" + std::string(name)); at != std::string::npos;
+           at = all.find("\n" + std::string(name), at + 1)) {
         calls += std::string(name) + " ";
       }
     }
@@ -99,14 +100,20 @@ TEST(WithoutAdo, MembersWorkAlthoughAdosTypesCannotBeRead) {
     EXPECT_EQ(describe(nothing.value.raw()), "BOOL false");
     EXPECT_EQ(wrong.result, DISP_E_TYPEMISMATCH);
     EXPECT_EQ(person.boxes().size(), 1u);
+    const LateObject cfp(L"QVRlib21.QVRcfp");
+    EXPECT_EQ(describe(cfp.call(L"sqlTOP", {5}).value.raw()), "BSTR ");
+    EXPECT_EQ(describe(cfp.call(L"AgregarParametroADO", {Var::nothing(), L"INT", L"@p"}).value.raw()), "BOOL false");
+    EXPECT_EQ(describe(cfp.call(L"EjecutarProcSQL7", {Var::nothing(), L"p", L"no array"}).value.raw()), "BOOL false");
+    EXPECT_EQ(person.boxes().size(), 1u);
   }
   ASSERT_EQ(test_ado().register_it(), S_OK);
 }
 
 TEST(AdoRefusals, ConnectionStringsThatCannotServe) {
   LateObject runner(L"QVRlib21.QVRScr");
-  for (const wchar_t* refused : {L"", L"Provider=NoSuchProvider;Data Source=x;", L"Provider=MSDASQL;Data Source=NoSuchDsn;",
-                                 L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=/no/such/folder/x.db;\""}) {
+  for (const wchar_t* refused :
+       {L"", L"Provider=NoSuchProvider;Data Source=x;", L"Provider=MSDASQL;Data Source=NoSuchDsn;",
+        L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=/no/such/folder/x.db;\""}) {
     SCOPED_TRACE(narrow(refused));
     Connected connected(runner);
     Person person;

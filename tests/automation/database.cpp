@@ -30,7 +30,9 @@ std::wstring unused_file(const wchar_t* extension) {
 Database::Database()
     : file_(unused_file(L".db")),
       connection_string_(L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=" + driver_path(file_) +
-                         L";\"") {}
+                         L";\"") {
+  DeleteFileW(file_.c_str());  // of a run that was broken off, whose process had the same number
+}
 
 Database::~Database() { DeleteFileW(file_.c_str()); }
 
@@ -38,6 +40,13 @@ LateObject Database::open() const {
   LateObject connection(L"ADODB.Connection");
   EXPECT_EQ(connection.call(L"Open", {connection_string_}).result, S_OK);
   return connection;
+}
+
+void Database::run(const std::wstring& statement) const {
+  const LateObject connection = open();
+  const LateAnswer ran = connection.call(L"Execute", {statement});
+  EXPECT_EQ(ran.result, S_OK) << narrow(statement) << ": " << narrow(ran.description);
+  connection.call(L"Close");
 }
 
 std::string Database::ask(const wchar_t* query) const {

@@ -15,6 +15,8 @@ class Database {
   Database& operator=(const Database&) = delete;
 
   const std::wstring& connection_string() const { return connection_string_; }
+  // Runs a statement on a connection of its own.
+  void run(const std::wstring& statement) const;
   // First column of the first row, asked on a connection of its own.
   std::string ask(const wchar_t* query) const;
   // An open connection, for members that take one.

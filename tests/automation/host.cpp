@@ -62,6 +62,7 @@ LateAnswer LateObject::invoke(DISPID id, WORD flags, DISPPARAMS& parameters) con
   answer.wrong_argument = wrong;
   answer.code = exception.scode;
   if (exception.bstrDescription != nullptr) answer.description = exception.bstrDescription;
+  if (exception.bstrSource != nullptr) answer.source = exception.bstrSource;
   return answer;
 }
 
@@ -111,6 +112,15 @@ void on_fresh_thread(const std::function<void()>& body) {
   }).join();
 }
 
+void on_thread_in_language(const wchar_t* setting, const std::function<void()>& body) {
+  constexpr const wchar_t* kRoot = L"Software\\VB and VBA Program Settings\\QVR";
+  const std::wstring key = std::wstring(kRoot) + L"\\Idioma";
+  const auto size = static_cast<DWORD>((wcslen(setting) + 1) * sizeof(wchar_t));
+  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"IdiomaOmision", REG_SZ, setting, size), 0);
+  on_fresh_thread(body);
+  RegDeleteTreeW(HKEY_CURRENT_USER, kRoot);
+}
+
 std::wstring beside_program(const wchar_t* name) {
   wchar_t path[MAX_PATH];
   GetModuleFileNameW(nullptr, path, MAX_PATH);
@@ -124,24 +134,11 @@ const std::wstring& work_folder() {
 }
 
 std::string narrow(const std::wstring& text) {
-  const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0, nullptr, nullptr);
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0, nullptr,
+                                       nullptr);
   std::string bytes(static_cast<std::size_t>(size), '\0');
   WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(), size, nullptr, nullptr);
   return bytes;
-}
-
-std::string describe(const VARIANT& value) {
-  switch (value.vt) {
-    case VT_EMPTY: return "Empty";
-    case VT_NULL: return "Null";
-    case VT_BSTR: return "BSTR " + narrow(std::wstring(value.bstrVal, SysStringLen(value.bstrVal)));
-    case VT_I2: return "I2 " + std::to_string(value.iVal);
-    case VT_I4: return "I4 " + std::to_string(value.lVal);
-    case VT_R8: return "R8 " + std::to_string(value.dblVal);
-    case VT_DATE: return "DATE " + std::to_string(value.date);
-    case VT_BOOL: return value.boolVal == VARIANT_TRUE ? "BOOL true" : value.boolVal == 0 ? "BOOL false" : "BOOL odd";
-    default: return "type " + std::to_string(value.vt);
-  }
 }
 
 }  // namespace qvr::tests

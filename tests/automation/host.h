@@ -18,7 +18,7 @@ struct LateAnswer {
   Var value;
   UINT wrong_argument = 0xFFFF;  // as given back; 0xFFFF when nothing was
   HRESULT code = S_OK;           // of the exception
-  std::wstring description;
+  std::wstring description, source;
 };
 
 class LateObject {
@@ -67,6 +67,9 @@ class Bstr {
 
 // Runs the body on a thread of its own with an apartment: the language and the services are chosen once per thread.
 void on_fresh_thread(const std::function<void()>& body);
+
+// The same with this setting of the user's for the language: "0" Spanish, "1" English, "3" French.
+void on_thread_in_language(const wchar_t* setting, const std::function<void()>& body);
 
 // Path of a file beside the running test program.
 std::wstring beside_program(const wchar_t* name);

@@ -5,6 +5,7 @@
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/library.h"
+#include "automation/procedures.h"
 #include "automation/sink.h"
 
 namespace qvr::tests {
@@ -117,6 +118,68 @@ TEST(Leaks, CommandsThatFail) {
     Connected connected(runner);
     runner.call(L"EjecutarComandos", {L"id", 2, L"select 1\r\nGO\r\nnonsense\r\nGO\r\n", database.connection_string()});
   });
+}
+
+TEST(Leaks, ListsAndErrors) {
+  const LateObject object(L"ADODB.Command");  // none of the library's, which could not be unloaded
+  Var list = array_of({L"a", Var(object.get()), array_of({L"b"}), L"c"}), texts = array_of({L"a", L"b"}, 1, VT_BSTR);
+  expect_no_leak([&] {
+    const LateObject cfp(L"QVRlib21.QVRcfp");
+    const auto slots = cfp.as<_QVRcfp>();
+    cfp.call(L"Asignar", {L"id", 2, L"", L"", L"", L"", L"", L"", L"", L""});
+    for (Var* const each : {&list, &texts}) {
+      Bstr table(L"T"), early, failed;
+      slots->SqlINSERT(&table, &each->raw(), &early);
+      slots->sqlConcatenar(&each->raw(), &failed);
+      cfp.call(L"SqlINSERT", {L"T", *each});
+      cfp.call(L"SqlINSERT", {L"T", Var::by_reference(*each)});
+      cfp.call(L"sqlWhereRelacionTablas", {*each});
+    }
+    Var none = array_of({});
+    Bstr failed;
+    slots->sqlConcatenar(&none.raw(), &failed);
+    cfp.call(L"sqlConcatenar", {none});
+    cfp.call(L"sqlCASE", {L"c", square_array()});
+  });
+}
+
+TEST(Leaks, ProceduresAndTheirOutputs) {
+  ProcedureDatabase database;
+  database.define(L"p", {{L"@a", ado::kVarWChar, ado::kInputOutput, 20}, {L"@b", ado::kInteger, ado::kOutput}},
+                  {{L"select @a || 'x'", 1}, {L"select 7", 2}});
+  const LateObject connection = database.open();
+  expect_no_leak([&] {
+    const LateObject cfp(L"QVRlib21.QVRcfp");
+    cfp.call(L"Asignar", {L"id", 2, L"", L"", L"", L"", L"", L"", L"", L""});
+    for (Var list : {array_of({L"text", L"5"}), array_of({L"text", L"5"}, 0, VT_BSTR)}) {
+      EXPECT_EQ(describe(cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", list}).value.raw()), "BOOL true");
+      cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", Var::by_reference(list)});
+      cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", Var::by_content(list)});
+      auto* raw = reinterpret_cast<Connection*>(connection.get());
+      Bstr name(L"p");
+      VARIANT_BOOL done = VARIANT_FALSE;
+      cfp.as<_QVRcfp>()->EjecutarProcSQL7(&raw, &name, &list.raw(), &done);
+      EXPECT_EQ(done, VARIANT_TRUE);
+    }
+  });
+  connection.call(L"Close");
+}
+
+TEST(Leaks, ProceduresThatFailAndParametersThatAreRefused) {
+  ProcedureDatabase database;
+  const LateObject connection = database.open();
+  expect_no_leak([&] {
+    Person person;
+    const LateObject cfp(L"QVRlib21.QVRcfp"), command(L"ADODB.Command");
+    cfp.call(L"Asignar", {L"id", 2, L"", L"", L"", L"", L"", L"", L"", L""});
+    Var list = array_of({L"text", Var(command.get())});
+    cfp.call(L"EjecutarProcSQL7", {connection.get(), L"missing", Var::by_reference(list)});
+    cfp.call(L"AgregarParametroADO", {command.get(), L"NVARCHAR", L"@p", L"text", 20});
+    cfp.call(L"AgregarParametroADO", {command.get(), L"NVARCHAR", L"@p"});
+    cfp.call(L"AgregarParametroADO", {command.get(), L"Texto", L"@p", list});
+    EXPECT_EQ(person.boxes().size(), 3u);
+  });
+  connection.call(L"Close");
 }
 
 DWORD WINAPI create_and_leave(void*) {

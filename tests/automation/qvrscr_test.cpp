@@ -35,15 +35,14 @@ TEST_F(QVRScrTest, EjecutarComandosRunsIntoTheDatabase) {
 }
 
 TEST_F(QVRScrTest, EventsOfARunInTheLanguageOfTheUsersSetting) {
-  constexpr const wchar_t* kKey = L"Software\\VB and VBA Program Settings\\QVR\\Idioma";
   struct Row {
     const wchar_t* setting;
     std::string counting, done;
   };
-  for (const Row& row : {Row{L"0", "Contando comandos...", "Comandos ejecutados"}, {L"1", "Counting commands...", "Commands executed"},
+  for (const Row& row : {Row{L"0", "Contando comandos...", "Comandos ejecutados"},
+                         {L"1", "Counting commands...", "Commands executed"},
                          {L"3", "Comptage des commandes...", "Commandes ex\u00e9cut\u00e9es"}}) {
-    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"IdiomaOmision", REG_SZ, row.setting, 2 * sizeof(wchar_t)), 0);
-    on_fresh_thread([&] {
+    on_thread_in_language(row.setting, [&] {
       Database own;
       const LateObject runner(L"QVRlib21.QVRScr");
       Connected connected(runner);
@@ -53,7 +52,6 @@ TEST_F(QVRScrTest, EventsOfARunInTheLanguageOfTheUsersSetting) {
       EXPECT_EQ(connected.events(), expected);
     });
   }
-  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\QVR");
 }
 
 TEST_F(QVRScrTest, TheHostsOwnChangeOfAnArgumentDuringARunStays) {
@@ -180,12 +178,15 @@ TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerNo) {
   late.call(L"EjecutarComandos", {L"app", 2, L"create table T(N int)\r\nGO\r\n", database.connection_string()});
   Connected connected(late);
   Person person(IDNO);
-  const wchar_t* const commands = L"insert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\ninsert into T values(2)\r\nGO\r\n";
+  const wchar_t* const commands =
+      L"insert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\ninsert into T values(2)\r\nGO\r\n";
   EXPECT_EQ(describe(run_late(L"app", commands).value.raw()), "BOOL false");
   ASSERT_EQ(person.boxes().size(), 2u);
   EXPECT_EQ(person.boxes()[0].title, L"QVRlib21");
-  EXPECT_TRUE(person.boxes()[0].text.starts_with(L"Error indeterminado\r\n\r\nError -2147217900: ")) << narrow(person.boxes()[0].text);
-  EXPECT_TRUE(person.boxes()[0].text.ends_with(L"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense")) << narrow(person.boxes()[0].text);
+  EXPECT_TRUE(person.boxes()[0].text.starts_with(L"Error indeterminado\r\n\r\nError -2147217900: "))
+      << narrow(person.boxes()[0].text);
+  EXPECT_TRUE(person.boxes()[0].text.ends_with(L"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense"))
+      << narrow(person.boxes()[0].text);
   EXPECT_TRUE(person.boxes()[1].question);
   EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   EXPECT_EQ(database.ask(L"select count(*) from T"), "0");
@@ -237,7 +238,8 @@ TEST_F(QVRScrTest, Ejecutar1ComandoWithoutAnOpenConnectionReportsAndIsFalse) {
   EXPECT_EQ(person.boxes()[0].text,
             L"Error indeterminado\r\n\r\nError 91: Object variable or With block variable not set (QVRlib21)\r\n\r\n"
             L"M\u00e9todo: Ejecutar1Comando: select 1");
-  EXPECT_TRUE(person.boxes()[2].text.starts_with(L"Error indeterminado\r\n\r\nError 3709: ")) << narrow(person.boxes()[2].text);
+  EXPECT_TRUE(person.boxes()[2].text.starts_with(L"Error indeterminado\r\n\r\nError 3709: "))
+      << narrow(person.boxes()[2].text);
 }
 
 TEST_F(QVRScrTest, UsuarioSegunMotor) {
@@ -249,7 +251,8 @@ TEST_F(QVRScrTest, UsuarioSegunMotor) {
     Bstr result;
     long engine = row.engine;
     const HRESULT status = late.as<_QVRScr>()->UsuarioSegunMotor(&engine, &result);
-    expect_same(late.call(L"UsuarioSegunMotor", {static_cast<int>(row.engine)}), status, early_result(result), row.expected);
+    expect_same(late.call(L"UsuarioSegunMotor", {static_cast<int>(row.engine)}), status, early_result(result),
+                row.expected);
   }
 }
 

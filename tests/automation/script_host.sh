@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Registers the library for the script host of its width, runs the script and compares all that it prints.
+# Registers the library and the test ADO beside it for the script host of its width, runs the script and compares all
+# that it prints.
 # Usage: script_host.sh 32|64 LIBRARY SCRIPT
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -11,7 +12,11 @@ system='C:\windows\system32'
 # The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
 [ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 library=$(windows_path "$2")
+ado=$(windows_path "$(dirname "$2")/testado.dll")
+work=$(mktemp -d)
 # Tidying up must neither stop half-way nor replace the outcome of the test.
-trap 'wine "$system\\regsvr32.exe" /u /s "$library" || true' EXIT
-wine "$system\\regsvr32.exe" /s "$library"
-wine "$system\\cscript.exe" //nologo "$(windows_path "$3")" | tr -d '\r' | diff - "${3%.vbs}.approved.txt"
+trap 'for each in "$library" "$ado"; do wine "$system\\regsvr32.exe" /u /s "$each" || true; done; rm -rf "$work"' EXIT
+for each in "$library" "$ado"; do wine "$system\\regsvr32.exe" /s "$each"; done
+# The database driver is the host system's and wants its kind of path.
+wine "$system\\cscript.exe" //nologo "$(windows_path "$3")" "$work/script_host.db" | tr -d '\r' |
+  diff - "${3%.vbs}.approved.txt"

@@ -11,7 +11,11 @@ Sub ShowError(what)
   Err.Clear
 End Sub
 
-Dim version, cfp, other, scr, id, engine, text, folder, name
+Sub Use(number)
+  cfp.Asignar id, number, "", "", "", "", "", "", "", ""
+End Sub
+
+Dim version, cfp, other, scr, id, engine, text, folder, name, fields, values, fixed(1), nothingYet, empties(), connection
 
 Set version = CreateObject("QVRlib21.Ov")
 Show "Version", version.Version
@@ -43,6 +47,67 @@ Show "TextoAValor X", cfp.TextoAValor("X", "1")
 Show "ValorATexto F", cfp.ValorATexto("F", DateSerial(2011, 1, 5))
 Show "ValorATexto N", cfp.ValorATexto("N", -0.25)
 Show "ValorATexto array", cfp.ValorATexto("T", Array(1, 2))
+
+Use 2
+Show "ComillasSQL", cfp.ComillasSQL("O'Hara")
+Show "ExpSQL integer", cfp.ExpSQL(5)
+Show "ExpSQL double", cfp.ExpSQL(-0.25)
+Show "ExpSQL currency", cfp.ExpSQL(CCur(1.5))
+Show "ExpSQL text", cfp.ExpSQL("5")
+Show "ExpSQL date", cfp.ExpSQL(DateSerial(2011, 1, 5))
+Show "ExpSQL boolean", cfp.ExpSQL(True)
+Show "ExpSQL nothing yet", cfp.ExpSQL(nothingYet)
+Show "ExpSQL object", cfp.ExpSQL(cfp)
+Show "ExpSQL array", cfp.ExpSQL(Array(1, 2))
+Show "FechaHoraSQL", cfp.FechaHoraSQL("Ahora")
+Show "LogicoSQL", cfp.LogicoSQL(1)
+Show "CadenaParaLikeSQL", cfp.CadenaParaLikeSQL("50%", , True)
+Show "sqlTOP", cfp.sqlTOP("5")
+Show "sqlAlias", cfp.sqlAlias("Total")
+
+fields = Array("Id", "Nombre")
+values = Array(5, "Ana")
+fixed(0) = "'a'"
+fixed(1) = "Nombre"
+Show "SqlINSERT", cfp.SqlINSERT("Clientes", values)
+Show "SqlInsert2", cfp.SqlInsert2("Clientes", fields, Array(5, Null))
+Show "SqlUPDATE", cfp.SqlUPDATE("Clientes", "ID", 7, fields, values)
+Show "sqlConcatenar", cfp.sqlConcatenar(fixed)
+Show "sqlCASE", cfp.sqlCASE("Estado", Array(1, "'Alta'", "'Otra'"))
+Show "sqlWhereRelacionTablas", cfp.sqlWhereRelacionTablas(Array("a", "b", "l"))
+Show "SqlINSERT no array", cfp.SqlINSERT("Clientes", 5)
+
+cfp.sqlConcatenar Array()
+ShowError "nothing to concatenate"
+cfp.sqlConcatenar empties
+ShowError "an array without bounds"
+cfp.sqlWhereRelacionTablas Array("a", "b")
+ShowError "half a triple"
+
+Set connection = CreateObject("ADODB.Connection")
+connection.Open "Provider=MSDASQL;Extended Properties=""DRIVER={SQLite3};Database=" & WScript.Arguments(0) & ";"""
+connection.Execute "create table ado_parameters(procedure varchar, position integer, name varchar, type integer, size integer, direction integer)"
+connection.Execute "create table ado_steps(procedure varchar, step integer, statement varchar, sets integer)"
+connection.Execute "insert into ado_parameters values('Doble', 0, '@RETURN_VALUE', 3, 0, 4), ('Doble', 1, '@n', 3, 0, 1), ('Doble', 2, '@doble', 3, 0, 2)"
+connection.Execute "insert into ado_steps values('Doble', 1, 'select @n * 2', 2)"
+values = Array(21, 0)
+fixed(0) = 4
+fixed(1) = Empty
+Show "EjecutarProcSQL7", cfp.EjecutarProcSQL7(connection, "Doble", values)
+Show "its output", values(1)
+Show "EjecutarProcSQL7 fixed array", cfp.EjecutarProcSQL7(connection, "Doble", fixed)
+Show "its output", fixed(1)
+values(1) = 1
+Show "EjecutarProcSQL7 by value", cfp.EjecutarProcSQL7(connection, "Doble", (values))
+Show "its output", values(1)
+Set other = CreateObject("ADODB.Command")
+Show "AgregarParametroADO", cfp.AgregarParametroADO(other, "NVARCHAR", "@Nombre", "Ana", 50)
+Show "its type", other.Parameters(0).Type
+Show "its direction", other.Parameters(0).Direction
+connection.Close
+Use 3
+Show "AgregarParametroADO of Oracle", cfp.AgregarParametroADO(Nothing, "INT", "@r", , , 4)
+ShowError "up to here"
 
 Set scr = CreateObject("QVRlib21.QVRScr")
 Show "UsuarioSegunMotor", scr.UsuarioSegunMotor(3)

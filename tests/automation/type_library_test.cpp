@@ -43,6 +43,14 @@ std::string flags_text(USHORT flags) {
   return "[" + text + "] ";
 }
 
+// " = 1" behind a parameter that has a default value.
+std::string default_text(const PARAMDESC& described) {
+  if (!(described.wParamFlags & PARAMFLAG_FHASDEFAULT) || described.pparamdescex == nullptr) return "";
+  Var text;
+  VariantChangeType(&text.raw(), &described.pparamdescex->varDefaultValue, 0, VT_BSTR);
+  return " = " + narrow(text.text());
+}
+
 void write_function(std::ostream& out, ITypeInfo& info, UINT index) {
   FUNCDESC* function = nullptr;
   ASSERT_EQ(info.GetFuncDesc(index, &function), S_OK);
@@ -50,12 +58,12 @@ void write_function(std::ostream& out, ITypeInfo& info, UINT index) {
   UINT count = 0;
   info.GetNames(function->memid, raw, 20, &count);
   const char* kind = function->invkind == INVOKE_FUNC ? "" : function->invkind == INVOKE_PROPERTYGET ? "get " : "put ";
-  out << "  " << std::hex << "0x" << function->memid << std::dec << " slot " << function->oVft / static_cast<int>(sizeof(void*))
-      << " " << kind << narrow(raw[0]) << "(";
+  out << "  " << std::hex << "0x" << function->memid << std::dec << " slot "
+      << function->oVft / static_cast<int>(sizeof(void*)) << " " << kind << narrow(raw[0]) << "(";
   for (SHORT i = 0; i < function->cParams; ++i) {
     const ELEMDESC& element = function->lprgelemdescParam[i];
     out << (i > 0 ? ", " : "") << flags_text(element.paramdesc.wParamFlags) << type_name(info, element.tdesc);
-    if (static_cast<UINT>(i) + 1 < count) out << " " << narrow(raw[i + 1]);
+    if (static_cast<UINT>(i) + 1 < count) out << " " << narrow(raw[i + 1]) << default_text(element.paramdesc);
   }
   out << ") " << type_name(info, function->elemdescFunc.tdesc) << "\n";
   for (UINT i = 0; i < count; ++i) SysFreeString(raw[i]);
@@ -105,7 +113,8 @@ void write_type(std::ostream& out, ITypeLib& library, UINT index) {
   const bool dual = (type->wTypeFlags & TYPEFLAG_FDUAL) != 0;
   const char* const kinds[] = {"enum", "record", "module", "interface", "dispinterface", "coclass"};
   out << (dual ? "dual interface" : kinds[type->typekind]) << " " << narrow(name) << " " << guid_text(type->guid)
-      << (type->wTypeFlags & TYPEFLAG_FHIDDEN ? " hidden" : "") << (type->wTypeFlags & TYPEFLAG_FNONEXTENSIBLE ? " nonextensible" : "")
+      << (type->wTypeFlags & TYPEFLAG_FHIDDEN ? " hidden" : "")
+      << (type->wTypeFlags & TYPEFLAG_FNONEXTENSIBLE ? " nonextensible" : "")
       << (type->wTypeFlags & TYPEFLAG_FOLEAUTOMATION ? " oleautomation" : "")
       << (type->wTypeFlags & TYPEFLAG_FCANCREATE ? " creatable" : "") << "\n";
   SysFreeString(name);

@@ -34,12 +34,14 @@ class Var {
   }
   ~Var() { VariantClear(&v_); }
 
+  static Var nothing() { return Var(static_cast<IDispatch*>(nullptr)); }
   static Var null() { return of_type(VT_NULL); }
-  static Var missing() {
+  static Var error(SCODE code) {
     Var var = of_type(VT_ERROR);
-    var.v_.scode = DISP_E_PARAMNOTFOUND;
+    var.v_.scode = code;
     return var;
   }
+  static Var missing() { return error(DISP_E_PARAMNOTFOUND); }
   static Var date(double days) {
     Var var = of_type(VT_DATE);
     var.v_.date = days;
@@ -54,6 +56,18 @@ class Var {
   static Var by_reference(BSTR& variable) { return pointing(VT_BSTR, &variable); }
   static Var by_reference(long& variable) { return pointing(VT_I4, &variable); }
   static Var by_reference(short& variable) { return pointing(VT_I2, &variable); }
+  // What a typed variable is passed as: the place of its content, by reference.
+  static Var by_content(Var& variable) {
+    VARIANT& v = variable.v_;
+    return pointing(v.vt, v.vt == VT_DECIMAL ? static_cast<void*>(&v.decVal) : &v.llVal);
+  }
+  // This value as one of another type, in the notation of the United States.
+  Var as(VARTYPE type) const {
+    constexpr LCID kUnitedStates = 0x409;
+    Var converted;
+    VariantChangeTypeEx(&converted.v_, const_cast<VARIANT*>(&v_), kUnitedStates, VARIANT_ALPHABOOL, type);
+    return converted;
+  }
 
   VARIANT& raw() { return v_; }
   const VARIANT& raw() const { return v_; }

@@ -19,12 +19,10 @@ HRESULT QVRcfpObject::Asignar(BSTR* ID, MotoresBD* MotorBD, BSTR* Provider, BSTR
   });
 }
 HRESULT QVRcfpObject::Crear(BSTR* ID, BSTR* R, BSTR* A, VARIANT_BOOL* Resultado) noexcept {
-  const ComPtr<IDispatch> alive(this);  // a protection outside the library may give way to the host
-  return answer(Resultado, [&] { return core_.Crear(text_of(ID), text_of(R), text_of(A)); });
+  return answer_while_kept(Resultado, [&] { return core_.Crear(text_of(ID), text_of(R), text_of(A)); });
 }
 HRESULT QVRcfpObject::Guardar(BSTR* ID, BSTR* R, BSTR* A, VARIANT_BOOL* Resultado) noexcept {
-  const ComPtr<IDispatch> alive(this);  // as in Crear
-  return answer(Resultado, [&] { return core_.Guardar(text_of(ID), text_of(R), text_of(A)); });
+  return answer_while_kept(Resultado, [&] { return core_.Guardar(text_of(ID), text_of(R), text_of(A)); });
 }
 HRESULT QVRcfpObject::CadenaADO(BSTR* ID, VARIANT_BOOL* Adm, BSTR* Resultado) noexcept {
   return answer(Resultado, [&] { return core_.CadenaADO(text_of(ID), truth_of(Adm)); });

@@ -20,6 +20,12 @@ inline Value value_of(const VARIANT* argument) {
   return argument != nullptr ? value_from(*argument) : Value(Missing{});
 }
 
+// An object of another library, whatever its interface is named: it is reached by name only.
+template <class Interface>
+IDispatch* object_of(Interface** argument) {
+  return argument != nullptr ? reinterpret_cast<IDispatch*>(*argument) : nullptr;
+}
+
 // Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
 // when the host wrote to the variable meanwhile.
 inline void give_back(BSTR* argument, const Text& taken, const Text& left) {

@@ -80,12 +80,24 @@ HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
   }
   VARIANT number;
   VariantInit(&number);
+  // An object with a default value is a number whose type could not be read: a null pointer says the same.
+  if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), number);
   if (parameter.fallback) {
     number.vt = VT_I4;
     number.lVal = *parameter.fallback;
   }
-  if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), number);
   return take_typed(*held_.get(), number, type_, LOCALE_USER_DEFAULT);
+}
+
+// An array of the caller's is not copied: members read it once, and those that give values back put them into its
+// elements. By way of the caller's variant, which can hold something else by then.
+void ArgumentSlot::refer_to(const VARIANT& array) noexcept {
+  if (array.vt & VT_BYREF) {
+    std::memcpy(held_.get(), &array, sizeof array);
+    return;
+  }
+  held_->vt = VT_BYREF | VT_VARIANT;
+  held_->pvarVal = const_cast<VARIANT*>(&array);
 }
 
 HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept {
@@ -97,6 +109,8 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   HRESULT result = S_OK;
   if (is_missing(inner)) {
     result = take_missing(parameter);
+  } else if (type_ == VT_VARIANT && by_reference_ && (argument->vt & VT_BYREF) && (inner->vt & VT_ARRAY)) {
+    refer_to(*inner);
   } else if (type_ == VT_VARIANT) {
     result = copy_content(*held_.get(), *inner);
     if (FAILED(result)) result = refusal(result);
@@ -126,7 +140,8 @@ void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
     const auto type = static_cast<VARTYPE>(target->vt & ~VT_BYREF);
     OwnedVariant converted;
     // A variable of a type that the new value does not convert to keeps what it has.
-    if (SUCCEEDED(take_typed(*converted.get(), *held_, type, usable(locale)))) store(type, target->byref, *converted.get());
+    if (SUCCEEDED(take_typed(*converted.get(), *held_, type, usable(locale))))
+      store(type, target->byref, *converted.get());
     return;
   }
   VariantCopy(target, held_.get());

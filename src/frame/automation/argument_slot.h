@@ -19,6 +19,7 @@ class ArgumentSlot {
   void give_back(VARIANT& argument, LCID locale) noexcept;
 
  private:
+  void refer_to(const VARIANT& array) noexcept;
   HRESULT take_missing(const Parameter& parameter) noexcept;
   bool changed() const noexcept;
 

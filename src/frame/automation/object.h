@@ -36,6 +36,13 @@ class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideCla
   }
 
  protected:
+  // `answer` for members that show a box or call out: the host may let go of its last reference meanwhile.
+  template <class Out, class Body>
+  HRESULT answer_while_kept(Out* out, Body&& body) noexcept {
+    const ComPtr<IUnknown> kept(static_cast<Default*>(this));
+    return answer(out, std::forward<Body>(body));
+  }
+
   // The default event interface; none for most classes.
   virtual const GUID& events() const noexcept { return GUID_NULL; }
 };

@@ -1,5 +1,6 @@
 #include "frame/automation/variant.h"
 
+#include <algorithm>
 #include <new>
 
 #include "frame/automation/text_bstr.h"
@@ -21,13 +22,44 @@ Value wide_number(ULONGLONG number) {
   return Decimal{0, static_cast<std::uint32_t>(number >> 32), static_cast<std::uint32_t>(number), 0, false};
 }
 
-constexpr int kDeepest = 16;  // far beyond what hosts nest; what refers to itself never ends
+constexpr int kDeepest = 16;  // far beyond what hosts nest
 
-Value value_at_depth(const VARIANT& variant, int depth);
+// An array that is being read, inside others.
+struct Reading {
+  const SAFEARRAY* array;
+  const Reading* outer;
+  int depth;
+};
+
+// What holds itself would be read again and again.
+bool never_ends(const SAFEARRAY* array, const Reading* outer) {
+  if (outer != nullptr && outer->depth >= kDeepest) return true;
+  for (; outer != nullptr; outer = outer->outer) {
+    if (outer->array == array) return true;
+  }
+  return false;
+}
+
+// References of objects are counted, and values converted, by code of the host's: as long as this lives, that code can
+// neither destroy the array nor give it other bounds.
+class Locked {
+ public:
+  explicit Locked(SAFEARRAY* array) noexcept : array_(SUCCEEDED(SafeArrayLock(array)) ? array : nullptr) {}
+  ~Locked() {
+    if (array_ != nullptr) SafeArrayUnlock(array_);
+  }
+  Locked(const Locked&) = delete;
+  Locked& operator=(const Locked&) = delete;
+
+ private:
+  SAFEARRAY* array_;
+};
+
+Value value_inside(const VARIANT& variant, const Reading* outer);
 
 // An element into a variant of its own type. Records have no value of ours, and without their description they could
 // not even be released.
-Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, int depth) {
+Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& reading) {
   if (type == VT_RECORD) return ErrorValue{DISP_E_BADVARTYPE};
   OwnedVariant item;
   void* target = &item->llVal;
@@ -36,10 +68,13 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, int depth) {
   if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
   if (FAILED(SafeArrayGetElement(array, &index, target))) throw std::bad_alloc();
   if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
-  return value_at_depth(*item, depth + 1);
+  return value_inside(*item, &reading);
 }
 
-Value array_from(SAFEARRAY* array, int depth) {
+// Null for an array without bounds, and bounds without elements are what is left of one that was destroyed.
+bool has_elements(SAFEARRAY* array) { return array != nullptr && array->pvData != nullptr; }
+
+Value array_from(SAFEARRAY* array, const Reading* outer) {
   Array result;
   VARTYPE type = VT_EMPTY;
   LONG lower = 0, upper = -1;
@@ -49,8 +84,12 @@ Value array_from(SAFEARRAY* array, int depth) {
     return result;
   }
   result.lower = lower;
+  if (upper >= lower && !has_elements(array)) result.dimensions = 0;
+  if (result.dimensions == 0) return result;
+  const Locked locked(array);
+  const Reading reading{array, outer, outer != nullptr ? outer->depth + 1 : 1};
   for (LONGLONG index = lower; index <= upper; ++index) {
-    result.items.push_back(element_from(array, type, static_cast<LONG>(index), depth));
+    result.items.push_back(element_from(array, type, static_cast<LONG>(index), reading));
   }
   return result;
 }
@@ -117,25 +156,49 @@ struct Put {
     v.vt = VT_UNKNOWN, v.punkVal = ComPtr<IUnknown>(object->object).Detach();
   }
   void operator()(const Array& held) const {
-    SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, held.lower, static_cast<ULONG>(held.items.size()));
+    // Bytes are binary data, which ADO takes in this form only.
+    const bool binary = !held.items.empty() && std::ranges::all_of(held.items, &Value::is<std::uint8_t>);
+    const VARTYPE type = binary ? VT_UI1 : VT_VARIANT;
+    SAFEARRAY* array = SafeArrayCreateVector(type, held.lower, static_cast<ULONG>(held.items.size()));
     if (array == nullptr) throw std::bad_alloc();
-    v.vt = VT_ARRAY | VT_VARIANT, v.parray = array;
+    v.vt = static_cast<VARTYPE>(VT_ARRAY | type), v.parray = array;
     LONG index = held.lower;
     for (const Value& item : held.items) {
       OwnedVariant element;
       put_value(*element.get(), item);
-      if (FAILED(SafeArrayPutElement(array, &index, element.get()))) throw std::bad_alloc();
+      void* content = binary ? static_cast<void*>(&element->bVal) : element.get();
+      if (FAILED(SafeArrayPutElement(array, &index, content))) throw std::bad_alloc();
       ++index;
     }
   }
 };
 
-Value value_at_depth(const VARIANT& variant, int depth) {
+SAFEARRAY* array_of(const VARIANT& variant) {
+  if (!(variant.vt & VT_BYREF)) return variant.parray;
+  return variant.pparray != nullptr ? *variant.pparray : nullptr;
+}
+
+// An element of a typed array is the content of a variant of that type.
+void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value) {
+  OwnedVariant element, converted;
+  put_value(*element.get(), value);
+  void* content = element.get();
+  if (type != VT_VARIANT) {
+    if (FAILED(VariantChangeType(converted.get(), element.get(), VARIANT_ALPHABOOL, type))) return;
+    // Texts and objects are handed over as the pointer, everything else by its address.
+    const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
+    content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
+    if (type == VT_DECIMAL) content = &converted->decVal;
+  }
+  if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
+}
+
+Value value_inside(const VARIANT& variant, const Reading* outer) {
   const VARIANT* inner = innermost(variant);
-  if (inner == nullptr || depth > kDeepest) return ErrorValue{DISP_E_BADVARTYPE};
+  if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
   if (inner->vt & VT_ARRAY) {
-    SAFEARRAY* array = inner->vt & VT_BYREF ? (inner->pparray != nullptr ? *inner->pparray : nullptr) : inner->parray;
-    return array_from(array, depth);
+    SAFEARRAY* array = array_of(*inner);
+    return never_ends(array, outer) ? Value(ErrorValue{DISP_E_BADVARTYPE}) : array_from(array, outer);
   }
   if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
   OwnedVariant copy;
@@ -153,7 +216,20 @@ const VARIANT* innermost(const VARIANT& variant) noexcept {
   return at;
 }
 
-Value value_from(const VARIANT& variant) { return value_at_depth(variant, 0); }
+Value value_from(const VARIANT& variant) { return value_inside(variant, nullptr); }
+
+void put_elements(VARIANT& variant, const Value& value) {
+  const VARIANT* inner = innermost(variant);
+  const Array* list = value.as<Array>();
+  if (inner == nullptr || !(inner->vt & VT_ARRAY) || list == nullptr) return;
+  SAFEARRAY* array = array_of(*inner);
+  VARTYPE type = VT_EMPTY;
+  if (!has_elements(array) || SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type))) return;
+  if (array->rgsabound[0].lLbound != list->lower || array->rgsabound[0].cElements != list->items.size()) return;
+  const Locked locked(array);
+  LONG index = list->lower;
+  for (const Value& item : list->items) put_element(array, type, index++, item);
+}
 
 void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
 

@@ -47,4 +47,8 @@ Value value_from(const VARIANT& variant);
 // Writes the value into the variant, which is Empty. Throws when there is no memory.
 void put_value(VARIANT& variant, const Value& value);
 
+// Puts the elements of an array value into the array that the variant holds or refers to, which keeps its type and
+// bounds. Only where both have the same bounds; an element of a type that its value does not convert to stays as it is.
+void put_elements(VARIANT& variant, const Value& value);
+
 }  // namespace qvr::automation

@@ -38,7 +38,15 @@ class NativeCommand : public services::AdoCommand {
   void set_command_timeout(std::int32_t seconds) override { state_.set_timeout(seconds); }
   void execute() override { state_.execute({}); }
 
+  void refresh_parameters() override { refuse(); }
+  Value parameter_value(std::int32_t) override { refuse(); }
+  void set_parameter_value(std::int32_t, const Value&) override { refuse(); }
+  void append_parameter(services::AdoParameter&) override { refuse(); }
+
  private:
+  // Procedures are called through automation only.
+  [[noreturn]] static void refuse() { fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Command"); }
+
   AdoCommandState state_;
 };
 
@@ -47,5 +55,9 @@ class NativeCommand : public services::AdoCommand {
 std::unique_ptr<services::AdoConnection> OdbcAdo::new_connection() { return std::make_unique<NativeConnection>(); }
 
 std::unique_ptr<services::AdoCommand> OdbcAdo::new_command() { return std::make_unique<NativeCommand>(); }
+
+std::unique_ptr<services::AdoParameter> OdbcAdo::new_parameter() {
+  fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Parameter");
+}
 
 }  // namespace qvr::tests

@@ -12,6 +12,7 @@ class OdbcAdo : public services::Ado {
  public:
   std::unique_ptr<services::AdoConnection> new_connection() override;
   std::unique_ptr<services::AdoCommand> new_command() override;
+  std::unique_ptr<services::AdoParameter> new_parameter() override;
 };
 
 }  // namespace qvr::tests

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "frame/number_text.h"
 #include "support/ado/ado_failure.h"
 #include "support/ado/odbc_date.h"
 
@@ -43,7 +44,8 @@ struct Binder {
   }
   BoundValue operator()(float value) const { return number(static_cast<double>(value)); }
   BoundValue operator()(double value) const { return number(value); }
-  BoundValue operator()(Currency value) const { return number(static_cast<double>(value.scaled) / 10000.0); }
+  BoundValue operator()(Currency value) const { return number(number_of(value)); }
+  BoundValue operator()(const Decimal& value) const { return number(number_of(value)); }
   BoundValue operator()(const Text& value) const { return text(value); }
   BoundValue operator()(Date value) const {
     BoundValue bound = fixed<SQL_TIMESTAMP_STRUCT>(SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 23, to_timestamp(value));

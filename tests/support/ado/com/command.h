@@ -25,6 +25,7 @@ class Command : public DispatchObject {
   bool implements(REFIID id) const override;
   void set_active_connection(const VARIANT& argument);
   void execute(Call& call);
+  void call_procedure(Call& call);
   std::vector<Value> values(const Call& call) const;
 
   std::shared_ptr<CommandParts> parts_ = std::make_shared<CommandParts>();

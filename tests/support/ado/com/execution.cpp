@@ -4,16 +4,6 @@
 #include "support/ado/com/recordset.h"
 
 namespace qvr::tests::com {
-namespace {
-
-// Options are a type of command and flags about how to run it; the flags change nothing that could be seen here.
-std::int32_t type_in(std::int32_t options, std::int32_t otherwise) {
-  constexpr std::int32_t kTypes = command_type::kText | command_type::kTable | command_type::kStoredProc;
-  const std::int32_t type = options & kTypes;
-  return options == command_type::kUnspecified || type == 0 ? otherwise : type;
-}
-
-}  // namespace
 
 GivenConnection session_of(const VARIANT& argument, TextView source) {
   OwnedVariant direct;
@@ -35,12 +25,23 @@ GivenConnection session_of(const VARIANT& argument, TextView source) {
   return given;
 }
 
+// Options are a type of command and flags about how to run it; the flags change nothing that could be seen here.
+std::int32_t type_asked_for(const AdoCommandState& command, const Call& call, unsigned options) {
+  constexpr std::int32_t kTypes = command_type::kText | command_type::kTable | command_type::kStoredProc;
+  const std::int32_t asked = call.integer_or(options, command_type::kUnspecified);
+  const std::int32_t type = asked & kTypes;
+  return asked == command_type::kUnspecified || type == 0 ? command.type() : type;
+}
+
+void answer_rows(const AdoCommandState& command, odbc::ResultSet rows, Call& call) {
+  call.answer(make<Recordset>(command.session(), std::move(rows)).get());
+}
+
 void execute_and_answer(AdoCommandState& command, const std::vector<Value>& parameters, Call& call, unsigned affected,
                         unsigned options) {
-  const std::int32_t type = type_in(call.integer_or(options, command_type::kUnspecified), command.type());
-  odbc::ResultSet result = command.execute_as(type, parameters);
+  odbc::ResultSet result = command.execute_as(type_asked_for(command, call, options), parameters);
   call.hand_out(affected, static_cast<std::int32_t>(result.affected));
-  call.answer(make<Recordset>(command.session(), std::move(result)).get());
+  answer_rows(command, std::move(result), call);
 }
 
 }  // namespace qvr::tests::com

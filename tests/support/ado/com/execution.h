@@ -16,8 +16,13 @@ struct GivenConnection {
 
 GivenConnection session_of(const VARIANT& argument, TextView source);
 
-// Executes, hands the number of affected rows to the argument at `affected`, and answers with the recordset. The
-// options at `options`, when given, name the command's type in place of the command's own.
+// The command's own type unless the options at `options` name another one.
+std::int32_t type_asked_for(const AdoCommandState& command, const Call& call, unsigned options);
+
+// Answers with a recordset of these rows.
+void answer_rows(const AdoCommandState& command, odbc::ResultSet rows, Call& call);
+
+// Executes, hands the number of affected rows to the argument at `affected`, and answers with the recordset.
 void execute_and_answer(AdoCommandState& command, const std::vector<Value>& parameters, Call& call, unsigned affected,
                         unsigned options);
 

@@ -4,12 +4,14 @@
 #include <array>
 
 #include "support/ado/ado_failure.h"
+#include "support/ado/com/trace.h"
 
 namespace qvr::tests::com {
 namespace {
 
 constexpr TextView kSource = u"ADODB.Parameter";
 constexpr std::int32_t kInput = 1;
+constexpr std::int32_t kReturnValue = 4;
 
 // Values of DataTypeEnum with what a value of that type is held as, and whether it needs a size.
 struct DataType {
@@ -27,7 +29,7 @@ constexpr std::array kDataTypes = {
     DataType{7, VT_DATE},
     DataType{8, VT_BSTR},
     DataType{11, VT_BOOL},
-    DataType{14, VT_R8},
+    DataType{14, VT_DECIMAL},
     DataType{16, VT_I2},
     DataType{17, VT_UI1},
     DataType{18, VT_I4},
@@ -35,7 +37,7 @@ constexpr std::array kDataTypes = {
     DataType{20, VT_I8},
     DataType{129, VT_BSTR, true},
     DataType{130, VT_BSTR, true},
-    DataType{131, VT_R8},
+    DataType{131, VT_DECIMAL},
     DataType{133, VT_DATE},
     DataType{134, VT_DATE},
     DataType{135, VT_DATE},
@@ -61,7 +63,12 @@ Parameter::Parameter(const Call& call)
   if (call.given(4)) set_value(call.raw(4));
 }
 
+Parameter::Parameter(const ProcedureParameter& described)
+    : name_(described.name), type_(described.type), direction_(described.direction), size_(described.size) {}
+
 bool Parameter::is_input() const { return direction_ == kInput; }
+
+bool Parameter::is_return_value() const { return direction_ == kReturnValue; }
 
 bool Parameter::defined() const {
   const DataType* type = data_type(type_);
@@ -87,23 +94,50 @@ void Parameter::set_value(const VARIANT& argument) {
   value_ = std::move(value);
 }
 
+void Parameter::take_output(const Value& value) {
+  OwnedVariant given;
+  to_variant(value, given);
+  set_value(given);
+}
+
 const Members& Parameter::members() const {
   using T = Table<Parameter>;
   static const Members table = {
       T::get(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) { call.answer(self.value_); }),
-      T::put(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) { self.set_value(call.raw(0)); }),
+      T::put(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Value");
+        self.set_value(call.raw(0));
+      }),
       T::get(1, u"Name", [](Parameter& self, Call& call) { call.answer(self.name_); }),
-      T::put(1, u"Name", [](Parameter& self, Call& call) { self.name_ = call.text(0); }),
+      T::put(1, u"Name", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Name");
+        self.name_ = call.text(0);
+      }),
       T::get(2, u"Type", [](Parameter& self, Call& call) { call.answer(self.type_); }),
-      T::put(2, u"Type", [](Parameter& self, Call& call) { self.type_ = call.integer(0); }),
+      T::put(2, u"Type", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Type");
+        self.type_ = call.integer(0);
+      }),
       T::get(3, u"Direction", [](Parameter& self, Call& call) { call.answer(self.direction_); }),
-      T::put(3, u"Direction", [](Parameter& self, Call& call) { self.direction_ = call.integer(0); }),
+      T::put(3, u"Direction", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Direction");
+        self.direction_ = call.integer(0);
+      }),
       T::get(4, u"Size", [](Parameter& self, Call& call) { call.answer(self.size_); }),
-      T::put(4, u"Size", [](Parameter& self, Call& call) { self.size_ = call.integer(0); }),
+      T::put(4, u"Size", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Size");
+        self.size_ = call.integer(0);
+      }),
       T::get(5, u"Precision", [](Parameter& self, Call& call) { call.answer(self.precision_); }),
-      T::put(5, u"Precision", [](Parameter& self, Call& call) { self.precision_ = call.integer(0); }),
+      T::put(5, u"Precision", [](Parameter& self, Call& call) {
+        trace(u"Parameter.Precision");
+        self.precision_ = call.integer(0);
+      }),
       T::get(6, u"NumericScale", [](Parameter& self, Call& call) { call.answer(self.scale_); }),
-      T::put(6, u"NumericScale", [](Parameter& self, Call& call) { self.scale_ = call.integer(0); }),
+      T::put(6, u"NumericScale", [](Parameter& self, Call& call) {
+        trace(u"Parameter.NumericScale");
+        self.scale_ = call.integer(0);
+      }),
       T::get(7, u"Attributes", [](Parameter& self, Call& call) { call.answer(self.attributes_); }),
       T::put(7, u"Attributes", [](Parameter& self, Call& call) { self.attributes_ = call.integer(0); }),
   };

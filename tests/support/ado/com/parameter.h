@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/ado/com/dispatch_object.h"
+#include "support/ado/stored_procedure.h"
 
 namespace qvr::tests::com {
 
@@ -10,10 +11,13 @@ class Parameter : public DispatchObject {
   Parameter() = default;
   // Of CreateParameter: name, type, direction, size and value, each of which may be left out.
   explicit Parameter(const Call& call);
+  explicit Parameter(const ProcedureParameter& described);
 
   const Text& name() const { return name_; }
   const Value& value() const { return value_; }
+  void take_output(const Value& value);  // converted as any other value
   bool is_input() const;
+  bool is_return_value() const;
   bool defined() const;  // enough is known of it to send it
 
  private:

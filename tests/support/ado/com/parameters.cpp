@@ -2,6 +2,7 @@
 
 #include "support/ado/ado_failure.h"
 #include "support/ado/com/command.h"
+#include "support/ado/com/trace.h"
 
 namespace qvr::tests::com {
 namespace {
@@ -22,6 +23,7 @@ class Parameters : public Collection {
   TextView source() const override { return kSource; }
 
   void append(const Call& call) {
+    trace(u"Parameters.Append");
     OwnedVariant argument;
     follow(call.raw(0), argument);
     if (argument.vt != VT_DISPATCH && argument.vt != VT_UNKNOWN) throw DispatchFailure{DISP_E_TYPEMISMATCH};
@@ -39,10 +41,13 @@ class Parameters : public Collection {
     parts_->parameters.erase(parts_->parameters.begin() + index);
   }
 
-  // The databases that this serves have no procedures whose parameters could be asked for.
   void refresh() {
-    parts_->state.open_session();
-    fail_provider(hresult::kParametersUnavailable, u"The provider cannot tell the command's parameters.");
+    trace(u"Parameters.Refresh");
+    const AdoCommandState& state = parts_->state;
+    const StoredProcedure procedure(state.open_session(), state.text(), state.timeout());
+    std::vector<Ref<Parameter>> described;
+    for (const ProcedureParameter& each : procedure.parameters()) described.push_back(make<Parameter>(each));
+    parts_->parameters = std::move(described);
   }
 
   std::shared_ptr<CommandParts> parts_;

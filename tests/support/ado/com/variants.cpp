@@ -60,6 +60,14 @@ struct Writer {
     to.vt = VT_CY;
     to.cyVal.int64 = held.scaled;
   }
+  void operator()(const Decimal& held) const {
+    to.decVal.Hi32 = held.high;
+    to.decVal.Mid32 = held.mid;
+    to.decVal.Lo32 = held.low;
+    to.decVal.scale = held.scale;
+    to.decVal.sign = held.negative ? DECIMAL_NEG : BYTE{0};
+    to.vt = VT_DECIMAL;  // last: it shares its place with a part of the number's structure
+  }
   void operator()(Date held) const {
     to.vt = VT_DATE;
     to.date = held.days;
@@ -143,7 +151,8 @@ Value to_value(const VARIANT& from) {
     case VT_UI8:
       return converted(direct, VT_I8);
     case VT_DECIMAL:
-      return converted(direct, VT_R8);
+      return Decimal{direct.decVal.Hi32, direct.decVal.Mid32, direct.decVal.Lo32, direct.decVal.scale,
+                     (direct.decVal.sign & DECIMAL_NEG) != 0};
     case VT_ERROR:
       if (direct.scode == DISP_E_PARAMNOTFOUND) return Missing{};
       fail_type();

@@ -1,0 +1,109 @@
+// Parameters that are not appended: what the user is told, and that the caller is told no more than False.
+#include "automation/boxes.h"
+#include "automation/database.h"
+#include "automation/library.h"
+#include "automation/parameter_host.h"
+
+namespace qvr::tests {
+namespace {
+
+struct RefusedParameter : testing::Test {
+  ParameterHost host;
+};
+
+TEST_F(RefusedParameter, AnUnexpectedTypeIsToldInTheUsersLanguage) {
+  struct Row {
+    const wchar_t *language, *box;
+  };
+  for (const Row& row : {Row{L"0", L"Tipo inesperado en AgregarParametroADO: @p (Texto)"},
+                         Row{L"1", L"Unexpected type in AgregarParametroADO: @p (Texto)"},
+                         Row{L"3", L"Type inattendu dans AgregarParametroADO: @p (Texto)"}}) {
+    on_thread_in_language(row.language, [&] {
+      const ParameterHost there;
+      for (const int engine : {2, 3}) {
+        there.use(engine);
+        EXPECT_EQ(there.refused({L"Texto"}), narrow(row.box));
+      }
+    });
+  }
+}
+
+TEST_F(RefusedParameter, WithoutATypeItIsImproperlyDefinedForJetAndNoEngine) {
+  struct Row {
+    const wchar_t *language, *object, *method, *error;
+  };
+  for (const Row& row : {Row{L"0", L"Objeto", L"M\u00e9todo", L"Error"}, Row{L"1", L"Object", L"Method", L"Error"},
+                         Row{L"3", L"Objet", L"M\u00e9thode", L"Erreur"}}) {
+    on_thread_in_language(row.language, [&] {
+      const ParameterHost there;
+      const std::wstring box = std::wstring(row.object) + L": QVRcfp\r\n" + row.method +
+                               L": AgregarParametroADO: @p(INT)\r\n" + row.error +
+                               L" 3708: The parameter is not defined completely or not consistently.";
+      for (const int engine : {1, 0, -7}) {
+        there.use(engine);
+        EXPECT_EQ(there.refused({L"INT"}), narrow(box));
+      }
+    });
+  }
+}
+
+TEST_F(RefusedParameter, ATextWithoutAWidthIsImproperlyDefinedToo) {
+  host.use(2);
+  const std::string box = host.refused({L"NVARCHAR", L"@n", Var::null()});
+  EXPECT_TRUE(box.ends_with(" 3708: The parameter is not defined completely or not consistently.")) << box;
+}
+
+TEST_F(RefusedParameter, OtherRefusalsAreSilent) {
+  host.use(2);
+  EXPECT_EQ(host.refused({L"INT", L"@p", L"abc"}), "silence");
+  EXPECT_EQ(host.refused({L"NVARCHAR", L"@p", L"too long", 3}), "silence");
+  for (const wchar_t* where : {L"CreateParameter", L"Parameter.Type", L"Parameter.Precision", L"Parameter.Name",
+                               L"Parameter.Direction", L"Parameter.Value", L"Parameters.Append"}) {
+    SCOPED_TRACE(narrow(where));
+    const FaultyAdo faulty(where);
+    EXPECT_EQ(host.refused({L"INT"}), "silence");
+  }
+  for (const wchar_t* where : {L"Parameter.Size", L"Parameter.NumericScale"}) {
+    host.use(3);
+    const FaultyAdo faulty(where);
+    EXPECT_EQ(host.refused({std::wstring(where) == L"Parameter.Size" ? L"NVARCHAR" : L"INT"}), "silence");
+  }
+  EXPECT_EQ(test_ado().can_unload(), S_OK) << "an ADO object was left behind";
+}
+
+TEST_F(RefusedParameter, NothingAsTheCommandIsFalseInSilence) {
+  host.use(2);
+  const Person person;
+  EXPECT_EQ(host.append_early(nullptr, {L"INT"}), "BOOL false");
+  EXPECT_EQ(host.append_late(nullptr, {L"INT"}), "BOOL false");
+  VARIANT_BOOL done = 2;
+  EXPECT_EQ(host.slots()->AgregarParametroADO(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &done), S_OK);
+  EXPECT_EQ(done, VARIANT_FALSE);
+  const LateObject no_command(L"QVRlib21.Ov");
+  EXPECT_EQ(host.append_late(no_command.get(), {L"INT"}), "BOOL false");
+  EXPECT_EQ(host.object().call(L"AgregarParametroADO", {L"no object", L"INT", L"@p"}).result, DISP_E_TYPEMISMATCH);
+  ASSERT_EQ(person.boxes().size(), 1u) << "the empty name of a type";
+  EXPECT_TRUE(person.boxes()[0].text.ends_with(L" AgregarParametroADO:  ()"));
+}
+
+TEST_F(RefusedParameter, AnObjectWithoutParametersAddsNone) {
+  const FaultyAdo log(L"");
+  const LateObject command(L"ADODB.Command");
+  EXPECT_EQ(host.append_early(command.get(), {L"INT"}), "BOOL false");
+  EXPECT_EQ(host.append_late(command.get(), {L"INT", L"@p", 5, 0, 4}), "BOOL false");
+  EXPECT_EQ(log.calls(), "CreateCommand\n");
+}
+
+TEST_F(RefusedParameter, OracleHasNoReturnValues) {
+  host.use(3);
+  const Person person;
+  const LateObject command(L"ADODB.Command");
+  EXPECT_EQ(host.append_early(command.get(), {L"INT", L"@r", 5, 0, 4}), "BOOL true");
+  EXPECT_EQ(host.append_late(command.get(), {L"no type", L"@r", 5, 0, 4}), "BOOL true");
+  EXPECT_EQ(host.append_late(nullptr, {L"INT", L"@r", 5, 0, 4}), "BOOL true");
+  EXPECT_EQ(count_of_parameters(command), 0);
+  EXPECT_TRUE(person.boxes().empty());
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,117 @@
+// Parameters that a host has appended to its own command: what arrives there.
+#include "automation/parameter_host.h"
+#include "automation/procedures.h"
+
+namespace qvr::tests {
+namespace {
+
+struct AdoParameter : testing::Test {
+  ParameterHost host;
+};
+
+struct TypeRow {
+  int engine;
+  ParameterRequest request;
+  const char* expected;
+};
+
+TEST_F(AdoParameter, CanBeMadeOnItsOwn) {
+  const LateObject made(L"ADODB.Parameter"), command(L"ADODB.Command");
+  EXPECT_EQ(made.put(L"Type", 3).result, S_OK);
+  EXPECT_EQ(made.put(L"Name", L"@p").result, S_OK);
+  const LateObject all{ComPtr<IDispatch>(command.get(L"Parameters").value.raw().pdispVal)};
+  EXPECT_EQ(all.call(L"Append", {made.get()}).result, S_OK);
+  EXPECT_EQ(described_parameter(command, 0),
+            "@p: type 3, size 0, precision 0, scale 0, direction 1, Empty");
+}
+
+TEST_F(AdoParameter, HasTheTypeThatFitsTheEngine) {
+  for (const TypeRow& row :
+       {TypeRow{2, {L"INT"}, "@p: type 3, size 0, precision 10, scale 0, direction 1, I4 5"},
+        TypeRow{2, {L"bit", L"@b", true}, "@b: type 11, size 0, precision 0, scale 0, direction 1, BOOL true"},
+        TypeRow{2, {L"Real", L"@r", 0.5}, "@r: type 4, size 0, precision 0, scale 0, direction 1, R4 0.5"},
+        TypeRow{2, {L"nvarchar", L"@n", L"Ana", 50},
+                "@n: type 202, size 50, precision 0, scale 0, direction 1, BSTR Ana"},
+        TypeRow{2, {L"DateTime", L"@d", Var::date(40548.5), 0, 3},
+                "@d: type 135, size 0, precision 0, scale 0, direction 3, DATE 40548.500000"},
+        TypeRow{2, {L"INT", L"", Var::null(), 0, 4},
+                ": type 3, size 0, precision 10, scale 0, direction 4, Null"},
+        TypeRow{3, {L"int"}, "@p: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 5"},
+        TypeRow{3, {L"BIT", L"@b", 1}, "@b: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 1"},
+        TypeRow{3, {L"REAL", L"@r", 0.5}, "@r: type 5, size 0, precision 15, scale 0, direction 1, R8 0.500000"},
+        TypeRow{3, {L"nvarchar", L"@n", L"Ana", 50},
+                "@n: type 200, size 100, precision 0, scale 0, direction 1, BSTR Ana"},
+        TypeRow{3, {L"DATETIME", L"@d", Var::date(40548), 0, 2},
+                "@d: type 135, size 0, precision 0, scale 0, direction 2, DATE 40548.000000"}}) {
+    SCOPED_TRACE(std::to_string(row.engine) + " " + narrow(row.request.type.text()));
+    host.use(row.engine);
+    host.expect_appended(row.request, row.expected);
+  }
+}
+
+TEST_F(AdoParameter, ArgumentsMayBeLeftOut) {
+  host.use(2);
+  const LateObject command(L"ADODB.Command");
+  const Var target(command.get());
+  const auto added = [&](std::vector<Var> arguments) {
+    arguments.insert(arguments.begin(), target);
+    return describe(host.object().call(L"AgregarParametroADO", std::move(arguments)).value.raw());
+  };
+  EXPECT_EQ(added({L"INT", L"@a"}), "BOOL true");
+  EXPECT_EQ(added({L"NVARCHAR", L"@b", Var::missing(), 7}), "BOOL true");
+  EXPECT_EQ(added({L"INT", L"@c", 5, Var::missing(), 3}), "BOOL true");
+  const LateAnswer named = host.object().call_named(L"AgregarParametroADO", {L"Direction", L"Ancho"},
+                                                    {2, 9, target, L"nvarchar", L"@d"});
+  EXPECT_EQ(describe(named.value.raw()), "BOOL true");
+  auto* raw = reinterpret_cast<Command*>(command.get());
+  Bstr type(L"INT"), name(L"@e");
+  VARIANT_BOOL done = 0;
+  EXPECT_EQ(host.slots()->AgregarParametroADO(&raw, &type, &name, nullptr, nullptr, nullptr, &done), S_OK);
+  EXPECT_EQ(done, VARIANT_TRUE);
+  const char* const expected[] = {
+      "@a: type 3, size 0, precision 10, scale 0, direction 1, Empty",
+      "@b: type 202, size 7, precision 0, scale 0, direction 1, Empty",
+      "@c: type 3, size 0, precision 10, scale 0, direction 3, I4 5",
+      "@d: type 202, size 9, precision 0, scale 0, direction 2, Empty",
+      "@e: type 3, size 0, precision 10, scale 0, direction 1, Empty"};
+  ASSERT_EQ(count_of_parameters(command), 5);
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(described_parameter(command, i), expected[i]);
+  EXPECT_EQ(host.object().call(L"AgregarParametroADO", {target, L"INT"}).result, DISP_E_PARAMNOTOPTIONAL);
+}
+
+TEST_F(AdoParameter, AScriptsVariables) {
+  host.use(2);
+  const LateObject command(L"ADODB.Command");
+  Var target(command.get()), type(L"INT"), name(L"@p"), value(L"7"), width, direction(L"2");
+  std::vector<Var> passed;
+  for (Var* const each : {&target, &type, &name, &value, &width, &direction}) {
+    passed.push_back(Var::by_reference(*each));
+  }
+  const LateAnswer answer = host.object().call(L"AgregarParametroADO", passed);
+  EXPECT_EQ(describe(answer.value.raw()), "BOOL true");
+  EXPECT_EQ(described_parameter(command, 0),
+            "@p: type 3, size 0, precision 10, scale 0, direction 2, I4 7");
+  EXPECT_EQ(describe(value.raw()) + ", " + describe(width.raw()) + ", " + describe(direction.raw()),
+            "BSTR 7, Empty, BSTR 2") << "no variable is changed";
+}
+
+TEST_F(AdoParameter, AHostsOwnProcedureCall) {
+  ProcedureDatabase database;
+  database.define(L"Suma", {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kOutput}},
+                  {{L"select @a + 1", 2}, {L"select 9", 0}});
+  const LateObject connection = database.open(), command(L"ADODB.Command");
+  EXPECT_EQ(command.put(L"ActiveConnection", connection.get()).result, S_OK);
+  EXPECT_EQ(command.put(L"CommandText", L"Suma").result, S_OK);
+  EXPECT_EQ(command.put(L"CommandType", 4).result, S_OK);
+  host.use(2);
+  EXPECT_EQ(host.append_late(command.get(), {L"INT", L"@RETURN_VALUE", Var::missing(), 0, 4}), "BOOL true");
+  EXPECT_EQ(host.append_early(command.get(), {L"INT", L"@a", 7}), "BOOL true");
+  EXPECT_EQ(host.append_early(command.get(), {L"INT", L"@b", Var::missing(), 0, 2}), "BOOL true");
+  EXPECT_EQ(command.call(L"Execute").result, S_OK);
+  EXPECT_TRUE(described_parameter(command, 0).ends_with("direction 4, I4 9"));
+  EXPECT_TRUE(described_parameter(command, 2).ends_with("direction 2, I4 8"));
+  connection.call(L"Close");
+}
+
+}  // namespace
+}  // namespace qvr::tests

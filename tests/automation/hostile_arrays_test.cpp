@@ -1,0 +1,164 @@
+// Arrays and references that no host makes on purpose: none may end or hold up the process.
+#include "automation/boxes.h"
+#include "automation/sql_members.h"
+
+namespace qvr::tests {
+namespace {
+
+class HostileArrays : public SqlMembers {
+ protected:
+  HostileArrays() { use(2); }
+
+  // Both hosts' answers to a call with this list, by reference.
+  void expect_insert(VARIANT& list, const std::string& expected) {
+    Bstr table(L"T"), result;
+    const HRESULT status = early->SqlINSERT(&table, &list, &result);
+    Var passed;
+    passed.raw().vt = VT_BYREF | VT_VARIANT;
+    passed.raw().pvarVal = &list;
+    expect_same(late.call(L"SqlINSERT", {L"T", passed}), status, early_result(result), expected);
+  }
+};
+
+VARIANT* items_of(const Var& array) { return static_cast<VARIANT*>(array.raw().parray->pvData); }
+
+VARIANT referring_to(VARIANT& variant) {
+  VARIANT reference;
+  reference.vt = VT_BYREF | VT_VARIANT;
+  reference.pvarVal = &variant;
+  return reference;
+}
+
+TEST_F(HostileArrays, AnArrayThatHoldsItselfManyTimes) {
+  Var list = array_of(std::vector<Var>(100));
+  for (ULONG i = 0; i < 100; ++i) items_of(list)[i] = referring_to(list.raw());
+  Bstr table(L"T"), result;
+  EXPECT_EQ(early->SqlINSERT(&table, &list.raw(), &result), S_OK);
+  std::wstring nulls;
+  for (int i = 0; i < 100; ++i) nulls += i > 0 ? L", Null" : L"Null";
+  EXPECT_EQ(result.text(), L"INSERT INTO T VALUES (" + nulls + L")");
+  EXPECT_EQ(list.raw().parray->cLocks, 0u);
+}
+
+TEST_F(HostileArrays, TwoArraysThatHoldEachOther) {
+  Var first = array_of(std::vector<Var>(20)), second = array_of(std::vector<Var>(20));
+  for (ULONG i = 0; i < 20; ++i) {
+    items_of(first)[i] = referring_to(second.raw());
+    items_of(second)[i] = referring_to(first.raw());
+  }
+  const Person person;
+  const auto concatenated = [&](Var& list) {
+    Bstr result;
+    EXPECT_EQ(early->sqlConcatenar(&list.raw(), &result), S_OK);
+    return result.text();
+  };
+  EXPECT_EQ(concatenated(first), L"") << "an array is no text";
+  EXPECT_EQ(concatenated(second), L"");
+}
+
+TEST_F(HostileArrays, ArraysInsideArraysDeeperThanAnyHostNests) {
+  Var list = array_of({1});
+  for (int depth = 0; depth < 60; ++depth) list = array_of({list});
+  expect_insert(list.raw(), "BSTR INSERT INTO T VALUES (Null)");
+}
+
+TEST_F(HostileArrays, AChainOfReferencesThatEndsNowhere) {
+  VARIANT nowhere;
+  nowhere.vt = VT_BYREF | VT_VARIANT;
+  nowhere.pvarVal = nullptr;
+  VARIANT no_array_there;
+  no_array_there.vt = VT_BYREF | VT_ARRAY | VT_VARIANT;
+  no_array_there.pparray = nullptr;
+  Bstr table(L"T");
+  for (VARIANT* const dead : {&nowhere, &no_array_there}) {
+    Bstr result;
+    EXPECT_EQ(early->SqlINSERT(&table, dead, &result), S_OK);
+    EXPECT_EQ(result.text(), L"");
+    Var passed;
+    passed.raw() = *dead;
+    EXPECT_EQ(late.call(L"SqlINSERT", {L"T", passed}).result, DISP_E_TYPEMISMATCH);
+    passed.raw().vt = VT_EMPTY;
+  }
+}
+
+TEST_F(HostileArrays, ReferencesInARing) {
+  VARIANT ring[3];
+  for (int i = 0; i < 3; ++i) ring[i] = referring_to(ring[(i + 1) % 3]);
+  Bstr table(L"T"), result;
+  EXPECT_EQ(early->SqlINSERT(&table, &ring[0], &result), S_OK);
+  EXPECT_EQ(result.text(), L"");
+  Var passed;
+  passed.raw() = ring[0];
+  EXPECT_EQ(late.call(L"SqlINSERT", {L"T", passed}).result, DISP_E_TYPEMISMATCH);
+  passed.raw().vt = VT_EMPTY;
+}
+
+TEST_F(HostileArrays, ElementsThatReferToNowhere) {
+  Var list = array_of(std::vector<Var>(3));
+  items_of(list)[0].vt = VT_BYREF | VT_VARIANT;
+  items_of(list)[1].vt = VT_BYREF | VT_BSTR;
+  items_of(list)[2].vt = VT_BYREF | VT_ARRAY | VT_I4;
+  expect_insert(list.raw(), "BSTR INSERT INTO T VALUES (Null, Null, Null)");
+}
+
+TEST_F(HostileArrays, ATypeInTheVariantThatIsNotTheArrays) {
+  Var list = array_of({L"a", L"b"}, 0, VT_BSTR);
+  list.raw().vt = VT_ARRAY | VT_I4;
+  expect_insert(list.raw(), "BSTR INSERT INTO T VALUES ('a', 'b')");
+  list.raw().vt = VT_ARRAY | VT_BSTR;
+}
+
+TEST_F(HostileArrays, AnArrayThatKnowsNoTypeOfItsElements) {
+  SAFEARRAY* array = nullptr;
+  ASSERT_EQ(SafeArrayAllocDescriptor(1, &array), S_OK);
+  array->cbElements = 4;
+  array->rgsabound[0] = {2, 0};
+  ASSERT_EQ(SafeArrayAllocData(array), S_OK);
+  VARIANT list;
+  list.vt = VT_ARRAY | VT_I4;
+  list.parray = array;
+  expect_insert(list, "BSTR INSERT INTO T VALUES)");
+  EXPECT_EQ(SafeArrayDestroy(array), S_OK);
+}
+
+TEST_F(HostileArrays, ElementsLargerThanTheirTypeSays) {
+  Var list = array_of({1, 2}, 0, VT_R8);
+  list.raw().parray->cbElements = 64;
+  list.raw().parray->rgsabound[0].cElements = 1;
+  Bstr table(L"T"), result;
+  EXPECT_EQ(early->SqlINSERT(&table, &list.raw(), &result), S_OK);
+  EXPECT_EQ(result.text(), L"INSERT INTO T VALUES (Null)");
+  list.raw().parray->cbElements = 8;
+}
+
+TEST_F(HostileArrays, TheSameListForFieldsAndValues) {
+  Var list = array_of({L"Id", L"Nombre"});
+  const Var passed = Var::by_reference(list);
+  EXPECT_EQ(describe(late.call(L"SqlInsert2", {L"T", passed, passed}).value.raw()),
+            "BSTR INSERT INTO T(Id,Nombre) VALUES('Id','Nombre')");
+}
+
+Var* replaced_by_timer = nullptr;
+
+void CALLBACK replace(HWND window, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(window, timer);
+  *replaced_by_timer = Var(L"gone");
+}
+
+// The box is open while the host's code runs: the array was read before.
+TEST_F(HostileArrays, AnArrayThatGoesAwayWhileABoxIsOpen) {
+  use(1);
+  Var list = array_of({L"a", L"b", L"I"});
+  const Person person;
+  const HWND window = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  replaced_by_timer = &list;
+  SetTimer(window, 1, USER_TIMER_MINIMUM, replace);
+  const LateAnswer answer = late.call(L"sqlWhereRelacionTablas", {Var::by_reference(list)});
+  DestroyWindow(window);
+  EXPECT_EQ(describe(answer.value.raw()), "BSTR ");
+  EXPECT_EQ(person.boxes().size(), 1u);
+  EXPECT_EQ(describe(list.raw()), "BSTR gone");
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,146 @@
+// The values that a stored procedure gives back, in every kind of array that a host may have for them.
+#include "automation/procedures.h"
+
+namespace qvr::tests {
+namespace {
+
+class ProcedureOutputs : public ProcedureCalls {
+ protected:
+  // A procedure whose only parameter gives this SQL expression as a value of this type.
+  void define_output(ado::Type type, const wchar_t* expression, int size = 0) {
+    const std::wstring statement = std::wstring(L"select ") + expression;
+    database.run(L"delete from ado_parameters");
+    database.run(L"delete from ado_steps");
+    database.define(L"Uno", {{L"@Dato", type, ado::kOutput, size}}, {{statement.c_str(), 1}});
+  }
+};
+
+struct Output {
+  ado::Type type;
+  const wchar_t* expression;
+  const char* value;
+};
+
+constexpr Output kOutputs[] = {
+    {ado::kSmallInt, L"-7", "I2 -7"},
+    {ado::kInteger, L"123456", "I4 123456"},
+    {ado::kUnsignedTinyInt, L"200", "UI1 200"},
+    {ado::kBigInt, L"9007199254740993", "I8 9007199254740993"},
+    {ado::kSingle, L"'0.5'", "R4 0.5"},
+    {ado::kDouble, L"'-2.5'", "R8 -2.500000"},
+    {ado::kCurrency, L"'12.3456'", "CY 12.3456"},
+    {ado::kNumeric, L"'12345678901234567.89'", "DECIMAL 12345678901234567.89"},
+    {ado::kDate, L"'2011-01-05'", "DATE 40548.000000"},
+    {ado::kDbTimeStamp, L"'2011-01-05 12:00:00'", "DATE 40548.500000"},
+    {ado::kBoolean, L"1", "BOOL true"},
+    {ado::kVarWChar, L"'O''Hara \u00f1'", "BSTR O'Hara \u00f1"},
+    {ado::kInteger, L"null", "Null"},
+};
+
+TEST_F(ProcedureOutputs, OfEveryTypeGoIntoAnArrayOfVariantsAsTheyAre) {
+  for (const Output& row : kOutputs) {
+    SCOPED_TRACE(row.value);
+    define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
+    expect_call(L"Uno", array_of({Var()}), true, std::string("VARIANT(0) {") + row.value + "}");
+  }
+}
+
+TEST_F(ProcedureOutputs, ReplaceWhatTheElementsHeld) {
+  define_output(ado::kInteger, L"7");
+  for (const Var& before : {Var(5), Var(L"12"), Var::null(), Var(2.5)}) {
+    SCOPED_TRACE(describe(before.raw()));
+    expect_call(L"Uno", array_of({before}), true, "VARIANT(0) {I4 7}");
+  }
+}
+
+TEST_F(ProcedureOutputs, AreConvertedForAnArrayOfOneType) {
+  struct Row {
+    ado::Type type;
+    const wchar_t* expression;
+    VARTYPE array;
+    Var before;
+    const char* after;
+  };
+  constexpr ado::Type kWhole = ado::kInteger, kText = ado::kVarWChar, kTruth = ado::kBoolean;
+  const Row kRows[] = {
+      {kWhole, L"7", VT_I4, 1, "I4(0) {I4 7}"},           {kWhole, L"7", VT_I2, 1, "I2(0) {I2 7}"},
+      {kWhole, L"7", VT_UI1, 1, "UI1(0) {UI1 7}"},        {kWhole, L"7", VT_R8, 1, "R8(0) {R8 7.000000}"},
+      {kWhole, L"7", VT_R4, 1, "R4(0) {R4 7}"},           {kWhole, L"7", VT_CY, 1, "CY(0) {CY 7}"},
+      {kWhole, L"7", VT_I8, 1, "I8(0) {I8 7}"},           {kWhole, L"7", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 7}"},
+      {kWhole, L"7", VT_BSTR, 1, "BSTR(0) {BSTR 7}"},     {kWhole, L"1", VT_BOOL, 0, "BOOL(0) {BOOL true}"},
+      {kText, L"'8'", VT_I4, 1, "I4(0) {I4 8}"},          {kText, L"'a'", VT_BSTR, 1, "BSTR(0) {BSTR a}"},
+      {kTruth, L"1", VT_BSTR, 1, "BSTR(0) {BSTR True}"},  {kTruth, L"1", VT_I4, 5, "I4(0) {I4 -1}"},
+      {ado::kNumeric, L"'2.25'", VT_R8, 1, "R8(0) {R8 2.250000}"},
+      {ado::kNumeric, L"'2.25'", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 2.25}"},
+      {ado::kDate, L"'2011-01-05'", VT_DATE, 0, "DATE(0) {DATE 40548.000000}"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.after);
+    define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
+    expect_call(L"Uno", array_of({row.before}, 0, row.array), true, row.after);
+  }
+}
+
+TEST_F(ProcedureOutputs, ThatAnArrayCannotHoldLeaveItsElement) {
+  database.define(L"Mezcla",
+                  {{L"@a", ado::kVarWChar, ado::kOutput, 20}, {L"@b", ado::kInteger, ado::kOutput},
+                   {L"@c", ado::kInteger, ado::kOutput}, {L"@d", ado::kDouble, ado::kOutput}},
+                  {{L"select 'abc'", 1}, {L"select 7", 2}, {L"select null", 3}, {L"select '3000000000'", 4}});
+  expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_I4), true, "I4(0) {I4 1; I4 7; I4 3; I4 4}");
+  expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_BSTR), true,
+              "BSTR(0) {BSTR abc; BSTR 7; BSTR 3; BSTR 3000000000}");
+}
+
+TEST_F(ProcedureOutputs, AnArrayFromOneOnBeginsWithTheSecondParameter) {
+  database.define(L"Dos", {{L"@a", ado::kInteger, ado::kInputOutput}, {L"@b", ado::kInteger, ado::kInputOutput}},
+                  {{L"select @a + @b", 2}});
+  expect_call(L"Dos", array_of({5, 6}), true, "VARIANT(0) {I4 5; I4 11}");
+  expect_call(L"Dos", array_of({6}, 1, VT_I4), true, "I4(1) {I4 6}");  // the first parameter is Null
+  database.define(L"Tres", {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kInputOutput},
+                            {L"@c", ado::kInteger, ado::kOutput}},
+                  {{L"select @b * 2", 2}, {L"select 3", 3}});
+  expect_call(L"Tres", array_of({6, 0}, 1), true, "VARIANT(1) {I4 12; I4 3}");
+  expect_call(L"Tres", array_of({6, 0}, 1, VT_R8), true, "R8(1) {R8 12.000000; R8 3.000000}");
+}
+
+// An array that begins below zero begins with the return value.
+TEST_F(ProcedureOutputs, AnArrayFromMinusOneOnHasTheReturnValue) {
+  database.define(L"Dos", {{L"@a", ado::kInteger, ado::kInputOutput}}, {{L"select @a + 1", 1}});
+  expect_call(L"Dos", array_of({Var(), 5}, -1), true, "VARIANT(-1) {I4 0; I4 6}");
+}
+
+TEST_F(ProcedureOutputs, InputsComeBackAsTheParametersHoldThem) {
+  database.define(L"Entrada", {{L"@a", ado::kInteger}, {L"@b", ado::kVarWChar, ado::kInput, 20}}, {});
+  expect_call(L"Entrada", array_of({L"5", 7}), true, "VARIANT(0) {I4 5; BSTR 7}");
+}
+
+TEST_F(ProcedureOutputs, GoIntoAnArrayThatTheCallerHasLocked) {
+  define_output(ado::kInteger, L"7");
+  Var any = array_of({Var()}), typed = array_of({1}, 0, VT_I4);
+  {
+    const Locked first(any), second(typed);
+    EXPECT_TRUE(call_early(connection.get(), L"Uno", &any.raw()));
+    EXPECT_TRUE(call_late(connection.get(), L"Uno", Var::by_reference(typed)));
+    EXPECT_EQ(any.raw().parray->cLocks, 1u) << "locks are balanced";
+    EXPECT_EQ(typed.raw().parray->cLocks, 1u);
+  }
+  EXPECT_EQ(describe(any.raw()), "VARIANT(0) {I4 7}");
+  EXPECT_EQ(describe(typed.raw()), "I4(0) {I4 7}");
+}
+
+TEST_F(ProcedureOutputs, GoThroughReferencesOfReferences) {
+  define_output(ado::kInteger, L"7");
+  Var array = array_of({Var()});
+  Var content = Var::by_content(array);
+  Var once = Var::by_reference(content);
+  Var twice = Var::by_reference(once);
+  EXPECT_TRUE(call_late(connection.get(), L"Uno", twice));
+  EXPECT_EQ(describe(array.raw()), "VARIANT(0) {I4 7}");
+  array = array_of({Var()});
+  content = Var::by_content(array);
+  EXPECT_TRUE(call_early(connection.get(), L"Uno", &twice.raw()));
+  EXPECT_EQ(describe(array.raw()), "VARIANT(0) {I4 7}");
+}
+
+}  // namespace
+}  // namespace qvr::tests

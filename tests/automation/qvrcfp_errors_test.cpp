@@ -1,0 +1,138 @@
+// The two members whose caller is told by an error.
+#include "automation/boxes.h"
+#include "automation/sql_members.h"
+
+namespace qvr::tests {
+namespace {
+
+constexpr HRESULT kInvalidArgument = static_cast<HRESULT>(0x800A0005);
+constexpr HRESULT kSubscript = static_cast<HRESULT>(0x800A0009);
+
+using ListMember = HRESULT (STDMETHODCALLTYPE _QVRcfp::*)(VARIANT*, BSTR*);
+
+std::wstring text_of(HRESULT error) {
+  return error == kInvalidArgument ? L"Invalid procedure call or argument" : L"Subscript out of range";
+}
+
+class Errors : public SqlMembers {
+ protected:
+  // An early-bound host finds the error's number in the result and the rest in the thread's error object.
+  void expect_early(ListMember slot, const Var& list, HRESULT error) {
+    Var passed = list;
+    Bstr before(L"left over");
+    BSTR result = before.get();  // whatever was there: an out-parameter is not read
+    SetErrorInfo(0, nullptr);
+    EXPECT_EQ((early.Get()->*slot)(&passed.raw(), &result), error);
+    EXPECT_EQ(result, nullptr);
+    ComPtr<IErrorInfo> info;
+    ASSERT_EQ(GetErrorInfo(0, &info), S_OK);
+    Bstr description, source;
+    info->GetDescription(&description);
+    info->GetSource(&source);
+    EXPECT_EQ(description.text(), text_of(error));
+    EXPECT_EQ(source.text(), L"QVRlib21");
+  }
+
+  // A late-bound one finds all of it in the exception, and nothing in the error object.
+  void expect_late(const LateAnswer& answer, HRESULT error) {
+    EXPECT_EQ(answer.result, DISP_E_EXCEPTION);
+    EXPECT_EQ(answer.code, error);
+    EXPECT_EQ(answer.description, text_of(error));
+    EXPECT_EQ(answer.source, L"QVRlib21");
+    EXPECT_EQ(answer.value.type(), VT_EMPTY);
+    ComPtr<IErrorInfo> info;
+    EXPECT_EQ(GetErrorInfo(0, &info), S_FALSE);
+  }
+
+  void expect_error(const wchar_t* name, ListMember slot, const Var& list, HRESULT error) {
+    SCOPED_TRACE(narrow(name) + " " + describe(list.raw()));
+    const Person person;
+    expect_early(slot, list, error);
+    Var variable = list;
+    expect_late(late.call(name, {list}), error);
+    expect_late(late.call(name, {Var::by_reference(variable)}), error);
+    expect_late(late.call(name, {Var::by_content(variable)}), error);
+    EXPECT_TRUE(person.boxes().empty());
+  }
+};
+
+TEST_F(Errors, ConcatenatingNothingIsAnInvalidArgument) {
+  for (const int engine : {1, 2, 3}) {
+    SCOPED_TRACE(engine);
+    use(engine);
+    for (const Var& list : {array_of({}), array_of({}, 1), array_of({}, -3, VT_BSTR)}) {
+      expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kInvalidArgument);
+    }
+  }
+}
+
+TEST_F(Errors, ConcatenatingNothingWithoutAnOperatorIsNone) {
+  use(0);
+  Var list = array_of({});
+  Bstr result;
+  const HRESULT status = early->sqlConcatenar(&list.raw(), &result);
+  expect_same(late.call(L"sqlConcatenar", {list}), status, early_result(result), "BSTR   ");
+}
+
+TEST_F(Errors, WhatHasNoBoundsOrSeveralIsOutOfRange) {
+  for (const int engine : {1, 2, 3}) {
+    SCOPED_TRACE(engine);
+    use(engine);
+    for (const Var& list : {square_array(), no_array(), no_array(VT_BSTR)}) {
+      expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kSubscript);
+      if (engine != 1) expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kSubscript);
+    }
+  }
+}
+
+TEST_F(Errors, RelationsAreWholeTriples) {
+  struct Row {
+    Var list;
+    HRESULT error;
+  };
+  for (const int engine : {2, 3}) {
+    SCOPED_TRACE(engine);
+    use(engine);
+    for (const Row& row :
+         {Row{array_of({}), kInvalidArgument}, Row{array_of({}, 1, VT_BSTR), kInvalidArgument},
+          Row{array_of({L"a"}), kSubscript}, Row{array_of({L"a", L"b"}), kSubscript},
+          Row{array_of({L"a", L"b", L"I", L"c"}), kSubscript},
+          Row{array_of({L"a", L"b", L"I", L"c", L"d"}, -3, VT_BSTR), kSubscript}}) {
+      expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, row.list, row.error);
+    }
+  }
+}
+
+TEST_F(Errors, RelationsAreNotLookedAtForAnotherEngine) {
+  const Outcome no_join = told(L"La funci\u00f3n CondicionWhereRelacionTablas no soporta Motor Jet");
+  for (const int engine : {0, 1}) {
+    use(engine);
+    for (Var list : {array_of({}), array_of({L"a", L"b"}), square_array(), no_array()}) {
+      SCOPED_TRACE(describe(list.raw()) + " engine " + std::to_string(engine));
+      const Person person;
+      Bstr result;
+      const HRESULT status = early->sqlWhereRelacionTablas(&list.raw(), &result);
+      expect_same(late.call(L"sqlWhereRelacionTablas", {list}), status, early_result(result), "BSTR ");
+      ASSERT_EQ(person.boxes().size(), engine == 1 ? 2u : 0u);
+      for (const Person::Box& box : person.boxes()) EXPECT_EQ(box.text, no_join.box);
+    }
+  }
+}
+
+TEST_F(Errors, ACallerThatWantsNoDetailsStillHearsOfIt) {
+  use(2);
+  Var list = array_of({});
+  DISPPARAMS parameters{&list.raw(), nullptr, 1, 0};
+  constexpr DISPID kSqlConcatenar = 0x60030022;
+  EXPECT_EQ(late.get()->Invoke(kSqlConcatenar, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
+            DISP_E_EXCEPTION);
+}
+
+TEST_F(Errors, TheObjectGoesOnWorking) {
+  use(3);
+  EXPECT_EQ(late.call(L"sqlConcatenar", {array_of({})}).result, DISP_E_EXCEPTION);
+  EXPECT_EQ(describe(late.call(L"sqlConcatenar", {array_of({L"a", L"b"})}).value.raw()), "BSTR  a || b ");
+}
+
+}  // namespace
+}  // namespace qvr::tests
