@@ -2,24 +2,35 @@
 
 namespace qvr::tests {
 
+namespace {
+
+bool is_box(HWND window) {
+  wchar_t kind[16] = L"";
+  return GetClassNameW(window, kind, 16) != 0 && std::wstring(kind) == L"#32770";
+}
+
+}  // namespace
+
 thread_local Person* Person::present_ = nullptr;
 
+// A box tells of itself when it is activated. On a busy machine the system may keep the foreground to another program
+// and activate none, so the person also looks around now and then.
 Person::Person(int answer)
-    : answer_(answer), hook_(SetWindowsHookExW(WH_CBT, on_event, nullptr, GetCurrentThreadId())) {
+    : answer_(answer),
+      hook_(SetWindowsHookExW(WH_CBT, on_event, nullptr, GetCurrentThreadId())),
+      glances_(SetTimer(nullptr, 0, 250, look_around)) {
   present_ = this;
 }
 
 Person::~Person() {
+  KillTimer(nullptr, glances_);
   UnhookWindowsHookEx(hook_);
   present_ = nullptr;
 }
 
 LRESULT CALLBACK Person::on_event(int code, WPARAM window, LPARAM detail) {
-  wchar_t kind[16] = L"";
   const auto handle = reinterpret_cast<HWND>(window);
-  if (code == HCBT_ACTIVATE && GetClassNameW(handle, kind, 16) != 0 && std::wstring(kind) == L"#32770") {
-    present_->notice(handle);
-  }
+  if (code == HCBT_ACTIVATE && is_box(handle)) present_->notice(handle);
   if (code == HCBT_DESTROYWND && handle == present_->last_) present_->last_ = nullptr;
   return CallNextHookEx(nullptr, code, window, detail);
 }
@@ -30,6 +41,15 @@ void Person::notice(HWND box) {
   if (box == last_) return;
   last_ = box;
   SetTimer(box, kTimer, USER_TIMER_MINIMUM, on_timer);
+}
+
+void CALLBACK Person::look_around(HWND, UINT, UINT_PTR, DWORD) {
+  EnumThreadWindows(GetCurrentThreadId(), notice_box, 0);
+}
+
+BOOL CALLBACK Person::notice_box(HWND window, LPARAM) {
+  if (is_box(window) && IsWindowVisible(window)) present_->notice(window);
+  return TRUE;
 }
 
 void CALLBACK Person::on_timer(HWND box, UINT, UINT_PTR timer, DWORD) {

@@ -25,12 +25,15 @@ class Person {
  private:
   static LRESULT CALLBACK on_event(int code, WPARAM window, LPARAM detail);
   static void CALLBACK on_timer(HWND box, UINT message, UINT_PTR timer, DWORD time);
+  static void CALLBACK look_around(HWND none, UINT message, UINT_PTR timer, DWORD time);
+  static BOOL CALLBACK notice_box(HWND window, LPARAM);
   void notice(HWND box);
   void answer(HWND box);
 
   static thread_local Person* present_;
   int answer_;
   HHOOK hook_;
+  UINT_PTR glances_;
   HWND last_ = nullptr;
   std::vector<Box> boxes_;
 };
