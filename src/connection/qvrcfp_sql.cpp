@@ -107,6 +107,7 @@ Text QVRcfp::SqlUpdate2(TextView NombreTabla, const Value& MCampos, const Value&
 bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc,
                               Value& Parametros) const noexcept {
   return or_reported(
+      false,
       [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
       [&](const FailureDetail& failure) {
         report_failure(failure, {u"EjecutarProc", Text(NombreProc)}, fields_.MotorBD, Conexion);
@@ -116,6 +117,7 @@ bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView Nombre
 bool QVRcfp::AgregarParametroADO(services::AdoCommand* Comando,
                                  const dialect::ParameterRequest& request) const noexcept {
   return or_reported(
+      false,
       [&] { return created_ && dialect::AgregarParametroADO(fields_.MotorBD, Comando, request); },
       [&](const FailureDetail& failure) {
         if (failure.number != kParameterImproperlyDefined) return;

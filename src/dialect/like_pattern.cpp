@@ -5,14 +5,6 @@
 #include "dialect/literals.h"
 
 namespace qvr::dialect {
-namespace {
-
-TextView without_edge_blanks(TextView text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
-
-}  // namespace
 
 Text CaracterEscapeLibre(TextView text) {
   constexpr TextView kCandidates = u"!&/()$#=|";
@@ -23,7 +15,7 @@ Text CaracterEscapeLibre(TextView text) {
 }
 
 Text PatronLikeMotor(const Engine& engine, TextView text, bool leading, bool trailing) {
-  Text pattern(without_edge_blanks(text));
+  Text pattern(trimmed(text));
   if (leading && !pattern.starts_with(u'*')) pattern.insert(0, 1, u'*');
   if (trailing && !pattern.ends_with(u'*')) pattern.push_back(u'*');
   Text escape_clause;

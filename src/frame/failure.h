@@ -86,10 +86,10 @@ R or_raised(R fallback, Body&& body) {
   }
 }
 
-// Error-reporting policy: false when the body throws, after `report` has been given the failure. A report that throws
-// itself is dropped: the caller's answer does not depend on it.
-template <class Body, class Report>
-bool or_reported(Body&& body, Report&& report) noexcept {
+// Error-reporting policy: `fallback` when the body throws, after `report` has been given the failure. A report that
+// throws itself is dropped: the caller's answer does not depend on it.
+template <class R, class Body, class Report>
+R or_reported(R fallback, Body&& body, Report&& report) noexcept {
   try {
     return std::forward<Body>(body)();
   } catch (...) {
@@ -97,7 +97,7 @@ bool or_reported(Body&& body, Report&& report) noexcept {
       std::forward<Report>(report)(current_failure());
     } catch (...) {
     }
-    return false;
+    return fallback;
   }
 }
 

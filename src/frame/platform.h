@@ -82,9 +82,18 @@ struct Locale {
   virtual std::optional<double> parse_number(TextView text) = 0;
   virtual Text date_text(Date date) = 0;  // short date, and the time unless it is midnight
   virtual char16_t decimal_separator() = 0;
+  virtual char16_t thousands_separator() = 0;
+  virtual Text currency_symbol() = 0;
 
  protected:
   ~Locale() = default;
+};
+
+struct Clock {
+  virtual Date now() = 0;  // the local date and time
+
+ protected:
+  ~Clock() = default;
 };
 
 using Bytes = std::span<const std::uint8_t>;
@@ -120,6 +129,7 @@ struct Platform {
   MessageBoxes& message_boxes;
   HostEvents& host_events;
   Locale& locale;
+  Clock& clock;
   Cryptography& cryptography;
   OwnModule& own_module;
 };

@@ -38,6 +38,41 @@ Text replace_all(TextView text, TextView what, TextView by) {
   return result.append(text, from);
 }
 
+Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
+  Text result;
+  result.reserve(text.size());
+  std::size_t from = 0, place = position != nullptr ? *position : 0;
+  for (std::size_t at = find_no_case(text, what); at != TextView::npos; at = find_no_case(text, what, from)) {
+    result.append(text, from, at - from);
+    // One inside the piece that goes moves behind the first unit of what comes.
+    if (position != nullptr && *position > at) {
+      place = *position < at + what.size() ? result.size() + 1 : place + by.size() - what.size();
+    }
+    result.append(by);
+    from = at + what.size();
+  }
+  if (position != nullptr) *position = place;
+  return result.append(text, from);
+}
+
+std::size_t find_no_case(TextView text, TextView what, std::size_t from) {
+  if (what.empty()) return TextView::npos;
+  const char16_t first = fold(what[0]);
+  const bool one_case = first < 0x80 && !(first >= u'A' && first <= u'Z');
+  for (std::size_t at = from; at + what.size() <= text.size(); ++at) {
+    // A sign without cases is looked for at the speed of the standard library.
+    if (one_case) at = text.find(first, at);
+    if (at == TextView::npos || at + what.size() > text.size()) return TextView::npos;
+    if (fold(text[at]) == first && equal_no_case(text.substr(at, what.size()), what)) return at;
+  }
+  return TextView::npos;
+}
+
+TextView trimmed(TextView text) {
+  const std::size_t first = text.find_first_not_of(u' ');
+  return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
 Text decimal(std::int64_t number) {
   const std::string digits = std::to_string(number);
   return Text(digits.begin(), digits.end());
@@ -50,6 +85,29 @@ Text join(std::initializer_list<TextView> pieces) {
   result.reserve(size);
   for (TextView piece : pieces) result.append(piece);
   return result;
+}
+
+Text join(std::span<const Text> pieces, TextView between) {
+  std::size_t size = 0;
+  for (const Text& piece : pieces) size += piece.size() + between.size();
+  Text result;
+  result.reserve(size);
+  for (const Text& piece : pieces) {
+    if (&piece != pieces.data()) result += between;
+    result += piece;
+  }
+  return result;
+}
+
+std::vector<TextView> split(TextView text, TextView separator) {
+  std::vector<TextView> pieces;
+  std::size_t from = 0;
+  for (auto at = text.find(separator); at != TextView::npos; at = text.find(separator, from)) {
+    pieces.push_back(text.substr(from, at - from));
+    from = at + separator.size();
+  }
+  pieces.push_back(text.substr(from));
+  return pieces;
 }
 
 Text abbreviate_for_display(TextView text) {

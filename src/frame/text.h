@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qvr {
 
@@ -24,11 +26,25 @@ bool starts_with_no_case(TextView text, TextView prefix);
 // Every occurrence of `what`, left to right and exact in case, replaced by `by`. An empty `what` is found nowhere.
 Text replace_all(TextView text, TextView what, TextView by);
 
+// The same without regard to case. A position in the text that is given along stays at its place between the same
+// pieces.
+Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position = nullptr);
+
+// Where `what` first occurs in any case; npos for nowhere.
+std::size_t find_no_case(TextView text, TextView what, std::size_t from = 0);
+
+// Without the blanks at both ends.
+TextView trimmed(TextView text);
+
 // The number's decimal digits, with "-" in front of a negative one.
 Text decimal(std::int64_t number);
 
 // The pieces in order, in one allocation.
 Text join(std::initializer_list<TextView> pieces);
+Text join(std::span<const Text> pieces, TextView between);
+
+// The pieces between the separators, empty ones kept.
+std::vector<TextView> split(TextView text, TextView separator);
 
 // A text of at most 500 units as it stands; of a longer one the first and the last 250 units of its one-line form,
 // so that a message box still fits on a screen.

@@ -34,6 +34,7 @@ bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosCom
 
 bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept {
   return or_reported(
+      false,
       [&] {
         const auto command = thread_state().ado().new_command();
         if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);

@@ -16,6 +16,7 @@ bool user_says_yes(TextView question) {
 
 bool ScriptRun::run() noexcept {
   const bool success = or_reported(
+      false,
       [this] {
         open();
         if (!run_commands()) return false;
@@ -70,11 +71,11 @@ void ScriptRun::complete() {
 void ScriptRun::abandon() noexcept {
   const auto reporting = [this](const FailureDetail& failure) { report(failure); };
   if (transaction_open_) {
-    or_reported([this] { return connection_->rollback_trans(), true; }, reporting);
+    or_reported(false, [this] { return connection_->rollback_trans(), true; }, reporting);
     transaction_open_ = false;
   }
   if (connection_open_) {
-    or_reported([this] { return connection_->close(), true; }, reporting);
+    or_reported(false, [this] { return connection_->close(), true; }, reporting);
     connection_open_ = false;
   }
   connection_.reset();

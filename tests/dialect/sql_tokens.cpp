@@ -40,7 +40,7 @@ class Tokenizer {
     if (engine_ == dialect::kSqlServer && first == u'{') return escape();
     if (is_digit(first) || (first == u'-' && is_digit(second))) return number();
     if (is_letter(first)) return word();
-    if (TextView(u"(),=").find(first) == TextView::npos) return std::nullopt;
+    if (TextView(u"(),=<>").find(first) == TextView::npos) return std::nullopt;
     return Token{TokenKind::Punctuation, take(1)};
   }
 

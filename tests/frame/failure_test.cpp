@@ -97,7 +97,7 @@ TEST(CallerFailure, IsOneLikeAnyOtherForTheOtherPolicies) {
   EXPECT_TRUE(or_default(true, fail));
   EXPECT_EQ(or_built_so_far([&](Text& built) { built = fail() ? u"" : u"built"; }), u"");
   std::int32_t reported = 0;
-  EXPECT_FALSE(or_reported(fail, [&](const FailureDetail& detail) { reported = detail.number; }));
+  EXPECT_FALSE(or_reported(false, fail, [&](const FailureDetail& detail) { reported = detail.number; }));
   EXPECT_EQ(reported, 5);
 }
 
@@ -107,10 +107,10 @@ TEST(OrReported, ReportsOnlyWhatWasThrown) {
     ++reports;
     EXPECT_EQ(detail.number, 13);
   };
-  EXPECT_TRUE(or_reported([] { return true; }, report));
-  EXPECT_FALSE(or_reported([] { return false; }, report));
+  EXPECT_TRUE(or_reported(false, [] { return true; }, report));
+  EXPECT_FALSE(or_reported(false, [] { return false; }, report));
   EXPECT_EQ(reports, 0);
-  EXPECT_FALSE(or_reported([]() -> bool { throw RuntimeFailure(13); }, report));
+  EXPECT_FALSE(or_reported(false, []() -> bool { throw RuntimeFailure(13); }, report));
   EXPECT_EQ(reports, 1);
 }
 
@@ -120,7 +120,7 @@ TEST(OrReported, DropsAFailingReport) {
     asked = true;
     throw RuntimeFailure(429);
   };
-  EXPECT_FALSE(or_reported([]() -> bool { throw std::bad_alloc(); }, failing));
+  EXPECT_FALSE(or_reported(false, []() -> bool { throw std::bad_alloc(); }, failing));
   EXPECT_TRUE(asked);
 }
 

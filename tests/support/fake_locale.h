@@ -12,8 +12,11 @@ class FakeLocale final : public Locale {
   std::optional<double> parse_number(TextView text) override;  // the whole text, without thousands separators
   Text date_text(Date date) override;
   char16_t decimal_separator() override { return decimal; }
+  char16_t thousands_separator() override { return thousands; }
+  Text currency_symbol() override { return currency; }
 
-  char16_t decimal = u'.';
+  char16_t decimal = u'.', thousands = u',';
+  Text currency = u"\u20ac";
   char16_t date_separator = u'/';
   bool day_first = true;
 };

@@ -68,6 +68,12 @@ class FakeHostEvents final : public HostEvents {
   CallLog& log_;
 };
 
+class FakeClock final : public Clock {
+ public:
+  Date now() override { return moment; }
+  Date moment{40548.5};  // noon of 5 January 2011
+};
+
 class FakeModule final : public OwnModule {
  public:
   Text path() override { return file; }

@@ -47,8 +47,8 @@ TestThread::TestThread()
     : make_text_protection([] { return std::make_unique<CheapProtection>(); }),
       make_error_report([this] { return std::make_unique<ReportOf>(report); }),
       make_ado([this] { return std::make_unique<AdoOf>(ado); }),
-      platform_{settings,    user_language, files,      boxes, host_events, locale, system_platform().cryptography,
-                own_module},
+      platform_{settings,    user_language, files,      boxes, host_events, locale, clock,
+                system_platform().cryptography, own_module},
       outer_(std::exchange(current, this)),
       former_(exchange_thread_state(state_over(platform_))) {}
 

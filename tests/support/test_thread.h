@@ -33,6 +33,7 @@ class TestThread {
   FakeMessageBoxes boxes{log};
   FakeHostEvents host_events{log};
   FakeLocale locale;
+  FakeClock clock;
   FakeModule own_module;
   RecordingAdo ado{log};
   RecordingErrorReport report{log};

@@ -17,14 +17,19 @@ struct Conventions {
   DateOrder order;
   char16_t date_separator;
   char16_t decimal, thousands;
+  TextView currency;
 };
 
 // By locale name, then by language alone; the last row is for every other one.
 constexpr Conventions kConventions[] = {
-    {"es_MX", DateOrder::DayMonthYear, u'/', u'.', u','},  {"en_GB", DateOrder::DayMonthYear, u'/', u'.', u','},
-    {"fr_CH", DateOrder::DayMonthYear, u'.', u'.', u'\''}, {"de_CH", DateOrder::DayMonthYear, u'.', u'.', u'\''},
-    {"es", DateOrder::DayMonthYear, u'/', u',', u'.'},     {"fr", DateOrder::DayMonthYear, u'/', u',', u'\u00a0'},
-    {"de", DateOrder::DayMonthYear, u'.', u',', u'.'},     {"", DateOrder::MonthDayYear, u'/', u'.', u','},
+    {"es_MX", DateOrder::DayMonthYear, u'/', u'.', u',', u"$"},
+    {"en_GB", DateOrder::DayMonthYear, u'/', u'.', u',', u"\u00a3"},
+    {"fr_CH", DateOrder::DayMonthYear, u'.', u'.', u'\'', u"CHF"},
+    {"de_CH", DateOrder::DayMonthYear, u'.', u'.', u'\'', u"CHF"},
+    {"es", DateOrder::DayMonthYear, u'/', u',', u'.', u"\u20ac"},
+    {"fr", DateOrder::DayMonthYear, u'/', u',', u'\u00a0', u"\u20ac"},
+    {"de", DateOrder::DayMonthYear, u'.', u',', u'.', u"\u20ac"},
+    {"", DateOrder::MonthDayYear, u'/', u'.', u',', u"$"},
 };
 
 const Conventions& conventions() {
@@ -95,12 +100,6 @@ bool read_time(const std::vector<Field>& fields, std::size_t first, CalendarTime
   return true;
 }
 
-TextView trimmed(TextView text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == TextView::npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
-
 class EnvironmentLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {
@@ -108,7 +107,8 @@ class EnvironmentLocale final : public Locale {
     if (!fields || fields->empty() || fields->back().after != 0) return std::nullopt;
     const auto blank = std::ranges::find(*fields, u' ', &Field::after);
     const bool starts_with_time = fields->front().after == u':';
-    const auto date_fields = blank == fields->end() ? fields->size() : static_cast<std::size_t>(blank - fields->begin()) + 1;
+    const auto date_fields = blank == fields->end() ? fields->size()
+                                                    : static_cast<std::size_t>(blank - fields->begin()) + 1;
     CalendarTime time{1899, 12, 30, 0, 0, 0};
     if (starts_with_time) return read_time(*fields, 0, time) ? date_from(time) : std::nullopt;
     if (!read_date(*fields, date_fields, time)) return std::nullopt;
@@ -134,12 +134,15 @@ class EnvironmentLocale final : public Locale {
     const TextView between(&conventions().date_separator, 1);
     const Text day = padded(time.day, 2), month = padded(time.month, 2);
     const Text clock = join({padded(time.hour, 2), u":", padded(time.minute, 2), u":", padded(time.second, 2)});
-    const Text calendar = join({day_first ? day : month, between, day_first ? month : day, between, padded(time.year, 4)});
+    const Text calendar = join(
+        {day_first ? day : month, between, day_first ? month : day, between, padded(time.year, 4)});
     if (date.days > -1 && date.days < 1 && date.days != 0) return clock;
     return time.hour + time.minute + time.second == 0 ? calendar : join({calendar, u" ", clock});
   }
 
   char16_t decimal_separator() override { return conventions().decimal; }
+  char16_t thousands_separator() override { return conventions().thousands; }
+  Text currency_symbol() override { return Text(conventions().currency); }
 };
 
 }  // namespace

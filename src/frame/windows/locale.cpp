@@ -3,6 +3,8 @@
 
 #include <oleauto.h>
 
+#include <iterator>
+
 namespace qvr::windows {
 namespace {
 
@@ -14,7 +16,8 @@ class UserLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {
     Date date;
-    if (has_zero(text) || FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days))) return std::nullopt;
+    if (has_zero(text) || FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days)))
+      return std::nullopt;
     return date;
   }
 
@@ -34,10 +37,19 @@ class UserLocale final : public Locale {
     return text;
   }
 
-  char16_t decimal_separator() override {
-    wchar_t separator[8] = L".";
-    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, static_cast<int>(std::size(separator)));
-    return static_cast<char16_t>(separator[0]);
+  char16_t decimal_separator() override { return first_of(LOCALE_SDECIMAL, u'.'); }
+  char16_t thousands_separator() override { return first_of(LOCALE_STHOUSAND, u','); }
+  Text currency_symbol() override { return convention(LOCALE_SCURRENCY); }
+
+ private:
+  static Text convention(LCTYPE which) {
+    wchar_t text[16] = L"";
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, which, text, static_cast<int>(std::size(text)));
+    return text_from(text);
+  }
+  static char16_t first_of(LCTYPE which, char16_t otherwise) {
+    const Text text = convention(which);
+    return text.empty() ? otherwise : text[0];
   }
 };
 

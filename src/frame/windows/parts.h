@@ -15,6 +15,7 @@ Files& files();
 MessageBoxes& message_boxes();
 HostEvents& host_events();
 Locale& locale();
+Clock& clock();
 Cryptography& cryptography();
 OwnModule& own_module();
 

@@ -1,0 +1,42 @@
+// An order made by clicks on columns.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "frame/text.h"
+
+namespace qvr::query {
+
+class AddedOrder {
+ public:
+  bool empty() const { return clicks_.empty(); }
+  void clear() noexcept { *this = {}; }
+
+  // Another click: on the column clicked last it turns the direction round, on any other it makes that column the
+  // first. Throws without having changed anything.
+  void click(std::int16_t column, bool ascending_at_first);
+
+  // "2 DESC,5": positions in the select list, the last clicked first.
+  const Text& list() const { return list_; }
+
+  // "5,-2": columns as they were clicked, descending ones negative; and back, nothing for what is no such text or names
+  // a column beyond the last.
+  Text clicks() const;
+  static std::optional<AddedOrder> from_clicks(TextView text, std::size_t columns);
+
+ private:
+  struct Click {
+    std::int16_t column;
+    bool ascending;
+  };
+
+  void write_list();
+
+  // One for each column: an older click has no effect left.
+  std::vector<Click> clicks_;
+  Text list_;
+};
+
+}  // namespace qvr::query

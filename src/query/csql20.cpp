@@ -1,0 +1,209 @@
+#include "query/csql20.h"
+
+#include "dialect/clauses.h"
+#include "dialect/error_box.h"
+#include "dialect/table_relations.h"
+#include "frame/failure.h"
+#include "frame/global.h"
+#include "frame/thread_state.h"
+#include "query/joins.h"
+
+namespace qvr {
+namespace {
+
+constexpr TextView kClass = u"cSQL20";
+
+template <class Body>
+Text or_no_text(Body&& body) noexcept {
+  return or_default(Text(), std::forward<Body>(body));
+}
+
+}  // namespace
+
+cSQL20::cSQL20() noexcept {
+  InicializarComun();
+  fields_.language = thread_state().idioma.Idioma();
+}
+
+Text cSQL20::Name() const noexcept {
+  return or_no_text([] { return Text(kClass); });
+}
+
+bool cSQL20::Crear(const QueryRequest& request) noexcept {
+  fields_ = {};
+  return dialect::or_shown(false, kClass, u"Crear", [&] {
+    fields_.engine = request.MotorBD;
+    fields_.language = request.Idioma;
+    fields_.name = request.NombreObjeto;
+    fields_.distinct = request.UsarDistinct;
+    fields_.top = request.TOP;
+    if (!request.ColumnasSELECT.is<Array>() || !build_select(request.ColumnasSELECT)) return false;
+    build_from_and_where(request);
+    build_group_by(request.NumColumnasGROUPBY);
+    fields_.having = request.CondicionHAVINGInicial;
+    fields_.order = request.TextoORDERBYInicial;
+    return fields_.created = true;
+  });
+}
+
+bool cSQL20::build_select(const Value& pairs) noexcept {
+  return dialect::or_shown(false, kClass, u"ConstruirSelect", [&] {
+    fields_.columns = query::ColumnList::from_pairs(pairs);
+    const Text limit = dialect::ClausulaTop(fields_.engine, fields_.top);
+    fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
+    fields_.columns_at = fields_.select.size();
+    fields_.select += fields_.columns.select_list(fields_.engine);
+    // Without columns what is cut is the end of the beginning; the engine refuses that, as it should.
+    if (fields_.columns.size() == 0) fields_.select.resize(fields_.select.size() - 2);
+    return true;
+  });
+}
+
+void cSQL20::build_from_and_where(const QueryRequest& request) {
+  const bool relations = request.RelacionTablas.is<Array>();
+  const bool joined = relations && (fields_.engine == dialect::kJet || fields_.engine == dialect::kSqlServer);
+  const Text joins = joined ? query::ConstruirJoins(request.TablasFROM, request.RelacionTablas) : Text();
+  fields_.from = join({u" FROM ", joined ? joins : request.TablasFROM, u" "});
+  fields_.where = request.CondicionWHEREInicial;
+  if (!relations || joined) return;
+  const Text condition = dialect::CondicionWhereRelacionTablas(fields_.engine, request.RelacionTablas);
+  fields_.where = fields_.where.empty() ? condition : join({condition, u" And (", fields_.where, u")"});
+}
+
+void cSQL20::build_group_by(std::int16_t grouped) {
+  if (grouped < 1) return;
+  fields_.grouped = grouped;
+  fields_.group_by = join({u"GROUP BY ", fields_.columns.group_list(static_cast<std::size_t>(grouped))});
+}
+
+cSQL20::Clause cSQL20::where_clause(bool condition_only, Text& limit) const {
+  const TextView original = fields_.where, added = fields_.added_where.text();
+  const TextView keyword = condition_only ? u"" : u"WHERE ";
+  const bool any_original = !trimmed(original).empty(), any_added = !trimmed(added).empty();
+  limit = dialect::CondicionRowNum(fields_.engine, fields_.top, any_original || any_added);
+  if (any_original && any_added) return {keyword, original, u" And ", added, limit};
+  if (any_original) return {keyword, original, u"", u"", limit};
+  if (any_added) return {keyword, u"", u"", added, limit};
+  return limit.empty() ? Clause() : Clause{keyword, u"", u"", u"", limit};
+}
+
+// "and" in small letters here and "And" in the WHERE: both are known to those who look for them.
+cSQL20::Clause cSQL20::having_clause(bool condition_only) const {
+  const TextView original = fields_.having, added = fields_.added_having.text();
+  const TextView keyword = condition_only ? u"" : u"HAVING ";
+  const bool any_original = !trimmed(original).empty(), any_added = !trimmed(added).empty();
+  if (any_original && any_added) return {keyword, original, u" and ", added, u""};
+  if (any_original) return {keyword, original, u"", u"", u""};
+  if (any_added) return {keyword, u"", u"", added, u""};
+  return {};
+}
+
+cSQL20::Clause cSQL20::order_clause(bool list_only) const {
+  const TextView keyword = list_only ? u"" : u"ORDER BY ";
+  if (!fields_.added_order.empty()) return {keyword, fields_.added_order.list(), u"", u"", u""};
+  if (!trimmed(fields_.order).empty()) return {keyword, fields_.order, u"", u"", u""};
+  return {};
+}
+
+Text cSQL20::ParteWhere(bool SoloCondicion) const noexcept {
+  return dialect::or_shown(Text(), kClass, u"ParteWhere", [&] {
+    Text limit;
+    return where_clause(SoloCondicion, limit).text();
+  });
+}
+
+Text cSQL20::ParteHaving(bool SoloCondicion) const noexcept {
+  return dialect::or_shown(Text(), kClass, u"ParteHaving", [&] { return having_clause(SoloCondicion).text(); });
+}
+
+Text cSQL20::ParteOrder(bool SinClausula) const noexcept {
+  return dialect::or_shown(Text(), kClass, u"ParteOrder", [&] { return order_clause(SinClausula).text(); });
+}
+
+// One blank between all parts, also where a part is empty.
+Text cSQL20::SQL() const noexcept {
+  return or_no_text([&] {
+    Text limit;
+    const Clause w = where_clause(false, limit), h = having_clause(false), o = order_clause(false);
+    return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
+                 fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added, u" ", o.keyword, o.original});
+  });
+}
+
+Text cSQL20::SQLSinOrden() const noexcept {
+  return or_no_text([&] {
+    Text limit;
+    const Clause w = where_clause(false, limit), h = having_clause(false);
+    return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
+                 fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added});
+  });
+}
+
+Text cSQL20::SQLOriginal() const noexcept {
+  return or_no_text([&] {
+    const Fields& f = fields_;
+    return join({f.select, u" ", f.from, u" ", f.where.empty() ? u"" : u"WHERE ", f.where, u" ", f.group_by, u" ",
+                 f.having.empty() ? u"" : u"HAVING ", f.having, u" ", f.order.empty() ? u"" : u"ORDER BY ", f.order});
+  });
+}
+
+Text cSQL20::SQLOriginalSinOrden() const noexcept {
+  return or_no_text([&] {
+    const Fields& f = fields_;
+    return join({f.select, u" ", f.from, u" ", f.where.empty() ? u"" : u"WHERE ", f.where, u" ", f.group_by, u" ",
+                 f.having.empty() ? u"" : u"HAVING ", f.having});
+  });
+}
+
+// Throws failure 5 when no column has this name.
+std::size_t cSQL20::existing_column(TextView field) const {
+  const std::size_t position = fields_.columns.position_of(field);
+  if (position == 0) throw RuntimeFailure(failure_number::kInvalidArgument);
+  return position;
+}
+
+Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
+  if (!fields_.created) return {};
+  const Text procedure = or_no_text([&] { return join({u"TipoCampo(", NombreCampoRS, u")"}); });
+  return dialect::or_shown(Text(), kClass, procedure, [&] {
+    const Text& type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
+    if (type.empty()) throw RuntimeFailure(failure_number::kInvalidArgument);
+    return type;
+  });
+}
+
+Text cSQL20::ExpresionOriginal(TextView NombreCampoRS) const noexcept {
+  if (!fields_.created) return {};
+  return dialect::or_shown(Text(), kClass, u"ExpresionOriginal", [&] {
+    return fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).expression;
+  });
+}
+
+std::int16_t cSQL20::NumColumna(TextView NombreCampoRS) const noexcept {
+  const std::size_t position = fields_.columns.position_of(NombreCampoRS);
+  return position > INT16_MAX ? std::int16_t{0} : static_cast<std::int16_t>(position);
+}
+
+std::int16_t cSQL20::NumColumnas() const noexcept {
+  const std::size_t count = fields_.created ? fields_.columns.size() : 0;
+  return count > INT16_MAX ? std::int16_t{0} : static_cast<std::int16_t>(count);
+}
+
+Text cSQL20::CriterioActual() const noexcept {
+  return or_no_text([&] { return fields_.criterion; });
+}
+
+Text cSQL20::Tag() const noexcept {
+  return or_no_text([&] { return fields_.tag; });
+}
+
+void cSQL20::Tag(TextView value) noexcept {
+  or_default(false, [&] { return fields_.tag = Text(value), true; });
+}
+
+void cSQL20::Idioma(std::int32_t value) noexcept {
+  fields_.language = value;
+  or_default(false, [&] { return thread_state().idioma.Idioma(value), true; });
+}
+
+}  // namespace qvr

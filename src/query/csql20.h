@@ -1,0 +1,106 @@
+// A SELECT statement as its parts: those that it was created with beside what was added since.
+#pragma once
+
+#include "query/added_order.h"
+#include "query/column_list.h"
+#include "query/condition_chain.h"
+#include "query/isql20.h"
+
+namespace qvr {
+
+// Unexpected failures are shown to the user in the library's error box; no member fails.
+class cSQL20 final : public iSQL20 {
+ public:
+  cSQL20() noexcept;
+
+  Text Name() const noexcept;
+
+  // Members of this class only. The added HAVING is narrowed like the WHERE, with the same criterion.
+  bool AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept;
+  // New conditions as the query's own; what was added to the old ones goes.
+  void CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondicionHaving) noexcept;
+  // The current clauses, with their keyword or as conditions alone.
+  Text ParteWhere(bool SoloCondicion) const noexcept;
+  Text ParteHaving(bool SoloCondicion) const noexcept;
+  // The column's expression as it was given.
+  Text ExpresionOriginal(TextView NombreCampoRS) const noexcept;
+
+  Text CriterioActualCompleto() const noexcept override;
+  void CriterioActualCompleto(TextView value) noexcept override;
+  void AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept override;
+  bool AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept override;
+  bool AmpliarOrden(std::int16_t NuevaColumna) noexcept override;
+  void CambiaOrden(TextView NuevoOrden) noexcept override;
+  bool Creado() const noexcept override { return fields_.created; }
+  bool Crear(const QueryRequest& request) noexcept override;
+  bool CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept override;
+  Text TextoDefinicion() const noexcept override;
+  Text CriterioActual() const noexcept override;
+  bool InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept override;
+  Text ParteOrder(bool SinClausula) const noexcept override;
+  void RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) noexcept override;
+  Text SQL() const noexcept override;
+  Text SQLOriginal() const noexcept override;
+  Text SQLOriginalSinOrden() const noexcept override;
+  Text SQLSinOrden() const noexcept override;
+  Text TipoCampo(TextView NombreCampoRS) const noexcept override;
+  std::int16_t NumColumna(TextView NombreCampoRS) const noexcept override;
+  std::int16_t NumColumnas() const noexcept override;
+  Text Tag() const noexcept override;
+  void Tag(TextView value) noexcept override;
+  void TOP(std::int32_t value) noexcept override;
+  std::int32_t TOP() const noexcept override { return fields_.top; }
+  void Idioma(std::int32_t value) noexcept override;
+  std::int32_t Idioma() const noexcept override { return fields_.language; }
+  void MotorBD(dialect::Engine value) noexcept override { fields_.engine = value; }
+  dialect::Engine MotorBD() const noexcept override { return fields_.engine; }
+
+ private:
+  struct Fields {
+    Text name;
+    Text select;             // with keyword
+    std::size_t columns_at = 0;  // where the columns begin in it
+    query::ColumnList columns;
+    Text from;               // with keyword and a blank at both ends
+    Text where;              // without keyword, as the others
+    Text group_by;           // with keyword
+    std::int16_t grouped = 0;
+    Text having;
+    Text order;
+    bool distinct = false;
+    Text tag;
+    std::int32_t top = 0;
+    dialect::Engine engine = 0;
+    std::int32_t language = 0;
+    query::ConditionChain added_where;
+    Text criterion;
+    query::ConditionChain added_having;
+    query::AddedOrder added_order;
+    bool created = false;
+  };
+
+  // A clause as it is now, in pieces.
+  struct Clause {
+    TextView keyword, original, joiner, added, limit;
+    Text text() const { return join({keyword, original, joiner, added, limit}); }
+  };
+  Clause where_clause(bool condition_only, Text& limit) const;
+  Clause having_clause(bool condition_only) const;
+  Clause order_clause(bool list_only) const;
+
+  bool build_select(const Value& pairs) noexcept;
+  void build_from_and_where(const QueryRequest& request);
+  void build_group_by(std::int16_t grouped);
+  void insert_top(std::int32_t value);
+  void replace_top(std::int32_t value);
+
+  bool extend(query::ConditionChain& chain, TextView condition, TextView criterion);
+  std::size_t existing_column(TextView field) const;
+  Fields read_definition(TextView text) const;
+  // Every field as in a new object, but for what belongs to the object's holder.
+  void clear_definition() noexcept;
+
+  Fields fields_;
+};
+
+}  // namespace qvr

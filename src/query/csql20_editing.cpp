@@ -1,0 +1,162 @@
+// What is added to a query after its creation, taken away again or made part of it.
+#include <utility>
+
+#include "dialect/clauses.h"
+#include "dialect/error_box.h"
+#include "frame/failure.h"
+#include "frame/thread_state.h"
+#include "query/csql20.h"
+#include "query/search_text.h"
+
+namespace qvr {
+namespace {
+
+constexpr TextView kClass = u"cSQL20";
+constexpr std::size_t kAfterSelect = 7, kAfterDistinct = 16;
+
+// Takes a text back to its length when what depends on it fails.
+class Extended {
+ public:
+  explicit Extended(Text& text) : text_(text), before_(text.size()) {}
+  ~Extended() { text_.resize(before_); }
+  Extended(const Extended&) = delete;
+  Extended& operator=(const Extended&) = delete;
+  void keep() { before_ = text_.size(); }
+
+ private:
+  Text& text_;
+  std::size_t before_;
+};
+
+Text top_mark(std::int32_t top) { return join({u" TOP ", decimal(top), u" "}); }
+
+}  // namespace
+
+bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView criterion) {
+  Extended readable(fields_.criterion);
+  if (!criterion.empty()) {
+    if (!fields_.criterion.empty()) fields_.criterion += join({u" ", thread_state().idioma.CI(MsgY), u" "});
+    fields_.criterion += criterion;
+  }
+  if (!chain.add(condition)) return false;
+  readable.keep();
+  return true;
+}
+
+bool cSQL20::AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept {
+  return dialect::or_shown(false, kClass, u"AmpliarCondicionWhere",
+                           [&] { return extend(fields_.added_where, Condicion, Criterio); });
+}
+
+bool cSQL20::AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept {
+  return dialect::or_shown(false, kClass, u"AmpliarCondicionHaving",
+                           [&] { return extend(fields_.added_having, Condicion, Criterio); });
+}
+
+bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept {
+  return or_default(false, [&] {
+    const Text type = TipoCampo(NombreCampoRS);  // tells the user when there is no such column
+    if (type.empty()) return false;
+    const std::size_t position = fields_.columns.position_of(NombreCampoRS);
+    const query::Column& column = fields_.columns.at(static_cast<std::int64_t>(position));
+    const TextView label = Criterio.empty() ? TextView(column.field) : Criterio;
+    const auto found = query::interpret_search(fields_.engine, {column.expression, type[0]}, TextoBusqueda, label);
+    if (!found) return false;
+    // In a grouped query the columns behind the grouped ones are totals: no WHERE can compare them.
+    const bool total = fields_.grouped > 0 && position > static_cast<std::size_t>(fields_.grouped);
+    return total ? AmpliarCondicionHaving(found->condition, found->criterion)
+                 : AmpliarCondicionWhere(found->condition, found->criterion);
+  });
+}
+
+void cSQL20::CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondicionHaving) noexcept {
+  or_default(false, [&] {
+    Text where(NuevaCondicionWhere), having(NuevaCondicionHaving);
+    fields_.where = std::move(where);
+    fields_.having = std::move(having);
+    RestauraOriginal(true, false);
+    return true;
+  });
+}
+
+void cSQL20::CambiaOrden(TextView NuevoOrden) noexcept {
+  or_default(false, [&] {
+    fields_.order = Text(NuevoOrden);
+    fields_.added_order.clear();
+    return true;
+  });
+}
+
+void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) noexcept {
+  if (RestaurarWhereYHaving) {
+    fields_.added_where.clear();
+    fields_.added_having.clear();
+    fields_.criterion.clear();
+  }
+  if (RestaurarOrder) fields_.added_order.clear();
+}
+
+// The criterion stays: it still describes what was adopted.
+void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
+  or_default(false, [&] {
+    if (AdoptarWhere) {
+      Text limit;
+      fields_.where = where_clause(true, limit).text();
+      fields_.added_where.clear();
+    }
+    if (AdoptarHaving) {
+      fields_.having = having_clause(true).text();
+      fields_.added_having.clear();
+    }
+    if (AdoptarOrder) {
+      fields_.order = order_clause(true).text();
+      fields_.added_order.clear();
+    }
+    return true;
+  });
+}
+
+bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
+  return dialect::or_shown(false, kClass, u"AmpliarOrden", [&] {
+    const Text& type = fields_.columns.at(NuevaColumna).type;
+    // Dates begin with the newest; memos cannot be sorted.
+    if (!equal_no_case(type, u"M")) fields_.added_order.click(NuevaColumna, !equal_no_case(type, u"F"));
+    return false;
+  });
+}
+
+void cSQL20::TOP(std::int32_t value) noexcept {
+  or_default(false, [&] {
+    if (!fields_.created || value < 0) return false;
+    if (fields_.top > 0) {
+      replace_top(value);
+    } else if (value > 0 && fields_.top == 0) {
+      insert_top(value);
+    }
+    return true;
+  });
+}
+
+// A limit written into the WHERE by its author changes along, but does not go.
+void cSQL20::replace_top(std::int32_t value) {
+  const Text old_mark = top_mark(fields_.top), new_mark = value > 0 ? top_mark(value) : Text(u" ");
+  std::size_t columns_at = fields_.columns_at;
+  Text select = replace_all_no_case(fields_.select, old_mark, new_mark, &columns_at);
+  if (value > 0) {
+    const Text old_limit = join({u" ROWNUM<=", decimal(fields_.top), u" "});
+    fields_.where = replace_all_no_case(fields_.where, old_limit, join({u" ROWNUM<=", decimal(value), u" "}));
+  }
+  fields_.select = std::move(select);
+  fields_.columns_at = columns_at;
+  fields_.top = value;
+}
+
+void cSQL20::insert_top(std::int32_t value) {
+  const Text limit = dialect::ClausulaTop(fields_.engine, value);
+  const std::size_t at = std::min(fields_.distinct ? kAfterDistinct : kAfterSelect, fields_.select.size());
+  fields_.select.insert(at, limit);
+  fields_.columns_at += limit.size();
+  fields_.top = value;
+}
+
+}  // namespace qvr

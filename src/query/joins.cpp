@@ -1,0 +1,73 @@
+#include "query/joins.h"
+
+#include "dialect/lists.h"
+#include "frame/value_convert.h"
+
+namespace qvr::query {
+namespace {
+
+bool adds_equality(TextView letter) { return equal_no_case(letter, u"A"); }
+
+// "Clientes C" for "C".
+bool has_alias(TextView item, TextView alias) {
+  return item.size() > alias.size() + 1 && item[item.size() - alias.size() - 1] == u' ' &&
+         equal_no_case(item.substr(item.size() - alias.size()), alias);
+}
+
+// Each item of a comma-separated list, trimmed, until one is accepted.
+template <class Accept>
+TextView first_item(TextView list, Accept&& accept) {
+  for (std::size_t from = 0; from <= list.size();) {
+    const std::size_t comma = std::min(list.find(u',', from), list.size());
+    const TextView item = trimmed(list.substr(from, comma - from));
+    if (accept(item)) return item;
+    from = comma + 1;
+  }
+  return {};
+}
+
+}  // namespace
+
+TextView PalabraJoin(TextView letter) {
+  if (equal_no_case(letter, u"I")) return u" INNER JOIN ";
+  if (equal_no_case(letter, u"L")) return u" LEFT JOIN ";
+  if (equal_no_case(letter, u"R")) return u" RIGHT JOIN ";
+  return {};
+}
+
+TextView TablaDeCampo(TextView TablasFROM, TextView field) {
+  const std::size_t dot = field.rfind(u'.');
+  if (dot == TextView::npos || dot == 0) return {};
+  const TextView qualifier = trimmed(field.substr(0, dot));
+  bool named = false;
+  first_item(TablasFROM, [&](TextView item) { return named = equal_no_case(item, qualifier); });
+  if (named) return qualifier;
+  const TextView aliased = first_item(TablasFROM, [&](TextView item) { return has_alias(item, qualifier); });
+  return aliased.empty() ? qualifier : aliased;
+}
+
+Text ConstruirJoins(TextView TablasFROM, const Value& RelacionTablas) {
+  const Array& triples = dialect::list_in(RelacionTablas);
+  Text joins;
+  std::size_t wrapped = 0;  // opening parentheses all stand at the very beginning
+  const std::int64_t end = triples.lower + static_cast<std::int64_t>(triples.items.size());
+  for (std::int64_t i = triples.lower; i < end; i += 3) {
+    const Text first = to_text(dialect::element_at(triples, i)), second = to_text(dialect::element_at(triples, i + 1));
+    const Text letter = to_text(dialect::element_at(triples, i + 2));
+    if (adds_equality(letter)) {
+      joins.append(u" AND ").append(first).append(u"=").append(second);
+      continue;
+    }
+    if (joins.empty()) {
+      joins = TablaDeCampo(TablasFROM, first);
+    } else {
+      joins += u")";
+      ++wrapped;
+    }
+    joins.append(PalabraJoin(letter)).append(TablaDeCampo(TablasFROM, second));
+    joins.append(u" ON ").append(first).append(u"=").append(second);
+  }
+  return joins.insert(0, wrapped, u'(');
+}
+
+}  // namespace qvr::query

@@ -1,0 +1,225 @@
+// How `Crear` puts a statement together, and what it does with what it cannot use.
+#include "query/query_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+using Csql20CreateTest = QueryTest;
+
+TEST_F(Csql20CreateTest, DescriptorsNameTheColumns) {
+  struct Row {
+    Text expression, descriptor, field, type;
+    TextView alias;  // of Jet and SQL Server
+    TextView oracle_alias;
+  };
+  const Row kRows[] = {
+      {u"Cli.Nombre", u"T", u"Cli.Nombre", u"T", u"", u""},
+      {u"Cli.Nombre", u"T+", u"Nombre", u"T", u"", u""},
+      {u"a.b.Nombre", u"T+", u"Nombre", u"T", u"", u""},
+      {u"Nombre", u"T+", u"Nombre", u"T", u"", u""},
+      {u"Cli.Nombre", u"T+x>y", u"Nombre", u"T", u"", u""},
+      {u"Sum(Importe)", u"N>Total", u"Total", u"N", u" As [Total]", u" \"Total\""},
+      {u"Sum(Importe)", u"N> un total", u" un total", u"N", u" As [ un total]", u" \" un total\""},
+      {u"Sum(P.Imp)", u"N>+.>", u"+.>", u"N", u" As [+.>]", u" \"+.>\""},
+      {u"Cli.Nombre", u"Tx", u"Cli.Nombre", u"T", u"", u""},
+      {u"Cli.Nombre", u"T ", u"Cli.Nombre", u"T", u"", u""},
+      {u"Cli.Nombre", u"+Alias", u"Cli.Nombre", u"+", u"", u""},
+      {u"Cli.A\u00f1o", u"\u00d1+", u"A\u00f1o", u"\u00d1", u"", u""},
+      {u"Cli.", u"T+", u"", u"T", u"", u""},
+      {u"a", u"T>", u"", u"T", u" As []", u" \"\""},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(to_utf8(join({row.expression, u" ", row.descriptor})));
+    for (const Engine engine : kEngines) {
+      SCOPED_TRACE(engine);
+      cSQL20 query;
+      ASSERT_TRUE(query.Crear(request(engine, list({row.expression, row.descriptor}))));
+      const TextView alias = engine == kOracle ? row.oracle_alias : engine == kNoEngine ? u"" : row.alias;
+      EXPECT_EQ(query.SQLOriginal(), join({u"SELECT ", row.expression, alias, u"  FROM Clientes     "}));
+      EXPECT_EQ(query.NumColumna(row.field), 1);
+      EXPECT_EQ(query.TipoCampo(row.field), row.type);
+      EXPECT_EQ(query.ExpresionOriginal(row.field), row.expression);
+    }
+  }
+}
+
+TEST_F(Csql20CreateTest, AColumnWithoutADescriptorHasNoType) {
+  cSQL20 query;
+  ASSERT_TRUE(query.Crear(request(kJet, list({u"Nombre", u"", Empty{}, Empty{}, 5, u"N"}))));
+  EXPECT_EQ(query.SQLOriginal(), u"SELECT Nombre, , 5  FROM Clientes     ");
+  EXPECT_EQ(query.NumColumna(u"Nombre"), 1);
+  EXPECT_EQ(query.NumColumna(u""), 2);
+  EXPECT_EQ(query.NumColumna(u"5"), 3);
+  EXPECT_EQ(query.ExpresionOriginal(u"nombre"), u"Nombre");
+  EXPECT_EQ(showing({failed(u"TipoCampo(nombre)", 5)}, [&] { return query.TipoCampo(u"nombre"); }), u"");
+}
+
+TEST_F(Csql20CreateTest, DistinctAndTheLimitStandBeforeTheColumns) {
+  struct Row {
+    bool distinct;
+    std::int32_t top;
+    Text jet_and_sql_server, others;
+  };
+  const Row kRows[] = {
+      {false, 0, u"SELECT Nombre", u"SELECT Nombre"},
+      {true, 0, u"SELECT DISTINCT Nombre", u"SELECT DISTINCT Nombre"},
+      {false, 10, u"SELECT  TOP 10 Nombre", u"SELECT Nombre"},
+      {true, 10, u"SELECT DISTINCT  TOP 10 Nombre", u"SELECT DISTINCT Nombre"},
+      {true, INT32_MAX, u"SELECT DISTINCT  TOP 2147483647 Nombre", u"SELECT DISTINCT Nombre"},
+      {false, -1, u"SELECT Nombre", u"SELECT Nombre"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(to_utf8(row.jet_and_sql_server));
+    for (const Engine engine : kEngines) {
+      QueryRequest wanted = plain(engine);
+      wanted.UsarDistinct = row.distinct;
+      wanted.TOP = row.top;
+      cSQL20 query;
+      ASSERT_TRUE(query.Crear(wanted));
+      const bool written = engine == kJet || engine == kSqlServer;
+      EXPECT_EQ(query.SQLOriginal(), (written ? row.jet_and_sql_server : row.others) + u"  FROM Clientes     ");
+      EXPECT_EQ(query.TOP(), row.top);
+      EXPECT_EQ(query.MotorBD(), engine);
+    }
+  }
+}
+
+TEST_F(Csql20CreateTest, GroupsByTheFirstColumns) {
+  struct Row {
+    std::int16_t count;
+    TextView group;
+  };
+  constexpr Row kRows[] = {{0, u""},
+                           {-1, u""},
+                           {1, u"GROUP BY C.Nombre"},
+                           {2, u"GROUP BY C.Nombre, Year(C.Alta)"},
+                           {3, u"GROUP BY C.Nombre, Year(C.Alta), C.Pais"}};
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.count);
+    QueryRequest wanted = request(kJet, list({u"C.Nombre", u"T+", u"Year(C.Alta)", u"N>A", u"C.Pais", u"T+"}, 1));
+    wanted.NumColumnasGROUPBY = row.count;
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(wanted));
+    EXPECT_EQ(query.SQLOriginal(),
+              join({u"SELECT C.Nombre, Year(C.Alta) As [A], C.Pais  FROM Clientes   ", row.group, u"  "}));
+  }
+}
+
+TEST_F(Csql20CreateTest, MoreGroupsThanColumnsFail) {
+  QueryRequest wanted = plain(kJet);
+  wanted.NumColumnasGROUPBY = 2;
+  cSQL20 query;
+  EXPECT_FALSE(showing({failed(u"Crear", 9)}, [&] { return query.Crear(wanted); }));
+  EXPECT_FALSE(query.Creado());
+  EXPECT_EQ(query.NumColumnas(), 0);
+  EXPECT_EQ(query.NumColumna(u"nombre"), 1) << "the columns are known, whatever became of the rest";
+  EXPECT_EQ(query.TipoCampo(u"nombre"), u"");
+  EXPECT_EQ(query.ExpresionOriginal(u"nombre"), u"");
+}
+
+// Without a box: nothing failed, there is only nothing to make a query from.
+TEST_F(Csql20CreateTest, RefusesColumnsThatAreNoArray) {
+  for (const Value& columns : {Value(u"Nombre"), Value(Empty{}), Value(Missing{}), Value(Null{}), Value(5), object()}) {
+    QueryRequest wanted = request(kOracle, columns);
+    wanted.TOP = 7;
+    wanted.Idioma = 3;
+    cSQL20 query;
+    EXPECT_FALSE(query.Crear(wanted));
+    EXPECT_FALSE(query.Creado());
+    EXPECT_EQ(query.MotorBD(), kOracle);
+    EXPECT_EQ(query.TOP(), 7);
+    EXPECT_EQ(query.Idioma(), 3);
+    EXPECT_EQ(query.TextoDefinicion(), u"");
+  }
+}
+
+TEST_F(Csql20CreateTest, TellsWhenTheColumnsCannotBeRead) {
+  struct Row {
+    const char* name;
+    Value columns;
+    std::int32_t number;
+  };
+  const Row kRows[] = {
+      {"a column without descriptor at the end", list({u"a", u"T", u"b"}), 9},
+      {"the same with a lower bound", list({u"a", u"T", u"b"}, -4), 9},
+      {"one element", list({u"a"}), 9},
+      {"two dimensions", square({u"a", u"T"}), 9},
+      {"an array without bounds", shapeless(), 9},
+      {"an object as expression", list({object(), u"T"}), 13},
+      {"an object as descriptor", list({u"a", object()}), 13},
+      {"Null as expression", list({Null{}, u"T"}), 94},
+      {"Null as descriptor", list({u"a", u"T", u"b", Null{}}), 94},
+      {"an array as expression", list({list({u"a"}), u"T"}), 13},
+      {"a missing descriptor", list({u"a", Missing{}}), 13},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.name);
+    for (const Engine engine : kEngines) {
+      cSQL20 query;
+      const auto create = [&] { return query.Crear(request(engine, row.columns)); };
+      EXPECT_FALSE(showing({failed(u"ConstruirSelect", row.number)}, create));
+      EXPECT_FALSE(query.Creado());
+    }
+  }
+}
+
+TEST_F(Csql20CreateTest, WithoutColumnsTheSelectIsCut) {
+  cSQL20 query;
+  EXPECT_TRUE(query.Crear(request(kJet, list({}))));
+  EXPECT_TRUE(query.Creado());
+  EXPECT_EQ(query.NumColumnas(), 0);
+  EXPECT_EQ(query.SQLOriginal(), u"SELEC  FROM Clientes     ");
+}
+
+TEST_F(Csql20CreateTest, AnyLowerBoundWillDo) {
+  for (const std::int32_t lower : {-7, 0, 1, 100, INT32_MAX - 4}) {
+    SCOPED_TRACE(lower);
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(request(kJet, list({u"a", u"T", u"b", u"N"}, lower))));
+    EXPECT_EQ(query.SQLOriginal(), u"SELECT a, b  FROM Clientes     ");
+  }
+}
+
+TEST_F(Csql20CreateTest, BeginsAnewEachTime) {
+  cSQL20 query;
+  QueryRequest first = full(kSqlServer);
+  first.TOP = 5;
+  first.UsarDistinct = true;
+  first.Idioma = 3;
+  ASSERT_TRUE(query.Crear(first));
+  query.Tag(u"mi nota");
+  EXPECT_TRUE(query.AmpliarCondicionWhere(u"a=1", u"uno"));
+  EXPECT_TRUE(query.AmpliarCondicionHaving(u"b=2", u"dos"));
+  EXPECT_FALSE(query.AmpliarOrden(1));
+  ASSERT_TRUE(query.Crear(plain(kJet)));
+  EXPECT_EQ(query.SQL(), u"SELECT Nombre  FROM Clientes     ");
+  EXPECT_EQ(query.CriterioActual(), u"");
+  EXPECT_EQ(query.Tag(), u"");
+  EXPECT_EQ(query.Idioma(), 0);
+  EXPECT_EQ(query.NumColumnas(), 1);
+  EXPECT_FALSE(query.Crear(request(kJet, u"Nombre")));
+  EXPECT_FALSE(query.Creado());
+  EXPECT_EQ(query.SQL(), u"     ");
+}
+
+TEST_F(Csql20CreateTest, TellsInTheLanguageOfTheThread) {
+  struct Row {
+    TextView language, box;
+  };
+  constexpr Row kRows[] = {
+      {u"0", u"Objeto: cSQL20\r\nM\u00e9todo: ConstruirSelect\r\nError 9: Subscript out of range"},
+      {u"1", u"Object: cSQL20\r\nMethod: ConstruirSelect\r\nError 9: Subscript out of range"},
+      {u"3", u"Objet: cSQL20\r\nM\u00e9thode: ConstruirSelect\r\nErreur 9: Subscript out of range"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(to_utf8(row.language));
+    thread.load_language(row.language);
+    cSQL20 query;
+    QueryRequest wanted = request(kJet, list({u"a"}));
+    wanted.Idioma = 2;  // of the object: the boxes are the thread's
+    EXPECT_FALSE(showing({Text(row.box)}, [&] { return query.Crear(wanted); }));
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests
