@@ -1,0 +1,42 @@
+// One piece of a search: a value, a comparison, a range, a pattern or a test for nothing, maybe negated.
+#pragma once
+
+#include "dialect/engine.h"
+#include "query/search_atoms.h"
+#include "query/search_operands.h"
+
+namespace qvr::query {
+
+class AtomParser {
+ public:
+  AtomParser(SearchType type, const dialect::Engine& engine) : type_(type), engine_(engine) {}
+
+  std::optional<Alternatives> parse(TextView piece) const;
+
+ private:
+  using Found = std::optional<Alternatives>;
+
+  Found parse_positive(TextView text) const;
+  Found nothing_or_something(TextView text) const;
+  Found compared(Comparison comparison, TextView operand) const;
+  Found compared_text(Comparison comparison, TextView operand) const;
+  Found compared_number(Comparison comparison, TextView operand) const;
+  Found compared_date(Comparison comparison, TextView operand) const;
+  Found compared_truth(Comparison comparison, TextView operand) const;
+  Found range(TextView text) const;
+  bool has_two_ends(TextView text) const;
+  Found between(TextView first, TextView last) const;
+  Found between_texts(TextView first, TextView last) const;
+  Found between_dates(TextView first, TextView last) const;
+  Found pattern(TextView operand) const;
+  Found words(TextView text) const;
+  bool can_be_compared() const;
+
+  SearchType type_;
+  const dialect::Engine& engine_;
+};
+
+// What holds where none of the alternatives does; what is null belongs to it.
+Alternatives negated(const Alternatives& alternatives);
+
+}  // namespace qvr::query

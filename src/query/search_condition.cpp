@@ -1,0 +1,119 @@
+#include "query/search_condition.h"
+
+#include "dialect/literals.h"
+#include "query/search_operands.h"
+
+namespace qvr::query {
+namespace {
+
+using dialect::Engine;
+
+TextView sign_of(Comparison comparison) {
+  switch (comparison) {
+    case Comparison::Equal: return u"=";
+    case Comparison::Different: return u"<>";
+    case Comparison::Less: return u"<";
+    case Comparison::LessOrEqual: return u"<=";
+    case Comparison::Greater: return u">";
+    default: return u">=";
+  }
+}
+
+class ConditionWriter {
+ public:
+  ConditionWriter(const Engine& engine, SearchType type, TextView expression)
+      : engine_(engine),
+        expression_(expression),
+        upper_(type == SearchType::Text ? engine != dialect::kJet
+                                        : type == SearchType::Memo && engine == dialect::kOracle),
+        like_only_(type == SearchType::Memo && engine != dialect::kJet) {}
+
+  Text operator()(const IsNull& atom) const { return in_not(atom.negated, is_null()); }
+
+  // To Oracle an empty text is none.
+  Text operator()(const IsEmpty& atom) const {
+    if (engine_ == dialect::kOracle) return in_not(atom.negated, is_null());
+    const Text empty = join({expression_, like_only_ ? u" LIKE " : u"=", literal(u"")});
+    return in_not(atom.negated, join({empty, u" Or ", is_null()}));
+  }
+
+  Text operator()(const CompareText& atom) const {
+    const bool different = atom.comparison == Comparison::Different;
+    if (like_only_) return (*this)(Like{different, Operand::literal(atom.operand.text())});
+    const Text compared = join({subject(), sign_of(atom.comparison), in_upper(literal(atom.operand.text()))});
+    if (different) return or_null(compared);
+    if (!atom.and_what_begins_so) return compared;
+    Operand begins = Operand::literal(atom.operand.text());
+    begins.append_wildcard(u'*');
+    return join({u"(", compared, u" Or ", like(begins, false), u")"});
+  }
+
+  Text operator()(const Like& atom) const {
+    return atom.negated ? or_null(like(atom.pattern, true)) : like(atom.pattern, false);
+  }
+
+  Text operator()(const CompareNumber& atom) const {
+    const TextView blank = atom.digits.starts_with(u'-') ? u"" : u" ";
+    const Text compared = join({expression_, sign_of(atom.comparison), blank, atom.digits});
+    return atom.comparison == Comparison::Different ? or_null(compared) : compared;
+  }
+
+  Text operator()(const CompareDate& atom) const {
+    const auto beside = [&](TextView sign, const Moment& moment) {
+      const Date date = date_of(moment);
+      const Text written = atom.whole_day ? dialect::FechaSQL(engine_, date) : dialect::FechaHoraSQL(engine_, date);
+      return join({expression_, sign, written});
+    };
+    switch (atom.comparison) {
+      case Comparison::Equal: return join({beside(u">=", atom.from), u" And ", beside(u"<", atom.to)});
+      case Comparison::Different: return or_null(join({beside(u"<", atom.from), u" Or ", beside(u">=", atom.to)}));
+      case Comparison::Less: return beside(u"<", atom.from);
+      case Comparison::LessOrEqual: return beside(u"<", atom.to);
+      case Comparison::Greater: return beside(u">=", atom.to);
+      default: return beside(u">=", atom.from);
+    }
+  }
+
+  Text operator()(const CompareTruth& atom) const {
+    const bool truth = atom.truth != atom.negated;
+    const Text tested = truth ? dialect::sqlEsTrue(expression_) : dialect::sqlEsFalse(expression_);
+    return atom.negated ? or_null(tested) : tested;
+  }
+
+ private:
+  Text is_null() const { return join({expression_, u" Is Null"}); }
+  Text or_null(TextView condition) const { return join({u"(", condition, u" Or ", expression_, u" Is Null)"}); }
+  static Text in_not(bool negated, TextView condition) { return join({negated ? u"Not (" : u"(", condition, u")"}); }
+
+  Text literal(TextView text) const {
+    return join({engine_ == dialect::kSqlServer ? u"N" : u"", dialect::ComillasSQL(text)});
+  }
+  Text subject() const { return upper_ ? join({u" UPPER(", expression_, u")"}) : Text(expression_); }
+  Text in_upper(Text operand) const { return upper_ ? join({u"UPPER(", operand, u")"}) : std::move(operand); }
+
+  Text like(const Operand& pattern, bool negated) const {
+    const PatternText written = pattern_text(engine_, pattern);
+    return join({subject(), negated ? u" NOT LIKE " : u" LIKE ", in_upper(written.literal), written.escape});
+  }
+
+  const Engine& engine_;
+  TextView expression_;
+  bool upper_, like_only_;
+};
+
+}  // namespace
+
+Text search_condition(const Engine& engine, SearchType type, TextView expression, const Alternatives& search) {
+  const ConditionWriter writer(engine, type, expression);
+  Text condition;
+  for (const Alternative& alternative : search) {
+    if (&alternative != search.data()) condition += u" Or ";
+    for (const Atom& atom : alternative) {
+      if (&atom != alternative.data()) condition += u" And ";
+      condition += std::visit(writer, atom);
+    }
+  }
+  return condition;
+}
+
+}  // namespace qvr::query

@@ -1,0 +1,61 @@
+// What a negated piece of a search means.
+#include <algorithm>
+
+#include "query/search_atom_parser.h"
+
+namespace qvr::query {
+namespace {
+
+Comparison opposite(Comparison comparison) {
+  switch (comparison) {
+    case Comparison::Equal: return Comparison::Different;
+    case Comparison::Different: return Comparison::Equal;
+    case Comparison::Less: return Comparison::GreaterOrEqual;
+    case Comparison::LessOrEqual: return Comparison::Greater;
+    case Comparison::Greater: return Comparison::LessOrEqual;
+    default: return Comparison::Less;
+  }
+}
+
+// An opposite as an alternative of its own. Equality and patterns count null among what is different by themselves; for
+// the others `null_too` says that it has to be added.
+struct Opposite {
+  bool& null_too;
+
+  Alternative operator()(const IsNull& atom) const { return {IsNull{!atom.negated}}; }
+  Alternative operator()(const IsEmpty& atom) const { return {IsEmpty{!atom.negated}}; }
+  Alternative operator()(const Like& atom) const { return {Like{!atom.negated, atom.pattern}}; }
+  Alternative operator()(const CompareTruth& atom) const { return {CompareTruth{!atom.negated, atom.truth}}; }
+  Alternative operator()(CompareNumber atom) const { return turned(std::move(atom)); }
+  Alternative operator()(CompareDate atom) const { return turned(std::move(atom)); }
+  Alternative operator()(const CompareText& atom) const {
+    CompareText other{opposite(atom.comparison), atom.operand};
+    note(atom.comparison);
+    if (!atom.and_what_begins_so) return {std::move(other)};
+    Operand begins = atom.operand;
+    begins.append_wildcard(u'*');
+    return {std::move(other), Like{true, std::move(begins)}};
+  }
+
+  template <class Compared>
+  Alternative turned(Compared atom) const {
+    note(atom.comparison);
+    atom.comparison = opposite(atom.comparison);
+    return {std::move(atom)};
+  }
+  void note(Comparison comparison) const {
+    if (comparison != Comparison::Equal && comparison != Comparison::Different) null_too = true;
+  }
+};
+
+}  // namespace
+
+Alternatives negated(const Alternatives& alternatives) {
+  Alternatives found;
+  bool null_too = false;
+  for (const Atom& atom : alternatives.front()) found.push_back(std::visit(Opposite{null_too}, atom));
+  if (null_too) found.push_back({IsNull{false}});
+  return found;
+}
+
+}  // namespace qvr::query

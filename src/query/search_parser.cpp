@@ -1,0 +1,69 @@
+#include "query/search_parser.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+
+#include "query/search_atom_parser.h"
+#include "query/search_split.h"
+
+namespace qvr::query {
+namespace {
+
+// A negation can multiply alternatives; more than anybody types is refused.
+constexpr std::size_t kMostAlternatives = 200;
+
+// Both must hold: each alternative of the one with each of the other. False when that is too many.
+bool add(Alternatives& all, Alternatives next) {
+  if (all.empty()) {
+    all = std::move(next);
+    return true;
+  }
+  if (next.size() == 1) {
+    for (Alternative& alternative : all) alternative.insert(alternative.end(), next[0].begin(), next[0].end());
+    return true;
+  }
+  if (all.size() * next.size() > kMostAlternatives) return false;
+  Alternatives product;
+  for (const Alternative& first : all) {
+    for (const Alternative& second : next) {
+      product.push_back(first);
+      product.back().insert(product.back().end(), second.begin(), second.end());
+    }
+  }
+  all = std::move(product);
+  return true;
+}
+
+// The pieces from one "or" to the next.
+std::optional<Alternatives> parse_conjunction(std::span<const SearchPiece> pieces, const AtomParser& parser) {
+  Alternatives all;
+  for (const SearchPiece& piece : pieces) {
+    auto next = parser.parse(piece.text);
+    if (!next || !add(all, std::move(*next))) return std::nullopt;
+  }
+  return all;
+}
+
+}  // namespace
+
+std::optional<Alternatives> parse_search(TextView normalised, SearchType type, const dialect::Engine& engine) {
+  const std::vector<SearchPiece> pieces = split_search(normalised, type);
+  const AtomParser parser(type, engine);
+  Alternatives found;
+  for (std::size_t from = 0; from < pieces.size();) {
+    std::size_t to = from + 1;
+    while (to < pieces.size() && !pieces[to].starts_alternative) ++to;
+    // What is left behind a last ";" or between two is nothing, not a mistake.
+    const bool nothing = to == from + 1 && pieces[from].text.empty();
+    if (!nothing) {
+      auto alternatives = parse_conjunction(std::span(pieces).subspan(from, to - from), parser);
+      if (!alternatives) return std::nullopt;
+      std::ranges::move(*alternatives, std::back_inserter(found));
+    }
+    from = to;
+  }
+  return found.empty() ? std::nullopt : std::optional(std::move(found));
+}
+
+}  // namespace qvr::query

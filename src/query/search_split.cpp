@@ -1,0 +1,175 @@
+#include "query/search_split.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "query/search_input.h"
+
+namespace qvr::query {
+namespace {
+
+// Longer operands are refused: nothing farther away is looked at more than once.
+constexpr std::size_t kFarthest = 1010;
+
+struct Connector {
+  std::size_t length;
+  bool is_or;
+  bool is_word = false;
+};
+
+TextView without_leading_blanks(TextView text) {
+  return text.substr(std::min(text.find_first_not_of(u' '), text.size()));
+}
+
+bool begins_atom(TextView text) {
+  text = without_leading_blanks(text);
+  return operator_length(text) > 0 || null_phrase(text) > 0 || like_operand(text).has_value();
+}
+
+class Splitter {
+ public:
+  Splitter(TextView search, SearchType type) : search_(search), type_(type) {}
+
+  std::vector<SearchPiece> pieces() {
+    bool starts = true;
+    begin_piece(0);
+    for (at_ = 0; at_ < search_.size();) {
+      if (const std::size_t end = quoted_end()) {
+        at_ = end;
+        continue;
+      }
+      const auto connector = connector_at(at_);
+      if (!connector || skips_range_and(*connector)) {
+        at_ += connector ? connector->length : 1;
+        continue;
+      }
+      add(starts);
+      starts = connector->is_or;
+      begin_piece(at_ + connector->length);
+      at_ = begin_;
+    }
+    add(starts);
+    return std::move(pieces_);
+  }
+
+ private:
+  void begin_piece(std::size_t at) {
+    begin_ = at;
+    operand_ = at + operand_offset(search_.substr(at));
+    range_and_ahead_ = starts_with_between(search_.substr(at));
+  }
+
+  void add(bool starts_alternative) {
+    pieces_.push_back({trimmed(search_.substr(begin_, at_ - begin_)), starts_alternative});
+  }
+
+  // Where the operand begins: behind blanks, a negation and an operator or LIKE.
+  std::size_t operand_offset(TextView text) const {
+    std::size_t at = std::min(text.find_first_not_of(u' '), text.size());
+    if (text.substr(at).starts_with(u'!') && operator_length(text.substr(at)) == 0) ++at;
+    at += operator_length(text.substr(at));
+    at = std::min(text.find_first_not_of(u' ', at), text.size());
+    if (const auto operand = like_operand(text.substr(at)))
+      at = static_cast<std::size_t>(operand->data() - text.data());
+    return at;
+  }
+
+  bool starts_with_between(TextView text) const {
+    if (is_textual(type_) || type_ == SearchType::Logical) return false;
+    text = without_leading_blanks(text);
+    if (text.starts_with(u'!')) text = without_leading_blanks(text.substr(1));
+    return std::ranges::any_of(between_words(), [&](TextView word) { return word_at(text, 0, word); });
+  }
+
+  bool skips_range_and(const Connector& connector) {
+    return connector.is_word && !connector.is_or && std::exchange(range_and_ahead_, false);
+  }
+
+  // The end of a quoted part that begins here; 0 for none.
+  std::size_t quoted_end() {
+    const char16_t unit = search_[at_];
+    if (is_double_quote(unit) && !open_ended_) {
+      const std::size_t end = end_of_double_quoted(search_, at_);
+      open_ended_ = end == TextView::npos;
+      return open_ended_ ? 0 : end;
+    }
+    return is_single_quote(unit) && at_ == operand_ ? end_of_single_quoted() : 0;
+  }
+
+  // Single quotes close before a connector or at the end: what a user types between them may hold some.
+  std::size_t end_of_single_quoted() {
+    const TextView near = search_.substr(0, at_ + kFarthest);
+    for (std::size_t i = at_ + 1; i < near.size(); ++i) {
+      if (is_double_quote(near[i])) {
+        const std::size_t end = end_of_double_quoted(near, i);
+        if (end != TextView::npos) i = end - 1;
+      } else if (is_single_quote(near[i])) {
+        const std::size_t next = search_.find_first_not_of(u' ', i + 1);
+        if (next == TextView::npos || connector_at(next)) return i + 1;
+      }
+    }
+    return 0;
+  }
+
+  std::optional<Connector> connector_at(std::size_t at) const {
+    const char16_t unit = search_[at];
+    if (unit == u';') return Connector{1, true};
+    if (unit == u'|' || unit == u'&') {
+      const bool apart = !is_textual(type_) ||
+                         (blank_before(at) && (blank_at(at + 1) || begins_atom(search_.substr(at + 1))));
+      return apart ? std::optional(Connector{1, unit == u'|'}) : std::nullopt;
+    }
+    if (!blank_before(at) || trimmed(search_.substr(begin_, at - begin_)).empty()) return std::nullopt;
+    for (const auto& [words, is_or] : {std::pair(or_words(), true), std::pair(and_words(), false)}) {
+      for (const TextView word : words) {
+        if (!word_at(search_, at, word)) continue;
+        const TextView rest = search_.substr(at + word.size());
+        if (trimmed(rest).empty() || (is_textual(type_) && !begins_atom(rest))) return std::nullopt;
+        return Connector{word.size(), is_or, true};
+      }
+    }
+    return std::nullopt;
+  }
+
+  bool blank_at(std::size_t at) const { return at >= search_.size() || search_[at] == u' '; }
+  bool blank_before(std::size_t at) const { return at > 0 && search_[at - 1] == u' '; }
+
+  TextView search_;
+  SearchType type_;
+  std::vector<SearchPiece> pieces_;
+  std::size_t at_ = 0, begin_ = 0, operand_ = 0;
+  bool open_ended_ = false;        // a double quote that is never closed was seen
+  bool range_and_ahead_ = false;   // the next "and" joins the ends of a range
+};
+
+}  // namespace
+
+std::vector<SearchPiece> split_search(TextView search, SearchType type) { return Splitter(search, type).pieces(); }
+
+std::size_t operator_length(TextView text) {
+  for (const TextView two : {u">=", u"<=", u"<>", u"!="}) {
+    if (text.starts_with(two)) return 2;
+  }
+  return text.starts_with(u'=') || text.starts_with(u'>') || text.starts_with(u'<') ? 1 : 0;
+}
+
+std::optional<TextView> like_operand(TextView text) {
+  constexpr TextView kLike = u"LIKE";
+  std::size_t length = like_phrase(text);
+  const bool capitals = text.starts_with(kLike);
+  if (length == 0 && starts_with_no_case(text, kLike)) {
+    const bool ends = text.size() == kLike.size() || text[kLike.size()] == u' ' ||
+                      is_single_quote(text[kLike.size()]) || is_double_quote(text[kLike.size()]);
+    length = ends ? kLike.size() : 0;
+  }
+  if (length == 0) return std::nullopt;
+  const TextView operand = without_leading_blanks(text.substr(length));
+  if (operand.empty() || operand[0] == u';') return std::nullopt;
+  if (capitals) return operand;
+  const bool quoted = is_single_quote(operand[0]) || is_double_quote(operand[0]);
+  const TextView near = operand.substr(0, std::min(operand.find(u';'), kFarthest));
+  const bool wild = near.find_first_of(u"*?") != TextView::npos;
+  return quoted || wild ? std::optional(operand) : std::nullopt;
+}
+
+}  // namespace qvr::query

@@ -1,0 +1,20 @@
+#include "query/search_text.h"
+
+#include "frame/failure.h"
+#include "query/search_condition.h"
+#include "query/search_criterion.h"
+#include "query/search_parser.h"
+
+namespace qvr::query {
+
+std::optional<Interpretation> interpret_search(const dialect::Engine& engine, const SearchColumn& column,
+                                               TextView search, TextView label) {
+  const auto type = search_type(column.type);
+  if (!type || !dialect::pick(engine, {})) return std::nullopt;
+  const auto understood = parse_search(normalised_search(search), *type, engine);
+  if (!understood) return std::nullopt;
+  return Interpretation{search_condition(engine, *type, column.expression, *understood),
+                        search_criterion(label, *understood)};
+}
+
+}  // namespace qvr::query

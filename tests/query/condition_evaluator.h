@@ -1,0 +1,27 @@
+// Conditions on one column run over a row as each of the three engines would: its rules of LIKE, of case and of null.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <variant>
+
+#include "dialect/engine.h"
+
+namespace qvr::tests {
+
+// A moment is counted in seconds from the first day of 1970.
+struct Moment {
+  std::int64_t second;
+  auto operator<=>(const Moment&) const = default;
+};
+std::optional<Moment> moment_in(TextView text);  // from "2011-01-05" or "2011-01-05 14:07:09" inside the text
+
+using Cell = std::variant<std::monostate, Text, double, Moment>;  // nothing: null
+
+// The column is called X in the condition. Nothing for what is no condition that these engines read.
+std::optional<bool> selects(dialect::Engine engine, TextView condition, const Cell& cell);
+
+// Whether it is nothing but tests of X against literals, joined and parenthesised.
+bool is_condition(dialect::Engine engine, TextView condition);
+
+}  // namespace qvr::tests

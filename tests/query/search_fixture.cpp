@@ -1,0 +1,23 @@
+#include "query/search_fixture.h"
+
+namespace qvr::tests {
+
+TextView label_of(const query::SearchColumn& column) {
+  if (column.expression == kTotal.expression) return u"Total";
+  return column.expression.substr(column.expression.find(u'.') + 1);
+}
+
+void speak(TestThread& thread, UserLanguage language) {
+  constexpr TextView kSettings[] = {u"0", u"1", u"3"};
+  thread.load_language(kSettings[static_cast<int>(language)]);
+  thread.locale.decimal = language == kEnglish ? u'.' : u',';
+  thread.locale.thousands = language == kEnglish ? u',' : language == kSpanish ? u'.' : u'\u00a0';
+  thread.locale.day_first = language != kEnglish;
+}
+
+Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search) {
+  const auto found = query::interpret_search(engine, column, search, label_of(column));
+  return found ? join({found->condition, u" | ", found->criterion}) : Text(u"no search");
+}
+
+}  // namespace qvr::tests

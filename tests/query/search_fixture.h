@@ -1,0 +1,31 @@
+// A thread of a Spanish user on 5 January 2011, and the columns that the search tests share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "query/search_text.h"
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+
+inline constexpr query::SearchColumn kNombre{u"C.Nombre", u'T'}, kNotas{u"C.Notas", u'M'}, kPrecio{u"P.Precio", u'N'},
+    kAlta{u"C.Alta", u'F'}, kActivo{u"C.Activo", u'L'}, kTotal{u"Sum(L.Imp)", u'N'};
+
+enum class UserLanguage { Spanish, English, French };
+inline constexpr UserLanguage kSpanish = UserLanguage::Spanish, kEnglish = UserLanguage::English,
+                              kFrench = UserLanguage::French;
+
+using dialect::kJet;
+using dialect::kOracle;
+using dialect::kSqlServer;
+
+// What the column is called in the criteria.
+TextView label_of(const query::SearchColumn& column);
+
+// The language with the numbers and dates of its home.
+void speak(TestThread& thread, UserLanguage language);
+
+// "condition | criterion", or "no search".
+Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search);
+
+}  // namespace qvr::tests

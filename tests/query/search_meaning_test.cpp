@@ -1,0 +1,88 @@
+// Conditions select the rows that the user meant, by each engine's own rules; criteria can be typed again.
+#include "frame/utf8.h"
+#include "query/condition_chain.h"
+#include "query/random_searches.h"
+#include "query/search_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+constexpr int kRounds = 1500;
+
+struct Column {
+  char16_t letter;
+  dialect::Engine engine;
+};
+
+std::string name_of(const ::testing::TestParamInfo<Column>& info) {
+  constexpr const char* kEngines[] = {"Jet", "SqlServer", "Oracle"};
+  return std::string(1, static_cast<char>(info.param.letter)) + kEngines[info.param.engine - 1];
+}
+
+class SearchMeaning : public ::testing::TestWithParam<Column> {
+ protected:
+  std::optional<query::Interpretation> interpret(TextView typed) const {
+    return query::interpret_search(GetParam().engine, {u"X", GetParam().letter}, typed, u"X");
+  }
+  RandomSearches searches(std::uint64_t seed) const { return {seed, thread.locale, GetParam().engine}; }
+
+  TestThread thread;
+};
+
+TEST_P(SearchMeaning, IsWhatTheConditionSelects) {
+  speak(thread, kSpanish);
+  const std::vector<Cell> rows = RandomSearches::rows(GetParam().letter);
+  RandomSearches random = searches(1);
+  for (int round = 0; round < kRounds; ++round) {
+    const MeantSearch search = random.next(GetParam().letter);
+    const auto found = interpret(search.typed);
+    ASSERT_TRUE(found) << to_utf8(search.typed);
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+      const auto selected = selects(GetParam().engine, found->condition, rows[row]);
+      ASSERT_TRUE(selected) << to_utf8(search.typed) << "\n" << to_utf8(found->condition);
+      ASSERT_EQ(*selected, search.meant(rows[row]))
+          << to_utf8(search.typed) << "\n" << to_utf8(found->condition) << "\nrow " << row;
+    }
+  }
+}
+
+TEST_P(SearchMeaning, CanBeTypedAgainAsShown) {
+  for (const UserLanguage language : {kSpanish, kEnglish, kFrench}) {
+    speak(thread, language);
+    RandomSearches random = searches(2);
+    for (int round = 0; round < kRounds; ++round) {
+      const MeantSearch search = random.next(GetParam().letter);
+      const auto found = interpret(search.typed);
+      ASSERT_TRUE(found) << to_utf8(search.typed);
+      const auto again = interpret(TextView(found->criterion).substr(2));  // without the label
+      ASSERT_TRUE(again) << to_utf8(search.typed) << "\n" << to_utf8(found->criterion);
+      ASSERT_EQ(again->condition, found->condition) << to_utf8(search.typed) << "\n" << to_utf8(found->criterion);
+      ASSERT_EQ(again->criterion, found->criterion) << to_utf8(search.typed);
+    }
+  }
+}
+
+// A condition is taken for one that is there already only when it is.
+TEST_P(SearchMeaning, IsNeverLostBehindAnotherSearch) {
+  speak(thread, kSpanish);
+  RandomSearches random = searches(3);
+  for (int round = 0; round < kRounds; ++round) {
+    const auto first = interpret(random.next(GetParam().letter).typed);
+    const auto second = interpret(random.next(GetParam().letter).typed);
+    query::ConditionChain chain;
+    ASSERT_TRUE(chain.add(first->condition));
+    ASSERT_EQ(chain.add(second->condition), !equal_no_case(first->condition, second->condition))
+        << to_utf8(first->condition) << "\n" << to_utf8(second->condition);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Columns, SearchMeaning,
+                         ::testing::Values(Column{u'T', kJet}, Column{u'T', kSqlServer}, Column{u'T', kOracle},
+                                           Column{u'M', kJet}, Column{u'M', kSqlServer}, Column{u'M', kOracle},
+                                           Column{u'N', kJet}, Column{u'N', kSqlServer}, Column{u'N', kOracle},
+                                           Column{u'F', kJet}, Column{u'F', kSqlServer}, Column{u'F', kOracle},
+                                           Column{u'L', kJet}, Column{u'L', kSqlServer}, Column{u'L', kOracle}),
+                         name_of);
+
+}  // namespace
+}  // namespace qvr::tests
