@@ -196,6 +196,32 @@ DWORD WINAPI create_and_leave(void*) {
 }
 
 // With every service made on the thread, so that its end has all of them to give back.
+TEST(Leaks, QueriesNarrowedSortedAndKept) {
+  Var columns = array_of({L"C.Nombre", L"T+", L"C.Alta", L"F+"});
+  expect_no_leak([&] {
+    for (const wchar_t* name : {L"QVRlib21.cSQL20", L"QVRlib21.uSQL20"}) {
+      const LateObject query(name);
+      query.call(L"iSQL20_Crear", {2, L"Clientes", false, Var::by_reference(columns), L"Clientes C"});
+      query.call(L"iSQL20_InterpretarBusqueda", {L"Nombre", L"ana; bea & !c"});
+      query.call(L"iSQL20_AmpliarOrden", {2});
+      query.get(L"iSQL20_SQL");
+      query.call(L"iSQL20_CrearDesdeTextoDefinicion", {query.get(L"iSQL20_TextoDefinicion").value});
+      query.as<_iSQL20>();
+    }
+  });
+}
+
+TEST(Leaks, QueriesThatAreRefused) {
+  expect_no_leak([] {
+    Person person;
+    const LateObject query(L"QVRlib21.cSQL20");
+    query.call(L"iSQL20_Crear", {2, L"Clientes", false, array_of({L"a", L"T", L"b"}), L"Clientes C"});
+    query.call(L"iSQL20_CrearDesdeTextoDefinicion", {L"nonsense"});
+    query.call(L"iSQL20_AmpliarOrden", {7});
+    query.call(L"iSQL20_InterpretarBusqueda", {L"Nadie", L"ana"});
+  });
+}
+
 TEST(Leaks, ThreadsThatComeAndGo) {
   expect_no_leak([] {
     const HANDLE thread = CreateThread(nullptr, 0, create_and_leave, nullptr, 0, nullptr);

@@ -40,7 +40,9 @@ struct RegistrationTest : testing::Test {
     return found;
   }
   // Keys that every machine has but a user who never registered anything has not.
-  static bool is_top(const std::wstring& line) { return line == L"clsid" || line == L"interface" || line == L"typelib"; }
+  static bool is_top(const std::wstring& line) {
+    return line == L"clsid" || line == L"interface" || line == L"typelib";
+  }
 
   RegistryLines before;
 };
@@ -74,7 +76,7 @@ TEST_F(RegistrationTest, WritesTheStandardKeys) {
   const RegistryLines written = added(before, registry_snapshot());
   const std::wstring file = beside_program(L"QVRlib21.dll");
   const std::wstring machine = std::wstring(kWidth) + L"machine\\";
-  for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr"}) {
+  for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr", L"cSQL20", L"uSQL20"}) {
     SCOPED_TRACE(narrow(name));
     const std::wstring program_id = std::wstring(L"QVRlib21.") + name;
     CLSID id;

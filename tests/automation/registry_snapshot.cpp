@@ -29,8 +29,9 @@ void add_values(HKEY key, const std::wstring& path, RegistryLines& lines) {
 bool is_ours(const std::wstring& path) {
   static const std::vector<std::wstring> names = [] {
     std::vector<std::wstring> all{L"QVRlib21."};
-    for (const GUID& id : {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, IID__Ov, IID__QVRcfp, IID__QVRScr,
-                           DIID___QVRScr}) {
+    for (const GUID& id :
+         {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, CLSID_cSQL20, CLSID_iSQL20, CLSID_uSQL20, IID__Ov,
+          IID__QVRcfp, IID__QVRScr, IID__cSQL20, IID__iSQL20, IID__uSQL20, DIID___QVRScr}) {
       wchar_t text[40];
       StringFromGUID2(id, text, 40);
       all.push_back(text);
@@ -55,7 +56,8 @@ void add_tree(HKEY parent, const std::wstring& name, const std::wstring& path, R
     return;
   }
   wchar_t child[256];
-  for (DWORD index = 0, size = 256; RegEnumKeyExW(key, index, child, &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+  for (DWORD index = 0, size = 256;
+       RegEnumKeyExW(key, index, child, &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
        ++index, size = 256) {
     add_tree(key, child, path + L"\\" + child, view, children, lines);
   }

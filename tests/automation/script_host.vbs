@@ -15,7 +15,8 @@ Sub Use(number)
   cfp.Asignar id, number, "", "", "", "", "", "", "", ""
 End Sub
 
-Dim version, cfp, other, scr, id, engine, text, folder, name, fields, values, fixed(1), nothingYet, empties(), connection
+Dim version, cfp, other, scr, query, both, id, engine, text, folder, name
+Dim fields, values, fixed(1), nothingYet, empties(), connection
 
 Set version = CreateObject("QVRlib21.Ov")
 Show "Version", version.Version
@@ -108,6 +109,22 @@ connection.Close
 Use 3
 Show "AgregarParametroADO of Oracle", cfp.AgregarParametroADO(Nothing, "INT", "@r", , , 4)
 ShowError "up to here"
+
+Set query = CreateObject("QVRlib21.cSQL20")
+fields = Array("C.Nombre", "T+", "C.Alta", "F>Fecha")
+Show "iSQL20_Crear", query.iSQL20_Crear(2, "Clientes", False, fields, "Clientes C")
+Show "iSQL20_InterpretarBusqueda", query.iSQL20_InterpretarBusqueda("Nombre", "ana; ""50%""")
+Show "no search", query.iSQL20_InterpretarBusqueda("Fecha", "x")
+Show "iSQL20_AmpliarOrden", query.iSQL20_AmpliarOrden(2)
+Show "iSQL20_SQL", query.iSQL20_SQL
+Show "iSQL20_CriterioActual", query.iSQL20_CriterioActual
+query.iSQL20_TOP = 5
+Show "iSQL20_TOP", query.iSQL20_TOP
+Set both = CreateObject("QVRlib21.uSQL20")
+Show "the union's", both.iSQL20_CrearDesdeTextoDefinicion(query.iSQL20_TextoDefinicion)
+Show "its iSQL20_SQL", both.iSQL20_SQL
+query.SQL
+ShowError "a name that only iSQL20 has"
 
 Set scr = CreateObject("QVRlib21.QVRScr")
 Show "UsuarioSegunMotor", scr.UsuarioSegunMotor(3)

@@ -21,6 +21,7 @@ std::string type_name(ITypeInfo& info, const TYPEDESC& type) {
   }
   switch (type.vt) {
     case VT_BSTR: return "BSTR";
+    case VT_I2: return "short";
     case VT_I4: return "long";
     case VT_BOOL: return "VARIANT_BOOL";
     case VT_VARIANT: return "VARIANT";

@@ -12,6 +12,7 @@ namespace qvr::automation {
 // Arguments as the core takes them. Early-bound callers may pass null for a pointer and for a string.
 inline Text text_of(BSTR* argument) { return argument != nullptr ? text_from(*argument) : Text(); }
 inline bool truth_of(const VARIANT_BOOL* argument) { return argument != nullptr && *argument != VARIANT_FALSE; }
+inline std::int16_t short_of(const SHORT* argument) { return argument != nullptr ? *argument : std::int16_t{0}; }
 template <class Number>
 std::int32_t number_of(const Number* argument) {
   return argument != nullptr ? static_cast<std::int32_t>(*argument) : 0;
@@ -36,6 +37,7 @@ inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
 
 // Results. The core's type chooses, since VARIANT_BOOL and a 16-bit number are one type here.
 inline void put_result(VARIANT_BOOL* out, bool result) { *out = result ? VARIANT_TRUE : VARIANT_FALSE; }
+inline void put_result(SHORT* out, std::int16_t result) { *out = result; }
 inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
 inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
 template <class Number>
@@ -66,6 +68,23 @@ HRESULT answer(Out* out, Body&& body) noexcept {
   *out = Out{};
   return guarded(S_OK, [&] {
     put_result(out, std::forward<Body>(body)());
+    return S_OK;
+  });
+}
+
+// For members that show a box or call out: the host may let go of its last reference to the object meanwhile.
+template <class Out, class Body>
+HRESULT answer_while_kept(IUnknown& object, Out* out, Body&& body) noexcept {
+  const ComPtr<IUnknown> kept(&object);
+  return answer(out, std::forward<Body>(body));
+}
+
+// The same for members without a result.
+template <class Body>
+HRESULT perform_while_kept(IUnknown& object, Body&& body) noexcept {
+  const ComPtr<IUnknown> kept(&object);
+  return guarded(S_OK, [&] {
+    std::forward<Body>(body)();
     return S_OK;
   });
 }

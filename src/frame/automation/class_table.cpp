@@ -3,6 +3,8 @@
 #include "QVRlib21.h"
 #include "connection/automation/qvrcfp_object.h"
 #include "frame/automation/ov_object.h"
+#include "query/automation/csql20_object.h"
+#include "query/automation/usql20_object.h"
 #include "script/automation/qvrscr_object.h"
 
 namespace qvr::automation {
@@ -10,7 +12,7 @@ namespace {
 
 template <class Object>
 IUnknown* create() {
-  return static_cast<IDispatch*>(new Object());
+  return static_cast<typename Object::Identity*>(new Object());
 }
 
 }  // namespace
@@ -20,6 +22,8 @@ std::span<const ClassRow> class_table() {
       {CLSID_QVRcfp, L"QVRcfp", create<QVRcfpObject>},
       {CLSID_Ov, L"Ov", create<OvObject>},
       {CLSID_QVRScr, L"QVRScr", create<QVRScrObject>},
+      {CLSID_cSQL20, L"cSQL20", create<cSQL20Object>},
+      {CLSID_uSQL20, L"uSQL20", create<uSQL20Object>},
   };
   return rows;
 }

@@ -19,6 +19,8 @@ struct AskedAs<IProvideClassInfo2> {
 template <class First, class... Others>
 class Counted : public First, public Others... {
  public:
+  using Identity = First;
+
   Counted() = default;
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;

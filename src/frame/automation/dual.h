@@ -10,6 +10,8 @@ namespace qvr::automation {
 template <class I>
 class Dual : public I {
  public:
+  using DualInterface = I;
+
   STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override {
     if (count == nullptr) return E_POINTER;
     *count = 1;
@@ -35,7 +37,8 @@ class Dual : public I {
                       EXCEPINFO* exception, UINT* wrong_argument) noexcept override {
     if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
     return guarded(E_OUTOFMEMORY, [&] {
-      return invoke(signatures(), static_cast<I*>(this), {id, locale, flags, arguments, result, exception, wrong_argument});
+      return invoke(signatures(), static_cast<I*>(this),
+                    {id, locale, flags, arguments, result, exception, wrong_argument});
     });
   }
 

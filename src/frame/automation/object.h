@@ -6,9 +6,10 @@
 
 namespace qvr::automation {
 
-template <class I>
-struct AskedAs<Dual<I>> {
-  static bool any(REFIID id) { return id == __uuidof(I) || id == IID_IDispatch; }
+template <class D>
+  requires requires { typename D::DualInterface; }
+struct AskedAs<D> {
+  static bool any(REFIID id) { return id == __uuidof(typename D::DualInterface) || id == IID_IDispatch; }
 };
 
 // `Coclass` names the class in the type library; `Default` is its default interface, which is also its identity and
@@ -36,11 +37,13 @@ class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideCla
   }
 
  protected:
-  // `answer` for members that show a box or call out: the host may let go of its last reference meanwhile.
   template <class Out, class Body>
   HRESULT answer_while_kept(Out* out, Body&& body) noexcept {
-    const ComPtr<IUnknown> kept(static_cast<Default*>(this));
-    return answer(out, std::forward<Body>(body));
+    return automation::answer_while_kept(static_cast<Default&>(*this), out, std::forward<Body>(body));
+  }
+  template <class Body>
+  HRESULT perform_while_kept(Body&& body) noexcept {
+    return automation::perform_while_kept(static_cast<Default&>(*this), std::forward<Body>(body));
   }
 
   // The default event interface; none for most classes.
