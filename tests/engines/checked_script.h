@@ -41,5 +41,7 @@ void add_literals(CheckedScript& script);
 void add_patterns(CheckedScript& script);
 void add_clauses(CheckedScript& script);
 void add_statements(CheckedScript& script);
+void add_searches(CheckedScript& script);
+void add_queries(CheckedScript& script);
 
 }  // namespace qvr::tests

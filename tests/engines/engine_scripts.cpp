@@ -19,6 +19,8 @@ int main(int count, char** arguments) {
   tests::add_patterns(script);
   tests::add_clauses(script);
   tests::add_statements(script);
+  tests::add_searches(script);
+  tests::add_queries(script);
   const std::string text = std::move(script).finished();
   return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() ? 0 : 1;
 }
