@@ -62,6 +62,18 @@ Value::Value(const Object& object) noexcept : Value() {
   if (variant_.pdispVal != nullptr) variant_.pdispVal->AddRef();
 }
 
+Value::Value(std::initializer_list<const wchar_t*> texts) : Value() {
+  variant_.parray = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(texts.size()));
+  expect(variant_.parray != nullptr, L"There is no memory for a list");
+  variant_.vt = VT_ARRAY | VT_VARIANT;
+  LONG index = 0;
+  for (const wchar_t* text : texts) {
+    Value item(text);
+    require(SafeArrayPutElement(variant_.parray, &index, item.out()), L"Filling a list");
+    ++index;
+  }
+}
+
 Value::Value(const Value& other) noexcept : Value() { VariantCopy(&variant_, read_only(other.variant_)); }
 
 Value::Value(Value&& other) noexcept : Value() { std::swap(variant_, other.variant_); }
@@ -110,22 +122,37 @@ Object Object::create(const std::wstring& class_name) {
   return Object(std::move(dispatch));
 }
 
-Value Object::call(const wchar_t* member, std::vector<Value> arguments) const {
+DISPID Object::id_of(const wchar_t* member) const {
   std::wstring name(member);
   LPOLESTR names[] = {name.data()};
   DISPID id = 0;
   require(dispatch_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id), L"Looking up member " + name);
+  return id;
+}
+
+Value Object::invoke(const wchar_t* member, WORD flags, DISPPARAMS& parameters) const {
+  Value answer;
+  EXCEPINFO exception{};
+  const HRESULT result = dispatch_->Invoke(id_of(member), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
+                                           answer.out(), &exception, nullptr);
+  if (result == DISP_E_EXCEPTION) throw Failure(std::wstring(member) + L": " + description_of(exception));
+  require(result, member);
+  return answer;
+}
+
+Value Object::call(const wchar_t* member, std::vector<Value> arguments) const {
   // The arguments go last first; the variants stay the property of the values.
   std::vector<VARIANT> reversed;
   for (auto each = arguments.rbegin(); each != arguments.rend(); ++each) reversed.push_back(each->variant());
   DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
-  Value answer;
-  EXCEPINFO exception{};
-  const HRESULT result = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
-                                           &parameters, answer.out(), &exception, nullptr);
-  if (result == DISP_E_EXCEPTION) throw Failure(name + L": " + description_of(exception));
-  require(result, name);
-  return answer;
+  return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters);
+}
+
+void Object::put(const wchar_t* member, const Value& value) const {
+  VARIANT given = value.variant();
+  DISPID name = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters{&given, &name, 1, 1};
+  invoke(member, DISPATCH_PROPERTYPUT, parameters);
 }
 
 }  // namespace gestion

@@ -6,6 +6,7 @@
 #include <oleauto.h>
 #include <wrl/client.h>
 
+#include <initializer_list>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -36,6 +37,7 @@ class Value {
   Value(int number) noexcept : Value(static_cast<long>(number)) {}
   Value(long number) noexcept;
   Value(const Object& object) noexcept;
+  Value(std::initializer_list<const wchar_t*> texts);  // a list, as scripts pass one
   Value(const Value& other) noexcept;
   Value(Value&& other) noexcept;
   Value& operator=(Value other) noexcept;
@@ -64,9 +66,13 @@ class Object {
 
   // Calls a method or reads a property, as scripts do: who has the object decides which of them it is.
   Value call(const wchar_t* member, std::vector<Value> arguments = {}) const;
+  void put(const wchar_t* member, const Value& value) const;
   IDispatch* dispatch() const { return dispatch_.Get(); }
 
  private:
+  DISPID id_of(const wchar_t* member) const;
+  Value invoke(const wchar_t* member, WORD flags, DISPPARAMS& parameters) const;
+
   ComPtr<IDispatch> dispatch_;
 };
 

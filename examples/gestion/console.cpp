@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <iterator>
+
 #include "text.h"
 
 namespace gestion {
@@ -38,6 +40,27 @@ void heading(std::wstring_view title) {
 
 void item(std::wstring_view label, std::wstring_view value) {
   say(L"   " + padded(std::wstring(label), 28) + std::wstring(value));
+}
+
+bool ask(std::wstring_view question, std::wstring& line) {
+  write_to(output(), question);
+  const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+  line.clear();
+  if (is_terminal(input)) {
+    wchar_t typed[1024];
+    DWORD count = 0;
+    if (!ReadConsoleW(input, typed, static_cast<DWORD>(std::size(typed)), &count, nullptr) || count == 0) return false;
+    line.assign(typed, count);
+  } else {
+    std::string bytes;
+    char byte = 0;
+    DWORD count = 0;
+    while (ReadFile(input, &byte, 1, &count, nullptr) && count == 1 && byte != '\n') bytes.push_back(byte);
+    if (bytes.empty() && count == 0) return false;
+    line = from_utf8(bytes);
+  }
+  while (!line.empty() && (line.back() == L'\r' || line.back() == L'\n')) line.pop_back();
+  return true;
 }
 
 void complain(std::string_view utf8) {

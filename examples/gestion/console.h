@@ -9,6 +9,8 @@ namespace gestion {
 void say(std::wstring_view line = {});
 void heading(std::wstring_view title);  // numbered in the order of showing
 void item(std::wstring_view label, std::wstring_view value);
+// The next line that somebody types; false at the end of the input.
+bool ask(std::wstring_view question, std::wstring& line);
 void complain(std::string_view utf8);
 
 // A line that changes: rewritten in place on a terminal; elsewhere every so many texts, and the last one.

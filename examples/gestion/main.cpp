@@ -17,7 +17,8 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr"};
+constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr",
+                                     L"QVRlib21.cSQL20", L"QVRlib21.uSQL20"};
 
 Scope show_registration(const Setting& setting) {
   const Scope scope = register_library(setting.library, kClasses[0]);
@@ -55,6 +56,8 @@ void show_steps(const Setting& setting) {
   show_failures(setting, script, connection_string);
   heading(L"What the database holds");
   show_rows(script, connection_string);
+  heading(L"A list of orders");
+  show_query(setting, connection_string);
 }
 
 void show_all(const Setting& setting) {

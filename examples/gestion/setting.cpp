@@ -15,6 +15,8 @@ constexpr const wchar_t* kUsage =
     L"  FOLDER          existing folder for the parameter file and the database\r\n"
     L"  SCRIPT          commands separated by GO lines\r\n"
     L"  --answer        let answer_boxes.exe, beside this program, answer the library's boxes\r\n"
+    L"  --search C=T    narrow the list of orders by text T in column C; may be given several times\r\n"
+    L"  --ask           ask for more of these\r\n"
     L"  --driver NAME   ODBC driver of the database, SQLite3 unless told otherwise\r\n"
     L"  --unregister    remove the library's registration at the end";
 
@@ -42,6 +44,12 @@ std::wstring path_for_driver(const std::wstring& path) {
 
 }  // namespace
 
+Search read_search(const std::wstring& typed) {
+  const std::size_t equals = typed.find(L'=');
+  expect(equals != std::wstring::npos, L"A search is written Column=text: " + typed);
+  return {typed.substr(0, equals), typed.substr(equals + 1)};
+}
+
 Setting read_setting(int count, wchar_t** arguments) {
   Setting setting;
   std::vector<std::wstring> paths;
@@ -49,6 +57,10 @@ Setting read_setting(int count, wchar_t** arguments) {
     const std::wstring argument = arguments[at];
     if (argument == L"--answer") {
       setting.answer_boxes = true;
+    } else if (argument == L"--ask") {
+      setting.ask = true;
+    } else if (argument == L"--search" && at + 1 < count) {
+      setting.searches.push_back(read_search(arguments[++at]));
     } else if (argument == L"--unregister") {
       setting.unregister = true;
     } else if (argument == L"--driver" && at + 1 < count) {

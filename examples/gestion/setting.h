@@ -2,8 +2,17 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace gestion {
+
+// What is typed into the search box of a column.
+struct Search {
+  std::wstring column, text;
+};
+
+// "Column=text"; throws for a text without "=".
+Search read_search(const std::wstring& typed);
 
 struct Setting {
   std::wstring library;         // the DLL
@@ -11,6 +20,8 @@ struct Setting {
   std::wstring script;          // UTF-8, commands separated by GO lines
   std::wstring driver = L"SQLite3";
   bool answer_boxes = false;    // start the program that answers the library's boxes
+  std::vector<Search> searches; // for the list of orders
+  bool ask = false;             // and as many more as somebody types
   bool unregister = false;      // leave the machine as it was
   std::wstring database;        // the database file, for this program
   std::wstring driver_database; // and for the driver, which may live on another system

@@ -21,6 +21,9 @@ void show_script(const BusinessScript& script, const std::wstring& connection_st
 // A script with a wrong command, once for each answer to the library's question. Rows that stay are added to `script`.
 void show_failures(const Setting& setting, BusinessScript& script, const std::wstring& connection_string);
 
+// A list of the orders: narrowed, sorted, restored, kept and taken up again.
+void show_query(const Setting& setting, const std::wstring& connection_string);
+
 void show_rows(const BusinessScript& script, const std::wstring& connection_string);
 
 }  // namespace gestion

@@ -56,6 +56,16 @@ std::wstring from_utf8(std::string_view bytes) {
 
 std::string file_bytes(const std::wstring& path) { return File(path).rest(); }
 
+void write_file(const std::wstring& path, std::string_view bytes) {
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                                  nullptr);
+  expect(file != INVALID_HANDLE_VALUE, L"The file cannot be written: " + path);
+  DWORD written = 0;
+  const bool whole = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE;
+  const bool closed = CloseHandle(file) != FALSE;
+  expect(whole && closed && written == bytes.size(), L"The file was not written whole: " + path);
+}
+
 void remove_file(const std::wstring& path) {
   const bool gone = DeleteFileW(path.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND;
   expect(gone, L"The file of an earlier run cannot be removed: " + path);

@@ -12,6 +12,7 @@ std::wstring from_utf8(std::string_view bytes);
 std::string to_system_page(std::wstring_view text);
 
 std::string file_bytes(const std::wstring& path);
+void write_file(const std::wstring& path, std::string_view bytes);
 void remove_file(const std::wstring& path);
 
 // The parts of `text` between the separators, the last one included.

@@ -1,0 +1,31 @@
+// The list of orders as the person at the screen has it: a query object and the rows that it finds.
+#pragma once
+
+#include "automation.h"
+#include "database.h"
+#include "setting.h"
+
+namespace gestion {
+
+class OrderList {
+ public:
+  explicit OrderList(const std::wstring& connection_string);
+
+  const Object& query() const { return query_; }
+  std::wstring statement() const { return query_.call(L"iSQL20_SQL").text(); }
+  std::wstring criterion() const { return query_.call(L"iSQL20_CriterioActual").text(); }
+
+  // False for a text that is no search for the column.
+  bool narrow(const Search& search) const;
+  void click(const wchar_t* column) const;
+  void restore() const { query_.call(L"iSQL20_RestauraOriginal", {true, true}); }
+
+  // Writes the first rows and answers how many there are.
+  long show() const;
+
+ private:
+  Object query_;
+  Database database_;
+};
+
+}  // namespace gestion
