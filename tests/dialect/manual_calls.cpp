@@ -105,6 +105,6 @@ ManualPage statements() {
 
 }  // namespace
 
-std::vector<ManualPage> manual_pages() { return {literals(), clauses(), statements()}; }
+std::vector<ManualPage> manual_pages() { return {literals(), clauses(), statements(), query_page()}; }
 
 }  // namespace qvr::tests

@@ -19,6 +19,7 @@ struct ManualPage {
   std::vector<ManualCall> calls;
 };
 
+ManualPage query_page();
 std::vector<ManualPage> manual_pages();
 
 }  // namespace qvr::tests
