@@ -26,8 +26,13 @@ Object created_query() {
 
 OrderList::OrderList(const std::wstring& connection_string) : query_(created_query()), database_(connection_string) {}
 
+bool OrderList::has(const std::wstring& column) const {
+  return query_.call(L"iSQL20_NumColumna", {column}).number() > 0;
+}
+
+// The library tells of an unknown column in a box of its own; the person at this prompt looks elsewhere.
 bool OrderList::narrow(const Search& search) const {
-  return query_.call(L"iSQL20_InterpretarBusqueda", {search.column, search.text}).truth();
+  return has(search.column) && query_.call(L"iSQL20_InterpretarBusqueda", {search.column, search.text}).truth();
 }
 
 void OrderList::click(const wchar_t* column) const {

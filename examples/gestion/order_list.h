@@ -15,7 +15,8 @@ class OrderList {
   std::wstring statement() const { return query_.call(L"iSQL20_SQL").text(); }
   std::wstring criterion() const { return query_.call(L"iSQL20_CriterioActual").text(); }
 
-  // False for a text that is no search for the column.
+  bool has(const std::wstring& column) const;
+  // False for a column that the list has not, and for a text that is no search for it.
   bool narrow(const Search& search) const;
   void click(const wchar_t* column) const;
   void restore() const { query_.call(L"iSQL20_RestauraOriginal", {true, true}); }

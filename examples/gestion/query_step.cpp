@@ -23,7 +23,8 @@ bool narrow(const OrderList& list, const Search& search) {
   say(L"   " + search.column + L": " + search.text);
   const bool understood = list.narrow(search);
   if (!understood) {
-    say(L"     This is no search for that column, or one that is there already.");
+    say(list.has(search.column) ? L"     This is no search for that column, or one that is there already."
+                                : L"     The list has no such column.");
     return false;
   }
   item(L"  criterion", list.criterion());
@@ -49,7 +50,7 @@ void show_languages(const std::vector<Search>& searches, const std::wstring& con
   Object::create(L"QVRlib21.cSQL20").put(L"iSQL20_Idioma", kLanguages[0].number);
 }
 
-void show_definition(const Setting& setting, const OrderList& list, const std::wstring& connection_string) {
+void show_definition(const Setting& setting, const OrderList& list, long rows, const std::wstring& connection_string) {
   const std::wstring file = setting.folder + L"\\pedidos.consulta";
   write_file(file, to_utf8(list.query().call(L"iSQL20_TextoDefinicion").text()));
   const OrderList again(connection_string);
@@ -57,7 +58,7 @@ void show_definition(const Setting& setting, const OrderList& list, const std::w
   expect(taken_up, L"The query could not be taken up from its text");
   item(L"kept and taken up again", again.criterion());
   expect(again.criterion() == list.criterion(), L"The query taken up has another criterion");
-  expect(again.show() > 0, L"The query taken up finds nothing");
+  expect(again.show() == rows, L"The query taken up finds other rows");
   remove_file(file);
 }
 
@@ -75,7 +76,7 @@ void show_query(const Setting& setting, const std::wstring& connection_string) {
   for (const wchar_t* column : {L"Fecha", L"Portes", L"Portes"}) list.click(column);
   const long narrowed = list.show();
   say();
-  show_definition(setting, list, connection_string);
+  show_definition(setting, list, narrowed, connection_string);
   say();
   say(L"   Restored:");
   list.restore();

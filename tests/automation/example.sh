@@ -12,4 +12,10 @@ work=$(mktemp -d "$2/example.XXXXXX")
 # Tidying up must neither stop half-way nor replace the outcome of the test.
 trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || true; rm -rf "$work"' EXIT
 wine "$system\\regsvr32.exe" /s "$bin\\testado.dll"
-wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$3")"
+# Somebody types a column that the list has not, then a name that nobody has.
+printf '%s\r\n' Ciudad=x Nombre=nadie '' |
+  wine "$bin\\gestion.exe" --answer --ask --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$3")" |
+  tr -d '\r' | tee "$work/told"
+for text in 'The list has no such column.' "and Nombre is like '*nadie*'" '     0 rows'; do
+  grep -qF -- "$text" "$work/told" || { echo "not told: $text"; exit 1; }
+done
