@@ -1,20 +1,12 @@
 #include "frame/global.h"
 
-#include <cmath>
-
 #include "frame/failure.h"
 #include "frame/number_text.h"
 #include "frame/thread_state.h"
+#include "frame/value_convert.h"
 
 namespace qvr {
 namespace {
-
-// To the nearest 32-bit integer, halves to the even one, as a Visual Basic host converts.
-std::int32_t to_long(double number) {
-  const double rounded = std::nearbyint(number);
-  if (!(rounded >= INT32_MIN && rounded <= INT32_MAX)) throw RuntimeFailure(failure_number::kOverflow);
-  return static_cast<std::int32_t>(rounded);
-}
 
 double read_default_language(ThreadState& state) {
   const Text system = decimal(state.idioma.IdiomaDesdeSOP());

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "frame/text.h"
 #include "frame/value.h"
@@ -47,6 +48,7 @@ struct OutputFile {
 struct Files {
   // Whether a directory search for the path (wildcards allowed) with this mask of file attributes finds anything.
   virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
+  virtual std::vector<Text> names(TextView folder) = 0;           // of its plain files; throws when it cannot be read
   virtual std::unique_ptr<InputFile> open(TextView path) = 0;     // throws when it cannot be read
   virtual std::unique_ptr<OutputFile> create(TextView path) = 0;  // replaces a file that is there; throws
   // Text in the system's single-byte or multi-byte page. Throws when a character has no place in that page.

@@ -26,6 +26,10 @@ services::ErrorReport& ThreadState::error_report() {
 
 services::Ado& ThreadState::ado() { return made_once(ado_, environment_.make_ado, platform()); }
 
+services::ScriptReader& ThreadState::script_reader() {
+  return made_once(script_reader_, environment_.make_script_reader, platform());
+}
+
 ThreadState& thread_state() {
   if (current() == nullptr) exchange_thread_state(std::make_unique<ThreadState>(environment()));
   return *current();

@@ -9,6 +9,7 @@
 #include "frame/platform.h"
 #include "services/ado.h"
 #include "services/error_report.h"
+#include "services/script_reader.h"
 #include "services/text_protection.h"
 
 namespace qvr {
@@ -20,6 +21,7 @@ struct Environment {
   std::unique_ptr<services::TextProtection> (*make_text_protection)(const Platform&);
   std::unique_ptr<services::ErrorReport> (*make_error_report)(const Platform&);
   std::unique_ptr<services::Ado> (*make_ado)(const Platform&);
+  std::unique_ptr<services::ScriptReader> (*make_script_reader)(const Platform&);
 };
 const Environment& environment();
 
@@ -32,6 +34,7 @@ class ThreadState {
   services::TextProtection& text_protection();
   services::ErrorReport& error_report();
   services::Ado& ado();
+  services::ScriptReader& script_reader();
 
   IdiomaSimple idioma;
   TextTable mensajes{kMessageCount, language::kCarried};
@@ -42,6 +45,7 @@ class ThreadState {
   std::unique_ptr<services::TextProtection> text_protection_;
   std::unique_ptr<services::ErrorReport> error_report_;
   std::unique_ptr<services::Ado> ado_;
+  std::unique_ptr<services::ScriptReader> script_reader_;
 };
 
 // This thread's state, created when there is none.

@@ -84,6 +84,22 @@ bool to_truth(const Value& value) {
   return to_number(value) != 0;
 }
 
+std::int32_t to_long(const Value& value) {
+  const double rounded = std::nearbyint(to_number(value));
+  if (!(rounded >= INT32_MIN && rounded <= INT32_MAX)) throw RuntimeFailure(failure_number::kOverflow);
+  return static_cast<std::int32_t>(rounded);
+}
+
+bool is_numeric(const Value& value) {
+  return std::visit(
+      [](const auto& held) {
+        using T = std::remove_cvref_t<decltype(held)>;
+        if constexpr (std::is_same_v<T, Text>) return locale().parse_number(held).has_value();
+        else return is_whole<T> || is_one_of<T, Empty, bool, float, double, Currency, Decimal>;
+      },
+      value.storage());
+}
+
 Date to_date(const Value& value) {
   Date date;
   if (const Date* held = value.as<Date>()) {

@@ -11,5 +11,11 @@ Text to_text(const Value& value);
 double to_number(const Value& value);
 bool to_truth(const Value& value);
 Date to_date(const Value& value);
+// To the nearest 32-bit integer, halves to the even one.
+std::int32_t to_long(const Value& value);
+
+// Whether a Visual Basic host calls the value numeric: numbers, truth values, Empty, and texts that the locale reads as
+// a number; no dates.
+bool is_numeric(const Value& value);
 
 }  // namespace qvr

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "frame/text.h"
 #include "services/ado.h"
 
 namespace qvr {
+
+struct ScriptAccounts;
 
 // What a run tells its host. Neither may throw.
 struct ScriptEvents {
@@ -32,10 +35,26 @@ class QVRScr {
   // Runs one command on the caller's open connection (null: none); false after the failure was reported.
   bool Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept;
 
+  // The text of all scripts "<NombreDefinicion><tag>?.cfc" of the folder in the order of their names, ready to be run:
+  // fit for the engine, names and accounts filled in, with encryption (`Encri`, SQL Server). Empty when there is none or
+  // one cannot be read. Exactly one Terminado, as for a run; refused in the same way during one.
+  Text CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView NombreDefinicion,
+                        const ScriptAccounts& accounts, bool Encri) noexcept;
+
+  // The same for the scripts "<Aplicacion><from>a<to><tag>.cfc" from this version on; empty, too, when none begins with
+  // exactly this version.
+  Text CargarActualizacion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView Aplicacion,
+                           std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept;
+
   // The engine's built-in administrator account; empty for an unknown engine.
   Text UsuarioSegunMotor(std::int32_t MotorBD) const noexcept;
 
  private:
+  template <class Body>
+  Text load(Body&& body) noexcept;
+  Text joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names);
+  Text prepared(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, bool Encri);
+
   ScriptEvents& events_;
   bool running_ = false;
 };

@@ -71,6 +71,11 @@ class Component final : public IDispatch, public IClassFactory {
     const std::wstring& member = members_[static_cast<std::size_t>(id - 1)];
     calls_.push_back(described_call(member, arguments));
     LateAnswer answer = answer_(member, arguments);
+    for (UINT i = 0; i < parameters->cArgs; ++i) {
+      const VARIANT& given = parameters->rgvarg[i];
+      if (given.vt != (VT_BYREF | VT_BSTR)) continue;
+      SysReAllocString(given.pbstrVal, arguments[parameters->cArgs - 1 - i].text().c_str());
+    }
     if (result != nullptr) VariantCopy(result, &answer.value.raw());
     return answer.result;
   }

@@ -11,7 +11,8 @@ namespace qvr::tests {
 
 class FamilyComponent {
  public:
-  using Answer = std::function<LateAnswer(const std::wstring& member, const std::vector<Var>& arguments)>;
+  // What it writes to an argument goes back to the caller where a text came by reference.
+  using Answer = std::function<LateAnswer(const std::wstring& member, std::vector<Var>& arguments)>;
 
   FamilyComponent(const wchar_t* program_id, std::vector<std::wstring> members, Answer answer);
   ~FamilyComponent();

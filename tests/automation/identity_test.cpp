@@ -94,7 +94,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ClassUnderTest{"QVRcfp", L"QVRlib21.QVRcfp", CLSID_QVRcfp, IID__QVRcfp, false},
                     ClassUnderTest{"QVRScr", L"QVRlib21.QVRScr", CLSID_QVRScr, IID__QVRScr, true},
                     ClassUnderTest{"cSQL20", L"QVRlib21.cSQL20", CLSID_cSQL20, IID__cSQL20, false},
-                    ClassUnderTest{"uSQL20", L"QVRlib21.uSQL20", CLSID_uSQL20, IID__uSQL20, false}),
+                    ClassUnderTest{"uSQL20", L"QVRlib21.uSQL20", CLSID_uSQL20, IID__uSQL20, false},
+                    ClassUnderTest{"QVRprp", L"QVRlib21.QVRprp", CLSID_QVRprp, IID__QVRprp, false}),
     [](const auto& row) { return row.param.name; });
 
 TEST(ClassObjects, OfUnknownClassesDoNotExist) {

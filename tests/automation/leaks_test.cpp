@@ -1,56 +1,15 @@
 // What a host does over and over leaves nothing behind: blocks of memory and handles are counted before and after.
-#include <map>
-
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
+#include "automation/leak_check.h"
 #include "automation/library.h"
 #include "automation/procedures.h"
+#include "automation/script_folder.h"
 #include "automation/sink.h"
 
 namespace qvr::tests {
 namespace {
-
-std::size_t blocks_in_use() {
-  std::size_t count = 0;
-  HANDLE heaps[64];
-  const DWORD found = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
-  for (DWORD i = 0; i < found; ++i) {
-    PROCESS_HEAP_ENTRY entry{};
-    HeapLock(heaps[i]);
-    while (HeapWalk(heaps[i], &entry)) count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-    HeapUnlock(heaps[i]);
-  }
-  return count;
-}
-
-// Automation keeps released strings for reuse, which would hide and feign leaks.
-void stop_string_cache() {
-  using SetOaNoCache = void(WINAPI*)();
-  const auto stop = GetProcAddress(GetModuleHandleW(L"oleaut32"), "SetOaNoCache");
-  ASSERT_NE(stop, nullptr);
-  reinterpret_cast<SetOaNoCache>(reinterpret_cast<void*>(stop))();
-}
-
-DWORD handles_in_use() {
-  DWORD count = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &count);
-  return count;
-}
-
-// Runs the body often and expects that the second half of the runs costs no memory and no handle that stays.
-void expect_no_leak(const std::function<void()>& body) {
-  constexpr int kRuns = 20;
-  stop_string_cache();
-  for (int i = 0; i < kRuns; ++i) body();
-  const std::size_t blocks = blocks_in_use();
-  const DWORD handles = handles_in_use();
-  for (int i = 0; i < kRuns; ++i) body();
-  // A leak shows at least once a run; caches of the system may grow by a few.
-  EXPECT_LT(blocks_in_use(), blocks + kRuns / 2);
-  EXPECT_LT(handles_in_use(), handles + kRuns / 2);
-  EXPECT_EQ(library().can_unload(), S_OK);
-}
 
 TEST(Leaks, TheCountSeesALeak) {
   stop_string_cache();
@@ -182,20 +141,6 @@ TEST(Leaks, ProceduresThatFailAndParametersThatAreRefused) {
   connection.call(L"Close");
 }
 
-DWORD WINAPI create_and_leave(void*) {
-  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  {
-    const LateObject cfp(L"QVRlib21.QVRcfp"), runner(L"QVRlib21.QVRScr");
-    Person person;
-    cfp.call(L"Asignar", {L"id", 2, L"P", L"D", L"C", L"u", L"k", L"v", L"w", L"o"});
-    cfp.call(L"Guardar", {L"id", work_folder(), L"thread"});
-    runner.call(L"EjecutarComandos", {L"id", 2, L"", L"Provider=NoSuchProvider"});
-  }
-  CoUninitialize();
-  return 0;
-}
-
-// With every service made on the thread, so that its end has all of them to give back.
 TEST(Leaks, QueriesNarrowedSortedAndKept) {
   Var columns = array_of({L"C.Nombre", L"T+", L"C.Alta", L"F+"});
   expect_no_leak([&] {
@@ -220,6 +165,57 @@ TEST(Leaks, QueriesThatAreRefused) {
     query.call(L"iSQL20_AmpliarOrden", {7});
     query.call(L"iSQL20_InterpretarBusqueda", {L"Nadie", L"ana"});
   });
+}
+
+TEST(Leaks, PropertiesAndTheWalkOverThem) {
+  expect_no_leak([] {
+    const LateObject list(L"QVRlib21.QVRprp"), held(L"ADODB.Command");
+    list.call(L"CreaPropiedad", {L"T", L"Texto", L"a text that is held"});
+    list.call(L"CreaPropiedad", {L"T", L"Objeto", Var(held.get())});
+    list.call(L"CreaPropiedad", {L"T", L"Lista", array_of({L"a", Var(held.get())})});
+    DISPPARAMS none{};
+    LateAnswer asked = list.invoke(DISPID_NEWENUM, DISPATCH_PROPERTYGET, none);
+    ComPtr<IEnumVARIANT> values, copy;
+    ASSERT_EQ(asked.value.raw().punkVal->QueryInterface(IID_PPV_ARGS(&values)), S_OK);
+    values->Skip(1);
+    values->Clone(&copy);
+    VARIANT two[2]{};
+    ULONG given = 0;
+    copy->Next(2, two, &given);
+    EXPECT_EQ(given, 2u);
+    for (VARIANT& each : two) VariantClear(&each);
+    list.call(L"Borra");
+  });
+}
+
+TEST(Leaks, ScriptsLoadedAndRefused) {
+  ScriptFolder folder(L"leak");
+  folder.write(L"GestionSQL1.cfc", "create procedure p\r\nAS\r\nselect '[NombreBD]'\r\nGO\r\n");
+  folder.write(L"Gestion1a2SQL.cfc", std::string("no text: \0", 10));
+  expect_no_leak([&] {
+    const LateObject runner(L"QVRlib21.QVRScr");
+    Connected connected(runner);
+    const LateAnswer loaded = runner.call(
+        L"CargarDefinicion", {L"id", 2, folder.path(), L"Gestion", L"BD", L"a", L"b", L"c", L"d", true});
+    EXPECT_NE(describe(loaded.value.raw()), "BSTR ");
+    const LateAnswer refused = runner.call(
+        L"CargarActualizacion", {L"id", 2, folder.path(), L"Gestion", 1, L"BD", L"a", L"b", L"c", L"d", true});
+    EXPECT_EQ(describe(refused.value.raw()), "BSTR ");
+  });
+}
+
+// With every service made on the thread, so that its end has all of them to give back.
+DWORD WINAPI create_and_leave(void*) {
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  {
+    const LateObject cfp(L"QVRlib21.QVRcfp"), runner(L"QVRlib21.QVRScr");
+    Person person;
+    cfp.call(L"Asignar", {L"id", 2, L"P", L"D", L"C", L"u", L"k", L"v", L"w", L"o"});
+    cfp.call(L"Guardar", {L"id", work_folder(), L"thread"});
+    runner.call(L"EjecutarComandos", {L"id", 2, L"", L"Provider=NoSuchProvider"});
+  }
+  CoUninitialize();
+  return 0;
 }
 
 TEST(Leaks, ThreadsThatComeAndGo) {

@@ -76,7 +76,7 @@ TEST_F(RegistrationTest, WritesTheStandardKeys) {
   const RegistryLines written = added(before, registry_snapshot());
   const std::wstring file = beside_program(L"QVRlib21.dll");
   const std::wstring machine = std::wstring(kWidth) + L"machine\\";
-  for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr", L"cSQL20", L"uSQL20"}) {
+  for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr", L"cSQL20", L"uSQL20", L"QVRprp"}) {
     SCOPED_TRACE(narrow(name));
     const std::wstring program_id = std::wstring(L"QVRlib21.") + name;
     CLSID id;

@@ -30,8 +30,8 @@ bool is_ours(const std::wstring& path) {
   static const std::vector<std::wstring> names = [] {
     std::vector<std::wstring> all{L"QVRlib21."};
     for (const GUID& id :
-         {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, CLSID_cSQL20, CLSID_iSQL20, CLSID_uSQL20, IID__Ov,
-          IID__QVRcfp, IID__QVRScr, IID__cSQL20, IID__iSQL20, IID__uSQL20, DIID___QVRScr}) {
+         {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, CLSID_cSQL20, CLSID_iSQL20, CLSID_uSQL20, CLSID_QVRprp,
+          IID__Ov, IID__QVRcfp, IID__QVRScr, IID__cSQL20, IID__iSQL20, IID__uSQL20, IID__QVRprp, DIID___QVRScr}) {
       wchar_t text[40];
       StringFromGUID2(id, text, 40);
       all.push_back(text);

@@ -15,7 +15,7 @@ Sub Use(number)
   cfp.Asignar id, number, "", "", "", "", "", "", "", ""
 End Sub
 
-Dim version, cfp, other, scr, query, both, id, engine, text, folder, name
+Dim version, cfp, other, scr, query, both, list, value, id, engine, text, folder, name
 Dim fields, values, fixed(1), nothingYet, empties(), connection
 
 Set version = CreateObject("QVRlib21.Ov")
@@ -129,6 +129,35 @@ ShowError "a name that only iSQL20 has"
 Set scr = CreateObject("QVRlib21.QVRScr")
 Show "UsuarioSegunMotor", scr.UsuarioSegunMotor(3)
 Show "without regard to case", scr.usuariosegunmotor("1")
+
+Show "CargarDefinicion of no folder", scr.CargarDefinicion(id, 2, folder & "\none", "Gestion", "BD", "", "", "", "", False)
+Show "CargarActualizacion of no folder", scr.CargarActualizacion(id, 2, folder & "\none", "Gestion", 1, "BD", "", "", "", "", 0)
+
+Set list = CreateObject("QVRlib21.QVRprp")
+list.CreaPropiedad "T", "Nombre", "Ana"
+list.CreaPropiedad "N", "Precio", 2.5
+list.CreaPropiedad "F", "Alta", DateSerial(2011, 1, 5)
+list.CreaPropiedad "T", "nombre", "Eva"
+Show "NumPropiedades", list.NumPropiedades
+Show "by name", list("nombre")
+Show "by position", list(3)
+Show "by a text that is a number", list("1")
+Show "no such name", list("Nada")
+Show "Item", list.Item("Alta")
+list("Precio") = 3
+list.Item("Nada") = 3
+Show "written by name", list("Precio")
+list(0) = Array(1, 2)
+fields = list("Nombre")
+Show "an array as value", fields(1)
+Show "NombrePropiedad", list.NombrePropiedad(3)
+For Each value In list
+  WScript.Echo "For Each: " & TypeName(value)
+Next
+list.CreaPropiedad "N", "Precio"
+ShowError "a property without its value"
+list.Borra
+Show "NumPropiedades after Borra", list.NumPropiedades
 
 scr.UsuarioSegunMotor
 ShowError "argument left out"

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
+#include <limits>
 
 #include "frame/failure.h"
 #include "support/describe.h"
@@ -124,6 +126,87 @@ TEST(ValueConvert, TruthIsWhatIsNotZero) {
   EXPECT_EQ(failure_of([] { to_truth(Null{}); }), 94);
   EXPECT_EQ(failure_of([] { to_truth(u"yes"); }), 13);
   EXPECT_EQ(failure_of([] { to_truth(nothing()); }), 13);
+}
+
+struct Position {
+  const char* name;
+  Value value;
+  std::int32_t number;
+};
+
+TEST(ValueConvert, LongsAreRoundedToTheNearestAndHalvesToTheEven) {
+  TestThread thread;
+  const Position kPositions[] = {
+      {"Empty", Empty{}, 0},
+      {"true", true, -1},
+      {"false", false, 0},
+      {"Byte", std::uint8_t{255}, 255},
+      {"Integer", std::int16_t{-32768}, -32768},
+      {"Long", INT32_MIN, INT32_MIN},
+      {"64 bits", std::int64_t{2147483647}, INT32_MAX},
+      {"below a half", 0.49999, 0},
+      {"half to zero", 0.5, 0},
+      {"half to two", 1.5, 2},
+      {"half to two from above", 2.5, 2},
+      {"half to four", 3.5, 4},
+      {"half below zero", -0.5, 0},
+      {"half to minus two", -1.5, -2},
+      {"half to minus two from below", -2.5, -2},
+      {"a little more than a half", 2.5000001, 3},
+      {"Single", 6.5f, 6},
+      {"Currency", Currency{25000}, 2},
+      {"Currency above the half", Currency{25001}, 3},
+      {"Decimal", Decimal{0, 0, 35, 1, true}, -4},
+      {"Date", Date{36526.75}, 36527},
+      {"text", u"12", 12},
+      {"text of a half", u"-12.5", -12},
+      {"text with an exponent", u"1.5e3", 1500},
+      {"greatest before it overflows", 2147483647.49, INT32_MAX},
+      {"least before it overflows", -2147483648.5, INT32_MIN},
+  };
+  for (const Position& row : kPositions) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(to_long(row.value), row.number);
+  }
+}
+
+TEST(ValueConvert, WhatIsNoLongFails) {
+  TestThread thread;
+  const double infinite = std::numeric_limits<double>::infinity();
+  const Value kTooLarge[] = {2147483647.5,           -2147483649.0,          1e300, infinite, -infinite, std::nan(""),
+                             std::int64_t{2147483648}, INT64_MIN,            Currency{INT64_MAX},
+                             Decimal{1, 0, 0, 0, false}, u"2147483648",      u"-1e10"};
+  for (const Value& value : kTooLarge) EXPECT_EQ(failure_of([&] { to_long(value); }), 6) << describe(value);
+  EXPECT_EQ(failure_of([] { to_long(Null{}); }), 94);
+  for (const Value& value : {Value(Missing{}), nothing(), two_items(), Value(ErrorValue{1}), Value(u""), Value(u"x"),
+                             Value(u"1x")}) {
+    EXPECT_EQ(failure_of([&] { to_long(value); }), 13) << describe(value);
+  }
+}
+
+TEST(ValueConvert, WhatIsNumeric) {
+  TestThread thread;
+  for (const Value& value :
+       {Value(), Value(true), Value(false), Value(std::uint8_t{0}), Value(std::int16_t{-1}), Value(7),
+        Value(std::int64_t{1} << 40), Value(0.1f), Value(1e300), Value(std::nan("")), Value(Currency{1}),
+        Value(Decimal{1, 2, 3, 4, true}), Value(u"0"), Value(u"-12.5"), Value(u"+1"), Value(u"1e5"), Value(u".5")}) {
+    EXPECT_TRUE(is_numeric(value)) << describe(value);
+  }
+  for (const Value& value :
+       {Value(Null{}), Value(Missing{}), Value(Date{1}), Value(ErrorValue{1}), nothing(), two_items(), Value(u""),
+        Value(u" "), Value(u"x"), Value(u"1x"), Value(u"1 2"), Value(u"-"), Value(u"."), Value(u"e5"), Value(u"True"),
+        Value(u"01/01/2000"), Value(u"\uff11")}) {
+    EXPECT_FALSE(is_numeric(value)) << describe(value);
+  }
+}
+
+TEST(ValueConvert, TheLocaleTellsWhichTextIsNumeric) {
+  TestThread thread;
+  thread.locale.decimal = u',';
+  EXPECT_TRUE(is_numeric(u"1,5"));
+  EXPECT_FALSE(is_numeric(u"1.5"));
+  EXPECT_EQ(to_long(u"3,5"), 4);
+  EXPECT_EQ(failure_of([] { to_long(u"3.5"); }), 13);
 }
 
 TEST(ValueConvert, DatesComeFromDatesTextsAndNumbers) {

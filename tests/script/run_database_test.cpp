@@ -4,8 +4,8 @@
 #include "frame/value_convert.h"
 #include "script/qvrscr.h"
 #include "services/builtin_error_report.h"
-#include "support/ado/native_ado.h"
-#include "support/ado/odbc_statement.h"
+#include "services/odbc/odbc_ado.h"
+#include "services/odbc/odbc_statement.h"
 #include "support/describe.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
@@ -23,7 +23,7 @@ struct Events final : ScriptEvents {
 class RunIntoDatabase : public testing::Test {
  protected:
   RunIntoDatabase() {
-    thread.make_ado = [] { return std::make_unique<OdbcAdo>(); };
+    thread.make_ado = odbc::make_odbc_ado;
     thread.make_error_report = [this] { return std::make_unique<services::BuiltinErrorReport>(thread.boxes); };
   }
 
@@ -102,8 +102,8 @@ TEST_F(RunIntoDatabase, RunsThousandsOfCommands) {
 }
 
 TEST_F(RunIntoDatabase, LeavesTheCallersConnectionToTheCaller) {
-  OdbcAdo ado;
-  const auto own = ado.new_connection();
+  const auto ado = odbc::make_odbc_ado();
+  const auto own = ado->new_connection();
   own->set_connection_string(connection());
   own->open();
   own->begin_trans();

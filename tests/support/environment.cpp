@@ -1,6 +1,7 @@
 // What stands behind the library in this program where a test puts nothing else: the system and the built-in services.
 #include "frame/thread_state.h"
 #include "services/builtin_error_report.h"
+#include "services/builtin_script_reader.h"
 #include "services/builtin_text_protection.h"
 
 namespace qvr {
@@ -27,10 +28,15 @@ class NoAdo final : public services::Ado {
 
 std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<NoAdo>(); }
 
+std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
+  return std::make_unique<services::BuiltinScriptReader>(platform.files);
+}
+
 }  // namespace
 
 const Environment& environment() {
-  static const Environment environment{system_platform(), make_protection, make_report, make_ado};
+  static const Environment environment{system_platform(), make_protection, make_report, make_ado,
+                                       make_script_reader};
   return environment;
 }
 

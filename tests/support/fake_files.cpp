@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/failure.h"
+#include "frame/wildcards.h"
 
 namespace qvr::tests {
 namespace {
@@ -37,7 +38,20 @@ class MemoryOutput final : public OutputFile {
 bool FakeFiles::any_entry(TextView path, std::int32_t attributes) {
   ++searches;
   if (search_fails) refuse();
-  return in_memory_ ? memory.contains(Text(path)) : real().any_entry(path, attributes);
+  if (!in_memory_) return real().any_entry(path, attributes);
+  return std::ranges::any_of(memory, [&](const auto& file) { return matches_wildcards(file.first, path); });
+}
+
+std::vector<Text> FakeFiles::names(TextView folder) {
+  ++searches;
+  if (search_fails) refuse();
+  if (!in_memory_) return real().names(folder);
+  std::vector<Text> found;
+  const Text start = join({folder, u"\\"});
+  for (const auto& [path, bytes] : memory) {
+    if (path.starts_with(start)) found.push_back(path.substr(start.size()));
+  }
+  return found;
 }
 
 std::unique_ptr<InputFile> FakeFiles::open(TextView path) {

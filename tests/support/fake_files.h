@@ -13,6 +13,7 @@ namespace qvr::tests {
 class FakeFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override;
+  std::vector<Text> names(TextView folder) override;
   std::unique_ptr<InputFile> open(TextView path) override;
   std::unique_ptr<OutputFile> create(TextView path) override;
   std::string to_system_page(TextView text) override;

@@ -1,6 +1,7 @@
 #include "support/test_thread.h"
 
 #include "frame/global.h"
+#include "services/builtin_script_reader.h"
 
 namespace qvr::tests {
 namespace {
@@ -37,8 +38,11 @@ std::unique_ptr<services::ErrorReport> report_of_test(const Platform&) { return 
 
 std::unique_ptr<services::Ado> ado_of_test(const Platform&) { return current->make_ado(); }
 
+std::unique_ptr<services::ScriptReader> reader_of_test(const Platform&) { return current->make_script_reader(); }
+
 std::unique_ptr<ThreadState> state_over(const Platform& platform) {
-  return std::make_unique<ThreadState>(Environment{platform, protection_of_test, report_of_test, ado_of_test});
+  return std::make_unique<ThreadState>(
+      Environment{platform, protection_of_test, report_of_test, ado_of_test, reader_of_test});
 }
 
 }  // namespace
@@ -47,6 +51,7 @@ TestThread::TestThread()
     : make_text_protection([] { return std::make_unique<CheapProtection>(); }),
       make_error_report([this] { return std::make_unique<ReportOf>(report); }),
       make_ado([this] { return std::make_unique<AdoOf>(ado); }),
+      make_script_reader([this] { return std::make_unique<services::BuiltinScriptReader>(files); }),
       platform_{settings,    user_language, files,      boxes, host_events, locale, clock,
                 system_platform().cryptography, own_module},
       outer_(std::exchange(current, this)),

@@ -42,6 +42,7 @@ class TestThread {
   std::function<std::unique_ptr<services::TextProtection>()> make_text_protection;
   std::function<std::unique_ptr<services::ErrorReport>()> make_error_report;
   std::function<std::unique_ptr<services::Ado>()> make_ado;
+  std::function<std::unique_ptr<services::ScriptReader>()> make_script_reader;
   int protections_made = 0;
 
  private:

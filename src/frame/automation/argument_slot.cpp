@@ -123,10 +123,14 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   return result;
 }
 
+VARTYPE ArgumentSlot::type_passed() const noexcept {
+  return by_reference_ ? static_cast<VARTYPE>(VT_BYREF | type_) : type_;
+}
+
 VARIANT ArgumentSlot::as_passed() noexcept {
   if (!by_reference_) return *held_;
   VARIANT passed;
-  passed.vt = static_cast<VARTYPE>(VT_BYREF | type_);
+  passed.vt = type_passed();
   passed.byref = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
   return passed;
 }

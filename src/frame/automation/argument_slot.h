@@ -14,6 +14,8 @@ class ArgumentSlot {
   // What the member is called with: the value, or its address where the parameter is by reference. Valid as long as
   // the slot stays where it is.
   VARIANT as_passed() noexcept;
+  // The parameter's type, not that of a value in a variant.
+  VARTYPE type_passed() const noexcept;
 
   // Writes the value to the caller's variable when the argument came by reference and the member changed it.
   void give_back(VARIANT& argument, LCID locale) noexcept;

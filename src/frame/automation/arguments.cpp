@@ -84,19 +84,20 @@ class Call {
     std::array<VARIANT, kMost + 1> values;
     std::array<VARIANT*, kMost + 1> pointers{};
     UINT count = 0;
-    for (std::size_t i = 0; i < member_.parameters.size(); ++i) values[count++] = slots_[i].as_passed();
+    for (std::size_t i = 0; i < member_.parameters.size(); ++i) {
+      types[count] = slots_[i].type_passed();
+      values[count++] = slots_[i].as_passed();
+    }
     OwnedVariant answer;
     answer->vt = member_.result;
     if (member_.result != VT_EMPTY) {
       VARIANT& passed = values[count++];
       passed.vt = static_cast<VARTYPE>(VT_BYREF | member_.result);
       passed.byref = member_.result == VT_VARIANT ? static_cast<void*>(answer.get()) : &answer->llVal;
+      types[count - 1] = passed.vt;
       if (member_.result == VT_VARIANT) answer->vt = VT_EMPTY;
     }
-    for (UINT i = 0; i < count; ++i) {
-      types[i] = values[i].vt;
-      pointers[i] = &values[i];
-    }
+    for (UINT i = 0; i < count; ++i) pointers[i] = &values[i];
     VARIANT returned;
     VariantInit(&returned);
     const HRESULT called = DispCallFunc(object, static_cast<ULONG_PTR>(member_.slot_offset), CC_STDCALL, VT_ERROR,

@@ -3,6 +3,7 @@
 #include "QVRlib21.h"
 #include "connection/automation/qvrcfp_object.h"
 #include "frame/automation/ov_object.h"
+#include "properties/automation/qvrprp_object.h"
 #include "query/automation/csql20_object.h"
 #include "query/automation/usql20_object.h"
 #include "script/automation/qvrscr_object.h"
@@ -24,6 +25,7 @@ std::span<const ClassRow> class_table() {
       {CLSID_QVRScr, L"QVRScr", create<QVRScrObject>},
       {CLSID_cSQL20, L"cSQL20", create<cSQL20Object>},
       {CLSID_uSQL20, L"uSQL20", create<uSQL20Object>},
+      {CLSID_QVRprp, L"QVRprp", create<QVRprpObject>},
   };
   return rows;
 }

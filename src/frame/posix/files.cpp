@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <string>
 
 #include "frame/failure.h"
@@ -100,6 +101,18 @@ class PosixFiles final : public Files {
     }
     ::globfree(&found);
     return any;
+  }
+
+  std::vector<Text> names(TextView folder) override {
+    std::vector<Text> found;
+    const std::filesystem::path path(native_path(folder));
+    for (const auto& entry : std::filesystem::directory_iterator(path)) {
+      std::error_code vanished;
+      auto name = from_utf8(entry.path().filename().string());
+      // A name that is no text cannot be asked for.
+      if (name && entry.is_regular_file(vanished)) found.push_back(std::move(*name));
+    }
+    return found;
   }
 
   std::unique_ptr<InputFile> open(TextView path) override {

@@ -77,17 +77,35 @@ bool shown(DWORD attributes, std::int32_t mask) {
   return (attributes & kOnRequest & ~static_cast<DWORD>(mask)) == 0;
 }
 
+// Hands every entry of a directory search over until it is told that this is enough; the reason why it ended.
+template <class Use>
+DWORD search(const std::wstring& path, Use&& use) {
+  WIN32_FIND_DATAW entry;
+  const HANDLE found = FindFirstFileW(path.c_str(), &entry);
+  if (found == INVALID_HANDLE_VALUE) return GetLastError();
+  const std::unique_ptr<void, decltype(&FindClose)> close(found, &FindClose);
+  do {
+    if (use(entry)) return ERROR_NO_MORE_FILES;
+  } while (FindNextFileW(found, &entry));
+  return GetLastError();
+}
+
 class SystemFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override {
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = FindFirstFileW(path_of(path).c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE) return false;
     bool found = false;
-    do {
-      found = shown(entry.dwFileAttributes, attributes);
-    } while (!found && FindNextFileW(search, &entry));
-    FindClose(search);
+    search(path_of(path), [&](const WIN32_FIND_DATAW& entry) { return found = shown(entry.dwFileAttributes, attributes); });
+    return found;
+  }
+
+  std::vector<Text> names(TextView folder) override {
+    std::vector<Text> found;
+    const DWORD end = search(path_of(join({folder, u"\\*"})), [&](const WIN32_FIND_DATAW& entry) {
+      if (shown(entry.dwFileAttributes, 0)) found.push_back(text_from(entry.cFileName));
+      return false;
+    });
+    // An empty root folder has no entry at all, any other one at least those for itself and its parent.
+    if (end != ERROR_NO_MORE_FILES && end != ERROR_FILE_NOT_FOUND) refuse();
     return found;
   }
 

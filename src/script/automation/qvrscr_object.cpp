@@ -1,5 +1,6 @@
 #include "script/automation/qvrscr_object.h"
 
+#include "script/script_preparation.h"
 #include "services/automation/com_ado.h"
 
 namespace qvr::automation {
@@ -32,6 +33,30 @@ HRESULT QVRScrObject::Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando
 
 HRESULT QVRScrObject::UsuarioSegunMotor(LONG* MotorBD, BSTR* Resultado) noexcept {
   return answer(Resultado, [&] { return core_.UsuarioSegunMotor(number_of(MotorBD)); });
+}
+
+HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR* NombreDefinicion,
+                                       BSTR* NombreBaseOTablespace, BSTR* UsuarioQVRAdm, BSTR* ClaveUsuarioQVRAdm,
+                                       BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
+                                       BSTR* Resultado) noexcept {
+  return answer_while_kept(Resultado, [&] {
+    const ScriptAccounts accounts{text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
+                                  text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)};
+    return core_.CargarDefinicion(text_of(ID), number_of(MotorBD), text_of(Ruta), text_of(NombreDefinicion), accounts,
+                                  truth_of(Encri));
+  });
+}
+
+HRESULT QVRScrObject::CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR* Aplicacion, LONG* VersionActual,
+                                          BSTR* NombreBaseOTablespace, BSTR* UsuarioQVRAdm, BSTR* ClaveUsuarioQVRAdm,
+                                          BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
+                                          BSTR* Resultado) noexcept {
+  return answer_while_kept(Resultado, [&] {
+    const ScriptAccounts accounts{text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
+                                  text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)};
+    return core_.CargarActualizacion(text_of(ID), number_of(MotorBD), text_of(Ruta), text_of(Aplicacion),
+                                     number_of(VersionActual), accounts, truth_of(Encri));
+  });
 }
 
 HRESULT QVRScrObject::EnumConnectionPoints(IEnumConnectionPoints** points) noexcept {

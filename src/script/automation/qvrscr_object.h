@@ -14,6 +14,14 @@ class QVRScrObject final : public Object<::QVRScr, Dual<_QVRScr>, IConnectionPoi
   STDMETHODIMP Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando, LONG* MotorBD,
                                 VARIANT_BOOL* Resultado) noexcept override;
   STDMETHODIMP UsuarioSegunMotor(LONG* MotorBD, BSTR* Resultado) noexcept override;
+  STDMETHODIMP CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR* NombreDefinicion,
+                                BSTR* NombreBaseOTablespace, BSTR* UsuarioQVRAdm, BSTR* ClaveUsuarioQVRAdm,
+                                BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
+                                BSTR* Resultado) noexcept override;
+  STDMETHODIMP CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR* Aplicacion, LONG* VersionActual,
+                                   BSTR* NombreBaseOTablespace, BSTR* UsuarioQVRAdm, BSTR* ClaveUsuarioQVRAdm,
+                                   BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
+                                   BSTR* Resultado) noexcept override;
 
   STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** points) noexcept override;
   STDMETHODIMP FindConnectionPoint(REFIID id, IConnectionPoint** point) noexcept override;

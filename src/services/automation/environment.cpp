@@ -4,8 +4,10 @@
 #include "frame/thread_state.h"
 #include "services/automation/com_ado.h"
 #include "services/automation/com_error_report.h"
+#include "services/automation/com_script_reader.h"
 #include "services/automation/com_text_protection.h"
 #include "services/builtin_error_report.h"
+#include "services/builtin_script_reader.h"
 #include "services/builtin_text_protection.h"
 
 namespace qvr {
@@ -35,10 +37,19 @@ std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platfor
 
 std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<ComAdo>(); }
 
+std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
+  // As with text protection: protected scripts are not ours to read.
+  if (const auto id = registered_class(ComScriptReader::kProgramId)) {
+    return std::make_unique<ComScriptReader>(LateObject::create(*id));
+  }
+  return std::make_unique<services::BuiltinScriptReader>(platform.files);
+}
+
 }  // namespace
 
 const Environment& environment() {
-  static const Environment wired{system_platform(), make_text_protection, make_error_report, make_ado};
+  static const Environment wired{system_platform(), make_text_protection, make_error_report, make_ado,
+                                 make_script_reader};
   return wired;
 }
 

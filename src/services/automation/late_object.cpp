@@ -37,6 +37,14 @@ class Arguments {
     }
   }
 
+  // Behind the last argument, so first in the list.
+  void add_by_reference(OwnedBstr& text) {
+    VARIANT reference;
+    reference.vt = VT_BYREF | VT_BSTR;
+    reference.pbstrVal = text.out();
+    passed_.insert(passed_.begin(), reference);
+  }
+
   DISPPARAMS parameters(WORD flags) {
     const bool put = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
     return {passed_.data(), put ? &put_name_ : nullptr, static_cast<UINT>(passed_.size()), put ? 1u : 0u};
@@ -59,11 +67,15 @@ LateObject LateObject::create(REFCLSID id) {
 }
 
 Value LateObject::invoke(const wchar_t* name, WORD flags, std::span<const Value> arguments) const {
+  Arguments passed(arguments);
+  DISPPARAMS parameters = passed.parameters(flags);
+  return invoke(name, flags, parameters);
+}
+
+Value LateObject::invoke(const wchar_t* name, WORD flags, DISPPARAMS& parameters) const {
   DISPID id = DISPID_UNKNOWN;
   LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
   require(object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id));
-  Arguments passed(arguments);
-  DISPPARAMS parameters = passed.parameters(flags);
   const bool wants_result = parameters.cNamedArgs == 0;
   OwnedVariant result;
   Exception exception;
@@ -76,6 +88,16 @@ Value LateObject::invoke(const wchar_t* name, WORD flags, std::span<const Value>
 
 Value LateObject::call(const wchar_t* name, std::initializer_list<Value> arguments) const {
   return invoke(name, DISPATCH_METHOD, {arguments.begin(), arguments.size()});
+}
+
+Value LateObject::call(const wchar_t* name, std::initializer_list<Value> arguments, Text& by_reference) const {
+  OwnedBstr text(by_reference);
+  Arguments passed({arguments.begin(), arguments.size()});
+  passed.add_by_reference(text);
+  DISPPARAMS parameters = passed.parameters(DISPATCH_METHOD);
+  Value result = invoke(name, DISPATCH_METHOD, parameters);
+  by_reference = text.text();
+  return result;
 }
 
 Value LateObject::get(const wchar_t* name, std::initializer_list<Value> arguments) const {

@@ -18,6 +18,8 @@ class LateObject {
   static LateObject create(REFCLSID id);
 
   Value call(const wchar_t* name, std::initializer_list<Value> arguments) const;
+  // With one more argument behind the others: a text by reference, which the object may change.
+  Value call(const wchar_t* name, std::initializer_list<Value> arguments, Text& by_reference) const;
   Value get(const wchar_t* name, std::initializer_list<Value> arguments = {}) const;
   void put(const wchar_t* name, const Value& value) const;
   void put_object(const wchar_t* name, const LateObject& object) const;
@@ -29,6 +31,7 @@ class LateObject {
 
  private:
   Value invoke(const wchar_t* name, WORD flags, std::span<const Value> arguments) const;
+  Value invoke(const wchar_t* name, WORD flags, DISPPARAMS& parameters) const;
 
   ComPtr<IDispatch> object_;
 };

@@ -23,7 +23,8 @@ TEST(ThreadEnd, TakesTheStateAlong) {
   Mortal::ended = 0;
   std::thread([] {
     const Environment& usual = environment();
-    const Environment mortal{usual.platform, make_mortal, usual.make_error_report, usual.make_ado};
+    const Environment mortal{usual.platform, make_mortal, usual.make_error_report, usual.make_ado,
+                             usual.make_script_reader};
     exchange_thread_state(std::make_unique<ThreadState>(mortal));
     thread_state().text_protection();
     EXPECT_EQ(Mortal::ended, 0);

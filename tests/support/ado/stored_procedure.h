@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "support/ado/ado_session.h"
+#include "support/ado/behaviour.h"
 
 namespace qvr::tests {
 

@@ -2,7 +2,7 @@
 
 #include <type_traits>
 
-#include "support/ado/ado_failure.h"
+#include "support/ado/behaviour.h"
 
 namespace qvr::tests::com {
 namespace {

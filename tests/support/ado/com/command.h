@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "support/ado/ado_command_state.h"
+#include "support/ado/behaviour.h"
 #include "support/ado/com/collection.h"
 #include "support/ado/com/connection.h"
 #include "support/ado/com/parameter.h"

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "support/ado/ado_command_state.h"
+#include "support/ado/behaviour.h"
 #include "support/ado/com/connection.h"
 
 namespace qvr::tests::com {

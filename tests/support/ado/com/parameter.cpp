@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "support/ado/ado_failure.h"
+#include "support/ado/behaviour.h"
 #include "support/ado/com/trace.h"
 
 namespace qvr::tests::com {

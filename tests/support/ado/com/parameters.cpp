@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "support/ado/ado_failure.h"
+#include "support/ado/behaviour.h"
 #include "support/ado/com/command.h"
 #include "support/ado/com/trace.h"
 

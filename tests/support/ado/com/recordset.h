@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "support/ado/ado_session.h"
+#include "support/ado/behaviour.h"
 #include "support/ado/com/collection.h"
 
 namespace qvr::tests::com {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "frame/utf8.h"
-#include "support/ado/ado_failure.h"
+#include "support/ado/behaviour.h"
 
 namespace qvr::tests::com {
 namespace {

@@ -1,0 +1,73 @@
+#include "properties/qvrprp.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "frame/failure.h"
+#include "frame/global.h"
+#include "frame/thread_state.h"
+#include "frame/value_convert.h"
+
+namespace qvr {
+namespace {
+
+constexpr TextView kTypes[] = {u"T", u"N", u"F", u"L"};
+
+void tell_unexpected_type(TextView type, TextView name) {
+  thread_state().platform().message_boxes.show(
+      join({u"Tipo inesperado (", type, u") al agregar propiedad (", name, u")"}), BoxButtons::Ok);
+}
+
+}  // namespace
+
+QVRprp::QVRprp() noexcept { InicializarComun(); }
+
+// Out of reach first: the host's objects among the values may look into this list as they end.
+void QVRprp::Borra() noexcept { const std::vector<Row> leaving = std::exchange(rows_, {}); }
+
+void QVRprp::CreaPropiedad(TextView Tipo, TextView Nombre, const Value& Valor) noexcept {
+  or_default(false, [&] {
+    const bool known = std::ranges::any_of(kTypes, [&](TextView type) { return equal_no_case(type, Tipo); });
+    if (!known) return tell_unexpected_type(Tipo, Nombre), false;
+    rows_.push_back({Text(Tipo), Text(Nombre), Valor});
+    return true;
+  });
+}
+
+std::optional<std::size_t> QVRprp::position_of(const Value& name_or_index) const {
+  if (is_numeric(name_or_index)) {
+    const std::int32_t position = to_long(name_or_index);
+    const bool there = position >= 0 && position < NumPropiedades();
+    return there ? std::optional(static_cast<std::size_t>(position)) : std::nullopt;
+  }
+  const Text name = to_text(name_or_index);
+  const auto found = std::ranges::find_if(rows_, [&](const Row& row) { return equal_no_case(row.name, name); });
+  return found == rows_.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - rows_.begin()));
+}
+
+Value QVRprp::Item(const Value& NombreOIndice) const noexcept {
+  return or_default(Value(), [&] {
+    const auto position = rows_.empty() ? std::nullopt : position_of(NombreOIndice);
+    return position ? rows_[*position].value : Value();
+  });
+}
+
+void QVRprp::Item(const Value& NombreOIndice, const Value& Valor) noexcept {
+  or_default(false, [&] {
+    const auto position = rows_.empty() ? std::nullopt : position_of(NombreOIndice);
+    if (!position) return false;
+    Value changed = Valor;
+    // The old value goes last: it may be the host's object, whose end may look into this list.
+    std::swap(rows_[*position].value, changed);
+    return true;
+  });
+}
+
+Text QVRprp::NombrePropiedad(std::int32_t Indice) const noexcept {
+  return or_default(Text(), [&] {
+    const bool there = Indice >= 0 && Indice < NumPropiedades();
+    return there ? rows_[static_cast<std::size_t>(Indice)].name : Text();
+  });
+}
+
+}  // namespace qvr

@@ -1,0 +1,59 @@
+// The members that put scripts together.
+#include "frame/failure.h"
+#include "frame/thread_state.h"
+#include "script/qvrscr.h"
+#include "script/script_files.h"
+#include "script/script_preparation.h"
+
+namespace qvr {
+namespace {
+
+constexpr std::int32_t kSqlServer = 2;
+
+}  // namespace
+
+// Whatever fails leaves no text: half an installation is worse than none.
+template <class Body>
+Text QVRScr::load(Body&& body) noexcept {
+  if (running_) return {};
+  running_ = true;
+  Text text = or_default(Text(), std::forward<Body>(body));
+  events_.Terminado(!text.empty());
+  running_ = false;
+  return text;
+}
+
+Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names) {
+  Text text;
+  for (const Text& name : names) {
+    events_.Progreso(join({u"Procesando ", name}));
+    const auto read = thread_state().script_reader().Leer(ID, join({Ruta, u"\\", name}));
+    if (!read || read->empty()) throw RuntimeFailure(failure_number::kFile);
+    text.append(*read).append(kLineBreak);
+  }
+  return text;
+}
+
+Text QVRScr::prepared(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, bool Encri) {
+  if (Encri && MotorBD == kSqlServer) text = with_encryption(std::move(text), events_);
+  return with_accounts(std::move(text), MotorBD, accounts, events_);
+}
+
+Text QVRScr::CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView NombreDefinicion,
+                              const ScriptAccounts& accounts, bool Encri) noexcept {
+  return load([&] {
+    Text text = joined_files(ID, Ruta, definition_files(Ruta, NombreDefinicion, MotorBD));
+    return prepared(std::move(text), MotorBD, accounts, Encri);
+  });
+}
+
+Text QVRScr::CargarActualizacion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView Aplicacion,
+                                 std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept {
+  return load([&] {
+    if (!has_update_from(Ruta, Aplicacion, VersionActual, MotorBD)) return Text();
+    Text text = joined_files(ID, Ruta, update_files(Ruta, Aplicacion, VersionActual, MotorBD));
+    return text.empty() ? text : prepared(std::move(text), MotorBD, accounts, Encri);
+  });
+}
+
+}  // namespace qvr

@@ -1,0 +1,49 @@
+#include "script/script_files.h"
+
+#include <algorithm>
+
+#include "frame/global.h"
+#include "frame/number_text.h"
+#include "frame/thread_state.h"
+#include "frame/wildcards.h"
+
+namespace qvr {
+namespace {
+
+constexpr TextView kTags[] = {u"JET", u"SQL", u"ORA"};
+constexpr std::size_t kVersionDigits = 5;
+
+std::vector<Text> sorted_names(TextView Ruta, TextView pattern) {
+  std::vector<Text> names = thread_state().platform().files.names(Ruta);
+  // The system's own search takes "?" at some places for no character at all.
+  std::erase_if(names, [&](const Text& name) { return !matches_wildcards(name, pattern); });
+  std::ranges::sort(names, [](const Text& a, const Text& b) { return less_no_case(a, b); });
+  return names;
+}
+
+}  // namespace
+
+TextView engine_tag(std::int32_t MotorBD) {
+  const bool known = MotorBD >= 1 && MotorBD <= static_cast<std::int32_t>(std::size(kTags));
+  return known ? kTags[MotorBD - 1] : TextView();
+}
+
+std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std::int32_t MotorBD) {
+  return sorted_names(Ruta, join({NombreDefinicion, engine_tag(MotorBD), u"?.cfc"}));
+}
+
+bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
+  constexpr std::int32_t kPlainFiles = 0;
+  return ExisteArchivo(join({Ruta, u"\\", Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"}),
+                       kPlainFiles);
+}
+
+std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
+  std::vector<Text> names = sorted_names(Ruta, join({Aplicacion, u"?????a?????", engine_tag(MotorBD), u".cfc"}));
+  std::erase_if(names, [&](const Text& name) {
+    return number_prefix(TextView(name).substr(std::min(Aplicacion.size(), name.size()), kVersionDigits)) < version;
+  });
+  return names;
+}
+
+}  // namespace qvr

@@ -1,0 +1,23 @@
+// The files of a definition or an update, by their names.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "frame/text.h"
+
+namespace qvr {
+
+// "JET", "SQL" or "ORA"; empty for a number that is no engine.
+TextView engine_tag(std::int32_t MotorBD);
+
+// The names in the folder that belong to the definition, in the order in which they run.
+std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std::int32_t MotorBD);
+
+// Whether the folder has an update from exactly this version.
+bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD);
+
+// The names in the folder that update from this version on, in the order in which they run.
+std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD);
+
+}  // namespace qvr

@@ -1,0 +1,13 @@
+#include "services/automation/com_script_reader.h"
+
+#include "frame/value_convert.h"
+
+namespace qvr::automation {
+
+std::optional<Text> ComScriptReader::Leer(TextView ID, TextView Ruta) {
+  Text text;
+  const bool read = to_truth(component_.call(L"Leer", {Text(ID), Text(Ruta)}, text));
+  return read ? std::optional(std::move(text)) : std::nullopt;
+}
+
+}  // namespace qvr::automation

@@ -1,0 +1,47 @@
+// How an ADO command behaves, whoever uses it: natively or through automation.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "frame/text.h"
+#include "services/odbc/ado_session.h"
+
+namespace qvr::odbc {
+
+// Values of CommandTypeEnum.
+namespace command_type {
+inline constexpr std::int32_t kUnspecified = -1;
+inline constexpr std::int32_t kText = 1;
+inline constexpr std::int32_t kTable = 2;
+inline constexpr std::int32_t kStoredProc = 4;
+inline constexpr std::int32_t kUnknown = 8;
+}  // namespace command_type
+
+// What is sent for a command text of the given type; `parameters` is the number of a procedure's arguments.
+Text statement_for(std::int32_t type, TextView text, std::size_t parameters);
+
+class AdoCommandState {
+ public:
+  const std::shared_ptr<AdoSession>& session() const { return session_; }
+  void set_session(std::shared_ptr<AdoSession> session);  // an open one, or null for none
+  std::int32_t type() const { return type_; }
+  void set_type(std::int32_t type);
+  const Text& text() const { return text_; }
+  void set_text(TextView text) { text_ = Text(text); }
+  std::int32_t timeout() const { return timeout_; }
+  void set_timeout(std::int32_t seconds);  // 0: no limit
+
+  AdoSession& open_session() const;  // error 3709 when there is none
+  ResultSet execute(const std::vector<Value>& parameters);
+  ResultSet execute_as(std::int32_t type, const std::vector<Value>& parameters);
+
+ private:
+  std::shared_ptr<AdoSession> session_;
+  std::int32_t type_ = command_type::kUnknown;
+  Text text_;
+  std::int32_t timeout_ = 30;  // the connection's limit is its own
+};
+
+}  // namespace qvr::odbc

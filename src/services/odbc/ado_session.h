@@ -1,0 +1,65 @@
+// How an ADO connection behaves, whoever uses it: natively or through automation.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "frame/text.h"
+#include "frame/value.h"
+#include "services/ado.h"
+#include "services/odbc/odbc.h"
+#include "services/odbc/odbc_statement.h"
+
+namespace qvr::odbc {
+
+// Closed, open, or open in a transaction. Everything refused throws RuntimeFailure: in the name of ADO when the state
+// does not allow it, in the provider's when ODBC refuses.
+class AdoSession {
+ public:
+  const Text& connection_string() const { return connection_string_; }
+  void set_connection_string(TextView text);
+  const Text& provider() const { return open_provider_.empty() ? provider_ : open_provider_; }
+  void set_provider(TextView name);
+  std::int32_t connection_timeout() const { return connection_timeout_; }
+  void set_connection_timeout(std::int32_t seconds);
+  std::int32_t command_timeout() const { return command_timeout_; }
+  void set_command_timeout(std::int32_t seconds);
+
+  // User and password override those of the connection string unless empty.
+  void open(TextView user = {}, TextView password = {});
+  void close();  // refused in a transaction; a session that goes away in one rolls it back
+  bool is_open() const { return connection_ != nullptr; }
+  std::uint32_t openings() const { return openings_; }  // how often it was opened: tells one opening from the next
+
+  std::int32_t begin_trans();  // the nesting level, which is always 1
+  void commit_trans() { end_trans(true); }
+  void rollback_trans() { end_trans(false); }
+
+  ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
+
+  // The last refusal of the provider; what succeeds afterwards leaves it as it is, as ADO does.
+  const std::vector<services::AdoError>& errors() const { return errors_; }
+  void clear_errors() { errors_.clear(); }
+
+ private:
+  template <class Body>
+  auto provider_call(std::int32_t otherwise, Body&& body);
+  [[noreturn]] void fail_with(std::vector<services::AdoError> errors);
+  [[noreturn]] void fail_transaction(std::int32_t result, TextView description);
+  void require_open() const;
+  void require_closed() const;
+  void end_trans(bool commit);
+
+  Text connection_string_;
+  Text provider_ = u"MSDASQL";
+  Text open_provider_;  // of the last opening whose connection string named one
+  std::int32_t connection_timeout_ = 15;
+  std::int32_t command_timeout_ = 30;
+  std::unique_ptr<Connection> connection_;
+  std::uint32_t openings_ = 0;
+  bool in_transaction_ = false;
+  std::vector<services::AdoError> errors_;
+};
+
+}  // namespace qvr::odbc

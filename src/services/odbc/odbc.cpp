@@ -1,0 +1,103 @@
+#include "services/odbc/odbc.h"
+
+#include <array>
+#include <string>
+
+#include "services/odbc/odbc_api.h"
+
+namespace qvr::odbc {
+namespace {
+
+std::vector<services::AdoError> diagnostics(SQLSMALLINT type, SQLHANDLE handle) {
+  std::vector<services::AdoError> records;
+  for (SQLSMALLINT number = 1;; ++number) {
+    std::array<char16_t, 6> state{};
+    std::array<char16_t, 2048> message{};
+    SQLINTEGER native = 0;
+    SQLSMALLINT length = 0;
+    const SQLRETURN result = SQLGetDiagRecW(type, handle, number, wide(state.data()), &native, wide(message.data()),
+                                            short_units(message.size()), &length);
+    if (!SQL_SUCCEEDED(result)) return records;
+    services::AdoError record;
+    record.description = message.data();
+    record.sql_state = state.data();
+    record.native_error = native;
+    records.push_back(std::move(record));
+  }
+}
+
+[[noreturn]] void fail(SQLSMALLINT type, SQLHANDLE handle) {
+  std::vector<services::AdoError> records = diagnostics(type, handle);
+  if (records.empty()) {
+    records.emplace_back();
+    records.back().description = u"ODBC call refused without a diagnostic record.";
+    records.back().sql_state = u"HY000";
+  }
+  throw Failure(std::move(records));
+}
+
+}  // namespace
+
+Handle::Handle(std::int16_t type, void* parent) : type_(type) {
+  if (SQL_SUCCEEDED(SQLAllocHandle(type, parent, &handle_))) return;
+  handle_ = nullptr;
+  const SQLSMALLINT parent_type = type == SQL_HANDLE_STMT ? SQL_HANDLE_DBC : SQL_HANDLE_ENV;
+  fail(parent_type, parent);
+}
+
+Handle::~Handle() {
+  if (handle_ != nullptr) SQLFreeHandle(type_, handle_);
+}
+
+void Handle::check(int result) const {
+  if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return;
+  fail(type_, handle_);
+}
+
+namespace {
+
+// A connection handle is only given out once the environment knows its version.
+void* with_version(const Handle& environment) {
+  environment.check(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, attribute(SQL_OV_ODBC3), 0));
+  return environment.get();
+}
+
+}  // namespace
+
+Connection::Connection()
+    : environment_(SQL_HANDLE_ENV, SQL_NULL_HANDLE), connection_(SQL_HANDLE_DBC, with_version(environment_)) {}
+
+Connection::~Connection() {
+  if (!open_) return;
+  // The driver refuses to disconnect in a transaction; outside of one this does nothing.
+  SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
+  SQLDisconnect(connection_.get());
+}
+
+void Connection::open(TextView connection_string, std::int32_t login_timeout) {
+  // Not every driver has a time limit for logging in; then it is the driver's own.
+  SQLSetConnectAttrW(connection_.get(), SQL_ATTR_LOGIN_TIMEOUT, attribute(static_cast<SQLULEN>(login_timeout)), 0);
+  std::array<char16_t, 1024> completed{};
+  SQLSMALLINT length = 0;
+  connection_.check(SQLDriverConnectW(connection_.get(), nullptr, wide(connection_string),
+                                      short_units(connection_string.size()), wide(completed.data()),
+                                      short_units(completed.size()), &length, SQL_DRIVER_NOPROMPT));
+  open_ = true;
+}
+
+void Connection::close() {
+  if (!open_) return;
+  connection_.check(SQLDisconnect(connection_.get()));
+  open_ = false;
+}
+
+void Connection::set_autocommit(bool on) {
+  const SQLULEN value = on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF;
+  connection_.check(SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, attribute(value), 0));
+}
+
+void Connection::end_transaction(bool commit) {
+  connection_.check(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), commit ? SQL_COMMIT : SQL_ROLLBACK));
+}
+
+}  // namespace qvr::odbc

@@ -1,0 +1,66 @@
+#include "services/odbc/odbc_ado.h"
+
+#include <vector>
+
+#include "services/odbc/ado_command_state.h"
+#include "services/odbc/ado_failure.h"
+#include "services/odbc/ado_session.h"
+
+namespace qvr::odbc {
+namespace {
+
+class NativeConnection : public services::AdoConnection {
+ public:
+  void set_connection_string(TextView text) override { session_->set_connection_string(text); }
+  void open() override { session_->open(); }
+  void begin_trans() override { session_->begin_trans(); }
+  void commit_trans() override { session_->commit_trans(); }
+  void rollback_trans() override { session_->rollback_trans(); }
+  void close() override { session_->close(); }
+  std::vector<services::AdoError> errors() override { return session_->errors(); }
+
+  const std::shared_ptr<AdoSession>& session() const { return session_; }
+
+ private:
+  // Shared with the commands, which may outlive the connection object as they may in ADO.
+  std::shared_ptr<AdoSession> session_ = std::make_shared<AdoSession>();
+};
+
+class NativeCommand : public services::AdoCommand {
+ public:
+  void set_active_connection(services::AdoConnection& connection) override {
+    const auto* own = dynamic_cast<NativeConnection*>(&connection);
+    if (own == nullptr) fail_ado(ado_number::kInvalidArgument, u"ADODB.Command");
+    state_.set_session(own->session());
+  }
+  void set_command_type(services::CommandType type) override { state_.set_type(static_cast<std::int32_t>(type)); }
+  void set_command_text(TextView text) override { state_.set_text(text); }
+  void set_command_timeout(std::int32_t seconds) override { state_.set_timeout(seconds); }
+  void execute() override { state_.execute({}); }
+
+  void refresh_parameters() override { refuse(); }
+  Value parameter_value(std::int32_t) override { refuse(); }
+  void set_parameter_value(std::int32_t, const Value&) override { refuse(); }
+  void append_parameter(services::AdoParameter&) override { refuse(); }
+
+ private:
+  // Procedures are called through automation only.
+  [[noreturn]] static void refuse() { fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Command"); }
+
+  AdoCommandState state_;
+};
+
+class OdbcAdo : public services::Ado {
+ public:
+  std::unique_ptr<services::AdoConnection> new_connection() override { return std::make_unique<NativeConnection>(); }
+  std::unique_ptr<services::AdoCommand> new_command() override { return std::make_unique<NativeCommand>(); }
+  std::unique_ptr<services::AdoParameter> new_parameter() override {
+    fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Parameter");
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<services::Ado> make_odbc_ado() { return std::make_unique<OdbcAdo>(); }
+
+}  // namespace qvr::odbc

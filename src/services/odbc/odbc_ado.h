@@ -1,0 +1,13 @@
+// ADO over ODBC without automation, for programs that run natively.
+#pragma once
+
+#include <memory>
+
+#include "services/ado.h"
+
+namespace qvr::odbc {
+
+// Its commands take its own connections only, and no parameters: procedures are called through automation.
+std::unique_ptr<services::Ado> make_odbc_ado();
+
+}  // namespace qvr::odbc

@@ -1,0 +1,41 @@
+// The ODBC headers of either platform and the casts they need; included by the wrapper's sources only.
+#pragma once
+
+#ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#endif
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "frame/text.h"
+
+namespace qvr::odbc {
+
+static_assert(sizeof(SQLWCHAR) == sizeof(char16_t), "the wide functions take UTF-16");
+
+// ODBC does not write to its input texts, but does not say so in its types.
+inline SQLWCHAR* wide(TextView text) {
+  return reinterpret_cast<SQLWCHAR*>(const_cast<char16_t*>(text.data()));
+}
+
+inline SQLWCHAR* wide(char16_t* buffer) { return reinterpret_cast<SQLWCHAR*>(buffer); }
+
+// Attribute values travel as pointers.
+inline SQLPOINTER attribute(SQLULEN value) { return reinterpret_cast<SQLPOINTER>(value); }
+
+inline SQLINTEGER units(TextView text) { return static_cast<SQLINTEGER>(text.size()); }
+
+// For the lengths that ODBC keeps in 16 bits.
+inline SQLSMALLINT short_units(std::size_t size) {
+  constexpr std::size_t most = static_cast<std::size_t>(std::numeric_limits<SQLSMALLINT>::max());
+  return static_cast<SQLSMALLINT>(std::min(size, most));
+}
+
+}  // namespace qvr::odbc

@@ -1,0 +1,13 @@
+// Dates between the automation form and ODBC's.
+#pragma once
+
+#include "frame/value.h"
+#include "services/odbc/odbc_api.h"
+
+namespace qvr::odbc {
+
+// To the millisecond.
+SQL_TIMESTAMP_STRUCT to_timestamp(Date date);
+Date from_timestamp(const SQL_TIMESTAMP_STRUCT& stamp);
+
+}  // namespace qvr::odbc

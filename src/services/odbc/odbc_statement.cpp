@@ -1,0 +1,140 @@
+#include "services/odbc/odbc_statement.h"
+
+#include <array>
+#include <limits>
+
+#include "services/odbc/odbc_api.h"
+#include "services/odbc/odbc_date.h"
+#include "services/odbc/odbc_parameters.h"
+
+namespace qvr::odbc {
+namespace {
+
+using ReadColumn = Value (*)(const Handle& statement, SQLUSMALLINT column);
+
+template <class T>
+bool read_fixed(const Handle& statement, SQLUSMALLINT column, SQLSMALLINT c_type, T& into) {
+  SQLLEN indicator = 0;
+  statement.check(SQLGetData(statement.get(), column, c_type, &into, sizeof(into), &indicator));
+  return indicator != SQL_NULL_DATA;
+}
+
+Value read_integer(const Handle& statement, SQLUSMALLINT column) {
+  std::int64_t number = 0;
+  if (!read_fixed(statement, column, SQL_C_SBIGINT, number)) return Null{};
+  using Long = std::numeric_limits<std::int32_t>;
+  if (number < Long::min() || number > Long::max()) return number;
+  return static_cast<std::int32_t>(number);
+}
+
+Value read_number(const Handle& statement, SQLUSMALLINT column) {
+  SQLDOUBLE number = 0;
+  if (!read_fixed(statement, column, SQL_C_DOUBLE, number)) return Null{};
+  return number;
+}
+
+Value read_truth(const Handle& statement, SQLUSMALLINT column) {
+  SQLCHAR bit = 0;
+  if (!read_fixed(statement, column, SQL_C_BIT, bit)) return Null{};
+  return bit != 0;
+}
+
+Value read_date(const Handle& statement, SQLUSMALLINT column) {
+  SQL_TIMESTAMP_STRUCT stamp{};
+  if (!read_fixed(statement, column, SQL_C_TYPE_TIMESTAMP, stamp)) return Null{};
+  return from_timestamp(stamp);
+}
+
+// A long text comes in pieces, each ended by a zero unit of its own.
+Value read_text(const Handle& statement, SQLUSMALLINT column) {
+  Text text;
+  std::array<char16_t, 2048> piece{};
+  for (;;) {
+    SQLLEN rest = 0;
+    const SQLRETURN result =
+        SQLGetData(statement.get(), column, SQL_C_WCHAR, piece.data(), sizeof(piece), &rest);
+    statement.check(result);
+    if (result == SQL_NO_DATA) return text;
+    if (rest == SQL_NULL_DATA) return Null{};
+    const std::size_t most = piece.size() - 1;
+    const std::size_t left = rest == SQL_NO_TOTAL ? most : static_cast<std::size_t>(rest) / sizeof(char16_t);
+    text.append(piece.data(), std::min(left, most));
+    if (result == SQL_SUCCESS) return text;
+  }
+}
+
+ReadColumn reader_for(SQLSMALLINT sql_type) {
+  switch (sql_type) {
+    case SQL_TINYINT:
+    case SQL_SMALLINT:
+    case SQL_INTEGER:
+    case SQL_BIGINT:
+      return read_integer;
+    case SQL_REAL:
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+      return read_number;
+    case SQL_BIT:
+      return read_truth;
+    case SQL_TYPE_DATE:
+    case SQL_TYPE_TIME:
+    case SQL_TYPE_TIMESTAMP:
+      return read_date;
+    default:
+      return read_text;
+  }
+}
+
+ReadColumn describe(const Handle& statement, SQLUSMALLINT column, Text& name) {
+  std::array<char16_t, 256> buffer{};
+  SQLSMALLINT length = 0, sql_type = 0, digits = 0, nullable = 0;
+  SQLULEN size = 0;
+  statement.check(SQLDescribeColW(statement.get(), column, wide(buffer.data()), short_units(buffer.size()), &length,
+                                  &sql_type, &size, &digits, &nullable));
+  name = buffer.data();
+  return reader_for(sql_type);
+}
+
+void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
+  std::vector<ReadColumn> readers;
+  for (SQLUSMALLINT column = 1; column <= count; ++column) {
+    readers.push_back(describe(statement, column, result.columns.emplace_back()));
+  }
+  for (;;) {
+    const SQLRETURN fetched = SQLFetch(statement.get());
+    statement.check(fetched);
+    if (fetched == SQL_NO_DATA) return;
+    std::vector<Value>& row = result.rows.emplace_back();
+    for (SQLUSMALLINT column = 1; column <= count; ++column) {
+      row.push_back(readers[column - 1u](statement, column));
+    }
+  }
+}
+
+}  // namespace
+
+ResultSet execute(const Connection& connection, TextView text, const std::vector<Value>& parameters,
+                  std::int32_t timeout) {
+  const Handle statement(SQL_HANDLE_STMT, connection.handle().get());
+  // A driver without a time limit of its own has none; that is no reason to refuse the command.
+  SQLSetStmtAttrW(statement.get(), SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(timeout)), 0);
+  const std::list<BoundValue> bound = bind(statement, parameters);
+  statement.check(SQLExecDirectW(statement.get(), wide(text), units(text)));
+
+  ResultSet result;
+  SQLSMALLINT columns = 0;
+  statement.check(SQLNumResultCols(statement.get(), &columns));
+  result.has_rows = columns > 0;
+  if (result.has_rows) {
+    read_rows(statement, static_cast<SQLUSMALLINT>(columns), result);
+  } else {
+    SQLLEN affected = -1;
+    statement.check(SQLRowCount(statement.get(), &affected));
+    result.affected = affected;
+  }
+  return result;
+}
+
+}  // namespace qvr::odbc

@@ -1,0 +1,18 @@
+// Reading of script files.
+#pragma once
+
+#include <optional>
+
+#include "frame/text.h"
+
+namespace qvr::services {
+
+class ScriptReader {
+ public:
+  virtual ~ScriptReader() = default;
+  // The file's whole text, with the caller's identification for files that are protected; nothing when it cannot be
+  // read. May throw.
+  virtual std::optional<Text> Leer(TextView ID, TextView Ruta) = 0;
+};
+
+}  // namespace qvr::services

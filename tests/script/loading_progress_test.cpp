@@ -1,0 +1,205 @@
+// What loading tells its host, how it ends, and what the host may do meanwhile.
+#include "script/loading_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+constexpr TextView kFirst = u"GestionSQL1.cfc", kSecond = u"GestionSQL2.cfc", kUpdate = u"Gestion10024a10025SQL.cfc";
+const Lines kEncryption = {"Progreso: Procesando 1/5", "Progreso: Procesando 2/5", "Progreso: Procesando 3/5",
+                           "Progreso: Procesando 4/5", "Progreso: Procesando 5/5"};
+const Lines kAccounts = {"Progreso: Procesando 1/6", "Progreso: Procesando 3/6", "Progreso: Procesando 4/6",
+                         "Progreso: Procesando 5/6", "Progreso: Procesando 6/6"};
+const Lines kOracleAccounts = {"Progreso: Procesando 1/6", "Progreso: Procesando 2/6", "Progreso: Procesando 3/6",
+                               "Progreso: Procesando 4/6", "Progreso: Procesando 5/6", "Progreso: Procesando 6/6"};
+const Lines kSucceeded = {"Terminado: True"}, kFailed = {"Terminado: False"};
+
+class LoadingProgressTest : public LoadingTest {
+ protected:
+  LoadingProgressTest() { put_names({kFirst, kSecond, kUpdate}); }
+
+  Lines whole_definition() const { return together({file_lines(kFirst), file_lines(kSecond), kAccounts, kSucceeded}); }
+  Lines whole_update() const { return together({file_lines(kUpdate), kAccounts, kSucceeded}); }
+  const Text definition_text = joined({kFirst, kSecond});
+};
+
+TEST_F(LoadingProgressTest, StepsInOrderForEachEngine) {
+  struct Row {
+    std::int32_t motor;
+    bool encrypt;
+    const char* tag;
+    Lines steps;
+  };
+  const Row kRows[] = {
+      {1, false, "JET", kAccounts},       {1, true, "JET", kAccounts},
+      {2, false, "SQL", kAccounts},       {2, true, "SQL", together({kEncryption, kAccounts})},
+      {3, false, "ORA", kOracleAccounts}, {3, true, "ORA", kOracleAccounts},
+      {0, false, "", kAccounts},          {0, true, "", kAccounts},
+      {5, true, "", kAccounts},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(testing::Message() << "engine " << row.motor << (row.encrypt ? ", encrypted" : ""));
+    motor = row.motor, encrypt = row.encrypt;
+    const Text tag = *from_utf8(row.tag);
+    const Text one = join({u"Gestion", tag, u"1.cfc"}), two = join({u"Gestion", tag, u"2.cfc"});
+    const Text next = join({u"Gestion10024a10025", tag, u".cfc"}), last = join({u"Gestion10025a10026", tag, u".cfc"});
+    put_names({one, two, next, last});
+    EXPECT_EQ(definition(), joined({one, two}));
+    EXPECT_EQ(taken(), together({file_lines(one), file_lines(two), row.steps, kSucceeded}));
+    EXPECT_EQ(update(10024), joined({next, last}));
+    EXPECT_EQ(taken(), together({file_lines(next), file_lines(last), row.steps, kSucceeded}));
+    EXPECT_EQ(update(10025), joined({last}));
+    EXPECT_EQ(taken(), together({file_lines(last), row.steps, kSucceeded})) << "a file that is skipped is not told";
+  }
+}
+
+TEST_F(LoadingProgressTest, TheTextsAreTheSameInEveryLanguage) {
+  for (const TextView language : {u"0", u"1", u"2", u"3"}) {
+    SCOPED_TRACE(to_utf8(language));
+    thread.load_language(language);
+    EXPECT_EQ(definition(), definition_text);
+    EXPECT_EQ(taken(), whole_definition());
+  }
+}
+
+TEST_F(LoadingProgressTest, ADefinitionWithoutFilesGoesThroughItsStepsAndFails) {
+  EXPECT_EQ(definition(u"Otra"), u"");
+  EXPECT_EQ(taken(), together({kAccounts, kFailed}));
+}
+
+TEST_F(LoadingProgressTest, AnUpdateWithoutFilesTellsItsEndOnly) {
+  EXPECT_EQ(update(10024, u"Otra"), u"");
+  EXPECT_EQ(taken(), kFailed);
+  EXPECT_EQ(update(10023), u"") << "none from exactly this version";
+  EXPECT_EQ(taken(), kFailed);
+  put_names({u"Gestion1002a10025SQL.cfc"});
+  EXPECT_EQ(update(1002), u"") << "one from this version that is no file of an update";
+  EXPECT_EQ(taken(), kFailed);
+}
+
+// A reader that does what the test tells it for the second file.
+class SecondFileReader final : public services::ScriptReader {
+ public:
+  explicit SecondFileReader(std::function<std::optional<Text>()> second) : second_(std::move(second)) {}
+  std::optional<Text> Leer(TextView, TextView Ruta) override {
+    return Ruta.ends_with(u"2.cfc") ? second_() : std::optional<Text>(u"text");
+  }
+
+ private:
+  std::function<std::optional<Text>()> second_;
+};
+
+TEST_F(LoadingProgressTest, WhateverTheReaderFailsInEndsTheLoading) {
+  const std::function<std::optional<Text>()> failures[] = {
+      [] { return std::nullopt; },
+      [] { return Text(); },
+      []() -> std::optional<Text> { throw RuntimeFailure(failure_number::kFile); },
+      []() -> std::optional<Text> { throw std::bad_alloc(); },
+      []() -> std::optional<Text> { throw 7; },
+  };
+  for (const auto& failure : failures) {
+    SCOPED_TRACE(&failure - failures);
+    thread.make_script_reader = [&] { return std::make_unique<SecondFileReader>(failure); };
+    thread.renew();
+    EXPECT_EQ(definition(), u"");
+    EXPECT_EQ(taken(), (Lines{"Progreso: Procesando GestionSQL1.cfc", "Progreso: Procesando GestionSQL2.cfc",
+                              "Terminado: False"}));
+  }
+}
+
+TEST_F(LoadingProgressTest, AReaderThatCannotBeMadeIsTriedAgainTheNextTime) {
+  int tries = 0;
+  const auto make = thread.make_script_reader;
+  thread.make_script_reader = [&]() -> std::unique_ptr<services::ScriptReader> {
+    if (++tries == 1) throw RuntimeFailure(failure_number::kCannotCreateObject);
+    return make();
+  };
+  EXPECT_EQ(definition(), u"");
+  EXPECT_EQ(taken(), (Lines{"Progreso: Procesando GestionSQL1.cfc", "Terminado: False"}));
+  EXPECT_EQ(definition(), definition_text);
+  EXPECT_EQ(update(10024), joined({kUpdate}));
+  EXPECT_EQ(tries, 2) << "one reader serves the whole thread";
+}
+
+TEST_F(LoadingProgressTest, AClockOutsideTheCalendarFailsForOracleOnly) {
+  thread.clock.moment = Date{1e10};
+  EXPECT_EQ(definition(), definition_text);
+  taken();
+  motor = 3;
+  put_names({u"GestionORA1.cfc"});
+  EXPECT_EQ(definition(), u"");
+  EXPECT_EQ(taken(), together({file_lines(u"GestionORA1.cfc"), kFailed}));
+}
+
+// Everything of the same object that begins a run: refused, without events and without a look at its arguments.
+TEST_F(LoadingProgressTest, NoOtherRunBeginsFromInside) {
+  int refused = 0, entered = 0;
+  const auto intrude = [&] {
+    if (++entered > 50) return;  // a run that is let in must not go on for ever
+    Text other_id = u"EvitarTransaccionOther", shown;
+    const bool ran = runner.EjecutarComandos(other_id, 1, u"B\r\nGO\r\n", u"other", shown);
+    const bool loaded = !definition().empty() || !update(10024).empty();
+    if (!ran && !loaded && other_id == u"EvitarTransaccionOther" && shown.empty()) ++refused;
+  };
+  events.on_progress = events.on_end = intrude;
+  EXPECT_EQ(definition(), definition_text);
+  EXPECT_EQ(taken(), whole_definition());
+  EXPECT_EQ(refused, 8) << "two files, five steps, the end";
+  EXPECT_EQ(update(10024), joined({kUpdate}));
+  EXPECT_EQ(taken(), whole_update());
+  EXPECT_EQ(refused, 15);
+}
+
+TEST_F(LoadingProgressTest, NoLoadingBeginsInsideARunOfCommands) {
+  int refused = 0;
+  const auto intrude = [&] { refused += definition().empty() && update(10024).empty() ? 1 : 0; };
+  events.on_progress = events.on_end = thread.host_events.on_process = intrude;
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(refused, 4);
+  EXPECT_EQ(taken(), together({opening(),
+                               {"Progreso: Comandos ejecutados: 0/1"},
+                               command_lines("A"),
+                               {"Host events"},
+                               closing()}));
+}
+
+TEST_F(LoadingProgressTest, AnotherObjectMayLoadFromInside) {
+  LoggingEvents other_events(thread.log);
+  QVRScr other(other_events);
+  Text inner;
+  events.on_end = [&] { inner = other.CargarActualizacion(id, 2, folder, u"Gestion", 10024, accounts, false); };
+  EXPECT_EQ(definition(), definition_text);
+  EXPECT_EQ(inner, joined({kUpdate}));
+  EXPECT_EQ(taken(), together({whole_definition(), whole_update()}));
+}
+
+TEST_F(LoadingProgressTest, EachEndLeavesTheObjectUsable) {
+  EXPECT_EQ(definition(u"Otra"), u"");
+  thread.files.search_fails = true;
+  EXPECT_EQ(definition(), u"");
+  EXPECT_EQ(update(10024), u"");
+  thread.files.search_fails = false;
+  taken();
+  EXPECT_EQ(definition(), definition_text);
+  EXPECT_EQ(taken(), whole_definition());
+  EXPECT_EQ(update(10024), joined({kUpdate}));
+  EXPECT_EQ(taken(), whole_update());
+}
+
+TEST_F(LoadingProgressTest, WhatIsLoadedCanBeRun) {
+  put(kFirst, "create database [NombreBD]\nGO\n");
+  put(kSecond, "grant [UsuarioQVRCli]\r\ngo\r\n");
+  const Text commands = definition();
+  EXPECT_EQ(commands, u"create database Ventas\r\nGO\r\n\r\ngrant cli\r\ngo\r\n\r\n");
+  taken();
+  EXPECT_TRUE(run(commands));
+  EXPECT_EQ(taken(), together({opening(),
+                               {"Progreso: Comandos ejecutados: 0/2"},
+                               command_lines("create database Ventas"),
+                               {"Host events", "Progreso: Comandos ejecutados: 1/2"},
+                               command_lines("grant cli"),
+                               {"Host events"},
+                               closing()}));
+}
+
+}  // namespace
+}  // namespace qvr::tests
