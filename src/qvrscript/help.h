@@ -1,0 +1,14 @@
+// What the program teaches about itself.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "qvrscript/arguments.h"
+
+namespace qvr::script_tool {
+
+// Of one command, or of all.
+std::string_view help_text(std::optional<Action> topic);
+
+}  // namespace qvr::script_tool

@@ -1,0 +1,18 @@
+// JSON as text.
+#pragma once
+
+#include "frame/text.h"
+
+namespace qvr::script_tool {
+
+// With its quotes. What UTF-8 cannot carry is written as an escape.
+Text json_text(TextView text);
+Text json_number(std::size_t number);
+TextView json_truth(bool truth);
+
+// "name": value
+Text json_member(TextView name, TextView value);
+Text json_object(std::initializer_list<Text> members);
+Text json_array(const std::vector<Text>& values);
+
+}  // namespace qvr::script_tool

@@ -1,0 +1,27 @@
+#include "qvrscript/paths.h"
+
+#include <algorithm>
+
+#include "frame/failure.h"
+#include "frame/thread_state.h"
+#include "frame/wildcards.h"
+
+namespace qvr::script_tool {
+
+TextView without_last_separator(TextView path) {
+  const bool has_one = path.size() > 1 && (path.ends_with(u'/') || path.ends_with(u'\\'));
+  return has_one && !path.ends_with(u":\\") ? path.substr(0, path.size() - 1) : path;
+}
+
+TextView file_name(TextView path) { return path.substr(path.find_last_of(u"/\\") + 1); }
+
+std::optional<std::vector<Text>> names_in(TextView folder) {
+  using Names = std::optional<std::vector<Text>>;
+  return or_default(Names(), [&] {
+    Names names = thread_state().platform().files.names(folder);
+    std::ranges::sort(*names, [](const Text& a, const Text& b) { return less_no_case(a, b); });
+    return names;
+  });
+}
+
+}  // namespace qvr::script_tool

@@ -1,0 +1,14 @@
+// Runs a script file through the library's runner.
+#pragma once
+
+#include "frame/thread_state.h"
+#include "qvrscript/arguments.h"
+#include "qvrscript/report.h"
+
+namespace qvr::script_tool {
+
+using MakeAdo = std::unique_ptr<services::Ado> (*)(const Platform&);
+
+int run(const Arguments& arguments, const Console& console, MakeAdo make_ado);
+
+}  // namespace qvr::script_tool

@@ -1,0 +1,59 @@
+// One script file as the library's reader gives it to the runner, with what the rules want to know of it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/platform.h"
+#include "qvrscript/sql_regions.h"
+
+namespace qvr::script_tool {
+
+// A piece of the script that the runner sends to the database.
+struct ScriptCommand {
+  TextView text;
+  std::size_t begin;  // in the script's text
+};
+
+class Script {
+ public:
+  // Bytes that no page of this system takes are one character each, so that the rules still have lines to look at.
+  Script(std::string bytes, std::int32_t engine, Files& files);
+  Script(const Script&) = delete;
+  Script& operator=(const Script&) = delete;
+
+  const std::string& bytes() const { return bytes_; }
+  bool readable() const { return readable_; }
+  bool has_text() const;  // false: the bytes are not what they seem to be, and looking at lines is of no use
+  TextView stored_text() const { return stored_; }  // with the line ends of the file
+  // With whole line ends, and the one that the loading puts behind each file.
+  TextView text() const { return text_; }
+  std::int32_t engine() const { return engine_; }
+  bool is_sql_server() const;  // also where the engine is not known
+  const std::vector<Region>& regions() const { return regions_; }
+
+  std::size_t lines() const { return line_starts_.size(); }
+  std::size_t line_of(std::size_t position) const;  // from 1
+  std::size_t line_start(std::size_t line) const { return line_starts_[line - 1]; }
+  TextView line(std::size_t number) const;          // without its end
+
+  const std::vector<ScriptCommand>& commands() const { return commands_; }
+  ScriptCommand rest() const { return rest_; }  // behind the last separator, and its blank lines
+
+ private:
+  void find_lines();
+  void find_commands();
+
+  std::string bytes_;
+  bool readable_ = true;
+  Text stored_, text_;
+  std::int32_t engine_;
+  std::vector<Region> regions_;
+  std::vector<std::size_t> line_starts_;
+  std::vector<ScriptCommand> commands_;
+  ScriptCommand rest_{};
+};
+
+}  // namespace qvr::script_tool

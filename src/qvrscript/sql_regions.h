@@ -1,0 +1,26 @@
+// Which parts of a script are comments, strings and quoted names.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "frame/text.h"
+
+namespace qvr::script_tool {
+
+enum class RegionKind { LineComment, BlockComment, String, QuotedName };
+
+struct Region {
+  RegionKind kind;
+  std::size_t begin, end;  // with its marks; `end` is behind the last of them
+  bool closed;             // false: it goes on to the end of the text
+};
+
+// In order. Block comments nest in SQL Server only; Jet has no comments and Oracle no names in brackets. An engine that
+// is none is taken for SQL Server.
+std::vector<Region> regions_of(TextView text, std::int32_t engine);
+
+// The region that holds this position; null for none.
+const Region* region_at(const std::vector<Region>& regions, std::size_t position);
+
+}  // namespace qvr::script_tool

@@ -1,0 +1,52 @@
+#include <io.h>
+#include <objbase.h>
+#include <stdio.h>
+#include <windows.h>
+
+#include <iostream>
+
+#include "qvrscript/program.h"
+
+namespace {
+
+// ADO's objects live in an apartment; they are gone when it ends.
+class Apartment {
+ public:
+  Apartment() : entered_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+  ~Apartment() {
+    qvr::exchange_thread_state(nullptr);
+    if (entered_) CoUninitialize();
+  }
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+
+ private:
+  bool entered_;
+};
+
+// The console shows UTF-8 while the program runs, and is left as it was.
+class Utf8Output {
+ public:
+  Utf8Output() : former_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
+  ~Utf8Output() { SetConsoleOutputCP(former_); }
+  Utf8Output(const Utf8Output&) = delete;
+  Utf8Output& operator=(const Utf8Output&) = delete;
+
+ private:
+  UINT former_;
+};
+
+}  // namespace
+
+int wmain(int count, wchar_t** words) {
+  using namespace qvr;
+  const Utf8Output output;
+  const Apartment apartment;
+  const script_tool::Console console{std::cout, std::cerr, _isatty(_fileno(stdout)) != 0};
+  std::vector<Text> texts;
+  for (int i = 1; i < count; ++i) {
+    const std::wstring_view word = words[i];
+    texts.emplace_back(word.begin(), word.end());
+  }
+  return script_tool::run_program(texts, console, environment().make_ado);
+}

@@ -1,0 +1,31 @@
+// Commands that are none, and text that is never run.
+#include <gtest/gtest.h>
+
+#include "tool_in_process.h"
+
+namespace qvr::tests {
+namespace {
+
+TEST(CommandRules, TellOfEmptyCommands) {
+  expect_rules({
+      {"a blank first line", "|GO|select 1|GO|", {"1 empty-command"}},
+      {"blanks between", "select 1|GO|  |GO|select 2|GO|", {"3 empty-command"}},
+      {"only comments, which SQL Server takes", "-- a|GO|select 1|GO|", {}},
+  });
+  expect_rules({{"only comments, which Oracle refuses", "-- a|GO|select 1 from dual|GO|", {"1 comment-command"}}},
+               script_tool::kOracle);
+}
+
+TEST(CommandRules, TellOfWhatIsNeverRun) {
+  expect_rules({
+      {"last command", "select 1|GO|select 2|", {"3 no-last-go"}},
+      {"behind blank lines", "select 1|GO|||  |select 2|", {"6 no-last-go"}},
+      {"a last comment", "select 1|GO|-- the end|", {}},
+      {"blank lines at the end", "select 1|GO|||  |", {}},
+      {"no GO at all", "select 1|select 2|", {"1 no-go"}},
+      {"only comments", "-- nothing|", {}},
+  });
+}
+
+}  // namespace
+}  // namespace qvr::tests

@@ -1,0 +1,44 @@
+#include "tool_in_process.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "qvrscript/check.h"
+#include "qvrscript/help.h"
+#include "qvrscript/program.h"
+
+namespace qvr::tests {
+
+ToolAnswer run_tool(std::vector<Text> words, bool terminal, script_tool::MakeAdo make_ado) {
+  std::ostringstream out, err;
+  const int code = script_tool::run_program(words, {out, err, terminal}, make_ado);
+  return {code, out.str(), err.str()};
+}
+
+std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findings) {
+  const std::string help(script_tool::help_text(script_tool::Action::Check));
+  std::vector<std::string> rules;
+  for (const auto& finding : findings) {
+    EXPECT_FALSE(finding.message.empty()) << finding.rule;
+    EXPECT_NE(help.find(finding.rule), std::string::npos) << "the help does not tell of " << finding.rule;
+    rules.push_back(std::to_string(finding.line) + " " + std::string(finding.rule));
+  }
+  return rules;
+}
+
+std::vector<std::string> rules_in(std::string_view bytes, std::int32_t engine) {
+  return rules_of(script_tool::findings_in(u"x.cfc", std::string(bytes), engine));
+}
+
+std::string lines(std::string_view text) {
+  std::string whole;
+  for (const char each : text) whole += each == '|' ? std::string("\r\n") : std::string(1, each);
+  return whole;
+}
+
+void expect_rules(const std::vector<RuleRow>& rows, std::int32_t engine) {
+  for (const RuleRow& row : rows) EXPECT_EQ(rules_in(lines(row.text), engine), row.rules) << row.name;
+}
+
+}  // namespace qvr::tests

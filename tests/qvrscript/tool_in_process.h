@@ -1,0 +1,40 @@
+// The program run in this process, and the rules on a text in memory.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "qvrscript/engines.h"
+#include "qvrscript/finding.h"
+#include "qvrscript/run.h"
+
+namespace qvr::tests {
+
+struct ToolAnswer {
+  int code;
+  std::string out, err;
+};
+
+// No database is behind it unless one is given.
+ToolAnswer run_tool(std::vector<Text> words, bool terminal = false,
+                    script_tool::MakeAdo make_ado = environment().make_ado);
+
+// What is found in a script, as "line rule", in order.
+std::vector<std::string> rules_in(std::string_view bytes, std::int32_t engine = script_tool::kSqlServer);
+std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findings);
+
+// The text with CR LF for each "|".
+std::string lines(std::string_view text);
+
+using Rules = std::vector<std::string>;
+
+struct RuleRow {
+  const char* name;
+  const char* text;  // in the form of `lines`
+  Rules rules;
+};
+
+// Each row's text has exactly these findings.
+void expect_rules(const std::vector<RuleRow>& rows, std::int32_t engine = script_tool::kSqlServer);
+
+}  // namespace qvr::tests
