@@ -26,9 +26,9 @@ regsvr "$bin\\testado.dll"
 trap 'regsvr /u "$bin\\QVRlib21.dll" || true; regsvr /u "$bin\\testado.dll" || true; "$root/tools/wine.sh" --stop || true' EXIT
 
 echo "=== A host in C++, late-bound ==="
-wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$folder" "$example\\gestion.sql" | tr -d '\r'
+wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$folder" "$example\\scripts\\sqlite" | tr -d '\r'
 echo
 echo "=== The same in VBScript ==="
 regsvr "$bin\\QVRlib21.dll"
 script parameters.vbs "$folder" "$work/gestion.db"
-script commands.vbs "$folder" "$example\\gestion.sql" "$bin\\answer_boxes.exe"
+script commands.vbs "$folder" "$example\\scripts\\sqlite" "$bin\\answer_boxes.exe"

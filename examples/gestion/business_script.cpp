@@ -1,5 +1,7 @@
 #include "business_script.h"
 
+#include <utility>
+
 #include "automation.h"
 #include "text.h"
 
@@ -28,9 +30,8 @@ void note_command(BusinessScript& script, const std::wstring& command) {
 
 }  // namespace
 
-BusinessScript read_script(const std::wstring& path) {
-  BusinessScript script;
-  script.text = from_utf8(file_bytes(path));
+BusinessScript understood(std::wstring text, std::vector<TableInScript> before) {
+  BusinessScript script{std::move(text), 0, std::move(before)};
   std::vector<std::wstring> commands = split(script.text, kGo);
   expect(trimmed(commands.back()).empty(), L"The last command of the script has no GO line");
   commands.pop_back();

@@ -1,4 +1,4 @@
-// The script as the business wrote it: what it holds, before anything of it runs.
+// A script as the library put it together: what it holds, before anything of it runs.
 #pragma once
 
 #include <string>
@@ -17,7 +17,8 @@ struct BusinessScript {
   std::vector<TableInScript> tables;
 };
 
-BusinessScript read_script(const std::wstring& path);
+// What the text holds; its tables come behind those that were there before.
+BusinessScript understood(std::wstring text, std::vector<TableInScript> before = {});
 
 // A text of these commands, each followed by its GO line.
 std::wstring script_of(const std::vector<std::wstring>& commands);

@@ -1,7 +1,7 @@
-' "Gestion" as scripts, the second: a script of many commands, one with a mistake, and the rows they leave.
-'   cscript //nologo commands.vbs FOLDER SCRIPT [ANSWERER]
+' "Gestion" as scripts, the second: the database is installed and updated, a script with a mistake, the rows they leave.
+'   cscript //nologo commands.vbs FOLDER SCRIPTS [ANSWERER]
 ' FOLDER    where parameters.vbs made its parameter file
-' SCRIPT    commands separated by GO lines, in UTF-8
+' SCRIPTS   folder of the script files: the definition of the database and its updates
 ' ANSWERER  answer_boxes.exe, which then answers the library's boxes; without it a person does
 ' The last line tells whether all went well; a script engine that hides errors ends without it.
 Option Explicit
@@ -9,19 +9,24 @@ Option Explicit
 Const Jet = 1
 Const ForReading = 1
 Const Id = "Gestion 1.0"
-Dim Fso, Folder, Answerer, Step_, Text, Inserts, CommandCount, Administrator, GoLine
+Const Application = "Gestion"
+Const FirstVersion = 10000
+Const LastVersion = 10100
+Dim Fso, Folder, Scripts, Answerer, Step_, Inserts, Parameters, Administrator, GoLine
 
 If WScript.Arguments.Count < 2 Then
-  WScript.Echo "usage: cscript //nologo commands.vbs FOLDER SCRIPT [ANSWERER]"
+  WScript.Echo "usage: cscript //nologo commands.vbs FOLDER SCRIPTS [ANSWERER]"
   WScript.Quit 2
 End If
 Set Fso = CreateObject("Scripting.FileSystemObject")
 Folder = WScript.Arguments(0)
+Scripts = Fso.GetAbsolutePathName(WScript.Arguments(1))
 If WScript.Arguments.Count > 2 Then Answerer = WScript.Arguments(2)
 GoLine = vbCrLf & "GO" & vbCrLf
-Administrator = ConnectionString()
-ReadScript WScript.Arguments(1)
-ShowScript
+Set Inserts = CreateObject("Scripting.Dictionary")
+ReadParameters
+ShowDefinition
+ShowUpdates
 Heading "A script with a wrong command, both answers"
 ShowFailure "no", False
 ShowFailure "yes", True
@@ -30,24 +35,58 @@ WScript.Echo ""
 WScript.Echo "Everything was as expected."
 WScript.Quit 0
 
-Function ConnectionString
-  Dim parameters
-  Set parameters = CreateObject("QVRlib21.QVRcfp")
-  Expect parameters.Crear(Id, Folder, "gestion"), "There is no parameter file yet: parameters.vbs makes it"
-  ConnectionString = parameters.CadenaADO(Id, True)
+Sub ReadParameters
+  Set Parameters = CreateObject("QVRlib21.QVRcfp")
+  Expect Parameters.Crear(Id, Folder, "gestion"), "There is no parameter file yet: parameters.vbs makes it"
+  Administrator = Parameters.CadenaADO(Id, True)
+End Sub
+
+Sub ShowDefinition
+  Dim text
+  Heading "The database is installed"
+  If Fso.FileExists(Folder & "\gestion.db") Then Fso.DeleteFile Folder & "\gestion.db"
+  WScript.Echo "   This script engine cannot listen to events: no progress here."
+  text = CreateObject("QVRlib21.QVRScr").CargarDefinicion(Id, Jet, Scripts, Application, _
+    Parameters.InitialCatalogOTablespace, Parameters.UsuarioAdm, Parameters.ClaveAdm(Id), Parameters.UsuarioCli, _
+    Parameters.ClaveCli(Id), False)
+  Expect text <> "", "There is no definition in " & Scripts
+  RunScript text
+  ShowVersion FirstVersion
+End Sub
+
+Sub ShowUpdates
+  Dim text
+  Heading "The database is brought up to date"
+  text = Update(Version())
+  Expect text <> "", "There is no update in " & Scripts
+  RunScript text
+  ShowVersion LastVersion
+  Expect Update(LastVersion) = "", "There is an update that should not be there"
+  WScript.Echo "   CargarActualizacion from there answers an empty text."
+End Sub
+
+Function Update(from)
+  Update = CreateObject("QVRlib21.QVRScr").CargarActualizacion(Id, Jet, Scripts, Application, from, _
+    Parameters.InitialCatalogOTablespace, Parameters.UsuarioAdm, Parameters.ClaveAdm(Id), Parameters.UsuarioCli, _
+    Parameters.ClaveCli(Id), False)
 End Function
 
-Sub ShowScript
-  Dim runner
-  Heading "A script of many commands"
-  If Fso.FileExists(Folder & "\gestion.db") Then Fso.DeleteFile Folder & "\gestion.db"
-  Item "commands in the script", CommandCount
-  Item "tables that it creates", Inserts.Count
-  WScript.Echo "   This script engine cannot listen to events: no progress here."
-  Set runner = CreateObject("QVRlib21.QVRScr")
-  Expect runner.EjecutarComandos(Id, Jet, Text, Administrator), "The script did not run to its end"
+Sub RunScript(text)
+  Item "commands", CountCommands(text)
+  Item "tables", Inserts.Count
+  Expect CreateObject("QVRlib21.QVRScr").EjecutarComandos(Id, Jet, text, Administrator), _
+    "The script did not run to its end"
   WScript.Echo "   EjecutarComandos answers True."
 End Sub
+
+Sub ShowVersion(expected)
+  Item "version of the database", Version()
+  Expect Version() = expected, "The database should have version " & expected
+End Sub
+
+Function Version
+  Version = FirstNumber("SELECT * FROM [Esquema]")
+End Function
 
 Sub ShowFailure(answer, goesOn)
   Dim runner, before, after, wentOn, expected
@@ -78,18 +117,22 @@ Sub ShowRows
 End Sub
 
 Function RowsOf(table)
+  RowsOf = FirstNumber("SELECT Count(*) FROM [" & table & "]")
+End Function
+
+Function FirstNumber(query)
   Dim connection, rows
   Set connection = CreateObject("ADODB.Connection")
   connection.Open Administrator
-  Set rows = connection.Execute("SELECT Count(*) FROM [" & table & "]")
-  RowsOf = CLng(rows.Fields.Item(0).Value)
+  Set rows = connection.Execute(query)
+  FirstNumber = CLng(rows.Fields.Item(0).Value)
   rows.Close
   connection.Close
 End Function
 
 Function InsertClient(number, name)
-  InsertClient = "INSERT INTO [Clientes] VALUES (" & number & ", '" & name & "', 'Getafe', 28, NULL, '2024-09-02')" & _
-    GoLine
+  InsertClient = "INSERT INTO [Clientes] VALUES (" & number & ", '" & name & "', 'Getafe', 28, NULL, " & _
+    "'2024-09-02', NULL, 0)" & GoLine
 End Function
 
 ' Five commands, the third of which names a table that does not exist.
@@ -117,19 +160,19 @@ Sub ShowAnswered
   WScript.Echo FromUtf8(PageText(Folder & "\boxes.txt"))
 End Sub
 
-Sub ReadScript(path)
-  Dim commands, at, table
-  Text = FromUtf8(PageText(path))
-  commands = Split(Text, GoLine)
-  CommandCount = UBound(commands)
-  Set Inserts = CreateObject("Scripting.Dictionary")
-  For at = 0 To CommandCount - 1
+' How many commands a text has; the tables that they create and the rows that they insert are added to Inserts.
+Function CountCommands(text)
+  Dim commands, last, at, table
+  commands = Split(text, GoLine)
+  last = UBound(commands) - 1
+  For at = 0 To last
     table = NameAfter(commands(at), "CREATE TABLE [")
     If table <> "" Then Inserts.Add table, 0
     table = NameAfter(commands(at), "INSERT INTO [")
     If table <> "" Then Inserts.Item(table) = Inserts.Item(table) + 1
   Next
-End Sub
+  CountCommands = last + 1
+End Function
 
 Function NameAfter(command, lead)
   Dim at

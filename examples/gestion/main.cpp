@@ -17,7 +17,7 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr",
+constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr", L"QVRlib21.QVRprp",
                                      L"QVRlib21.cSQL20", L"QVRlib21.uSQL20"};
 
 Scope show_registration(const Setting& setting) {
@@ -48,10 +48,11 @@ void show_steps(const Setting& setting) {
   show_parameter_file(setting);
   heading(L"Connection strings");
   const std::wstring connection_string = show_connection_strings(setting);
-  heading(L"A script of many commands");
+  heading(L"The database is installed");
   remove_file(setting.database);
-  BusinessScript script = read_script(setting.script);
-  show_script(script, connection_string);
+  const BusinessScript definition = show_definition(setting, connection_string);
+  heading(L"The database is brought up to date");
+  BusinessScript script = show_updates(setting, definition, connection_string);
   heading(L"A script with a wrong command, both answers");
   show_failures(setting, script, connection_string);
   heading(L"What the database holds");

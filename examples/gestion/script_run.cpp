@@ -1,6 +1,7 @@
 #include "script_run.h"
 
 #include <cwchar>
+#include <utility>
 
 #include "console.h"
 #include "events.h"
@@ -13,7 +14,7 @@ constexpr int kLineEvery = 50, kShort = 10;
 
 class Listener {
  public:
-  explicit Listener(RunOutcome& outcome) : outcome_(outcome) {}
+  explicit Listener(Outcome& outcome) : outcome_(outcome) {}
 
   void hear(const std::wstring& event, const Value& argument) {
     if (event == L"Progreso") progress(argument.text());
@@ -41,22 +42,26 @@ class Listener {
     say(success ? L"   Terminado: True" : L"   Terminado: False");
   }
 
-  RunOutcome& outcome_;
+  Outcome& outcome_;
   ProgressLine line_{kLineEvery};
 };
 
 }  // namespace
 
-RunOutcome run_script(const std::wstring& commands, const std::wstring& connection_string) {
-  RunOutcome outcome;
+Outcome call_runner(const wchar_t* member, std::vector<Value> arguments) {
+  Outcome outcome;
   const Object runner = Object::create(L"QVRlib21.QVRScr");
   Listener listener(outcome);
   const Subscription subscription(
       runner, [&listener](const std::wstring& event, const Value& argument) { listener.hear(event, argument); });
-  outcome.result =
-      runner.call(L"EjecutarComandos", {kIdentification, kJet, commands, connection_string}).truth();
-  expect(outcome.ends == 1, L"The end of the run was told " + std::to_wstring(outcome.ends) + L" times");
-  expect(outcome.success == outcome.result, L"The event of the end and the answer of the call differ");
+  outcome.result = runner.call(member, std::move(arguments));
+  expect(outcome.ends == 1, L"The end of the call was told " + std::to_wstring(outcome.ends) + L" times");
+  return outcome;
+}
+
+Outcome run_script(const std::wstring& commands, const std::wstring& connection_string) {
+  const Outcome outcome = call_runner(L"EjecutarComandos", {kIdentification, kJet, commands, connection_string});
+  expect(outcome.success == outcome.result.truth(), L"The event of the end and the answer of the call differ");
   return outcome;
 }
 

@@ -36,12 +36,12 @@ bool run_with_mistake(const Setting& setting, const std::wstring& connection_str
   std::unique_ptr<BoxAnswerer> answerer;
   if (setting.answer_boxes) answerer = std::make_unique<BoxAnswerer>(answer, kBoxesPerFailure);
   say(std::wstring(L"   The library will report the failure, then ask. Please answer: ") + answer);
-  const RunOutcome outcome = run_script(script_of(commands_with_mistake()), connection_string);
+  const bool result = run_script(script_of(commands_with_mistake()), connection_string).result.truth();
   if (answerer != nullptr) {
     answerer->expect_all_answered();
-    expect(outcome.result == (std::wstring(answer) == L"yes"), L"The answer had no effect");
+    expect(result == (std::wstring(answer) == L"yes"), L"The answer had no effect");
   }
-  return outcome.result;
+  return result;
 }
 
 // The rows that the run left behind.
@@ -59,17 +59,6 @@ long show_failure(const Setting& setting, const std::wstring& connection_string,
 }
 
 }  // namespace
-
-void show_script(const BusinessScript& script, const std::wstring& connection_string) {
-  item(L"commands in the script", std::to_wstring(script.commands));
-  item(L"tables that it creates", std::to_wstring(script.tables.size()));
-  const Database reachable(connection_string);  // tells at once, where the library would ask somebody
-  const RunOutcome outcome = run_script(script.text, connection_string);
-  expect(outcome.result, L"The script did not run to its end");
-  expect(outcome.total == script.commands, L"The library counts " + std::to_wstring(outcome.total) + L" commands");
-  expect(outcome.done + 1 == outcome.total, L"Not all commands succeeded");
-  item(L"progress texts", std::to_wstring(outcome.progress_texts));
-}
 
 void show_failures(const Setting& setting, BusinessScript& script, const std::wstring& connection_string) {
   long left = 0;

@@ -10,10 +10,10 @@ namespace gestion {
 namespace {
 
 constexpr const wchar_t* kUsage =
-    L"usage: gestion [options] LIBRARY FOLDER SCRIPT\r\n"
+    L"usage: gestion [options] LIBRARY FOLDER SCRIPTS\r\n"
     L"  LIBRARY         path of the library's DLL\r\n"
     L"  FOLDER          existing folder for the parameter file and the database\r\n"
-    L"  SCRIPT          commands separated by GO lines\r\n"
+    L"  SCRIPTS         folder of the script files: the definition of the database and its updates\r\n"
     L"  --answer        let answer_boxes.exe, beside this program, answer the library's boxes\r\n"
     L"  --search C=T    narrow the list of orders by text T in column C; may be given several times\r\n"
     L"  --ask           ask for more of these\r\n"
@@ -73,7 +73,7 @@ Setting read_setting(int count, wchar_t** arguments) {
   expect(paths.size() == 3, kUsage);
   setting.library = paths[0];
   setting.folder = paths[1];
-  setting.script = paths[2];
+  setting.scripts = paths[2];
   setting.database = setting.folder + L"\\gestion.db";
   setting.driver_database = path_for_driver(setting.database);
   return setting;

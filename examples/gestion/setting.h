@@ -17,7 +17,7 @@ Search read_search(const std::wstring& typed);
 struct Setting {
   std::wstring library;         // the DLL
   std::wstring folder;          // for the program's own files
-  std::wstring script;          // UTF-8, commands separated by GO lines
+  std::wstring scripts;         // folder of the script files
   std::wstring driver = L"SQLite3";
   bool answer_boxes = false;    // start the program that answers the library's boxes
   std::vector<Search> searches; // for the list of orders

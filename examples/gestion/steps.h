@@ -16,7 +16,10 @@ void show_parameter_file(const Setting& setting);
 // The strings of the parameters in the file; the administrator's is the answer.
 std::wstring show_connection_strings(const Setting& setting);
 
-void show_script(const BusinessScript& script, const std::wstring& connection_string);
+// The database from its definition, and the updates up to the last version. What all their scripts hold is the answer.
+BusinessScript show_definition(const Setting& setting, const std::wstring& connection_string);
+BusinessScript show_updates(const Setting& setting, const BusinessScript& definition,
+                            const std::wstring& connection_string);
 
 // A script with a wrong command, once for each answer to the library's question. Rows that stay are added to `script`.
 void show_failures(const Setting& setting, BusinessScript& script, const std::wstring& connection_string);

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the example host against the libraries in a folder of programs. Usage: example.sh 32|64 BIN SCRIPT
+# Runs the example host against the libraries in a folder of programs. Usage: example.sh 32|64 BIN SCRIPTS
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 wine() { timeout 200 "$here/../../tools/wine.sh" "$@"; }
@@ -14,7 +14,8 @@ trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || true; rm -rf "$w
 wine "$system\\regsvr32.exe" /s "$bin\\testado.dll"
 # Somebody types a column that the list has not, then a name that nobody has.
 printf '%s\r\n' Ciudad=x Nombre=nadie '' |
-  wine "$bin\\gestion.exe" --answer --ask --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" "$(windows_path "$3")" |
+  wine "$bin\\gestion.exe" --answer --ask --unregister "$bin\\QVRlib21.dll" "$(windows_path "$work")" \
+    "$(windows_path "$3")" |
   tr -d '\r' | tee "$work/told"
 for text in 'The list has no such column.' "and Nombre is like '*nadie*'" '     0 rows'; do
   grep -qF -- "$text" "$work/told" || { echo "not told: $text"; exit 1; }

@@ -1,37 +1,25 @@
--- Una tienda de material de oficina: sus tablas, sus clientes, sus artículos y medio año de pedidos.
-CREATE TABLE [Provincias] (
-  [Código] INTEGER PRIMARY KEY, [Nombre] TEXT NOT NULL)
+INSERT INTO [Funciones] ([Código], [Descripción]) VALUES ('ADM', 'Administración')
 GO
 
-CREATE TABLE [Clientes] (
-  [Código] INTEGER PRIMARY KEY, [Nombre] TEXT NOT NULL, [Población] TEXT NOT NULL,
-  [Provincia] INTEGER NOT NULL REFERENCES [Provincias], [Teléfono] TEXT, [Alta] TEXT NOT NULL)
+INSERT INTO [Funciones] ([Código], [Descripción]) VALUES ('VEN', 'Ventas')
 GO
 
-CREATE TABLE [Familias] (
-  [Código] TEXT PRIMARY KEY, [Descripción] TEXT NOT NULL)
+INSERT INTO [Funciones] ([Código], [Descripción]) VALUES ('ALM', 'Almacén')
 GO
 
-CREATE TABLE [Artículos] (
-  [Código] TEXT PRIMARY KEY, [Descripción] TEXT NOT NULL, [Familia] TEXT NOT NULL REFERENCES [Familias],
-  [Precio] NUMERIC NOT NULL, [Existencias] INTEGER NOT NULL)
+INSERT INTO [Usuarios] ([Nombre], [Descripción]) VALUES ('[UsuarioQVRAdm]', 'Administrador de [NombreBD]')
 GO
 
-CREATE TABLE [Pedidos] (
-  [Número] INTEGER PRIMARY KEY, [Cliente] INTEGER NOT NULL REFERENCES [Clientes],
-  [Fecha] TEXT NOT NULL, [Portes] NUMERIC NOT NULL, [Observación] TEXT)
+INSERT INTO [Usuarios] ([Nombre], [Descripción]) VALUES ('[UsuarioQVRCli]', 'Puesto de mostrador')
 GO
 
-CREATE TABLE [Líneas] (
-  [Pedido] INTEGER NOT NULL REFERENCES [Pedidos], [Línea] INTEGER NOT NULL,
-  [Artículo] TEXT NOT NULL REFERENCES [Artículos], [Cantidad] INTEGER NOT NULL, [Precio] NUMERIC NOT NULL,
-  PRIMARY KEY ([Pedido], [Línea]))
+INSERT INTO [FuncionesDeUsuario] ([Usuario], [Función]) VALUES ('[UsuarioQVRAdm]', 'ADM')
 GO
 
-CREATE INDEX [PedidosPorCliente] ON [Pedidos] ([Cliente], [Fecha])
+INSERT INTO [FuncionesDeUsuario] ([Usuario], [Función]) VALUES ('[UsuarioQVRAdm]', 'VEN')
 GO
 
-CREATE INDEX [LíneasPorArtículo] ON [Líneas] ([Artículo])
+INSERT INTO [FuncionesDeUsuario] ([Usuario], [Función]) VALUES ('[UsuarioQVRCli]', 'VEN')
 GO
 
 INSERT INTO [Provincias] ([Código], [Nombre]) VALUES (1, 'Álava')
@@ -370,208 +358,323 @@ INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24001, 126, '2024-01-10', 6, 'Dejar en recepción (señora Pérez)')
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24001, 1, 'ARC-040', 1, 4.1)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24002, 102, '2024-01-10', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24002, 1, 'PAP-030', 25, 0.9)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24002, 2, 'INF-030', 1, 64)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24003, 125, '2024-01-10', 3.5, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24003, 1, 'ARC-020', 1, 3.04)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24004, 126, '2024-01-10', 9.25, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24004, 1, 'MOB-020', 25, 179.5)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24004, 2, 'PAP-010', 3, 4.65)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24004, 3, 'INF-040', 2, 8.82)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24005, 114, '2024-01-15', 6, 'Llamar antes: sólo tardes')
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24005, 1, 'MOB-010', 3, 84.55)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24006, 120, '2024-01-22', 0, 'El cliente pide ''recibí'' firmado')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24006, 1, 'ARC-010', 1, 1.35)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24007, 113, '2024-01-24', 3.5, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24007, 1, 'MOB-030', 25, 86.67)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24008, 124, '2024-01-25', 0, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24008, 1, 'INF-010', 25, 13.41)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24008, 2, 'PAP-020', 1, 0.07)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24009, 132, '2024-01-29', 3.5, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24009, 1, 'ARC-040', 2, 4.1)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24009, 2, 'MOB-010', 3, 89)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24010, 107, '2024-02-05', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24010, 1, 'ESC-060', 1, 1.1)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24010, 2, 'ARC-060', 10, 7.45)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24011, 115, '2024-02-07', 6, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24011, 1, 'ESC-060', 5, 1.04)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24012, 113, '2024-02-12', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24012, 1, 'ARC-030', 3, 2.61)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24012, 2, 'ESC-020', 3, 0.27)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24012, 3, 'INF-030', 3, 64)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24013, 135, '2024-02-13', 0, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24013, 1, 'ARC-010', 3, 1.22)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24014, 117, '2024-02-15', 9.25, 'Factura a nombre del gestor')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24014, 1, 'ARC-020', 2, 3.04)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24015, 135, '2024-02-16', 6, 'Llamar antes: sólo tardes')
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24015, 1, 'INF-040', 2, 9.31)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24015, 2, 'INF-050', 2, 4.04)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24016, 128, '2024-02-19', 6, 'Pago a 30 días, según contrato')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24016, 1, 'PAP-030', 10, 0.85)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24016, 2, 'PAP-010', 5, 4.65)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24017, 105, '2024-02-23', 0, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24017, 1, 'MOB-040', 5, 27.4)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24017, 2, 'ESC-030', 1, 5.15)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24018, 118, '2024-02-26', 6, 'Dejar en recepción (señora Pérez)')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24018, 1, 'SEÑ-010', 1, 3.9)
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24019, 127, '2024-02-26', 3.5, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24019, 1, 'PAP-050', 25, 0.6)
-GO
-
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
 VALUES (24020, 101, '2024-02-27', 6, NULL)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24020, 1, 'ARC-020', 5, 3.04)
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24021, 136, '2024-02-27', 6, 'Urgente; portería cerrada los sábados')
 GO
 
 INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24021, 136, '2024-02-27', 6, 'Urgente; portería cerrada los sábados')
+VALUES (24022, 110, '2024-02-27', 9.25, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24023, 124, '2024-02-28', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24024, 102, '2024-02-29', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24025, 114, '2024-03-04', 6, 'Embalaje doble: artículo frágil')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24026, 131, '2024-03-06', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24027, 106, '2024-03-07', 3.5, 'Llamar antes: sólo tardes')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24028, 133, '2024-03-08', 9.25, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24029, 112, '2024-03-12', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24030, 113, '2024-03-13', 3.5, 'Dejar en recepción (señora Pérez)')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24031, 129, '2024-03-15', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24032, 112, '2024-03-20', 9.25, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24033, 124, '2024-03-21', 6, 'Entregar por la mañana')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24034, 129, '2024-03-25', 6, 'Entregar por la mañana')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24035, 123, '2024-03-26', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24036, 129, '2024-03-28', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24037, 120, '2024-04-01', 0, 'Dejar en recepción (señora Pérez)')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24038, 133, '2024-04-04', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24039, 130, '2024-04-05', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24040, 133, '2024-04-09', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24041, 114, '2024-04-10', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24042, 120, '2024-04-15', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24043, 124, '2024-04-18', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24044, 111, '2024-04-23', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24045, 136, '2024-04-23', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24046, 120, '2024-04-23', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24047, 128, '2024-04-29', 6, 'Entregar por la mañana')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24048, 104, '2024-04-30', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24049, 113, '2024-04-30', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24050, 114, '2024-05-03', 9.25, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24051, 134, '2024-05-08', 6, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24052, 117, '2024-05-09', 9.25, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24053, 106, '2024-05-13', 0, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24054, 115, '2024-05-17', 0, 'Urgente; portería cerrada los sábados')
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24055, 120, '2024-05-23', 3.5, NULL)
+GO
+
+INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
+VALUES (24056, 110, '2024-05-24', 0, NULL)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24001, 1, 'ARC-040', 1, 4.1)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24002, 1, 'PAP-030', 25, 0.9)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24002, 2, 'INF-030', 1, 64)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24003, 1, 'ARC-020', 1, 3.04)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24004, 1, 'MOB-020', 25, 179.5)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24004, 2, 'PAP-010', 3, 4.65)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24004, 3, 'INF-040', 2, 8.82)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24005, 1, 'MOB-010', 3, 84.55)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24006, 1, 'ARC-010', 1, 1.35)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24007, 1, 'MOB-030', 25, 86.67)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24008, 1, 'INF-010', 25, 13.41)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24008, 2, 'PAP-020', 1, 0.07)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24009, 1, 'ARC-040', 2, 4.1)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24009, 2, 'MOB-010', 3, 89)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24010, 1, 'ESC-060', 1, 1.1)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24010, 2, 'ARC-060', 10, 7.45)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24011, 1, 'ESC-060', 5, 1.04)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24012, 1, 'ARC-030', 3, 2.61)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24012, 2, 'ESC-020', 3, 0.27)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24012, 3, 'INF-030', 3, 64)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24013, 1, 'ARC-010', 3, 1.22)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24014, 1, 'ARC-020', 2, 3.04)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24015, 1, 'INF-040', 2, 9.31)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24015, 2, 'INF-050', 2, 4.04)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
+VALUES (24016, 1, 'PAP-030', 10, 0.85)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24016, 2, 'PAP-010', 5, 4.65)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24017, 1, 'MOB-040', 5, 27.4)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24017, 2, 'ESC-030', 1, 5.15)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24018, 1, 'SEÑ-010', 1, 3.9)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24019, 1, 'PAP-050', 25, 0.6)
+GO
+
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24020, 1, 'ARC-020', 5, 3.04)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
@@ -582,372 +685,187 @@ INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24021, 2, 'INF-030', 10, 57.6)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24021, 3, 'INF-010', 1, 14.9)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24021, 3, 'INF-010', 1, 14.9)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24022, 110, '2024-02-27', 9.25, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24022, 1, 'INF-010', 2, 14.9)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24023, 124, '2024-02-28', 3.5, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24022, 1, 'INF-010', 2, 14.9)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24023, 1, 'SEÑ-020', 2, 11.25)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24023, 2, 'PAP-050', 1, 0.6)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24023, 2, 'PAP-050', 1, 0.6)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24024, 102, '2024-02-29', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24024, 1, 'ESC-010', 1, 0.45)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24024, 1, 'ESC-010', 1, 0.45)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24025, 1, 'MOB-040', 1, 27.4)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24025, 114, '2024-03-04', 6, 'Embalaje doble: artículo frágil')
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24026, 1, 'INF-040', 1, 9.8)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24025, 1, 'MOB-040', 1, 27.4)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24026, 2, 'ESC-010', 3, 0.45)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24026, 131, '2024-03-06', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24026, 1, 'INF-040', 1, 9.8)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24026, 2, 'ESC-010', 3, 0.45)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24027, 106, '2024-03-07', 3.5, 'Llamar antes: sólo tardes')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24027, 1, 'ESC-050', 1, 38.5)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24027, 1, 'ESC-050', 1, 38.5)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24027, 2, 'PAP-020', 25, 0.08)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24028, 133, '2024-03-08', 9.25, NULL)
-GO
-
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24028, 1, 'ARC-030', 25, 2.48)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24028, 2, 'ARC-050', 1, 5.9)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24028, 2, 'ARC-050', 1, 5.9)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24028, 3, 'ESC-040', 1, 2.2)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24028, 3, 'ESC-040', 1, 2.2)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24029, 112, '2024-03-12', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24029, 1, 'MOB-040', 1, 27.4)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24029, 1, 'MOB-040', 1, 27.4)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24029, 2, 'ARC-030', 1, 2.61)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24029, 2, 'ARC-030', 1, 2.61)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24030, 1, 'ARC-010', 1, 1.35)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24030, 113, '2024-03-13', 3.5, 'Dejar en recepción (señora Pérez)')
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24031, 1, 'SEÑ-010', 1, 3.7)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24030, 1, 'ARC-010', 1, 1.35)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24032, 1, 'INF-030', 2, 64)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24031, 129, '2024-03-15', 0, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24031, 1, 'SEÑ-010', 1, 3.7)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24032, 112, '2024-03-20', 9.25, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24032, 1, 'INF-030', 2, 64)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24032, 2, 'ESC-060', 25, 1.1)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24032, 2, 'ESC-060', 25, 1.1)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24032, 3, 'ARC-030', 25, 2.75)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24033, 124, '2024-03-21', 6, 'Entregar por la mañana')
-GO
-
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24033, 1, 'INF-010', 10, 14.9)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24033, 2, 'ESC-030', 3, 5.15)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24033, 2, 'ESC-030', 3, 5.15)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24034, 129, '2024-03-25', 6, 'Entregar por la mañana')
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24034, 1, 'ARC-020', 1, 2.88)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24034, 1, 'ARC-020', 1, 2.88)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24034, 2, 'ESC-040', 1, 2.09)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24034, 2, 'ESC-040', 1, 2.09)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24035, 1, 'PAP-020', 1, 0.08)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24035, 123, '2024-03-26', 3.5, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24035, 2, 'INF-010', 2, 14.9)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24035, 1, 'PAP-020', 1, 0.08)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24036, 1, 'ARC-060', 5, 6.71)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24035, 2, 'INF-010', 2, 14.9)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24037, 1, 'ARC-040', 3, 4.1)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24036, 129, '2024-03-28', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24037, 2, 'SEÑ-030', 5, 2.95)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24036, 1, 'ARC-060', 5, 6.71)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24037, 120, '2024-04-01', 0, 'Dejar en recepción (señora Pérez)')
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24037, 1, 'ARC-040', 3, 4.1)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24037, 2, 'SEÑ-030', 5, 2.95)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24038, 133, '2024-04-04', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24038, 1, 'ESC-060', 10, 1.1)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24038, 1, 'ESC-060', 10, 1.1)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24038, 2, 'SEÑ-020', 1, 11.25)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24038, 3, 'ARC-010', 3, 1.22)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24038, 3, 'ARC-010', 3, 1.22)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24039, 130, '2024-04-05', 6, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24039, 1, 'ARC-040', 2, 4.1)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24039, 1, 'ARC-040', 2, 4.1)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24039, 2, 'ESC-010', 2, 0.45)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24039, 2, 'ESC-010', 2, 0.45)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24040, 1, 'ARC-040', 3, 4.1)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24040, 133, '2024-04-09', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24041, 1, 'PAP-020', 2, 0.08)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24040, 1, 'ARC-040', 3, 4.1)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24041, 2, 'ARC-050', 25, 5.9)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24041, 114, '2024-04-10', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24041, 1, 'PAP-020', 2, 0.08)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24041, 2, 'ARC-050', 25, 5.9)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24042, 120, '2024-04-15', 3.5, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24042, 1, 'ESC-010', 1, 0.45)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24043, 124, '2024-04-18', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24042, 1, 'ESC-010', 1, 0.45)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24043, 1, 'SEÑ-020', 1, 11.88)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24044, 111, '2024-04-23', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24044, 1, 'SEÑ-030', 2, 2.95)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24044, 1, 'SEÑ-030', 2, 2.95)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24045, 136, '2024-04-23', 3.5, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24045, 1, 'PAP-050', 5, 0.6)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24046, 120, '2024-04-23', 3.5, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24045, 1, 'PAP-050', 5, 0.6)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24046, 1, 'MOB-040', 10, 27.4)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24047, 128, '2024-04-29', 6, 'Entregar por la mañana')
-GO
-
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24047, 1, 'ESC-020', 25, 0.28)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24048, 104, '2024-04-30', 0, NULL)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24048, 1, 'INF-020', 1, 17.95)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24048, 2, 'ESC-020', 3, 0.27)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24048, 2, 'ESC-020', 3, 0.27)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24049, 113, '2024-04-30', 6, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24049, 1, 'PAP-050', 10, 0.6)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24049, 1, 'PAP-050', 10, 0.6)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24049, 2, 'PAP-040', 5, 1.85)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24049, 2, 'PAP-040', 5, 1.85)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24049, 3, 'SEÑ-010', 3, 3.9)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24049, 3, 'SEÑ-010', 3, 3.9)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24050, 1, 'SEÑ-010', 25, 3.9)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24050, 114, '2024-05-03', 9.25, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24051, 1, 'ARC-060', 2, 7.45)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24050, 1, 'SEÑ-010', 25, 3.9)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24051, 134, '2024-05-08', 6, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24051, 1, 'ARC-060', 2, 7.45)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24052, 117, '2024-05-09', 9.25, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24052, 1, 'ESC-010', 1, 0.45)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24053, 106, '2024-05-13', 0, NULL)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24052, 1, 'ESC-010', 1, 0.45)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24053, 1, 'PAP-030', 25, 0.95)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24053, 2, 'ESC-020', 1, 0.3)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24053, 2, 'ESC-020', 1, 0.3)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24054, 115, '2024-05-17', 0, 'Urgente; portería cerrada los sábados')
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24054, 1, 'ARC-010', 1, 1.35)
 GO
 
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24054, 1, 'ARC-010', 1, 1.35)
-GO
-
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24055, 120, '2024-05-23', 3.5, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24055, 1, 'PAP-050', 3, 0.6)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24055, 1, 'PAP-050', 3, 0.6)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
 VALUES (24055, 2, 'INF-020', 1, 19.95)
 GO
 
-INSERT INTO [Pedidos] ([Número], [Cliente], [Fecha], [Portes], [Observación])
-VALUES (24056, 110, '2024-05-24', 0, NULL)
-GO
-
-INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
-VALUES (24056, 1, 'SEÑ-030', 3, 2.8)
+INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio]) VALUES (24056, 1, 'SEÑ-030', 3, 2.8)
 GO
 
 INSERT INTO [Líneas] ([Pedido], [Línea], [Artículo], [Cantidad], [Precio])
@@ -959,11 +877,4 @@ GO
 
 UPDATE [Pedidos] SET [Portes] = 0 WHERE [Número] IN (
   SELECT [Pedido] FROM [Líneas] GROUP BY [Pedido] HAVING Sum([Cantidad] * [Precio]) > 150)
-GO
-
-CREATE VIEW [ImportePorCliente] AS
-SELECT C.[Nombre], Sum(L.[Cantidad] * L.[Precio]) AS [Importe]
-FROM [Clientes] C INNER JOIN [Pedidos] P ON P.[Cliente] = C.[Código]
-INNER JOIN [Líneas] L ON L.[Pedido] = P.[Número]
-GROUP BY C.[Código], C.[Nombre]
 GO

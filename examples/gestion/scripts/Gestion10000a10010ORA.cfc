@@ -1,0 +1,17 @@
+ALTER SESSION SET CURRENT_SCHEMA = "[UsuarioQVRAdm]"
+GO
+
+ALTER TABLE Clientes ADD (Correo VARCHAR2(80), Inactivo NUMBER(1) DEFAULT 0 NOT NULL)
+GO
+
+ALTER TABLE Articulos ADD (IVA NUMBER(4, 1) DEFAULT 21 NOT NULL)
+GO
+
+UPDATE Clientes SET Inactivo = 1 WHERE Codigo NOT IN (SELECT Cliente FROM Pedidos)
+GO
+
+UPDATE Articulos SET IVA = 10 WHERE Familia = 'SEÑ'
+GO
+
+UPDATE Esquema SET Version = 10010, Fecha = DATE '2024-03-01' WHERE Version = 10000
+GO
