@@ -12,7 +12,9 @@ for run in json.load(sys.stdin)["benchmarks"]:
 names = list(runs)
 arguments = list(runs[names[0]])
 print(f"{'':24}" + "".join(f"{argument:>12}" for argument in arguments))
+base = runs[names[0]]
 for name in names:
-    base = runs[names[0]]
-    cells = "".join(f"{runs[name][a] / base[a]:12.1f}" for a in arguments)
-    print(f"{name:24}{cells}" + ("   (1.0 is " + ", ".join(f"{base[a]:.0f} ns" for a in arguments) + ")" if name == names[0] else ""))
+    run = runs[name]
+    cells = "".join(f"{run[a] / base[a]:12.1f}" if a in run else f"{'-':>12}" for a in arguments)
+    times = ", ".join(f"{base[a]:.0f} ns" for a in arguments)
+    print(f"{name:24}{cells}" + (f"   (1.0 is {times})" if name == names[0] else ""))
