@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
-#include "frame/text.h"
+#include "frame/languages/catalogue.h"
+#include "frame/value.h"
 
 namespace qvr {
 
@@ -13,6 +15,10 @@ void InicializarComun() noexcept;
 // The default language: the per-user setting "QVR" / "Idioma" / "IdiomaOmision", or the operating system's language
 // where there is none. Read once per thread.
 std::int32_t IdiomaOmision() noexcept;
+
+// A text for the user in this thread's language, with "|1", "|2"... replaced by the arguments. Loads the language where
+// the first object of the thread had no memory for that. Throws where there is no text.
+Text message(Message row, std::span<const Value> arguments = {});
 
 // Whether a directory search for the path with this attribute mask finds an entry; false for an empty path and on any
 // failure.

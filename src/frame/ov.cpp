@@ -7,6 +7,15 @@
 
 namespace qvr {
 
+namespace {
+
+TextView folder_of(TextView file) {
+  const std::size_t separator = file.find_last_of(u"\\/");
+  return separator == TextView::npos ? TextView() : file.substr(0, separator);
+}
+
+}  // namespace
+
 VersionNumbers own_version() { return {QVR_VERSION_MAJOR, QVR_VERSION_MINOR, QVR_VERSION_REVISION}; }
 
 std::int32_t Ov::Version(VersionNumbers numbers) noexcept {
@@ -23,16 +32,13 @@ Text Ov::CadenaVersion(VersionNumbers numbers) noexcept {
 }
 
 Text Ov::Path(TextView library_file) noexcept {
-  return or_default(Text(), [&] {
-    const std::size_t separator = library_file.find_last_of(u"\\/");
-    return separator == TextView::npos ? Text() : Text(library_file.substr(0, separator));
-  });
+  return or_default(Text(), [&] { return Text(folder_of(library_file)); });
 }
 
 Text Ov::PathCompleto(TextView library_file) noexcept {
   return or_default(Text(), [&] {
     const TextView name = library_file.substr(library_file.find_last_of(u"\\/") + 1);
-    return join({Path(library_file), u"\\", name.substr(0, name.rfind(u'.')), u".dll"});
+    return join({folder_of(library_file), u"\\", name.substr(0, name.rfind(u'.')), u".dll"});
   });
 }
 

@@ -1,13 +1,17 @@
 #include "script/script_fixture.h"
 
+#include "support/faults_paused.h"
+
 namespace qvr::tests {
 
 void LoggingEvents::Progreso(const Text& Mensaje) noexcept {
+  const FaultsPaused paused;
   log_.add("Progreso", Mensaje);
   if (on_progress) on_progress();
 }
 
 void LoggingEvents::Terminado(bool Exito) noexcept {
+  const FaultsPaused paused;
   log_.add(Exito ? "Terminado: True" : "Terminado: False");
   if (on_end) on_end();
 }

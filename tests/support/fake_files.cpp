@@ -4,6 +4,7 @@
 
 #include "frame/failure.h"
 #include "frame/wildcards.h"
+#include "support/faults_paused.h"
 
 namespace qvr::tests {
 namespace {
@@ -18,6 +19,7 @@ class MemoryOutput final : public OutputFile {
       : bytes_(bytes), room_(room), close_fails_(close_fails) {}
 
   void write(std::string_view bytes) override {
+    const FaultsPaused paused;  // a disk has its own room
     const std::size_t room = room_ ? *room_ - std::min(*room_, bytes_.size()) : bytes.size();
     bytes_ += bytes.substr(0, room);
     if (room < bytes.size()) refuse();
@@ -66,6 +68,7 @@ std::unique_ptr<InputFile> FakeFiles::open(TextView path) {
 std::unique_ptr<OutputFile> FakeFiles::create(TextView path) {
   ++created;
   if (!in_memory_) return real().create(path);
+  const FaultsPaused paused;
   std::string& bytes = memory[Text(path)];
   bytes.clear();
   return std::make_unique<MemoryOutput>(bytes, writable_bytes, close_fails);

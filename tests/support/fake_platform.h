@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <tuple>
 #include <vector>
 
@@ -51,6 +52,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   void fail_next() { answers_.push_back(std::nullopt); }
 
   std::vector<Text> shown;
+  std::optional<BoxAnswer> always;  // every box may appear and gets this answer
 
  private:
   CallLog& log_;

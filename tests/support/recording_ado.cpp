@@ -2,6 +2,7 @@
 
 #include "frame/utf8.h"
 #include "support/describe.h"
+#include "support/faults_paused.h"
 
 namespace qvr::tests {
 namespace {
@@ -11,7 +12,7 @@ Text described(const Value& value) { return from_utf8(describe(value)).value(); 
 class RecordingConnection final : public services::AdoConnection {
  public:
   explicit RecordingConnection(RecordingAdo& ado) : ado_(ado) {}
-  ~RecordingConnection() override { ado_.log().add("Connection released"); }
+  ~RecordingConnection() override { ado_.released("Connection released"); }
   void set_connection_string(TextView text) override { ado_.call("Connection.ConnectionString", text); }
   void open() override { ado_.call("Connection.Open"); }
   void begin_trans() override { ado_.call("Connection.BeginTrans"); }
@@ -27,7 +28,7 @@ class RecordingConnection final : public services::AdoConnection {
 class RecordingCommand final : public services::AdoCommand {
  public:
   explicit RecordingCommand(RecordingAdo& ado) : ado_(ado) {}
-  ~RecordingCommand() override { ado_.log().add("Command released"); }
+  ~RecordingCommand() override { ado_.released("Command released"); }
   void set_active_connection(services::AdoConnection&) override { ado_.call("Command.ActiveConnection"); }
   void set_command_type(services::CommandType type) override {
     ado_.call("Command.CommandType", decimal(static_cast<std::int32_t>(type)));
@@ -57,7 +58,7 @@ class RecordingCommand final : public services::AdoCommand {
 class RecordingParameter final : public services::AdoParameter {
  public:
   explicit RecordingParameter(RecordingAdo& ado) : ado_(ado) {}
-  ~RecordingParameter() override { ado_.log().add("Parameter released"); }
+  ~RecordingParameter() override { ado_.released("Parameter released"); }
   void set_type(services::DataType type) override {
     ado_.call("Parameter.Type", decimal(static_cast<std::int32_t>(type)));
   }
@@ -94,22 +95,42 @@ void RecordingAdo::fail(std::string operation, int occurrence, FailureDetail fai
   planned_.emplace(std::move(operation), Planned{occurrence, std::move(failure), std::move(errors)});
 }
 
-void RecordingAdo::call(const std::string& operation) {
+void RecordingAdo::fail_call(int nth, std::function<void()> thrower, Broken broken) {
+  failing_call_ = nth;
+  broken_ = broken;
+  thrower_ = std::move(thrower);
+}
+
+void RecordingAdo::call(const char* operation) {
+  const FaultsPaused paused;
   log_.add(operation);
   count(operation);
 }
 
-void RecordingAdo::call(const std::string& operation, TextView argument) {
+void RecordingAdo::call(const char* operation, TextView argument) {
+  const FaultsPaused paused;
   log_.add(operation, argument);
   count(operation);
 }
 
-std::vector<services::AdoError> RecordingAdo::errors() {
-  count("Connection.Errors");
-  return errors_;
+void RecordingAdo::released(const char* line) {
+  const FaultsPaused paused;
+  log_.add(line);
 }
 
-void RecordingAdo::count(const std::string& operation) {
+std::vector<services::AdoError> RecordingAdo::errors() {
+  count("Connection.Errors");
+  return told_errors ? told_errors() : errors_;
+}
+
+void RecordingAdo::count(const char* operation) {
+  const FaultsPaused paused;
+  ++call_count_;
+  const bool broken = broken_ == Broken::Yes && call_count_ > failing_call_;
+  if (thrower_ && (call_count_ == failing_call_ || broken)) {
+    refused.push_back(operation);
+    thrower_();
+  }
   const int occurrence = ++calls_[operation];
   const auto [first, last] = planned_.equal_range(operation);
   for (auto plan = first; plan != last; ++plan) {

@@ -7,6 +7,7 @@
 // ".Value".
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -31,9 +32,19 @@ class RecordingAdo final : public services::Ado {
   // The operation's n-th call (counted from 1) fails with this; the connection then tells these errors.
   void fail(std::string operation, int occurrence, FailureDetail failure, std::vector<services::AdoError> errors = {});
 
+  // The n-th call of all (counted from 1) fails as `thrower` does; with a connection that broke, every later one, too.
+  enum class Broken { No, Yes };
+  void fail_call(int nth, std::function<void()> thrower, Broken broken);
+  int call_count() const { return call_count_; }
+  std::vector<std::string> refused;  // the operations that failed so
+
+  // The connection's errors, in the place of those that a failure left.
+  std::function<std::vector<services::AdoError>()> told_errors;
+
   // For the recording objects.
-  void call(const std::string& operation);
-  void call(const std::string& operation, TextView argument);
+  void call(const char* operation);
+  void call(const char* operation, TextView argument);
+  void released(const char* line);
   std::vector<services::AdoError> errors();
   CallLog& log() { return log_; }
 
@@ -44,12 +55,15 @@ class RecordingAdo final : public services::Ado {
     std::vector<services::AdoError> errors;
   };
 
-  void count(const std::string& operation);
+  void count(const char* operation);
 
   CallLog& log_;
   std::map<std::string, int> calls_;
   std::multimap<std::string, Planned> planned_;
   std::vector<services::AdoError> errors_;
+  int call_count_ = 0, failing_call_ = 0;
+  Broken broken_ = Broken::No;
+  std::function<void()> thrower_;
 };
 
 }  // namespace qvr::tests

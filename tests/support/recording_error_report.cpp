@@ -1,8 +1,11 @@
 #include "support/recording_error_report.h"
 
+#include "support/faults_paused.h"
+
 namespace qvr::tests {
 
 void RecordingErrorReport::Informar(const services::ErrorNotice& notice) {
+  const FaultsPaused paused;
   const FailureDetail& failure = notice.failure;
   Text line = join({decimal(failure.number), u"|", failure.description, u"|", failure.source, u"|",
                     decimal(notice.motor), u"|", notice.label});

@@ -48,7 +48,11 @@ void IdiomaSimple::Idioma(std::int32_t NuevoIdioma) noexcept {
     if (!loaded_) return false;
     const std::int32_t wanted = nearest_available(NuevoIdioma);
     if (wanted == current_) return true;
-    return load(wanted, available_, TextTable(catalogue_));
+    // Loaded elsewhere first: for want of memory the language in force stays.
+    IdiomaSimple changed(*user_language_);
+    changed.load(wanted, available_, catalogue_);
+    *this = std::move(changed);
+    return true;
   });
 }
 
@@ -68,12 +72,16 @@ Text IdiomaSimple::text_of(std::int32_t row) const {
   return replace_all(texts_[static_cast<std::size_t>(row)], u"||", kLineBreak);
 }
 
+Text IdiomaSimple::filled_text_of(std::int32_t row, std::span<const Value> values) const {
+  return filled(text_of(row), 1, values);
+}
+
 Text IdiomaSimple::CI(std::int32_t row) const noexcept {
   return or_default(Text(), [&] { return text_of(row); });
 }
 
 Text IdiomaSimple::CIp(std::int32_t row, std::span<const Value> Param) const noexcept {
-  return or_default(Text(), [&] { return filled(text_of(row), 1, Param); });
+  return or_default(Text(), [&] { return filled_text_of(row, Param); });
 }
 
 Text IdiomaSimple::CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const Value> Param) const noexcept {
@@ -83,11 +91,15 @@ Text IdiomaSimple::CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const
   });
 }
 
-std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
-  return or_default(language::kEnglish, [&] {
+std::int32_t IdiomaSimple::language_of_system() const {
+  return or_default_unless_memory(language::kEnglish, [&] {
     const SystemLanguage system = system_language(user_language_->default_identifier());
     return system.needs_availability_check ? nearest_available(system.number) : system.number;
   });
+}
+
+std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
+  return or_default(language::kEnglish, [&] { return language_of_system(); });
 }
 
 std::vector<Value> IdiomaSimple::IdiomasDisponibles() const noexcept {

@@ -29,6 +29,10 @@ class IdiomaSimple {
   Text CI(std::int32_t row) const noexcept;
   // CI with "|1", "|2"... replaced in ascending order, each over the result of the one before.
   Text CIp(std::int32_t row, std::span<const Value> Param) const noexcept;
+  // The same for the library's own texts: an empty one would be shown, or become part of a longer one. Throws failure 9
+  // where CI would be empty, and for want of memory.
+  Text text_of(std::int32_t row) const;
+  Text filled_text_of(std::int32_t row, std::span<const Value> values) const;
   // The row when Cantidad is 1, else the one after it; "|1" is Cantidad, the list goes on at "|2".
   Text CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const Value> Param) const noexcept;
 
@@ -38,11 +42,12 @@ class IdiomaSimple {
   // list give 0.
   std::int32_t IdiomaDesdeSOP() const noexcept;
   std::vector<Value> IdiomasDisponibles() const noexcept;
+  // IdiomaDesdeSOP, but want of memory is no answer: throws.
+  std::int32_t language_of_system() const;
 
  private:
   bool load(std::int32_t idioma, std::vector<Value> idiomas, const TextTable& mensajes);
   std::int32_t nearest_available(std::int32_t idioma) const noexcept;
-  Text text_of(std::int32_t row) const;
 
   std::int32_t current_ = 0;
   std::int32_t language_count_ = 0;
