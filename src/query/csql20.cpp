@@ -22,7 +22,7 @@ Text or_no_text(Body&& body) noexcept {
 
 cSQL20::cSQL20() noexcept {
   InicializarComun();
-  fields_.language = thread_state().idioma.Idioma();
+  fields_.language = or_default(language::kSpanish, [] { return thread_state().idioma.Idioma(); });
 }
 
 Text cSQL20::Name() const noexcept {

@@ -107,6 +107,7 @@ FaultCase fault_case(std::string name, std::string expected, Texts failures, Cal
 std::string out_of_memory_box(const std::string& object, const std::string& method);
 
 // The cases of each class.
+std::vector<FaultCase> first_object_cases();
 std::vector<FaultCase> frame_cases();
 std::vector<FaultCase> qvrprp_cases();
 
