@@ -45,8 +45,9 @@ Siv& BuiltinTextProtection::cipher_for(TextView key) {
   SecretBytes derived(*cryptography_, kKeySize);
   cryptography_->pbkdf2_hmac_sha256(as_bytes(password), as_bytes(kSalt), kRounds, derived.span());
   cryptography_->wipe(as_mutable(password));
-  cipher_ = std::make_unique<Siv>(*cryptography_, derived.span());
+  // In this order: a cipher without its key would be taken for the one of an empty key.
   derived_for_ = key;
+  cipher_ = std::make_unique<Siv>(*cryptography_, derived.span());
   return *cipher_;
 }
 

@@ -109,6 +109,7 @@ std::string out_of_memory_box(const std::string& object, const std::string& meth
 // The cases of each class.
 std::vector<FaultCase> first_object_cases();
 std::vector<FaultCase> frame_cases();
+std::vector<FaultCase> qvrcfp_cases();
 std::vector<FaultCase> qvrprp_cases();
 
 }  // namespace qvr::tests

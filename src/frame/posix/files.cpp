@@ -34,9 +34,10 @@ class Descriptor {
   int number_;
 };
 
+// The objects open their files themselves, so that no file is open, or emptied, before there is memory for its object.
 class DescriptorInput : public InputFile {
  public:
-  explicit DescriptorInput(int number) : descriptor_(number) {}
+  explicit DescriptorInput(const std::string& path) : descriptor_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
 
   std::size_t read(std::span<char> buffer) override {
     std::size_t filled = 0;
@@ -56,7 +57,8 @@ class DescriptorInput : public InputFile {
 
 class DescriptorOutput : public OutputFile {
  public:
-  explicit DescriptorOutput(int number) : descriptor_(number) {}
+  explicit DescriptorOutput(const std::string& path)
+      : descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
 
   void write(std::string_view bytes) override {
     while (!bytes.empty()) {
@@ -116,12 +118,11 @@ class PosixFiles final : public Files {
   }
 
   std::unique_ptr<InputFile> open(TextView path) override {
-    return std::make_unique<DescriptorInput>(::open(native_path(path).c_str(), O_RDONLY | O_CLOEXEC));
+    return std::make_unique<DescriptorInput>(native_path(path));
   }
 
   std::unique_ptr<OutputFile> create(TextView path) override {
-    const int number = ::open(native_path(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    return std::make_unique<DescriptorOutput>(number);
+    return std::make_unique<DescriptorOutput>(native_path(path));
   }
 
   // This system's page is UTF-8.

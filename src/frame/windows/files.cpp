@@ -24,9 +24,12 @@ class FileHandle {
   HANDLE handle_;
 };
 
+// The objects open their files themselves, so that no file is open, or emptied, before there is memory for its object.
 class HandleInput : public InputFile {
  public:
-  explicit HandleInput(HANDLE handle) : file_(handle) {}
+  explicit HandleInput(const std::wstring& path)
+      : file_(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                          FILE_ATTRIBUTE_NORMAL, nullptr)) {}
 
   std::size_t read(std::span<char> buffer) override {
     std::size_t filled = 0;
@@ -46,7 +49,8 @@ class HandleInput : public InputFile {
 
 class HandleOutput : public OutputFile {
  public:
-  explicit HandleOutput(HANDLE handle) : file_(handle) {}
+  explicit HandleOutput(const std::wstring& path)
+      : file_(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
 
   void write(std::string_view bytes) override {
     constexpr std::size_t kAtOnce = std::size_t{1} << 20;
@@ -110,14 +114,11 @@ class SystemFiles final : public Files {
   }
 
   std::unique_ptr<InputFile> open(TextView path) override {
-    return std::make_unique<HandleInput>(CreateFileW(path_of(path).c_str(), GENERIC_READ,
-                                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    return std::make_unique<HandleInput>(path_of(path));
   }
 
   std::unique_ptr<OutputFile> create(TextView path) override {
-    return std::make_unique<HandleOutput>(CreateFileW(path_of(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                                      FILE_ATTRIBUTE_NORMAL, nullptr));
+    return std::make_unique<HandleOutput>(path_of(path));
   }
 
   std::string to_system_page(TextView text) override {
