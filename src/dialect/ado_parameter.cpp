@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "frame/failure.h"
+#include "frame/global.h"
 #include "frame/thread_state.h"
 
 namespace qvr::dialect {
@@ -53,7 +54,7 @@ void apply(const Setting& setting, std::int32_t width, services::AdoParameter& p
 }
 
 bool unexpected_type(const ParameterRequest& request) {
-  tell(thread_state().idioma.CIp(MsgTipoInesperado, {{Text(request.Nombre), Text(request.TipoSQLServer)}}));
+  tell(message(MsgTipoInesperado, {{Text(request.Nombre), Text(request.TipoSQLServer)}}));
   return false;
 }
 

@@ -164,12 +164,16 @@ std::size_t cSQL20::existing_column(TextView field) const {
 
 Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
   if (!fields_.created) return {};
-  const Text procedure = or_no_text([&] { return join({u"TipoCampo(", NombreCampoRS, u")"}); });
-  return dialect::or_shown(Text(), kClass, procedure, [&] {
-    const Text& type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
-    if (type.empty()) throw RuntimeFailure(failure_number::kInvalidArgument);
-    return type;
-  });
+  return or_reported(
+      Text(),
+      [&] {
+        const Text& type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
+        if (type.empty()) throw RuntimeFailure(failure_number::kInvalidArgument);
+        return type;
+      },
+      [&](const FailureDetail& failure) {
+        dialect::show_failure(kClass, join({u"TipoCampo(", NombreCampoRS, u")"}), failure);
+      });
 }
 
 Text cSQL20::ExpresionOriginal(TextView NombreCampoRS) const noexcept {

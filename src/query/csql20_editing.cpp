@@ -4,7 +4,7 @@
 #include "dialect/clauses.h"
 #include "dialect/error_box.h"
 #include "frame/failure.h"
-#include "frame/thread_state.h"
+#include "frame/global.h"
 #include "query/csql20.h"
 #include "query/search_text.h"
 
@@ -35,7 +35,7 @@ Text top_mark(std::int32_t top) { return join({u" TOP ", decimal(top), u" "}); }
 bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView criterion) {
   Extended readable(fields_.criterion);
   if (!criterion.empty()) {
-    if (!fields_.criterion.empty()) fields_.criterion += join({u" ", thread_state().idioma.CI(MsgY), u" "});
+    if (!fields_.criterion.empty()) fields_.criterion += join({u" ", message(MsgY), u" "});
     fields_.criterion += criterion;
   }
   if (!chain.add(condition)) return false;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/thread_state.h"
+#include "frame/global.h"
 #include "query/search_operands.h"
 #include "query/search_split.h"
 
@@ -80,12 +80,10 @@ Text shown_pattern(const Operand& pattern) {
 }
 
 struct CriterionWriter {
-  const IdiomaSimple& idioma;
-
-  Text operator()(const IsNull& atom) const { return join({atom.negated ? u"<> " : u"", idioma.CI(MsgEsNulo)}); }
+  Text operator()(const IsNull& atom) const { return join({atom.negated ? u"<> " : u"", message(MsgEsNulo)}); }
   Text operator()(const IsEmpty& atom) const { return atom.negated ? u"<> ''" : u"= ''"; }
   Text operator()(const Like& atom) const {
-    return join({atom.negated ? u"<> " : u"", idioma.CI(MsgEsComo), u" '", shown_pattern(atom.pattern), u"'"});
+    return join({atom.negated ? u"<> " : u"", message(MsgEsComo), u" '", shown_pattern(atom.pattern), u"'"});
   }
   Text operator()(const CompareText& atom) const {
     const Text& value = atom.operand.text();
@@ -106,9 +104,8 @@ struct CriterionWriter {
 }  // namespace
 
 Text search_criterion(TextView label, const Alternatives& search) {
-  const IdiomaSimple& idioma = thread_state().idioma;
-  const CriterionWriter writer{idioma};
-  const Text both = join({u" ", idioma.CI(MsgY), u" "});
+  const CriterionWriter writer;
+  const Text both = join({u" ", message(MsgY), u" "});
   Text criterion = join({label, u" "});
   for (const Alternative& alternative : search) {
     if (&alternative != search.data()) criterion += u"; ";

@@ -110,6 +110,8 @@ std::string out_of_memory_box(const std::string& object, const std::string& meth
 std::vector<FaultCase> first_object_cases();
 std::vector<FaultCase> frame_cases();
 std::vector<FaultCase> qvrcfp_cases();
+std::vector<FaultCase> qvrcfp_sql_cases();
+std::vector<FaultCase> csql20_search_cases();
 std::vector<FaultCase> qvrprp_cases();
 
 }  // namespace qvr::tests
