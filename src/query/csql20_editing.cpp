@@ -99,17 +99,21 @@ void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) n
 // The criterion stays: it still describes what was adopted.
 void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
   or_default(false, [&] {
+    Text limit, where, having, order;
+    if (AdoptarWhere) where = where_clause(true, limit).text();
+    if (AdoptarHaving) having = having_clause(true).text();
+    if (AdoptarOrder) order = order_clause(true).text();
+    // Nothing fails from here on: all of it is adopted or none.
     if (AdoptarWhere) {
-      Text limit;
-      fields_.where = where_clause(true, limit).text();
+      fields_.where = std::move(where);
       fields_.added_where.clear();
     }
     if (AdoptarHaving) {
-      fields_.having = having_clause(true).text();
+      fields_.having = std::move(having);
       fields_.added_having.clear();
     }
     if (AdoptarOrder) {
-      fields_.order = order_clause(true).text();
+      fields_.order = std::move(order);
       fields_.added_order.clear();
     }
     return true;

@@ -111,6 +111,7 @@ std::vector<FaultCase> first_object_cases();
 std::vector<FaultCase> frame_cases();
 std::vector<FaultCase> qvrcfp_cases();
 std::vector<FaultCase> qvrcfp_sql_cases();
+std::vector<FaultCase> csql20_cases();
 std::vector<FaultCase> csql20_search_cases();
 std::vector<FaultCase> qvrprp_cases();
 
