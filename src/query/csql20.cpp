@@ -120,6 +120,8 @@ Text cSQL20::ParteOrder(bool SinClausula) const noexcept {
   return dialect::or_shown(Text(), kClass, u"ParteOrder", [&] { return order_clause(SinClausula).text(); });
 }
 
+Text cSQL20::current_order() const { return order_clause(false).text(); }
+
 // One blank between all parts, also where a part is empty.
 Text cSQL20::SQL() const noexcept {
   return or_no_text([&] {
@@ -131,12 +133,14 @@ Text cSQL20::SQL() const noexcept {
 }
 
 Text cSQL20::SQLSinOrden() const noexcept {
-  return or_no_text([&] {
-    Text limit;
-    const Clause w = where_clause(false, limit), h = having_clause(false);
-    return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
-                 fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added});
-  });
+  return or_no_text([&] { return current_statement(); });
+}
+
+Text cSQL20::current_statement() const {
+  Text limit;
+  const Clause w = where_clause(false, limit), h = having_clause(false);
+  return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
+               fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added});
 }
 
 Text cSQL20::SQLOriginal() const noexcept {
@@ -148,11 +152,13 @@ Text cSQL20::SQLOriginal() const noexcept {
 }
 
 Text cSQL20::SQLOriginalSinOrden() const noexcept {
-  return or_no_text([&] {
-    const Fields& f = fields_;
-    return join({f.select, u" ", f.from, u" ", f.where.empty() ? u"" : u"WHERE ", f.where, u" ", f.group_by, u" ",
-                 f.having.empty() ? u"" : u"HAVING ", f.having});
-  });
+  return or_no_text([&] { return original_statement(); });
+}
+
+Text cSQL20::original_statement() const {
+  const Fields& f = fields_;
+  return join({f.select, u" ", f.from, u" ", f.where.empty() ? u"" : u"WHERE ", f.where, u" ", f.group_by, u" ",
+               f.having.empty() ? u"" : u"HAVING ", f.having});
 }
 
 // Throws failure 5 when no column has this name.

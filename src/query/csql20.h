@@ -55,6 +55,13 @@ class cSQL20 final : public iSQL20 {
   void MotorBD(dialect::Engine value) noexcept override { fields_.engine = value; }
   dialect::Engine MotorBD() const noexcept override { return fields_.engine; }
 
+  // The texts of the members that are named behind them, for a union: it has to know when one could not be made. Throw.
+  Text current_statement() const;   // SQLSinOrden
+  Text original_statement() const;  // SQLOriginalSinOrden
+  Text current_order() const;       // ParteOrder
+  Text definition() const;          // TextoDefinicion
+  Text complete_criterion() const;  // CriterioActualCompleto
+
  private:
   struct Fields {
     Text name;

@@ -29,31 +29,33 @@ query::AddedOrder order_from(TextView clicks, const query::ColumnList& columns) 
 }  // namespace
 
 Text cSQL20::TextoDefinicion() const noexcept {
-  return or_default(Text(), [&] {
-    const Fields& f = fields_;
-    if (!f.created) return Text();
-    query::DefinitionWriter writer(kVersion);
-    writer.add_number(kEngine, f.engine);
-    writer.add_text(kName, f.name);
-    writer.add_truth(kDistinct, f.distinct);
-    writer.add_number(kTop, f.top);
-    writer.add_text(kHead, TextView(f.select).substr(0, f.columns_at));
-    for (const query::Column& column : f.columns.all()) {
-      writer.add_text(kExpression, column.expression);
-      writer.add_text(kType, column.type);
-      writer.add_text(kField, column.field);
-    }
-    writer.add_text(kFrom, f.from);
-    writer.add_text(kWhere, f.where);
-    writer.add_number(kGrouped, f.grouped);
-    writer.add_text(kHaving, f.having);
-    writer.add_text(kOrder, f.order);
-    writer.add_text(kAddedWhere, f.added_where.text());
-    writer.add_text(kAddedHaving, f.added_having.text());
-    writer.add_text(kAddedOrder, f.added_order.clicks());
-    writer.add_text(kCriterion, f.criterion);
-    return writer.finished();
-  });
+  return or_default(Text(), [&] { return definition(); });
+}
+
+Text cSQL20::definition() const {
+  const Fields& f = fields_;
+  if (!f.created) return Text();
+  query::DefinitionWriter writer(kVersion);
+  writer.add_number(kEngine, f.engine);
+  writer.add_text(kName, f.name);
+  writer.add_truth(kDistinct, f.distinct);
+  writer.add_number(kTop, f.top);
+  writer.add_text(kHead, TextView(f.select).substr(0, f.columns_at));
+  for (const query::Column& column : f.columns.all()) {
+    writer.add_text(kExpression, column.expression);
+    writer.add_text(kType, column.type);
+    writer.add_text(kField, column.field);
+  }
+  writer.add_text(kFrom, f.from);
+  writer.add_text(kWhere, f.where);
+  writer.add_number(kGrouped, f.grouped);
+  writer.add_text(kHaving, f.having);
+  writer.add_text(kOrder, f.order);
+  writer.add_text(kAddedWhere, f.added_where.text());
+  writer.add_text(kAddedHaving, f.added_having.text());
+  writer.add_text(kAddedOrder, f.added_order.clicks());
+  writer.add_text(kCriterion, f.criterion);
+  return writer.finished();
 }
 
 cSQL20::Fields cSQL20::read_definition(TextView text) const {
@@ -111,12 +113,14 @@ bool cSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
 }
 
 Text cSQL20::CriterioActualCompleto() const noexcept {
-  return or_default(Text(), [&] {
-    const Fields& f = fields_;
-    return join({query::escaped_marks(f.added_where.text()), kCriterionMark,
-                 query::escaped_marks(f.added_having.text()), kCriterionMark, f.added_order.clicks(), kCriterionMark,
-                 query::escaped_marks(f.criterion)});
-  });
+  return or_default(Text(), [&] { return complete_criterion(); });
+}
+
+Text cSQL20::complete_criterion() const {
+  const Fields& f = fields_;
+  return join({query::escaped_marks(f.added_where.text()), kCriterionMark,
+               query::escaped_marks(f.added_having.text()), kCriterionMark, f.added_order.clicks(), kCriterionMark,
+               query::escaped_marks(f.criterion)});
 }
 
 void cSQL20::CriterioActualCompleto(TextView value) noexcept {

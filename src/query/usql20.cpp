@@ -2,7 +2,6 @@
 
 #include "frame/failure.h"
 #include "frame/global.h"
-#include "query/csql20.h"
 
 namespace qvr {
 namespace {
@@ -18,11 +17,10 @@ uSQL20::~uSQL20() {
   while (!members_.empty()) members_.pop_back();
 }
 
-template <class Get>
-Text uSQL20::joined(TextView separator, Get&& get) const {
+Text uSQL20::joined(TextView separator, Text (cSQL20::*text)() const) const {
   std::vector<Text> texts;
   texts.reserve(members_.size());
-  for (std::size_t i = 0; i < members_.size(); ++i) texts.push_back(get(*members_[i]));
+  for (const Member& member : members_) texts.push_back((*member.*text)());
   return join(texts, separator);
 }
 
@@ -60,14 +58,11 @@ bool uSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
 }
 
 Text uSQL20::TextoDefinicion() const noexcept {
-  return or_default(Text(),
-                    [&] { return joined(kDefinitionMark, [](const iSQL20& m) { return m.TextoDefinicion(); }); });
+  return or_default(Text(), [&] { return joined(kDefinitionMark, &cSQL20::definition); });
 }
 
 Text uSQL20::CriterioActualCompleto() const noexcept {
-  return or_default(Text(), [&] {
-    return joined(kCriterionMark, [](const iSQL20& m) { return m.CriterioActualCompleto(); });
-  });
+  return or_default(Text(), [&] { return joined(kCriterionMark, &cSQL20::complete_criterion); });
 }
 
 void uSQL20::CriterioActualCompleto(TextView value) noexcept {
@@ -98,22 +93,24 @@ bool uSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
 
 Text uSQL20::SQL() const noexcept {
   return or_default(Text(), [&] {
-    return members_.empty() ? Text() : join({SQLSinOrden(), u" ", ParteOrder(false)});
+    if (members_.empty()) return Text();
+    return join({joined(kUnion, &cSQL20::current_statement), u" ", members_.front()->current_order()});
   });
 }
 
 Text uSQL20::SQLOriginal() const noexcept {
   return or_default(Text(), [&] {
-    return members_.empty() ? Text() : join({SQLOriginalSinOrden(), u" ", ParteOrder(false)});
+    if (members_.empty()) return Text();
+    return join({joined(kUnion, &cSQL20::original_statement), u" ", members_.front()->current_order()});
   });
 }
 
 Text uSQL20::SQLOriginalSinOrden() const noexcept {
-  return or_default(Text(), [&] { return joined(kUnion, [](const iSQL20& m) { return m.SQLOriginalSinOrden(); }); });
+  return or_default(Text(), [&] { return joined(kUnion, &cSQL20::original_statement); });
 }
 
 Text uSQL20::SQLSinOrden() const noexcept {
-  return or_default(Text(), [&] { return joined(kUnion, [](const iSQL20& m) { return m.SQLSinOrden(); }); });
+  return or_default(Text(), [&] { return joined(kUnion, &cSQL20::current_statement); });
 }
 
 void uSQL20::TOP(std::int32_t value) noexcept {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "query/isql20.h"
+#include "query/csql20.h"
 
 namespace qvr {
 
@@ -61,10 +61,10 @@ class uSQL20 final : public iSQL20 {
   void Tag(TextView value) noexcept override;
 
  private:
-  using Member = std::unique_ptr<iSQL20>;
+  using Member = std::unique_ptr<cSQL20>;
 
-  template <class Get>
-  Text joined(TextView separator, Get&& get) const;
+  // The members' texts; throws when one of them cannot be made. A text that lacks one would be another query.
+  Text joined(TextView separator, Text (cSQL20::*text)() const) const;
   template <class Use>
   void each(Use&& use) const noexcept;
 

@@ -14,7 +14,7 @@ constexpr std::size_t kMostAllocations = 5000;
 std::vector<FaultCase> all_cases() {
   std::vector<FaultCase> all;
   for (auto* cases : {first_object_cases, frame_cases, qvrcfp_cases, qvrcfp_sql_cases, csql20_cases,
-                      csql20_search_cases, qvrprp_cases}) {
+                      csql20_search_cases, usql20_cases, qvrprp_cases}) {
     std::ranges::move(cases(), std::back_inserter(all));
   }
   return all;
