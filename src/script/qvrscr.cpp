@@ -21,15 +21,25 @@ bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosCom
   if (running_) return false;
   running_ = true;
   InicializarComun();
-  const bool success = or_default(false, [&] {
-    if (TextoMostrar.empty()) TextoMostrar = thread_state().idioma.CI(MsgComandosEjecutados) + u": ";
-    const bool avoid = starts_with_no_case(ID, kAvoidTransaction);
-    if (avoid) ID.erase(0, kAvoidTransaction.size());
-    return ScriptRun(*this, events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
-  });
+  const bool success = or_reported(
+      false,
+      [&] {
+        if (TextoMostrar.empty()) TextoMostrar = message(MsgComandosEjecutados) + u": ";
+        const bool avoid = starts_with_no_case(ID, kAvoidTransaction);
+        if (avoid) ID.erase(0, kAvoidTransaction.size());
+        return ScriptRun(*this, events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
+      },
+      [&](const FailureDetail& failure) { report_failure(failure, {u"EjecutarComandos"}, MotorBD, nullptr); });
   events_.Terminado(success);
   running_ = false;
   return success;
+}
+
+void QVRScr::end_unbegun() noexcept {
+  if (running_) return;
+  running_ = true;
+  events_.Terminado(false);
+  running_ = false;
 }
 
 bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept {

@@ -46,6 +46,10 @@ class QVRScr {
   Text CargarActualizacion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView Aplicacion,
                            std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept;
 
+  // For a caller that has no memory for the arguments of one of these three: it ends all the same, with
+  // Terminado(False), unless a run is under way.
+  void end_unbegun() noexcept;
+
   // The engine's built-in administrator account; empty for an unknown engine.
   Text UsuarioSegunMotor(std::int32_t MotorBD) const noexcept;
 

@@ -1,6 +1,7 @@
 #include "script/script_run.h"
 
 #include "frame/failure.h"
+#include "frame/global.h"
 #include "frame/thread_state.h"
 #include "script/command_splitter.h"
 #include "services/failure_report.h"
@@ -41,8 +42,8 @@ void ScriptRun::open() {
 // False when the user does not want to go on after a failure.
 bool ScriptRun::run_commands() {
   ThreadState& state = thread_state();
-  events_.Progreso(state.idioma.CI(MsgContandoComandos));
-  const Text question = state.idioma.CI(MsgEjecutarRestantes);
+  events_.Progreso(message(MsgContandoComandos));
+  const Text question = message(MsgEjecutarRestantes);
   const Text total = decimal(count_separators(request_.commands));
   std::int32_t done = 0;
   CommandSplitter commands(request_.commands);

@@ -114,6 +114,7 @@ std::vector<FaultCase> qvrcfp_sql_cases();
 std::vector<FaultCase> csql20_cases();
 std::vector<FaultCase> csql20_search_cases();
 std::vector<FaultCase> usql20_cases();
+std::vector<FaultCase> qvrscr_cases();
 std::vector<FaultCase> qvrprp_cases();
 
 }  // namespace qvr::tests

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <set>
 #include <sstream>
 
 #include "faults/fault_case.h"
@@ -14,7 +16,7 @@ constexpr std::size_t kMostAllocations = 5000;
 std::vector<FaultCase> all_cases() {
   std::vector<FaultCase> all;
   for (auto* cases : {first_object_cases, frame_cases, qvrcfp_cases, qvrcfp_sql_cases, csql20_cases,
-                      csql20_search_cases, usql20_cases, qvrprp_cases}) {
+                      csql20_search_cases, usql20_cases, qvrscr_cases, qvrprp_cases}) {
     std::ranges::move(cases(), std::back_inserter(all));
   }
   return all;
@@ -147,6 +149,38 @@ std::string test_name(const ::testing::TestParamInfo<FaultCase>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, FaultTest, ::testing::ValuesIn(all_cases()), test_name);
+
+// "QVRcfp.Crear" for each member of the library's classes; "cSQL20.Tag=" for a property that is written.
+std::set<std::string> members_of_the_type_library() {
+  std::ifstream file(QVR_TESTS_TYPE_LIBRARY);
+  std::set<std::string> members;
+  std::string owner;
+  for (std::string line; std::getline(file, line);) {
+    constexpr std::string_view kInterface = "dual interface _";
+    if (line.starts_with(kInterface))
+      owner = line.substr(kInterface.size(), line.find(' ', kInterface.size()) - kInterface.size());
+    if (!line.starts_with(' ')) {
+      if (!line.starts_with(kInterface)) owner.clear();
+      continue;
+    }
+    const auto slot = line.find(" slot "), end = line.find('(');
+    if (owner.empty() || owner == "iSQL20" || slot == std::string::npos) continue;
+    std::string name = line.substr(line.find(' ', slot + 6) + 1, end - line.find(' ', slot + 6) - 1);
+    const bool put = name.starts_with("put ");
+    if (put || name.starts_with("get ")) name.erase(0, 4);
+    if (name.starts_with("iSQL20_")) name.erase(0, 7);
+    members.insert(owner + "." + name + (put ? "=" : ""));
+  }
+  return members;
+}
+
+TEST(FaultCases, CoverEveryMember) {
+  std::set<std::string> covered;
+  for (const FaultCase& row : all_cases()) covered.insert(row.name.substr(0, row.name.find(',')));
+  const std::set<std::string> members = members_of_the_type_library();
+  EXPECT_GT(members.size(), 100u);
+  for (const std::string& member : members) EXPECT_TRUE(covered.contains(member)) << member;
+}
 
 }  // namespace
 }  // namespace qvr::tests

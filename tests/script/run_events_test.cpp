@@ -47,6 +47,20 @@ TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
   EXPECT_EQ(taken(), whole_run);
 }
 
+TEST_F(RunEventsTest, ARunThatCannotBeginIsToldAsEnded) {
+  runner.end_unbegun();
+  EXPECT_EQ(taken(), Lines{"Terminado: False"});
+  int refused = 0;
+  events.on_end = [&] { refused += nested_run() ? 0 : 1; };
+  runner.end_unbegun();
+  EXPECT_EQ(refused, 1);
+  EXPECT_EQ(taken(), Lines{"Terminado: False"});
+  events.on_end = nullptr;
+  events.on_progress = [&] { runner.end_unbegun(); };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(taken(), whole_run) << "during a run it is not told";
+}
+
 TEST_F(RunEventsTest, AnotherRunFollowsWhenTheFirstHasEnded) {
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(taken(), whole_run);
