@@ -28,10 +28,11 @@ IDispatch* object_of(Interface** argument) {
 }
 
 // Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
-// when the host wrote to the variable meanwhile.
+// when the host wrote to the variable meanwhile; so does one for which there is no memory.
 inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
   if (argument == nullptr || taken == left) return;
   OwnedBstr changed(left);
+  if (changed.get() == nullptr) return;
   std::swap(*argument, *changed.out());
 }
 

@@ -1,5 +1,7 @@
 #include "frame/automation/connection_point.h"
 
+#include <optional>
+
 #include "frame/automation/answer.h"
 #include "frame/automation/enumerator.h"
 
@@ -50,11 +52,22 @@ void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcep
 }  // namespace
 
 void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
-  guarded(E_OUTOFMEMORY, [&] {
-    const std::vector<Sink> connected = sinks_;
-    for (const Sink& sink : connected) invoke_sink(*sink.dispatch.Get(), event, argument);
-    return S_OK;
-  });
+  const auto connected = or_default(std::optional<std::vector<Sink>>(), [&] { return std::optional(sinks_); });
+  if (!connected) return fire_without_memory(event, argument);
+  for (const Sink& sink : *connected) invoke_sink(*sink.dispatch.Get(), event, argument);
+}
+
+// One by one by their cookies, which grow: the end of a run must be told also where there is no memory for a copy.
+void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument) noexcept {
+  const DWORD end = next_cookie_;
+  for (DWORD told = 0;;) {
+    const auto next = std::ranges::find_if(
+        sinks_, [=](const Sink& sink) { return sink.cookie > told && sink.cookie < end; });
+    if (next == sinks_.end()) return;
+    told = next->cookie;
+    const ComPtr<IDispatch> kept = next->dispatch;
+    invoke_sink(*kept.Get(), event, argument);
+  }
 }
 
 HRESULT ConnectionPoint::QueryInterface(REFIID id, void** found) noexcept {

@@ -40,6 +40,8 @@ class ConnectionPoint final : public IConnectionPoint {
     ComPtr<IDispatch> dispatch;
   };
 
+  void fire_without_memory(DISPID event, const VARIANT& argument) noexcept;
+
   IConnectionPointContainer& container_;
   const IID events_;
   std::vector<Sink> sinks_;

@@ -1,5 +1,7 @@
 #include "script/automation/qvrscr_object.h"
 
+#include <optional>
+
 #include "script/script_preparation.h"
 #include "services/automation/com_ado.h"
 
@@ -8,18 +10,41 @@ namespace {
 
 constexpr DISPID kProgreso = 1, kTerminado = 2;
 
+// The arguments of a run or of a load, as the core takes them.
+struct RunTexts {
+  Text given_id, given_shown, id, shown, commands, connection_string;
+};
+struct LoadTexts {
+  Text id, folder, name;
+  ScriptAccounts accounts;
+};
+
+// Makes the arguments and calls the core with them. Where there is no memory for them, the end is told all the same.
+template <class Make, class Call>
+auto with_arguments(qvr::QVRScr& core, Make&& make, Call&& call) {
+  using Arguments = std::invoke_result_t<Make>;
+  auto made = or_default(std::optional<Arguments>(), [&] { return std::optional<Arguments>(make()); });
+  if (made) return call(*made);
+  core.end_unbegun();
+  return decltype(call(*made)){};
+}
+
 }  // namespace
 
 HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComandos, BSTR* CadenaConexion,
                                        BSTR* TextoMostrar, VARIANT_BOOL* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
-    const Text given_id = text_of(ID), given_text = text_of(TextoMostrar);
-    Text id = given_id, progress_text = given_text;
-    const bool success =
-        core_.EjecutarComandos(id, number_of(MotorBD), text_of(TextosComandos), text_of(CadenaConexion), progress_text);
-    give_back(ID, given_id, id);
-    give_back(TextoMostrar, given_text, progress_text);
-    return success;
+    const auto make = [&] {
+      const Text id = text_of(ID), shown = text_of(TextoMostrar);
+      return RunTexts{id, shown, id, shown, text_of(TextosComandos), text_of(CadenaConexion)};
+    };
+    return with_arguments(core_, make, [&](RunTexts& texts) {
+      const bool success = core_.EjecutarComandos(texts.id, number_of(MotorBD), texts.commands,
+                                                  texts.connection_string, texts.shown);
+      give_back(ID, texts.given_id, texts.id);
+      give_back(TextoMostrar, texts.given_shown, texts.shown);
+      return success;
+    });
   });
 }
 
@@ -40,10 +65,15 @@ HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR
                                        BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
                                        BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
-    const ScriptAccounts accounts{text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
-                                  text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)};
-    return core_.CargarDefinicion(text_of(ID), number_of(MotorBD), text_of(Ruta), text_of(NombreDefinicion), accounts,
-                                  truth_of(Encri));
+    const auto make = [&] {
+      return LoadTexts{text_of(ID), text_of(Ruta), text_of(NombreDefinicion),
+                       {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
+                        text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
+    };
+    return with_arguments(core_, make, [&](const LoadTexts& texts) {
+      return core_.CargarDefinicion(texts.id, number_of(MotorBD), texts.folder, texts.name, texts.accounts,
+                                    truth_of(Encri));
+    });
   });
 }
 
@@ -52,10 +82,15 @@ HRESULT QVRScrObject::CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, B
                                           BSTR* UsuarioQVRCli, BSTR* ClaveUsuarioQVRCli, VARIANT_BOOL* Encri,
                                           BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
-    const ScriptAccounts accounts{text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
-                                  text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)};
-    return core_.CargarActualizacion(text_of(ID), number_of(MotorBD), text_of(Ruta), text_of(Aplicacion),
-                                     number_of(VersionActual), accounts, truth_of(Encri));
+    const auto make = [&] {
+      return LoadTexts{text_of(ID), text_of(Ruta), text_of(Aplicacion),
+                       {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
+                        text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
+    };
+    return with_arguments(core_, make, [&](const LoadTexts& texts) {
+      return core_.CargarActualizacion(texts.id, number_of(MotorBD), texts.folder, texts.name,
+                                       number_of(VersionActual), texts.accounts, truth_of(Encri));
+    });
   });
 }
 
@@ -70,6 +105,7 @@ HRESULT QVRScrObject::FindConnectionPoint(REFIID id, IConnectionPoint** point) n
 void QVRScrObject::Progreso(const Text& Mensaje) noexcept {
   OwnedVariant argument;
   argument->bstrVal = new_bstr(Mensaje);
+  if (argument->bstrVal == nullptr) return;  // no memory; an empty text would clear what the host shows
   argument->vt = VT_BSTR;
   point_.fire(kProgreso, *argument);
 }
