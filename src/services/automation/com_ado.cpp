@@ -1,5 +1,7 @@
 #include "services/automation/com_ado.h"
 
+#include <algorithm>
+
 #include "frame/failure.h"
 #include "frame/value_convert.h"
 #include "services/automation/late_object.h"
@@ -33,7 +35,9 @@ class ComConnection final : public services::AdoConnection {
   std::vector<services::AdoError> errors() override {
     std::vector<services::AdoError> found;
     const LateObject collection = object_.get_object(L"Errors");
-    const auto count = static_cast<std::int32_t>(to_number(collection.get(L"Count")));
+    // A provider that miscounts must not keep the report from its user.
+    constexpr std::int32_t kMost = 1000;
+    const std::int32_t count = std::min(to_long(collection.get(L"Count")), kMost);
     for (std::int32_t i = 0; i < count; ++i) found.push_back(error_from(object_in(collection.get(L"Item", {i}))));
     return found;
   }
