@@ -1,5 +1,6 @@
 // No value ends its literal: every statement splits into exactly the tokens of its parts.
 #include "dialect/dialect_fixture.h"
+#include "dialect/expected_tokens.h"
 #include "dialect/hostile_values.h"
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
@@ -33,57 +34,6 @@ Record random_record(HostileValues& hostile) {
   return record;
 }
 
-// Tokens put together by hand.
-class Expected {
- public:
-  explicit Expected(Engine engine) : engine_(engine) {}
-
-  Expected& words(std::initializer_list<TextView> words) {
-    for (const TextView word : words) tokens_.push_back({Word, Text(word)});
-    return *this;
-  }
-  Expected& sign(char16_t sign) {
-    tokens_.push_back({Punctuation, Text(1, sign)});
-    return *this;
-  }
-  Expected& value(const Sample& sample) {
-    const Tokens& tokens = sample.for_engine(engine_);
-    tokens_.insert(tokens_.end(), tokens.begin(), tokens.end());
-    return *this;
-  }
-  Expected& field(std::size_t number) { return words({u"f" + decimal(static_cast<std::int64_t>(number))}); }
-  Expected& number(TextView digits) {
-    tokens_.push_back({Number, Text(digits)});
-    return *this;
-  }
-  // f0=v,f1=v but for the one left out.
-  Expected& assignments(const std::vector<Sample>& samples, std::size_t left_out) {
-    bool first = true;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-      if (i == left_out) continue;
-      if (!std::exchange(first, false)) sign(u',');
-      field(i).sign(u'=').value(samples[i]);
-    }
-    return *this;
-  }
-  Expected& values(const std::vector<Sample>& samples) {
-    sign(u'(');
-    for (std::size_t i = 0; i < samples.size(); ++i) (i > 0 ? sign(u',') : *this).value(samples[i]);
-    return sign(u')');
-  }
-  Expected& fields(std::size_t count) {
-    sign(u'(');
-    for (std::size_t i = 0; i < count; ++i) (i > 0 ? sign(u',') : *this).field(i);
-    return sign(u')');
-  }
-
-  const Tokens& tokens() const { return tokens_; }
-
- private:
-  Engine engine_;
-  Tokens tokens_;
-};
-
 class InjectionTest : public DialectTest, public ::testing::WithParamInterface<Engine> {
  protected:
   // `check` gets a random record each time.
@@ -113,7 +63,7 @@ TEST_P(InjectionTest, ExpSQLIsTheValuesOwnTokens) {
 
 TEST_P(InjectionTest, SqlINSERTHasOneLiteralForEachValue) {
   for_records(2, [this](const Record& record) {
-    Expected expected(GetParam());
+    ExpectedTokens expected(GetParam());
     expected.words({u"INSERT", u"INTO", u"t", u"VALUES"}).values(record.samples);
     expect_tokens(dialect::SqlINSERT(GetParam(), u"t", record.values), expected.tokens());
   });
@@ -121,7 +71,7 @@ TEST_P(InjectionTest, SqlINSERTHasOneLiteralForEachValue) {
 
 TEST_P(InjectionTest, SqlInsert2HasOneLiteralForEachField) {
   for_records(3, [this](const Record& record) {
-    Expected expected(GetParam());
+    ExpectedTokens expected(GetParam());
     expected.words({u"INSERT", u"INTO", u"t"}).fields(record.samples.size()).words({u"VALUES"}).values(record.samples);
     expect_tokens(dialect::SqlInsert2(GetParam(), u"t", record.fields, record.values), expected.tokens());
   });
@@ -130,7 +80,7 @@ TEST_P(InjectionTest, SqlInsert2HasOneLiteralForEachField) {
 TEST_P(InjectionTest, SqlUPDATEEndsWithItsKey) {
   for_records(4, [this](const Record& record) {
     if (record.samples.size() == 1) return;  // nothing would be left to set
-    Expected expected(GetParam());
+    ExpectedTokens expected(GetParam());
     expected.words({u"UPDATE", u"t", u"SET"}).assignments(record.samples, 1);
     expected.words({u"WHERE", u"F1"}).sign(u'=').number(u"-7");
     expect_tokens(dialect::SqlUPDATE(GetParam(), u"t", u"F1", -7, record.fields, record.values), expected.tokens());
@@ -139,7 +89,7 @@ TEST_P(InjectionTest, SqlUPDATEEndsWithItsKey) {
 
 TEST_P(InjectionTest, SqlUpdate2EndsWithItsCondition) {
   for_records(5, [this](const Record& record) {
-    Expected expected(GetParam());
+    ExpectedTokens expected(GetParam());
     expected.words({u"UPDATE", u"t", u"SET"}).assignments(record.samples, kNone);
     expect_tokens(dialect::SqlUpdate2(GetParam(), u"t", record.fields, record.values, u""), expected.tokens());
     expected.words({u"WHERE", u"c"}).sign(u'=').number(u"1");

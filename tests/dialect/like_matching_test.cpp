@@ -3,62 +3,11 @@
 
 #include "dialect/dialect_fixture.h"
 #include "dialect/like_pattern.h"
+#include "dialect/like_pieces.h"
 #include "dialect/sql_tokens.h"
 
 namespace qvr::tests {
 namespace {
-
-// One position of a pattern: a character for itself, any one, or any number of any.
-enum class Wild { Self, One, Any };
-struct Piece {
-  Wild wild;
-  char16_t unit;
-};
-using Pieces = std::vector<Piece>;
-
-bool matches(const Piece* piece, const Piece* end, TextView text) {
-  if (piece == end) return text.empty();
-  if (piece->wild == Wild::Any) {
-    for (std::size_t skipped = 0; skipped <= text.size(); ++skipped) {
-      if (matches(piece + 1, end, text.substr(skipped))) return true;
-    }
-    return false;
-  }
-  if (text.empty() || (piece->wild == Wild::Self && piece->unit != text[0])) return false;
-  return matches(piece + 1, end, text.substr(1));
-}
-
-bool matches(const Pieces& pieces, TextView text) {
-  return matches(pieces.data(), pieces.data() + pieces.size(), text);
-}
-
-// As the user means the text. Blanks at its edges are none of it.
-Pieces meant_by(TextView text, bool leading, bool trailing) {
-  while (text.starts_with(u' ')) text.remove_prefix(1);
-  while (text.ends_with(u' ')) text.remove_suffix(1);
-  Pieces pieces;
-  if (leading) pieces.push_back({Wild::Any, u'*'});
-  for (const char16_t unit : text) {
-    pieces.push_back({unit == u'*' ? Wild::Any : unit == u'?' ? Wild::One : Wild::Self, unit});
-  }
-  if (trailing) pieces.push_back({Wild::Any, u'*'});
-  return pieces;
-}
-
-// As LIKE reads the pattern: what stands behind the escape character stands for itself.
-Pieces read_by_like(TextView pattern, TextView escape) {
-  Pieces pieces;
-  for (std::size_t at = 0; at < pattern.size(); ++at) {
-    if (!escape.empty() && pattern[at] == escape[0]) {
-      if (++at == pattern.size()) throw RuntimeFailure(5, u"an escape character with nothing behind it");
-      pieces.push_back({Wild::Self, pattern[at]});
-    } else {
-      const char16_t unit = pattern[at];
-      pieces.push_back({unit == u'%' ? Wild::Any : unit == u'_' ? Wild::One : Wild::Self, unit});
-    }
-  }
-  return pieces;
-}
 
 class LikeMatchingTest : public DialectTest, public ::testing::WithParamInterface<Engine> {
  protected:

@@ -1,0 +1,13 @@
+// The preparation of scripts as plainly as its passes can be written.
+#pragma once
+
+#include "script/script_preparation.h"
+
+namespace qvr::tests {
+
+Text plainly_replaced(TextView text, TextView what, TextView by);
+Text plainly_encrypted(Text text);
+// `hour` is what a log file's name ends in.
+Text plainly_filled(Text text, std::int32_t motor, const ScriptAccounts& accounts, TextView hour);
+
+}  // namespace qvr::tests
