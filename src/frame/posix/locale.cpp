@@ -136,8 +136,9 @@ class EnvironmentLocale final : public Locale {
     const Text clock = join({padded(time.hour, 2), u":", padded(time.minute, 2), u":", padded(time.second, 2)});
     const Text calendar = join(
         {day_first ? day : month, between, day_first ? month : day, between, padded(time.year, 4)});
-    if (date.days > -1 && date.days < 1 && date.days != 0) return clock;
-    return time.hour + time.minute + time.second == 0 ? calendar : join({calendar, u" ", clock});
+    if (time.hour + time.minute + time.second == 0) return calendar;
+    const bool day_zero = time.year == 1899 && time.month == 12 && time.day == 30;
+    return day_zero ? clock : join({calendar, u" ", clock});
   }
 
   char16_t decimal_separator() override { return conventions().decimal; }

@@ -70,6 +70,20 @@ TEST(NativeLocale, ReadsOtherFormsOfADate) {
   }
 }
 
+// A time is written alone on day zero only, also when it is only the rounding that leaves that day or midnight.
+TEST(NativeLocale, WritesATimeAloneOnDayZeroOnly) {
+  const EnvironmentVariable name("LC_ALL", "es_ES");
+  struct Form {
+    double days;
+    TextView text;
+  };
+  constexpr Form kForms[] = {
+      {0, u"30/12/1899"}, {1e-9, u"30/12/1899"}, {0.25, u"06:00:00"}, {-0.25, u"06:00:00"},
+      {0.999999, u"31/12/1899"}, {1.25, u"31/12/1899 06:00:00"}, {-1.25, u"29/12/1899 06:00:00"},
+  };
+  for (const Form& form : kForms) EXPECT_EQ(system_platform().locale.date_text(Date{form.days}), form.text);
+}
+
 TEST(NativeLocale, SkipsItsThousandsSeparator) {
   const EnvironmentVariable name("LC_ALL", "es_ES");
   EXPECT_EQ(system_platform().locale.parse_number(u"1.234,5"), 1234.5);
