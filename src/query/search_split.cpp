@@ -55,6 +55,7 @@ class Splitter {
  private:
   void begin_piece(std::size_t at) {
     begin_ = at;
+    text_ = std::min(search_.find_first_not_of(u' ', at), search_.size());
     operand_ = at + operand_offset(search_.substr(at));
     range_and_ahead_ = starts_with_between(search_.substr(at));
   }
@@ -119,7 +120,7 @@ class Splitter {
                          (blank_before(at) && (blank_at(at + 1) || begins_atom(search_.substr(at + 1))));
       return apart ? std::optional(Connector{1, unit == u'|'}) : std::nullopt;
     }
-    if (!blank_before(at) || trimmed(search_.substr(begin_, at - begin_)).empty()) return std::nullopt;
+    if (!blank_before(at) || at <= text_) return std::nullopt;
     for (const auto& [words, is_or] : {std::pair(or_words(), true), std::pair(and_words(), false)}) {
       for (const TextView word : words) {
         if (!word_at(search_, at, word)) continue;
@@ -138,6 +139,7 @@ class Splitter {
   SearchType type_;
   std::vector<SearchPiece> pieces_;
   std::size_t at_ = 0, begin_ = 0, operand_ = 0;
+  std::size_t text_ = 0;           // where the piece begins, its leading blanks left out
   bool open_ended_ = false;        // a double quote that is never closed was seen
   bool range_and_ahead_ = false;   // the next "and" joins the ends of a range
 };
@@ -167,8 +169,8 @@ std::optional<TextView> like_operand(TextView text) {
   if (operand.empty() || operand[0] == u';') return std::nullopt;
   if (capitals) return operand;
   const bool quoted = is_single_quote(operand[0]) || is_double_quote(operand[0]);
-  const TextView near = operand.substr(0, std::min(operand.find(u';'), kFarthest));
-  const bool wild = near.find_first_of(u"*?") != TextView::npos;
+  const TextView near = operand.substr(0, kFarthest);
+  const bool wild = near.substr(0, near.find(u';')).find_first_of(u"*?") != TextView::npos;
   return quoted || wild ? std::optional(operand) : std::nullopt;
 }
 
