@@ -2,7 +2,8 @@
 # -Wrestrict of this compiler (12) misreads insertions into its own string class, so it stays a warning that is off.
 function(qvr_warnings target)
   target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wformat=2 -Wno-restrict -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wformat=2 -Werror
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endfunction()
 
 # A test program: what it tests is optimised as it will be used, the test code itself only costs time to compile so.

@@ -2,7 +2,7 @@
 # Sets the machine up, builds everything and passes every test. The last line is "N passed, N failed".
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$root/tools/setup.sh" native asan win32 win64
+. "$root/tools/setup.sh" native asan fuzz win32 win64
 
 results=$build/test-results
 mkdir -p "$results"
@@ -24,12 +24,13 @@ run() {
 
 run native native
 run asan asan
+run fuzz fuzz
 run win32 win32
 run win64 win64
 "$root/tools/wine.sh" --stop || true
 
 # Adds up the suites; one that left no result file counts as a failure.
-python3 - "$results" "$failed_suites" native asan win32 win64 <<'PY'
+python3 - "$results" "$failed_suites" native asan fuzz win32 win64 <<'PY'
 import pathlib
 import sys
 import xml.etree.ElementTree as xml
