@@ -42,7 +42,7 @@ for target in "${targets[@]}"; do
     "$fuzz/corpus/$target" "$sources/corpus/$target" >"$log" 2>&1 || failed+=("$target")
   executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
   echo "$target: ${executions:-0} executions in $seconds seconds"
-  grep -A 6 '^not so: ' "$log" | grep -v '^ *#' || true
+  grep -a -A 6 '^not so: ' "$log" | grep -a -v '^ *#' || true
 done
 
 [[ ${#failed[@]} -eq 0 ]] && exit 0
