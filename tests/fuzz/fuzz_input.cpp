@@ -86,6 +86,7 @@ Value FuzzInput::value() {
     case 'M': return Missing{};
     case 'o': return ObjectRef(std::make_shared<Object>());
     case 'v': return Array{{Value(text_in(held))}, 0, 1};
+    case 'V': return Array{{Value(text_in(held))}, 0, 2};
     case 'e': return Empty{};
     default: return text_in(piece);
   }

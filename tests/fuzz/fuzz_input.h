@@ -24,7 +24,7 @@ class FuzzInput {
   std::size_t choice(std::string_view letters);  // which of them it begins with; others are spread over them
   // A letter for the type and what it holds: "t" text, "i" Long, "s" Integer, "y" Byte, "w" 64 bits, "d" Double,
   // "f" Single, "c" Currency, "m" Decimal (its three words, scale and sign behind "/"), "D" date, "b" truth, "E" error;
-  // "n" Null, "M" Missing, "o" an object, "v" an array of one text, "e" Empty.
+  // "n" Null, "M" Missing, "o" an object, "v" an array of one text, "V" of two dimensions, "e" Empty.
   Value value();
 
  private:

@@ -36,14 +36,17 @@ std::optional<double> number_in(const Value& value) {
   return std::nullopt;
 }
 
-bool about_equal(double a, double b) { return a == b || std::fabs(a - b) <= 1e-6 * std::fmax(std::fabs(a), std::fabs(b)); }
+bool about_equal(double a, double b) {
+  return a == b || std::fabs(a - b) <= 1e-6 * std::fmax(std::fabs(a), std::fabs(b));
+}
 
 // What an engine must read of the value; the digits of numbers and dates are those of the literal, once they are right.
 Tokens tokens_for(Engine engine, const Value& value) {
   const Tokens literal = tokens_of(engine, dialect::ExpSQL(engine, value));
   const Tokens null = {{Word, u"Null"}};
   if (const Text* text = value.as<Text>()) {
-    if (!equal_no_case(*text, u"AhoraSQL")) return {{String, engine == dialect::kOracle ? text->substr(0, 4000) : *text}};
+    const Text held = engine == dialect::kOracle ? text->substr(0, 4000) : *text;
+    if (!equal_no_case(*text, u"AhoraSQL")) return {{String, held}};
     const Tokens clocks[] = {{{Word, u"Now"}, {Punctuation, u"("}, {Punctuation, u")"}},
                              {{Word, u"GetDate"}, {Punctuation, u"("}, {Punctuation, u")"}},
                              {{Word, u"SYSDATE"}}};
@@ -152,7 +155,8 @@ void check_query(Engine engine, const Text& typed) {
 void fuzz(FuzzInput& input) {
   fuzz_thread().speak(0);
   const auto engine = static_cast<Engine>(1 + input.choice("123"));
-  const auto lower = static_cast<std::int32_t>(input.choice("012")) - 1;
+  constexpr std::int32_t kLowers[] = {-1, 0, 1, INT32_MIN, INT32_MAX - 20};
+  const std::int32_t lower = kLowers[input.choice("012nx")];
   check_query(engine, input.text());
   std::vector<Value> values;
   while (input.more() && values.size() < 12) values.push_back(input.value());
