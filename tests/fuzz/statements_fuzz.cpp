@@ -73,7 +73,7 @@ void require_tokens(Engine engine, const Text& sql, const Tokens& expected) {
   require(tokens_of(engine, sql) == expected, "the tokens of its parts", {sql});
 }
 
-// The last two statements have as many fields as values; with fewer values they fail.
+// Fields f0, f1... with these values.
 void check_statements(Engine engine, std::int32_t lower, const std::vector<Value>& values) {
   std::vector<Value> names;
   std::vector<Sample> samples;
