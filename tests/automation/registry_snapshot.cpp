@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <vector>
 
 #include "QVRlib21.h"
@@ -25,10 +26,10 @@ void add_values(HKEY key, const std::wstring& path, RegistryLines& lines) {
   }
 }
 
-// Whether a key below the classes root is this library's, so that all below it is of interest.
-bool is_ours(const std::wstring& path) {
+// The identifiers of this library, as texts.
+const std::vector<std::wstring>& own_identifiers() {
   static const std::vector<std::wstring> names = [] {
-    std::vector<std::wstring> all{L"QVRlib21."};
+    std::vector<std::wstring> all;
     for (const GUID& id :
          {LIBID_QVRlib21, CLSID_Ov, CLSID_QVRcfp, CLSID_QVRScr, CLSID_cSQL20, CLSID_iSQL20, CLSID_uSQL20, CLSID_QVRprp,
           IID__Ov, IID__QVRcfp, IID__QVRScr, IID__cSQL20, IID__iSQL20, IID__uSQL20, IID__QVRprp, DIID___QVRScr}) {
@@ -38,7 +39,15 @@ bool is_ours(const std::wstring& path) {
     }
     return all;
   }();
-  return std::ranges::any_of(names, [&](const auto& name) { return path.find(name) != std::wstring::npos; });
+  return names;
+}
+
+constexpr wchar_t kProgramIds[] = L"QVRlib21.";
+
+// Whether a key below the classes root is this library's, so that all below it is of interest.
+bool is_ours(const std::wstring& path) {
+  const auto inside = [&](const std::wstring& name) { return path.find(name) != std::wstring::npos; };
+  return inside(kProgramIds) || std::ranges::any_of(own_identifiers(), inside);
 }
 
 constexpr int kLevelsOfOthers = 2;
@@ -72,6 +81,26 @@ RegistryLines registry_snapshot() {
     const std::wstring width = view == KEY_WOW64_32KEY ? L"32 " : L"64 ";
     add_tree(HKEY_LOCAL_MACHINE, L"Software\\Classes", width + L"machine", view, 0, lines);
     add_tree(HKEY_CURRENT_USER, L"Software\\Classes", width + L"user", view, 0, lines);
+  }
+  return lines;
+}
+
+RegistryLines own_registry_keys() {
+  RegistryLines lines;
+  for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
+    const std::wstring width = view == KEY_WOW64_32KEY ? L"32 " : L"64 ";
+    for (const HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+      const std::wstring start = width + (root == HKEY_LOCAL_MACHINE ? L"machine\\" : L"user\\");
+      const auto add = [&](const std::wstring& key) {
+        add_tree(root, L"Software\\Classes\\" + key, start + key, view, 0, lines);
+      };
+      for (const wchar_t* name : {L"Ov", L"QVRcfp", L"QVRScr", L"cSQL20", L"uSQL20", L"QVRprp"}) {
+        add(kProgramIds + std::wstring(name));
+      }
+      for (const std::wstring& id : own_identifiers()) {
+        for (const wchar_t* kind : {L"CLSID\\", L"Interface\\", L"TypeLib\\"}) add(kind + id);
+      }
+    }
   }
   return lines;
 }

@@ -37,15 +37,22 @@ HRESULT Sink::GetTypeInfoCount(UINT* count) noexcept {
   return S_OK;
 }
 
-HRESULT Sink::Invoke(DISPID event, REFIID reserved, LCID, WORD flags, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
-                     UINT*) noexcept {
+HRESULT Sink::Invoke(DISPID event, REFIID reserved, LCID, WORD flags, DISPPARAMS* arguments, VARIANT*,
+                     EXCEPINFO* exception, UINT*) noexcept {
   const std::string name = event == 1 ? "Progreso" : event == 2 ? "Terminado" : "event " + std::to_string(event);
   if (reserved != IID_NULL || flags != DISPATCH_METHOD || arguments->cArgs != 1 || arguments->cNamedArgs != 0) {
     events.push_back(name + " called in an odd way");
     return E_INVALIDARG;
   }
   events.push_back(name + " " + argument_text(arguments->rgvarg[0]));
-  return reaction ? reaction(event, arguments->rgvarg[0]) : S_OK;
+  const HRESULT answer = reaction ? reaction(event, arguments->rgvarg[0]) : S_OK;
+  if (answer == DISP_E_EXCEPTION && exception != nullptr) {
+    exception->scode = E_FAIL;
+    exception->bstrSource = SysAllocString(L"host");
+    exception->bstrDescription = SysAllocString(L"raised inside an event");
+    exception->bstrHelpFile = SysAllocString(L"host.hlp");
+  }
+  return answer;
 }
 
 Connected::Connected(const LateObject& source) {

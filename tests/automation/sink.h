@@ -24,7 +24,7 @@ class Sink final : public IDispatch {
 
   // "Progreso BSTR* 0/2", "Terminado BOOL* true"; anything unexpected about a call is written down instead.
   std::vector<std::string> events;
-  Reaction reaction;
+  Reaction reaction;  // may answer DISP_E_EXCEPTION, which fills in an error as hosts do
 
  private:
   ~Sink() = default;

@@ -1,0 +1,41 @@
+#include "automation/stress/child.h"
+
+#include "automation/host.h"
+#include "automation/stress/child_roles.h"
+
+namespace qvr::tests {
+
+Child::Child(const wchar_t* role, const std::wstring& argument) {
+  const std::wstring event_name = kBegun + std::to_wstring(GetCurrentProcessId());
+  const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, event_name.c_str());
+  std::wstring command = L"\"" + beside_program(L"automation_stress.exe") + L"\" " + role + L" \"" + argument + L"\" " +
+                         event_name;
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION started{};
+  if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &started)) {
+    CloseHandle(started.hThread);
+    process_ = started.hProcess;
+    const HANDLE either[] = {event, process_};
+    begun_ = WaitForMultipleObjects(2, either, FALSE, 60000) == WAIT_OBJECT_0;
+  }
+  CloseHandle(event);
+}
+
+Child::~Child() {
+  if (process_ == nullptr) return;
+  TerminateProcess(process_, 9);
+  WaitForSingleObject(process_, INFINITE);
+  CloseHandle(process_);
+}
+
+bool Child::end_after(DWORD milliseconds) {
+  if (!begun_ || WaitForSingleObject(process_, milliseconds) != WAIT_TIMEOUT) return false;
+  constexpr DWORD kEnded = 9;
+  DWORD code = 0;
+  TerminateProcess(process_, kEnded);
+  WaitForSingleObject(process_, INFINITE);
+  return GetExitCodeProcess(process_, &code) && code == kEnded;
+}
+
+}  // namespace qvr::tests

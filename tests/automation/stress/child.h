@@ -1,0 +1,26 @@
+// A process of this program in a role, ended from outside.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace qvr::tests {
+
+class Child {
+ public:
+  // Starts it and waits until it has begun.
+  Child(const wchar_t* role, const std::wstring& argument);
+  ~Child();
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
+
+  // Lets it work so long and ends it where it is. False when it had ended by itself.
+  bool end_after(DWORD milliseconds);
+
+ private:
+  HANDLE process_ = nullptr;
+  bool begun_ = false;
+};
+
+}  // namespace qvr::tests

@@ -1,0 +1,20 @@
+// What this program does as a process that a test ends before its time: one thing again and again.
+#pragma once
+
+namespace qvr::tests {
+
+inline constexpr wchar_t kSaves[] = L"--saves";          // followed by the folder: saves one of two files under one name
+inline constexpr wchar_t kRegisters[] = L"--registers";  // followed by "user" or "machine": registers and unregisters
+
+// What the two files hold; the identification of both is "id", their name "ended".
+inline constexpr const wchar_t* kProviders[] = {L"first", L"second"};
+inline constexpr int kOptionsLengths[] = {10, 40000};
+
+// The child sets this event when it has begun; the name ends in its parent's number.
+inline constexpr wchar_t kBegun[] = L"automation_stress_begun_";
+
+// The role that the command line names; null for none.
+using Role = int (*)();
+Role child_role();
+
+}  // namespace qvr::tests
