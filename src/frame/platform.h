@@ -42,7 +42,7 @@ struct InputFile {
 struct OutputFile {
   virtual ~OutputFile() = default;
   virtual void write(std::string_view bytes) = 0;  // all of them, or throws
-  virtual void close() = 0;                        // throws when what was written could not be kept
+  virtual void close() = 0;                        // the file is there now; throws when it could not be kept
 };
 
 struct Files {
@@ -50,7 +50,9 @@ struct Files {
   virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
   virtual std::vector<Text> names(TextView folder) = 0;           // of its plain files; throws when it cannot be read
   virtual std::unique_ptr<InputFile> open(TextView path) = 0;     // throws when it cannot be read
-  virtual std::unique_ptr<OutputFile> create(TextView path) = 0;  // replaces a file that is there; throws
+  // A file that is there stays as it is until the new one is closed and takes its place. What is written until then
+  // stands beside it, its name with ".tmp" behind; the object removes it when it comes to no end. Throws.
+  virtual std::unique_ptr<OutputFile> create(TextView path) = 0;
   // Text in the system's single-byte or multi-byte page. Throws when a character has no place in that page.
   virtual std::string to_system_page(TextView text) = 0;
   virtual Text from_system_page(std::string_view bytes) = 0;

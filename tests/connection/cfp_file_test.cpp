@@ -157,22 +157,32 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
   }
 }
 
-TEST_F(CfpFileTest, AFullDiskIsAFalseResult) {
+TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
   thread.files.keep_in_memory();
+  auto& memory = thread.files.memory;
   QVRcfp cfp;
   ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
   ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"whole"));
-  const std::size_t size = thread.files.memory[u"F\\whole.cfp"].size();
-  for (std::size_t room : {std::size_t{0}, std::size_t{1}, size - 1}) {
+  const std::string whole = memory[u"F\\whole.cfp"];
+  for (std::size_t room : {std::size_t{0}, std::size_t{1}, whole.size() - 1}) {
     SCOPED_TRACE(room);
     thread.files.writable_bytes = room;
+    memory[u"F\\part.cfp"] = "what was there";
     EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"part"));
-    EXPECT_EQ(thread.files.memory[u"F\\part.cfp"].size(), room);
+    EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"new"));
+    EXPECT_EQ(memory[u"F\\part.cfp"], "what was there");
+    EXPECT_FALSE(memory.contains(u"F\\part.cfp.tmp"));
+    EXPECT_FALSE(memory.contains(u"F\\new.cfp"));
   }
-  thread.files.writable_bytes = size;
-  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"part"));
+  thread.files.writable_bytes = whole.size();
   thread.files.close_fails = true;
   EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"part"));
+  EXPECT_EQ(memory[u"F\\part.cfp"], "what was there");
+  thread.files.close_fails = false;
+  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"part"));
+  EXPECT_EQ(memory[u"F\\part.cfp"], whole);
+  EXPECT_FALSE(memory.contains(u"F\\part.cfp.tmp"));
+  EXPECT_EQ(cfp.Archivo(), u"whole");
 }
 
 }  // namespace

@@ -44,6 +44,43 @@ TEST(SystemFiles, ReplaceAFileThatIsThere) {
   EXPECT_EQ(folder.read(u"x.cfp"), "short");
 }
 
+TEST(SystemFiles, LeaveAFileAloneUntilTheNewOneIsWhole) {
+  const TemporaryFolder folder;
+  folder.write(u"x.cfp", "former");
+  {
+    const auto given_up = files().create(folder.file_text(u"x.cfp"));
+    given_up->write("part of it");
+    EXPECT_TRUE(std::filesystem::exists(folder.file(u"x.cfp.tmp")));
+    EXPECT_EQ(folder.read(u"x.cfp"), "former");
+  }
+  EXPECT_EQ(folder.read(u"x.cfp"), "former");
+  EXPECT_FALSE(std::filesystem::exists(folder.file(u"x.cfp.tmp")));
+  const auto out = files().create(folder.file_text(u"x.cfp"));
+  out->write("new");
+  out->close();
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
+  EXPECT_EQ(files().names(folder.text()), std::vector<Text>{u"x.cfp"});
+}
+
+TEST(SystemFiles, HaveNoNewFileUntilItIsWhole) {
+  const TemporaryFolder folder;
+  const auto out = files().create(folder.file_text(u"x.cfp"));
+  out->write("new");
+  EXPECT_THROW(files().open(folder.file_text(u"x.cfp")), RuntimeFailure);
+  out->close();
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
+}
+
+TEST(SystemFiles, AreWrittenInPlaceWhereNothingCanStandBeside) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.file(u"x.cfp.tmp"));
+  folder.write(u"x.cfp", "former and longer");
+  const auto out = files().create(folder.file_text(u"x.cfp"));
+  out->write("new");
+  out->close();
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
+}
+
 TEST(SystemFiles, RefuseWhatCannotBeOpened) {
   const TemporaryFolder folder;
   folder.write(u"plain", "");

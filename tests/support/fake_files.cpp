@@ -15,24 +15,31 @@ Files& real() { return system_platform().files; }
 
 class MemoryOutput final : public OutputFile {
  public:
-  MemoryOutput(std::string& bytes, std::optional<std::size_t> room, bool close_fails)
-      : bytes_(bytes), room_(room), close_fails_(close_fails) {}
+  MemoryOutput(FakeFiles& files, TextView path) : files_(files), path_(path), beside_(join({path, u".tmp"})) {
+    const FaultsPaused paused;
+    written().clear();
+  }
+  ~MemoryOutput() override { files_.memory.erase(beside_); }
 
   void write(std::string_view bytes) override {
     const FaultsPaused paused;  // a disk has its own room
-    const std::size_t room = room_ ? *room_ - std::min(*room_, bytes_.size()) : bytes.size();
-    bytes_ += bytes.substr(0, room);
+    const auto& disk = files_.writable_bytes;
+    const std::size_t room = disk ? *disk - std::min(*disk, written().size()) : bytes.size();
+    written() += bytes.substr(0, room);
     if (room < bytes.size()) refuse();
   }
 
   void close() override {
-    if (close_fails_) refuse();
+    const FaultsPaused paused;
+    if (files_.close_fails) refuse();
+    files_.memory[path_] = std::move(written());
   }
 
  private:
-  std::string& bytes_;
-  std::optional<std::size_t> room_;
-  bool close_fails_;
+  std::string& written() { return files_.memory[beside_]; }
+
+  FakeFiles& files_;
+  const Text path_, beside_;
 };
 
 }  // namespace
@@ -68,10 +75,7 @@ std::unique_ptr<InputFile> FakeFiles::open(TextView path) {
 std::unique_ptr<OutputFile> FakeFiles::create(TextView path) {
   ++created;
   if (!in_memory_) return real().create(path);
-  const FaultsPaused paused;
-  std::string& bytes = memory[Text(path)];
-  bytes.clear();
-  return std::make_unique<MemoryOutput>(bytes, writable_bytes, close_fails);
+  return std::make_unique<MemoryOutput>(*this, path);
 }
 
 std::string FakeFiles::to_system_page(TextView text) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "frame/failure.h"
@@ -55,10 +56,29 @@ class DescriptorInput : public InputFile {
   Descriptor descriptor_;
 };
 
+int opened_to_write(const std::string& path) {
+  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+}
+
+// The permissions of the file that is there; none where there is no file. What may not be written must not be replaced
+// either.
+std::optional<mode_t> permissions_to_keep(const std::string& path) {
+  const int number = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+  if (number < 0 && errno == ENOENT) return std::nullopt;
+  const Descriptor there(number);
+  struct stat entry{};
+  if (::fstat(there.number(), &entry) != 0) refuse();
+  return entry.st_mode & 07777;
+}
+
+// Written under a name of its own, where there is one, and put in the file's place when it is whole.
 class DescriptorOutput : public OutputFile {
  public:
-  explicit DescriptorOutput(const std::string& path)
-      : descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
+  explicit DescriptorOutput(std::string path)
+      : path_(std::move(path)), beside_(path_ + ".tmp"), permissions_(permissions_to_keep(path_)), descriptor_(opened()) {}
+  ~DescriptorOutput() override {
+    if (!beside_.empty()) ::unlink(beside_.c_str());
+  }
 
   void write(std::string_view bytes) override {
     while (!bytes.empty()) {
@@ -70,10 +90,26 @@ class DescriptorOutput : public OutputFile {
   }
 
   void close() override {
-    if (::close(descriptor_.release()) != 0) refuse();
+    const bool kept = !permissions_ || ::fchmod(descriptor_.number(), *permissions_) == 0;
+    // On the disk before its name is: a machine that stops must not keep the name alone.
+    const bool flushed = ::fsync(descriptor_.number()) == 0;
+    if (::close(descriptor_.release()) != 0 || !flushed || !kept) refuse();
+    if (beside_.empty()) return;
+    if (::rename(beside_.c_str(), path_.c_str()) != 0) refuse();
+    beside_.clear();
   }
 
  private:
+  int opened() {
+    const int number = opened_to_write(beside_);
+    if (number >= 0) return number;
+    beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
+    return opened_to_write(path_);
+  }
+
+  const std::string path_;
+  std::string beside_;  // empty where there is none, or it is none any more
+  const std::optional<mode_t> permissions_;
   Descriptor descriptor_;
 };
 

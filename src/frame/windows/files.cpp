@@ -47,10 +47,50 @@ class HandleInput : public InputFile {
   FileHandle file_;
 };
 
+// Who may read the former file may read the new one, and nobody else.
+void keep_protection(const std::wstring& from, const std::wstring& to) {
+  DWORD size = 0;
+  GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::vector<std::byte> descriptor(size);
+  if (size == 0 || !GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size)) return;
+  if (!SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data())) refuse();
+}
+
+// Programs that look at every new file, and readers of the former one, hold them for a moment.
+void replace(const std::wstring& file, const std::wstring& by) {
+  constexpr int kAttempts = 5;
+  constexpr DWORD kPause = 20, kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  for (int attempt = 1; !MoveFileExW(by.c_str(), file.c_str(), kHow); ++attempt) {
+    const DWORD reason = GetLastError();
+    const bool held = reason == ERROR_SHARING_VIOLATION || reason == ERROR_ACCESS_DENIED;
+    if (!held || attempt == kAttempts) refuse();
+    Sleep(kPause);
+  }
+}
+
+HANDLE opened_to_write(const std::wstring& path, DWORD how) {
+  return CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+// What may not be written, or is in use, must not be replaced either.
+void require_replaceable(const std::wstring& path) {
+  const HANDLE there = opened_to_write(path, OPEN_EXISTING);
+  if (there != INVALID_HANDLE_VALUE) {
+    CloseHandle(there);
+  } else if (GetLastError() != ERROR_FILE_NOT_FOUND) {
+    refuse();
+  }
+}
+
+// Written under a name of its own, where there is one, and put in the file's place when it is whole.
 class HandleOutput : public OutputFile {
  public:
-  explicit HandleOutput(const std::wstring& path)
-      : file_(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  explicit HandleOutput(std::wstring path)
+      : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
+  ~HandleOutput() override {
+    file_.close();
+    if (!beside_.empty()) DeleteFileW(beside_.c_str());
+  }
 
   void write(std::string_view bytes) override {
     constexpr std::size_t kAtOnce = std::size_t{1} << 20;
@@ -63,10 +103,27 @@ class HandleOutput : public OutputFile {
   }
 
   void close() override {
-    if (!file_.close()) refuse();
+    // On the disk before its name is: a machine that stops must not keep the name alone.
+    const bool flushed = FlushFileBuffers(file_.get()) != FALSE;
+    if (!file_.close() || !flushed) refuse();
+    if (beside_.empty()) return;
+    keep_protection(path_, beside_);
+    replace(path_, beside_);
+    beside_.clear();
   }
 
  private:
+  HANDLE opened() {
+    require_replaceable(path_);
+    const HANDLE handle = opened_to_write(beside_, CREATE_ALWAYS);
+    if (handle != INVALID_HANDLE_VALUE) return handle;
+    if (GetLastError() == ERROR_SHARING_VIOLATION) refuse();  // somebody else is writing the same file
+    beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
+    return opened_to_write(path_, CREATE_ALWAYS);
+  }
+
+  const std::wstring path_;
+  std::wstring beside_;  // empty where there is none, or it is none any more
   FileHandle file_;
 };
 
@@ -117,9 +174,7 @@ class SystemFiles final : public Files {
     return std::make_unique<HandleInput>(path_of(path));
   }
 
-  std::unique_ptr<OutputFile> create(TextView path) override {
-    return std::make_unique<HandleOutput>(path_of(path));
-  }
+  std::unique_ptr<OutputFile> create(TextView path) override { return std::make_unique<HandleOutput>(path_of(path)); }
 
   std::string to_system_page(TextView text) override {
     const std::wstring from = wide(text);
