@@ -22,6 +22,7 @@ class FamilyComponent {
   // Takes the class away but leaves the program id registered.
   void revoke();
   const std::vector<std::string>& calls() const { return calls_; }
+  void forget_calls() { calls_.clear(); }
 
  private:
   std::wstring program_id_;
