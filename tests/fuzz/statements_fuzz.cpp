@@ -36,8 +36,10 @@ std::optional<double> number_in(const Value& value) {
   return std::nullopt;
 }
 
-bool about_equal(double a, double b) {
-  return a == b || std::fabs(a - b) <= 1e-6 * std::fmax(std::fabs(a), std::fabs(b));
+// Of a Single, the digits that tell it from other Singles are enough.
+bool is_number(const Value& value, double number, double read) {
+  if (value.is<float>()) return static_cast<float>(read) == static_cast<float>(number);
+  return read == number || std::fabs(read - number) <= 1e-14 * std::fabs(number);
 }
 
 // What an engine must read of the value; the digits of numbers and dates are those of the literal, once they are right.
@@ -65,7 +67,7 @@ Tokens tokens_for(Engine engine, const Value& value) {
   if (!number) return null;
   require(literal.size() == 1 && literal[0].kind == Number, "a number is one", {dialect::ExpSQL(engine, value)});
   const std::string digits(literal[0].content.begin(), literal[0].content.end());
-  require(about_equal(std::strtod(digits.c_str(), nullptr), *number), "the same", {literal[0].content});
+  require(is_number(value, *number, std::strtod(digits.c_str(), nullptr)), "the same", {literal[0].content});
   return literal;
 }
 
