@@ -25,7 +25,7 @@ namespace {
 
 // Eight times the length is eight times the work, or sixty-four where every unit looks at every other one. Only what
 // takes long enough to be noticed is compared.
-constexpr std::size_t kShort = 1 << 14, kLong = kShort * 8;
+constexpr std::size_t kShort = 1 << 13, kLong = kShort * 8;
 constexpr double kNoticed = 0.5, kMostTimes = 24;
 
 struct NoEvents final : ScriptEvents {
