@@ -45,7 +45,7 @@ HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags
   }
   if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (arguments == nullptr) return E_INVALIDARG;
-  if (arguments->cArgs > 0) return DISP_E_BADPARAMCOUNT;
+  if (arguments->cArgs > 0 || arguments->cNamedArgs > 0) return DISP_E_BADPARAMCOUNT;
   return enumerate(result);
 }
 

@@ -3,8 +3,10 @@
 
 namespace qvr::tests {
 
-inline constexpr wchar_t kSaves[] = L"--saves";          // followed by the folder: saves one of two files under one name
-inline constexpr wchar_t kRegisters[] = L"--registers";  // followed by "user" or "machine": registers and unregisters
+// Followed by the folder: saves the one or the other file under one name.
+inline constexpr wchar_t kSaves[] = L"--saves";
+// Followed by "user" or "machine": registers and unregisters.
+inline constexpr wchar_t kRegisters[] = L"--registers";
 
 // What the two files hold; the identification of both is "id", their name "ended".
 inline constexpr const wchar_t* kProviders[] = {L"first", L"second"};

@@ -93,11 +93,12 @@ TEST_P(HostileNames, OfTypeInformation) {
 TEST_P(HostileNames, IdsThatThereAreNot) {
   attack_every_member([this](const Subject& subject, const DescribedMember& member) {
     constexpr DISPID kLowest = std::numeric_limits<DISPID>::min(), kHighest = std::numeric_limits<DISPID>::max();
+    const DISPID ids[] = {DISPID_VALUE, DISPID_UNKNOWN, DISPID_NEWENUM, DISPID_PROPERTYPUT, DISPID_EVALUATE, -999, 1, 2,
+                          kLowest, kHighest, member.id ^ 0x08000000, member.id + 0x1000, 0x60020003};
+    constexpr WORD kKinds[] = {DISPATCH_METHOD, DISPATCH_PROPERTYGET, DISPATCH_PROPERTYPUT, 0xFFFF};
     Arguments arguments(member, subject.good_arguments(member));
-    for (const DISPID id : std::initializer_list<DISPID>{DISPID_VALUE, DISPID_UNKNOWN, DISPID_NEWENUM, DISPID_PROPERTYPUT,
-                                                         DISPID_EVALUATE, -999, 1, 2, kLowest, kHighest,
-                                                         member.id ^ 0x08000000, member.id + 0x1000, 0x60020003}) {
-      for (const WORD kind : {WORD{DISPATCH_METHOD}, WORD{DISPATCH_PROPERTYGET}, WORD{DISPATCH_PROPERTYPUT}, WORD{0xFFFF}}) {
+    for (const DISPID id : ids) {
+      for (const WORD kind : kKinds) {
         const bool enumerates = id == DISPID_NEWENUM && interface_under_attack().name == L"_QVRprp";
         if (enumerates || interface_under_attack().has(id, kind)) continue;
         SCOPED_TRACE(std::to_string(id) + " as " + std::to_string(kind));
@@ -143,6 +144,26 @@ TEST_P(HostileNames, SlotsWithNullPointers) {
 
 INSTANTIATE_TEST_SUITE_P(Every, HostileNames, testing::Range(std::size_t{0}, std::size(kInterfaces)),
                          interface_name);
+
+// The one call that no type library tells of.
+TEST(HostileCallers, EnumeratingTheProperties) {
+  const LateObject list(L"QVRlib21.QVRprp");
+  VARIANT value{};
+  DISPID name = 0;
+  const auto call = [&](DISPPARAMS* parameters, WORD flags, REFIID reserved = IID_NULL) {
+    Var result;
+    return list.get()->Invoke(DISPID_NEWENUM, reserved, 0, flags, parameters, &result.raw(), nullptr, nullptr);
+  };
+  DISPPARAMS none{}, one{&value, nullptr, 1, 0}, only_a_name{nullptr, &name, 0, 1};
+  EXPECT_EQ(call(&none, DISPATCH_PROPERTYGET), S_OK);
+  EXPECT_EQ(call(&none, DISPATCH_METHOD), S_OK);
+  EXPECT_EQ(call(&one, DISPATCH_PROPERTYGET), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(call(&only_a_name, DISPATCH_PROPERTYGET), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(call(nullptr, DISPATCH_PROPERTYGET), E_INVALIDARG);
+  EXPECT_EQ(call(&none, DISPATCH_PROPERTYGET, IID_IUnknown), DISP_E_UNKNOWNINTERFACE);
+  EXPECT_EQ(call(&none, DISPATCH_PROPERTYPUT), DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(call(&none, 0), DISP_E_MEMBERNOTFOUND);
+}
 
 // The attacks are made on what the type library tells of: on all of it.
 TEST(HostileCallers, KnowEveryInterface) {

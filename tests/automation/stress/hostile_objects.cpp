@@ -25,8 +25,9 @@ class Failing final : public IDispatch {
   STDMETHODIMP GetTypeInfoCount(UINT*) noexcept override { return E_UNEXPECTED; }
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_UNEXPECTED; }
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexcept override { return E_UNEXPECTED; }
-  // The error tells of itself, and a result comes with it nevertheless.
-  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO* exception, UINT*) noexcept override {
+  // Whoever is told of the error has to release its text.
+  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO* exception,
+                      UINT*) noexcept override {
     if (exception != nullptr) exception->bstrDescription = SysAllocString(L"fails whatever it is asked");
     return DISP_E_EXCEPTION;
   }

@@ -71,8 +71,8 @@ TEST_P(HostileShapes, NamesOfArgumentsThatThereAreNot) {
     const auto past = static_cast<DISPID>(wanted);
     constexpr DISPID kLowest = std::numeric_limits<DISPID>::min(), kHighest = std::numeric_limits<DISPID>::max();
     VARIANT value{};
-    for (DISPID name : std::initializer_list<DISPID>{past, past + 1, -1, -2, DISPID_PROPERTYPUT, DISPID_NEWENUM, kLowest,
-                                                     kHighest}) {
+    const DISPID names[] = {past, past + 1, -1, -2, DISPID_PROPERTYPUT, DISPID_NEWENUM, kLowest, kHighest};
+    for (DISPID name : names) {
       SCOPED_TRACE(name);
       if (name == DISPID_PROPERTYPUT && member.writes_property()) continue;
       DISPPARAMS one{&value, &name, 1, 1};

@@ -75,7 +75,8 @@ VARIANT array_without_data(CallersMemory& memory) {
 }
 
 constexpr LONG kLowest = std::numeric_limits<LONG>::min(), kHighest = std::numeric_limits<LONG>::max();
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN(), kEndless = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double kEndless = std::numeric_limits<double>::infinity();
 
 }  // namespace
 

@@ -71,9 +71,6 @@ TEST(Unloading, AThousandTimesLeavesNothingBehind) {
   EXPECT_LT(after.blocks, before.blocks + kRounds * 6);
   EXPECT_LT(after.bytes, before.bytes + kRounds * 500);
   EXPECT_LT(after.handles, before.handles + 20);
-  RecordProperty("blocks", static_cast<int>(after.blocks) - static_cast<int>(before.blocks));
-  RecordProperty("bytes", static_cast<int>(after.bytes) - static_cast<int>(before.bytes));
-  RecordProperty("handles", static_cast<int>(after.handles) - static_cast<int>(before.handles));
 }
 
 }  // namespace
