@@ -74,6 +74,8 @@ HANDLE opened_to_write(const std::wstring& path, DWORD how) {
 
 // What may not be written, or is in use, must not be replaced either.
 void require_replaceable(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) refuse();
   const HANDLE there = opened_to_write(path, OPEN_EXISTING);
   if (there != INVALID_HANDLE_VALUE) {
     CloseHandle(there);
