@@ -19,7 +19,6 @@ class MemoryOutput final : public OutputFile {
     const FaultsPaused paused;
     written().clear();
   }
-  ~MemoryOutput() override { files_.memory.erase(beside_); }
 
   void write(std::string_view bytes) override {
     const FaultsPaused paused;  // a disk has its own room
@@ -33,6 +32,7 @@ class MemoryOutput final : public OutputFile {
     const FaultsPaused paused;
     if (files_.close_fails) refuse();
     files_.memory[path_] = std::move(written());
+    files_.memory.erase(beside_);
   }
 
  private:

@@ -75,10 +75,10 @@ std::optional<mode_t> permissions_to_keep(const std::string& path) {
 class DescriptorOutput : public OutputFile {
  public:
   explicit DescriptorOutput(std::string path)
-      : path_(std::move(path)), beside_(path_ + ".tmp"), permissions_(permissions_to_keep(path_)), descriptor_(opened()) {}
-  ~DescriptorOutput() override {
-    if (!beside_.empty()) ::unlink(beside_.c_str());
-  }
+      : path_(std::move(path)),
+        beside_(path_ + ".tmp"),
+        permissions_(permissions_to_keep(path_)),
+        descriptor_(opened()) {}
 
   void write(std::string_view bytes) override {
     while (!bytes.empty()) {
@@ -94,9 +94,7 @@ class DescriptorOutput : public OutputFile {
     // On the disk before its name is: a machine that stops must not keep the name alone.
     const bool flushed = ::fsync(descriptor_.number()) == 0;
     if (::close(descriptor_.release()) != 0 || !flushed || !kept) refuse();
-    if (beside_.empty()) return;
-    if (::rename(beside_.c_str(), path_.c_str()) != 0) refuse();
-    beside_.clear();
+    if (!beside_.empty() && ::rename(beside_.c_str(), path_.c_str()) != 0) refuse();
   }
 
  private:
@@ -108,7 +106,7 @@ class DescriptorOutput : public OutputFile {
   }
 
   const std::string path_;
-  std::string beside_;  // empty where there is none, or it is none any more
+  std::string beside_;  // empty where there is none
   const std::optional<mode_t> permissions_;
   Descriptor descriptor_;
 };

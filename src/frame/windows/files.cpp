@@ -89,10 +89,6 @@ class HandleOutput : public OutputFile {
  public:
   explicit HandleOutput(std::wstring path)
       : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
-  ~HandleOutput() override {
-    file_.close();
-    if (!beside_.empty()) DeleteFileW(beside_.c_str());
-  }
 
   void write(std::string_view bytes) override {
     constexpr std::size_t kAtOnce = std::size_t{1} << 20;
@@ -111,7 +107,6 @@ class HandleOutput : public OutputFile {
     if (beside_.empty()) return;
     keep_protection(path_, beside_);
     replace(path_, beside_);
-    beside_.clear();
   }
 
  private:
@@ -125,7 +120,7 @@ class HandleOutput : public OutputFile {
   }
 
   const std::wstring path_;
-  std::wstring beside_;  // empty where there is none, or it is none any more
+  std::wstring beside_;  // empty where there is none
   FileHandle file_;
 };
 
@@ -157,7 +152,8 @@ class SystemFiles final : public Files {
  public:
   bool any_entry(TextView path, std::int32_t attributes) override {
     bool found = false;
-    search(path_of(path), [&](const WIN32_FIND_DATAW& entry) { return found = shown(entry.dwFileAttributes, attributes); });
+    search(path_of(path),
+           [&](const WIN32_FIND_DATAW& entry) { return found = shown(entry.dwFileAttributes, attributes); });
     return found;
   }
 
