@@ -69,7 +69,13 @@ std::int32_t engine_number(const Text& text) {
 
 // The texts of all lines one behind the other; it holds the passwords.
 struct CheckText {
-  explicit CheckText(const ConnectionParameters& parameters) : text(decimal(parameters.MotorBD)) {
+  // At once: a text that grows leaves its beginnings behind.
+  explicit CheckText(const ConnectionParameters& parameters) {
+    const Text engine = decimal(parameters.MotorBD);
+    std::size_t size = engine.size();
+    for (const auto line : kTextLines) size += (parameters.*line).size();
+    text.reserve(size);
+    text = engine;
     for (const auto line : kTextLines) text += parameters.*line;
   }
   ~CheckText() { wipe(text); }
@@ -87,10 +93,7 @@ std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, s
   LineReader lines(file);
   const auto next_line = [&] { return encoding.from_system_page(lines.next()); };
   // What a refused file had to say is not left in memory.
-  struct Refused {
-    ~Refused() { wipe(parameters); }
-    ConnectionParameters parameters;
-  } read;
+  PassingParameters read;
   ConnectionParameters& parameters = read.parameters;
   parameters.MotorBD = engine_number(protection.Descifrar(key, next_line()));
   for (const auto line : kTextLines) parameters.*line = protection.Descifrar(key, next_line());

@@ -26,6 +26,12 @@ struct ConnectionParameters {
 // Overwrites both passwords and empties all.
 void wipe(ConnectionParameters& parameters) noexcept;
 
+// Parameters on their way, whose passwords are overwritten at its end.
+struct PassingParameters {
+  ConnectionParameters parameters;
+  ~PassingParameters() { wipe(parameters); }
+};
+
 // No member fails but two that say so: what cannot be done is false or an empty result.
 class QVRcfp {
  public:

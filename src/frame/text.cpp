@@ -119,7 +119,8 @@ Text abbreviate_for_display(TextView text) {
   return join({view.substr(0, kPart), u"\r\n\r\n...\r\n\r\n", view.substr(view.size() - tail)});
 }
 
-void wipe(Text& text) {
+void wipe(Text& text) noexcept {
+  text.resize(text.capacity());
   volatile char16_t* unit = text.data();
   for (std::size_t left = text.size(); left != 0; --left) *unit++ = 0;
   text.clear();

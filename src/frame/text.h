@@ -50,7 +50,7 @@ std::vector<TextView> split(TextView text, TextView separator);
 // so that a message box still fits on a screen.
 Text abbreviate_for_display(TextView text);
 
-// Overwrites the text's units and empties it; for keys and passwords.
-void wipe(Text& text);
+// Overwrites all of the text's memory, what longer texts left in it too, and empties it; for keys and passwords.
+void wipe(Text& text) noexcept;
 
 }  // namespace qvr

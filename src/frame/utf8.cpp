@@ -51,7 +51,9 @@ void append_units(Text& text, char32_t c) {
 
 std::string to_utf8(TextView text) {
   std::string bytes;
-  bytes.reserve(text.size() + text.size() / 8);
+  std::size_t most = text.size();
+  for (const char16_t unit : text) most += unit < 0x80 ? 0u : unit < 0x800 ? 1u : 2u;
+  bytes.reserve(most);  // at once: a text that grows leaves its beginnings, which may be secret, behind
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
     if (is_high(c) && i + 1 < text.size() && is_low(text[i + 1])) {

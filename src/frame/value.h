@@ -70,7 +70,8 @@ class Value {
   bool is() const {
     return std::holds_alternative<T>(storage_);
   }
-  const Storage& storage() const { return storage_; }
+  const Storage& storage() const& { return storage_; }
+  Storage&& storage() && { return std::move(storage_); }
 
  private:
   Storage storage_;

@@ -12,6 +12,10 @@ struct ScriptAccounts {
   Text NombreBaseOTablespace;
   Text UsuarioQVRAdm, ClaveUsuarioQVRAdm;
   Text UsuarioQVRCli, ClaveUsuarioQVRCli;
+  ~ScriptAccounts() {
+    wipe(ClaveUsuarioQVRAdm);
+    wipe(ClaveUsuarioQVRCli);
+  }
 };
 
 // Puts WITH ENCRYPTION before every line that holds only AS, and before the FOR line of a trigger, as SQL Server wants

@@ -68,10 +68,10 @@ Text BuiltinTextProtection::Descifrar(TextView Clave, TextView Texto) {
   if (!sealed) not_ours();
   const auto padded = cipher_for(Clave).open({}, *sealed);
   const auto plain = padded ? unpadded(*padded) : std::nullopt;
-  const auto text = plain ? from_utf8({reinterpret_cast<const char*>(plain->data()), plain->size()}) : std::nullopt;
+  auto text = plain ? from_utf8({reinterpret_cast<const char*>(plain->data()), plain->size()}) : std::nullopt;
   cryptography_->wipe(*sealed);
   if (!text) not_ours();
-  return *text;
+  return std::move(*text);
 }
 
 }  // namespace qvr::services

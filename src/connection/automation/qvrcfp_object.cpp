@@ -6,29 +6,30 @@ HRESULT QVRcfpObject::Asignar(BSTR* ID, MotoresBD* MotorBD, BSTR* Provider, BSTR
                               BSTR* InitialCatalogOTablespace, BSTR* UsuarioAdm, BSTR* ClaveAdm, BSTR* UsuarioCli,
                               BSTR* ClaveCli, BSTR* OtrosParametros, VARIANT_BOOL* Resultado) noexcept {
   return answer(Resultado, [&] {
-    return core_.Asignar(text_of(ID), {.MotorBD = number_of(MotorBD),
-                                       .Archivo = {},
-                                       .Provider = text_of(Provider),
-                                       .DataSource = text_of(DataSource),
-                                       .InitialCatalogOTablespace = text_of(InitialCatalogOTablespace),
-                                       .UsuarioAdm = text_of(UsuarioAdm),
-                                       .ClaveAdm = text_of(ClaveAdm),
-                                       .UsuarioCli = text_of(UsuarioCli),
-                                       .ClaveCli = text_of(ClaveCli),
-                                       .OtrosParametros = text_of(OtrosParametros)});
+    const PassingParameters taken{{.MotorBD = number_of(MotorBD),
+                                   .Archivo = {},
+                                   .Provider = text_of(Provider),
+                                   .DataSource = text_of(DataSource),
+                                   .InitialCatalogOTablespace = text_of(InitialCatalogOTablespace),
+                                   .UsuarioAdm = text_of(UsuarioAdm),
+                                   .ClaveAdm = text_of(ClaveAdm),
+                                   .UsuarioCli = text_of(UsuarioCli),
+                                   .ClaveCli = text_of(ClaveCli),
+                                   .OtrosParametros = text_of(OtrosParametros)}};
+    return core_.Asignar(secret_of(ID), taken.parameters);
   });
 }
 HRESULT QVRcfpObject::Crear(BSTR* ID, BSTR* R, BSTR* A, VARIANT_BOOL* Resultado) noexcept {
-  return answer_while_kept(Resultado, [&] { return core_.Crear(text_of(ID), text_of(R), text_of(A)); });
+  return answer_while_kept(Resultado, [&] { return core_.Crear(secret_of(ID), text_of(R), text_of(A)); });
 }
 HRESULT QVRcfpObject::Guardar(BSTR* ID, BSTR* R, BSTR* A, VARIANT_BOOL* Resultado) noexcept {
-  return answer_while_kept(Resultado, [&] { return core_.Guardar(text_of(ID), text_of(R), text_of(A)); });
+  return answer_while_kept(Resultado, [&] { return core_.Guardar(secret_of(ID), text_of(R), text_of(A)); });
 }
 HRESULT QVRcfpObject::CadenaADO(BSTR* ID, VARIANT_BOOL* Adm, BSTR* Resultado) noexcept {
-  return answer(Resultado, [&] { return core_.CadenaADO(text_of(ID), truth_of(Adm)); });
+  return answer(Resultado, [&] { return SecretText(core_.CadenaADO(secret_of(ID), truth_of(Adm))); });
 }
 HRESULT QVRcfpObject::CadenaADOUsuario(BSTR* Usuario, BSTR* Clave, BSTR* Resultado) noexcept {
-  return answer(Resultado, [&] { return core_.CadenaADOUsuario(text_of(Usuario), text_of(Clave)); });
+  return answer(Resultado, [&] { return SecretText(core_.CadenaADOUsuario(text_of(Usuario), secret_of(Clave))); });
 }
 HRESULT QVRcfpObject::TextoAValor(BSTR* TipoTNFL, BSTR* Texto, VARIANT* Resultado) noexcept {
   return answer(Resultado, [&] { return core_.TextoAValor(text_of(TipoTNFL), text_of(Texto)); });
@@ -61,10 +62,10 @@ HRESULT QVRcfpObject::get_OtrosParametros(BSTR* Resultado) noexcept {
   return answer(Resultado, [&] { return core_.OtrosParametros(); });
 }
 HRESULT QVRcfpObject::get_ClaveAdm(BSTR* ID, BSTR* Resultado) noexcept {
-  return answer(Resultado, [&] { return core_.ClaveAdm(text_of(ID)); });
+  return answer(Resultado, [&] { return SecretText(Text(core_.ClaveAdm(secret_of(ID)))); });
 }
 HRESULT QVRcfpObject::get_ClaveCli(BSTR* ID, BSTR* Resultado) noexcept {
-  return answer(Resultado, [&] { return core_.ClaveCli(text_of(ID)); });
+  return answer(Resultado, [&] { return SecretText(Text(core_.ClaveCli(secret_of(ID)))); });
 }
 
 }  // namespace qvr::automation

@@ -6,11 +6,13 @@
 #include "frame/automation/late_failure.h"
 #include "frame/automation/text_bstr.h"
 #include "frame/automation/variant.h"
+#include "frame/secret_text.h"
 
 namespace qvr::automation {
 
 // Arguments as the core takes them. Early-bound callers may pass null for a pointer and for a string.
 inline Text text_of(BSTR* argument) { return argument != nullptr ? text_from(*argument) : Text(); }
+inline SecretText secret_of(BSTR* argument) { return SecretText(text_of(argument)); }
 inline bool truth_of(const VARIANT_BOOL* argument) { return argument != nullptr && *argument != VARIANT_FALSE; }
 inline std::int16_t short_of(const SHORT* argument) { return argument != nullptr ? *argument : std::int16_t{0}; }
 template <class Number>
@@ -40,6 +42,7 @@ inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
 inline void put_result(VARIANT_BOOL* out, bool result) { *out = result ? VARIANT_TRUE : VARIANT_FALSE; }
 inline void put_result(SHORT* out, std::int16_t result) { *out = result; }
 inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
+inline void put_result(BSTR* out, const SecretText& result) { *out = new_bstr(result); }
 inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
 template <class Number>
   requires(std::is_enum_v<Number> || std::is_same_v<Number, LONG>)

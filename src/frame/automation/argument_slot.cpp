@@ -25,12 +25,6 @@ HRESULT take_object(VARIANT& target, const VARIANT& source) {
   return SUCCEEDED(value->punkVal->QueryInterface(IID_PPV_ARGS(&target.pdispVal))) ? S_OK : DISP_E_TYPEMISMATCH;
 }
 
-HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
-  const HRESULT result =
-      VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
-  return SUCCEEDED(result) ? S_OK : refusal(result);
-}
-
 LCID usable(LCID locale) { return locale != 0 ? locale : LOCALE_USER_DEFAULT; }
 
 std::size_t size_of(VARTYPE type) {
@@ -53,6 +47,29 @@ std::size_t size_of(VARTYPE type) {
     case VT_DATE: return 8;
     default: return 0;
   }
+}
+
+// A value of the very type, by value or by reference. The system's conversion would copy it twice, and leave a copy of
+// what may be a password in freed memory.
+HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
+  const void* const content = source.vt & VT_BYREF ? source.byref : &source.llVal;
+  if (type == VT_BSTR) {
+    const BSTR string = *static_cast<const BSTR*>(content);
+    target.bstrVal = SysAllocStringByteLen(reinterpret_cast<const char*>(string), SysStringByteLen(string));
+    if (target.bstrVal == nullptr) return E_OUTOFMEMORY;
+  } else {
+    std::memcpy(&target.llVal, content, size_of(type));
+  }
+  target.vt = type;
+  return S_OK;
+}
+
+HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
+  const auto given = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
+  if (given == type && (type == VT_BSTR || size_of(type) > 0)) return take_same(target, source, type);
+  const HRESULT result =
+      VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  return SUCCEEDED(result) ? S_OK : refusal(result);
 }
 
 // Into a typed variable of the caller: its old content is released first.

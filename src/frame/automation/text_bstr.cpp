@@ -14,4 +14,9 @@ BSTR new_bstr(TextView text) noexcept {
   return string;
 }
 
+void free_wiped(BSTR string) noexcept {
+  if (string != nullptr) SecureZeroMemory(string, SysStringByteLen(string));
+  SysFreeString(string);
+}
+
 }  // namespace qvr::automation

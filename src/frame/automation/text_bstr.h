@@ -13,11 +13,14 @@ Text text_from(BSTR string);
 // A new BSTR, also for an empty text; null only when there is no memory.
 BSTR new_bstr(TextView text) noexcept;
 
+// Overwrites and frees the string: it may hold a password.
+void free_wiped(BSTR string) noexcept;
+
 class OwnedBstr {
  public:
   OwnedBstr() = default;
   explicit OwnedBstr(TextView text) noexcept : string_(new_bstr(text)) {}
-  ~OwnedBstr() { SysFreeString(string_); }
+  ~OwnedBstr() { free_wiped(string_); }
   OwnedBstr(OwnedBstr&& other) noexcept : string_(std::exchange(other.string_, nullptr)) {}
   OwnedBstr& operator=(OwnedBstr&& other) noexcept {
     std::swap(string_, other.string_);

@@ -231,6 +231,11 @@ void put_elements(VARIANT& variant, const Value& value) {
   for (const Value& item : list->items) put_element(array, type, index++, item);
 }
 
+OwnedVariant::~OwnedVariant() {
+  if (held_.vt != VT_BSTR) VariantClear(&held_);
+  else free_wiped(held_.bstrVal);
+}
+
 void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
 
 }  // namespace qvr::automation

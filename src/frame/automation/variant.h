@@ -9,7 +9,7 @@ namespace qvr::automation {
 class OwnedVariant {
  public:
   OwnedVariant() noexcept = default;
-  ~OwnedVariant() { VariantClear(&held_); }
+  ~OwnedVariant();
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
 

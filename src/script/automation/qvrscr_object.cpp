@@ -12,7 +12,8 @@ constexpr DISPID kProgreso = 1, kTerminado = 2;
 
 // The arguments of a run or of a load, as the core takes them.
 struct RunTexts {
-  Text given_id, given_shown, id, shown, commands, connection_string;
+  Text given_id, given_shown, id, shown, commands;
+  SecretText connection_string;
 };
 struct LoadTexts {
   Text id, folder, name;
@@ -36,7 +37,7 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
   return answer_while_kept(Resultado, [&] {
     const auto make = [&] {
       const Text id = text_of(ID), shown = text_of(TextoMostrar);
-      return RunTexts{id, shown, id, shown, text_of(TextosComandos), text_of(CadenaConexion)};
+      return RunTexts{id, shown, id, shown, text_of(TextosComandos), secret_of(CadenaConexion)};
     };
     return with_arguments(core_, make, [&](RunTexts& texts) {
       const bool success = core_.EjecutarComandos(texts.id, number_of(MotorBD), texts.commands,

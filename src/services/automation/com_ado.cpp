@@ -25,7 +25,7 @@ class ComConnection final : public services::AdoConnection {
  public:
   explicit ComConnection(LateObject object) : object_(std::move(object)) {}
 
-  void set_connection_string(TextView text) override { object_.put(L"ConnectionString", Text(text)); }
+  void set_connection_string(TextView text) override { object_.put_secret(L"ConnectionString", text); }
   void open() override { object_.call(L"Open", {Text(), Text(), Text(), kOptionsUnspecified}); }
   void begin_trans() override { object_.call(L"BeginTrans", {}); }
   void commit_trans() override { object_.call(L"CommitTrans", {}); }

@@ -5,20 +5,19 @@
 namespace qvr::automation {
 namespace {
 
-Text text_result(const Value& result) {
-  const Text* text = result.as<Text>();
-  if (text == nullptr) throw RuntimeFailure(failure_number::kTypeMismatch);
-  return *text;
+Text text_result(Value result) {
+  if (!result.is<Text>()) throw RuntimeFailure(failure_number::kTypeMismatch);
+  return std::get<Text>(std::move(result).storage());
 }
 
 }  // namespace
 
 Text ComTextProtection::Cifrar(TextView Clave, TextView Texto) {
-  return text_result(component_.call(L"Cifrar", {Text(Clave), Text(Texto)}));
+  return text_result(component_.call_with_secrets(L"Cifrar", {Clave, Texto}));
 }
 
 Text ComTextProtection::Descifrar(TextView Clave, TextView Texto) {
-  return text_result(component_.call(L"Descifrar", {Text(Clave), Text(Texto)}));
+  return text_result(component_.call_with_secrets(L"Descifrar", {Clave, Texto}));
 }
 
 }  // namespace qvr::automation

@@ -1,5 +1,6 @@
 #include "services/automation/late_object.h"
 
+#include <new>
 #include <vector>
 
 #include "frame/automation/late_failure.h"
@@ -34,6 +35,17 @@ class Arguments {
     for (std::size_t i = 0; i < values.size(); ++i) {
       put_value(*owned_[i].get(), values[values.size() - 1 - i]);
       passed_.push_back(*owned_[i]);
+    }
+  }
+
+  explicit Arguments(std::span<const TextView> texts) : owned_(texts.size()) {
+    passed_.reserve(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+      VARIANT& owned = *owned_[i].get();
+      owned.bstrVal = new_bstr(texts[texts.size() - 1 - i]);
+      if (owned.bstrVal == nullptr) throw std::bad_alloc();
+      owned.vt = VT_BSTR;
+      passed_.push_back(owned);
     }
   }
 
@@ -92,7 +104,7 @@ Value LateObject::call(const wchar_t* name, std::initializer_list<Value> argumen
 
 Value LateObject::call(const wchar_t* name, std::initializer_list<Value> arguments, Text& by_reference) const {
   OwnedBstr text(by_reference);
-  Arguments passed({arguments.begin(), arguments.size()});
+  Arguments passed(std::span<const Value>(arguments.begin(), arguments.size()));
   passed.add_by_reference(text);
   DISPPARAMS parameters = passed.parameters(DISPATCH_METHOD);
   Value result = invoke(name, DISPATCH_METHOD, parameters);
@@ -106,6 +118,18 @@ Value LateObject::get(const wchar_t* name, std::initializer_list<Value> argument
 
 void LateObject::put(const wchar_t* name, const Value& value) const {
   invoke(name, DISPATCH_PROPERTYPUT, {&value, 1});
+}
+
+Value LateObject::call_with_secrets(const wchar_t* name, std::initializer_list<TextView> arguments) const {
+  Arguments passed(std::span<const TextView>(arguments.begin(), arguments.size()));
+  DISPPARAMS parameters = passed.parameters(DISPATCH_METHOD);
+  return invoke(name, DISPATCH_METHOD, parameters);
+}
+
+void LateObject::put_secret(const wchar_t* name, TextView text) const {
+  Arguments passed(std::span<const TextView>(&text, 1));
+  DISPPARAMS parameters = passed.parameters(DISPATCH_PROPERTYPUT);
+  invoke(name, DISPATCH_PROPERTYPUT, parameters);
 }
 
 void LateObject::put_object(const wchar_t* name, const LateObject& object) const {

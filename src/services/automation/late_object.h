@@ -21,7 +21,10 @@ class LateObject {
   // With one more argument behind the others: a text by reference, which the object may change.
   Value call(const wchar_t* name, std::initializer_list<Value> arguments, Text& by_reference) const;
   Value get(const wchar_t* name, std::initializer_list<Value> arguments = {}) const;
+  // All of the arguments texts, of which no copy stays in memory.
+  Value call_with_secrets(const wchar_t* name, std::initializer_list<TextView> arguments) const;
   void put(const wchar_t* name, const Value& value) const;
+  void put_secret(const wchar_t* name, TextView text) const;
   void put_object(const wchar_t* name, const LateObject& object) const;
   LateObject get_object(const wchar_t* name) const;
 
