@@ -47,9 +47,15 @@ Text CondicionRowNum(const Engine& engine, std::int32_t count, bool prepend_and)
 }
 
 Text ClausulaAlias(const Engine& engine, TextView alias) {
+  Text clause;
+  append_alias(clause, engine, alias);
+  return clause;
+}
+
+void append_alias(Text& statement, const Engine& engine, TextView alias) {
   const auto opener = pick(engine, {u" As [", u" As [", u" \""});
   const auto closer = pick(engine, {u"]", u"]", u"\""});
-  return opener ? join({*opener, alias, *closer}) : Text();
+  if (opener) statement.append(*opener).append(alias).append(*closer);
 }
 
 Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {

@@ -74,6 +74,11 @@ struct AsNumber {
 
 Text to_text(const Value& value) { return std::visit(AsText{}, value.storage()); }
 
+TextView to_text_view(const Value& value, Text& converted) {
+  if (const Text* held = value.as<Text>()) return *held;
+  return converted = to_text(value);
+}
+
 double to_number(const Value& value) { return std::visit(AsNumber{}, value.storage()); }
 
 bool to_truth(const Value& value) {

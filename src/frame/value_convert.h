@@ -8,6 +8,8 @@
 namespace qvr {
 
 Text to_text(const Value& value);
+// The same as a view into the value where it is a text, else into `converted`.
+TextView to_text_view(const Value& value, Text& converted);
 double to_number(const Value& value);
 bool to_truth(const Value& value);
 Date to_date(const Value& value);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr TextView kSeparator = u", ";
 
-Column column_from(Text expression, TextView descriptor) {
+Column column_from(TextView expression, TextView descriptor) {
   Column column;
   column.type = descriptor.substr(0, 1);
   const char16_t form = descriptor.size() > 1 ? descriptor[1] : u'\0';
@@ -23,7 +23,7 @@ Column column_from(Text expression, TextView descriptor) {
     const std::size_t dot = form == u'+' ? expression.rfind(u'.') : Text::npos;
     column.field = dot == Text::npos ? expression : expression.substr(dot + 1);
   }
-  column.expression = std::move(expression);
+  column.expression = expression;
   return column;
 }
 
@@ -35,7 +35,8 @@ ColumnList ColumnList::from_pairs(const Value& pairs) {
   columns.columns_.reserve(list.items.size() / 2);
   for (std::size_t i = 0; i < list.items.size(); i += 2) {
     const Value& descriptor = dialect::element_at(list, list.lower + static_cast<std::int64_t>(i) + 1);
-    columns.add(column_from(to_text(list.items[i]), to_text(descriptor)));
+    Text expression_text, descriptor_text;
+    columns.add(column_from(to_text_view(list.items[i], expression_text), to_text_view(descriptor, descriptor_text)));
   }
   return columns;
 }
@@ -52,14 +53,16 @@ std::size_t ColumnList::position_of(TextView field) const {
   return found == columns_.end() ? 0 : static_cast<std::size_t>(found - columns_.begin()) + 1;
 }
 
-Text ColumnList::select_list(const dialect::Engine& engine) const {
-  Text list;
+void ColumnList::append_select_list(Text& list, const dialect::Engine& engine) const {
+  constexpr std::size_t kAround = 8;  // at most, of separator and alias
+  std::size_t size = list.size();
+  for (const Column& column : columns_) size += column.expression.size() + (column.named ? column.field.size() : 0) + kAround;
+  list.reserve(size);
   for (const Column& column : columns_) {
     if (&column != columns_.data()) list += kSeparator;
     list += column.expression;
-    if (column.named) list += dialect::ClausulaAlias(engine, column.field);
+    if (column.named) dialect::append_alias(list, engine, column.field);
   }
-  return list;
 }
 
 Text ColumnList::group_list(std::size_t count) const {

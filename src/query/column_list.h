@@ -31,9 +31,9 @@ class ColumnList {
   // The position, from 1, of the first column with this field name in any case; 0 for none.
   std::size_t position_of(TextView field) const;
 
-  // The columns as they follow "SELECT ", and the first of them as they follow "GROUP BY ". Throws failure 9 when there
-  // are fewer.
-  Text select_list(const dialect::Engine& engine) const;
+  // Appends the columns as they follow "SELECT ".
+  void append_select_list(Text& list, const dialect::Engine& engine) const;
+  // The first columns as they follow "GROUP BY ". Throws failure 9 when there are fewer.
   Text group_list(std::size_t count) const;
 
  private:

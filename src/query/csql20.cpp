@@ -52,7 +52,7 @@ bool cSQL20::build_select(const Value& pairs) noexcept {
     const Text limit = dialect::ClausulaTop(fields_.engine, fields_.top);
     fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
     fields_.columns_at = fields_.select.size();
-    fields_.select += fields_.columns.select_list(fields_.engine);
+    fields_.columns.append_select_list(fields_.select, fields_.engine);
     // Without columns what is cut is the end of the beginning; the engine refuses that, as it should.
     if (fields_.columns.size() == 0) fields_.select.resize(fields_.select.size() - 2);
     return true;

@@ -75,7 +75,7 @@ cSQL20::Fields cSQL20::read_definition(TextView text) const {
     column.named = true;
     f.columns.add(std::move(column));
   }
-  f.select += f.columns.select_list(f.engine);
+  f.columns.append_select_list(f.select, f.engine);
   f.from = reader.text(kFrom);
   f.where = reader.text(kWhere);
   const std::int32_t grouped = reader.number(kGrouped);

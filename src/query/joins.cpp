@@ -52,8 +52,9 @@ Text ConstruirJoins(TextView TablasFROM, const Value& RelacionTablas) {
   std::size_t wrapped = 0;  // opening parentheses all stand at the very beginning
   const std::int64_t end = triples.lower + static_cast<std::int64_t>(triples.items.size());
   for (std::int64_t i = triples.lower; i < end; i += 3) {
-    const Text first = to_text(dialect::element_at(triples, i)), second = to_text(dialect::element_at(triples, i + 1));
-    const Text letter = to_text(dialect::element_at(triples, i + 2));
+    Text texts[3];
+    const auto item = [&](std::int64_t at) { return to_text_view(dialect::element_at(triples, i + at), texts[at]); };
+    const TextView first = item(0), second = item(1), letter = item(2);
     if (adds_equality(letter)) {
       joins.append(u" AND ").append(first).append(u"=").append(second);
       continue;
