@@ -1,11 +1,11 @@
 // What preparing scripts costs beside one copy of their text for each pass, and beside replacing in place, for texts of 1,
 // 10 and 100 million characters. In place is left out where it would take minutes: each replacement moves all that
 // follows.
-#include <benchmark/benchmark.h>
 
 #include <vector>
 
 #include "script/script_preparation.h"
+#include "run.h"
 
 namespace {
 
@@ -72,13 +72,8 @@ void ReplaceInPlace(benchmark::State& state) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  const auto registered = [](const char* name, void (*run)(benchmark::State&), std::vector<std::int64_t> millions) {
-    auto* benchmark = benchmark::RegisterBenchmark(name, run);
-    for (const std::int64_t each : millions) benchmark->Arg(each);
-  };
-  registered("CopyForEachPass", CopyForEachPass, {1, 10, 100});
-  registered("Prepare", Prepare, {1, 10, 100});
-  registered("ReplaceInPlace", ReplaceInPlace, {1, 10});
-  benchmark::Initialize(&count, arguments);
-  benchmark::RunSpecifiedBenchmarks();
+  qvr::bench::registered("CopyForEachPass", CopyForEachPass, {1, 10, 50, 100});
+  qvr::bench::registered("Prepare", Prepare, {1, 10, 50, 100});
+  qvr::bench::registered("ReplaceInPlace", ReplaceInPlace, {1, 10});
+  qvr::bench::run_all(count, arguments);
 }

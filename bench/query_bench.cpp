@@ -1,7 +1,6 @@
 // What a query's members cost beside the bare copying of the statement's text, for 1, 10 and 100 columns.
-#include <benchmark/benchmark.h>
-
 #include "query/csql20.h"
+#include "run.h"
 
 namespace {
 
@@ -96,20 +95,15 @@ void DefinitionRoundTrip(benchmark::State& state) {
   for (auto _ : state) query.CrearDesdeTextoDefinicion(query.TextoDefinicion());
 }
 
-void registered(const char* name, void (*run)(benchmark::State&)) {
-  benchmark::RegisterBenchmark(name, run)->Arg(1)->Arg(10)->Arg(100);
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
-  registered("Copy", Copy);
-  registered("SQL", SQL);
-  registered("CrearAndSQL", CrearAndSQL);
-  registered("AddedCondition", AddedCondition);
-  registered("ClickOnColumn", ClickOnColumn);
-  registered("SearchText", SearchText);
-  registered("DefinitionRoundTrip", DefinitionRoundTrip);
-  benchmark::Initialize(&count, arguments);
-  benchmark::RunSpecifiedBenchmarks();
+  qvr::bench::registered("Copy", Copy, {1, 10, 100});
+  qvr::bench::registered("SQL", SQL, {1, 10, 100});
+  qvr::bench::registered("CrearAndSQL", CrearAndSQL, {1, 10, 100});
+  qvr::bench::registered("AddedCondition", AddedCondition, {1, 10, 100});
+  qvr::bench::registered("ClickOnColumn", ClickOnColumn, {1, 10, 100});
+  qvr::bench::registered("SearchText", SearchText, {1, 10, 100});
+  qvr::bench::registered("DefinitionRoundTrip", DefinitionRoundTrip, {1, 10, 100});
+  qvr::bench::run_all(count, arguments);
 }

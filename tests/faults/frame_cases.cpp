@@ -39,7 +39,7 @@ struct Unloaded {
 // A thread on which nothing was done, not even its state made.
 struct NewThread {
   NewThread() {
-    thread.settings.set_default_language(u"3  behind it something that makes the setting long");
+    thread.settings.set_default_language(u"3.00000000000000000000000000000000");
     folder.write(u"a file of some length.txt", "x");
   }
   // As the next object finds it.

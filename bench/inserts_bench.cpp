@@ -1,0 +1,119 @@
+// What running 100,000 INSERTs into SQLite costs beside a bare loop of ODBC calls, and beside the sqlite3 shell, into
+// files of one folder. By the clock: writing is part of it.
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "frame/utf8.h"
+#include "script/qvrscr.h"
+#include "services/odbc/odbc.h"
+#include "services/odbc/odbc_api.h"
+#include "run.h"
+
+namespace {
+
+using qvr::Text;
+using qvr::TextView;
+
+class NoEvents final : public qvr::ScriptEvents {
+ public:
+  void Progreso(const Text&) noexcept override {}
+  void Terminado(bool) noexcept override {}
+};
+
+// A folder with an empty database.
+struct Folder {
+  Folder() {
+    std::filesystem::remove_all(path);
+    std::filesystem::create_directories(path);
+  }
+  ~Folder() { std::filesystem::remove_all(path); }
+  Text driver_string() const { return qvr::join({u"DRIVER={SQLite3};Database=", database.u16string(), u";"}); }
+  std::filesystem::path path = std::filesystem::temp_directory_path() / "qvrlib21-inserts-bench";
+  std::filesystem::path database = path / "bench.db";
+};
+
+std::vector<Text> commands(std::int64_t count) {
+  std::vector<Text> texts{u"CREATE TABLE Articulos (Codigo INTEGER, Nombre VARCHAR(40), Precio REAL)"};
+  for (std::int64_t i = 0; i < count; ++i) {
+    texts.push_back(qvr::join({u"INSERT INTO Articulos VALUES ( ", qvr::decimal(i), u", 'Tornillo de cabeza plana', 12.5)"}));
+  }
+  return texts;
+}
+
+void check_rows(benchmark::State& state, const Folder& folder) {
+  const std::string question = "test \"$(sqlite3 '" + folder.database.string() + "' 'select count(*) from Articulos')\" = " +
+                               std::to_string(state.range(0));
+  if (std::system(question.c_str()) != 0) state.SkipWithError("not all rows are there");
+}
+
+void OdbcLoop(benchmark::State& state) {
+  const std::vector<Text> texts = commands(state.range(0));
+  for (auto _ : state) {
+    state.PauseTiming();
+    const Folder folder;
+    state.ResumeTiming();
+    {
+      qvr::odbc::Connection connection;
+      connection.open(folder.driver_string(), 0);
+      connection.set_autocommit(false);
+      const qvr::odbc::Handle statement(SQL_HANDLE_STMT, connection.handle().get());
+      for (const Text& text : texts) {
+        statement.check(SQLExecDirectW(statement.get(), qvr::odbc::wide(text), qvr::odbc::units(text)));
+        SQLFreeStmt(statement.get(), SQL_CLOSE);
+      }
+      connection.end_transaction(true);
+    }
+    state.PauseTiming();
+    check_rows(state, folder);
+    state.ResumeTiming();
+  }
+}
+
+void EjecutarComandos(benchmark::State& state) {
+  Text script;
+  for (const Text& text : commands(state.range(0))) script += qvr::join({text, u"\r\nGO\r\n"});
+  NoEvents events;
+  qvr::QVRScr runner(events);
+  for (auto _ : state) {
+    state.PauseTiming();
+    const Folder folder;
+    Text id = u"bench", shown;
+    const Text connection = qvr::join({u"Provider=MSDASQL;Extended Properties=\"", folder.driver_string(), u"\""});
+    state.ResumeTiming();
+    if (!runner.EjecutarComandos(id, 1, script, connection, shown)) state.SkipWithError("the run failed");
+    state.PauseTiming();
+    check_rows(state, folder);
+    state.ResumeTiming();
+  }
+}
+
+void Shell(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    const Folder folder;
+    const std::filesystem::path script = folder.path / "script.sql";
+    {
+      std::ofstream file(script);
+      file << "BEGIN;\n";
+      for (const Text& text : commands(state.range(0))) file << qvr::to_utf8(text) << ";\n";
+      file << "COMMIT;\n";
+    }
+    const std::string call = "sqlite3 '" + folder.database.string() + "' <'" + script.string() + "'";
+    state.ResumeTiming();
+    if (std::system(call.c_str()) != 0) state.SkipWithError("the shell failed");
+    state.PauseTiming();
+    check_rows(state, folder);
+    state.ResumeTiming();
+  }
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  qvr::bench::registered("OdbcLoop", OdbcLoop, {100000})->UseRealTime()->Iterations(5);
+  qvr::bench::registered("EjecutarComandos", EjecutarComandos, {100000})->UseRealTime()->Iterations(5);
+  qvr::bench::registered("Shell", Shell, {100000})->UseRealTime()->Iterations(5);
+  qvr::bench::run_all(count, arguments);
+}

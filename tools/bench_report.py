@@ -1,0 +1,108 @@
+#!/usr/bin/env python3
+"""Turns the benchmarks' results into the figures of docs/performance.md.
+
+Usage: bench_report.py RESULTS DOCUMENT
+
+RESULTS is a folder of Google Benchmark's JSON, a file each question; the times of its first benchmark are the measure of
+the others with the same argument. In the document all between the two marks is replaced.
+"""
+import datetime
+import json
+import pathlib
+import platform
+import re
+import subprocess
+import sys
+
+BEGIN, END = "<!-- figures -->", "<!-- end of figures -->"
+SCALE = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+# What has an aim: question, file, measured, argument, beside what, aim ("<" at most, ">" at least this many times as fast).
+AIMS = [
+    ("`Crear` and `SQL`, 10 columns and 4 tables: times faster than the faster peer", "query", "CrearAndSQL", "10", "Knex", ">10"),
+    ("The same beside copying the statement", "query", "CrearAndSQL", "10", "Copy", "<3"),
+    ("`SQL` alone beside copying the statement", "query", "SQL", "10", "Copy", "<3"),
+    ("An added condition and its removal beside copying", "query", "AddedCondition", "10", "Copy", "<3"),
+    ("A click on a column beside copying", "query", "ClickOnColumn", "10", "Copy", "<3"),
+    ("Walking over the commands of 1 MB beside a bare search", "splitting", "Walk", "1", "BareSearch", "<3"),
+    ("... of 10 MB", "splitting", "Walk", "10", "BareSearch", "<3"),
+    ("... of 100 MB", "splitting", "Walk", "100", "BareSearch", "<3"),
+    ("... of 1 GB", "splitting", "Walk", "1000", "BareSearch", "<3"),
+    ("100,000 INSERTs into SQLite beside a bare ODBC loop", "inserts", "EjecutarComandos", "100000", "OdbcLoop", "<1.2"),
+    ("The sqlite3 shell beside that loop", "inserts", "Shell", "100000", "OdbcLoop", ""),
+    ("Preparing scripts of 100 MB beside one copy a pass", "loading", "Prepare", "50", "CopyForEachPass", "<2"),
+    ("Opening a connection file the first time beside its key derivation", "connection", "FirstCrear", "", "KeyDerivation", ""),
+    ("... and again", "connection", "SecondCrear", "", "KeyDerivation", ""),
+]
+for kind in ("no arguments", "a property", "a text", "a number", "a truth value", "any value", "a text and two arrays",
+             "ten arguments", "the count of a list"):
+    AIMS.append((f"Late call, {kind}, beside the system's dispatch", "dispatch", "Invoke", kind, "ITypeInfo::Invoke", "<0.7"))
+for name in ("Ov", "QVRcfp", "cSQL20", "uSQL20", "QVRScr", "QVRprp"):
+    AIMS.append((f"Creating `{name}` beside a class that does nothing", "creation", "Create", name, "Nothing", "<1.2"))
+AIMS.append(("The first object of a thread beside one that does nothing", "creation", "Create", "first on a thread", "Nothing", ""))
+
+
+def times(path):
+    """Nanoseconds by name and argument, in the order of the file."""
+    found = {}
+    for run in json.loads(path.read_text(encoding="utf-8"))["benchmarks"]:
+        name, _, argument = run["name"].partition("/")
+        argument = re.sub("/iterations:.*|/real_time", "", argument)
+        measured = run["real_time"] if "real_time" in run["name"] else run["cpu_time"]
+        found.setdefault(name, {})[argument] = measured * SCALE[run["time_unit"]]
+    return found
+
+
+def number(value):
+    return f"{value:.3g}" if value < 1000 else f"{value:,.0f}"
+
+
+def aim_rows(results):
+    yield "| what | ratio | aim | |"
+    yield "|---|---|---|---|"
+    for question, file, name, argument, base, aim in AIMS:
+        measured, beside = results[file][name][argument], results[file][base][argument]
+        ratio = beside / measured if aim.startswith(">") else measured / beside
+        met = "" if not aim else "met" if (ratio >= float(aim[1:]) if aim[0] == ">" else ratio <= float(aim[1:])) else "missed"
+        words = "" if not aim else f"{'at least' if aim[0] == '>' else 'at most'} {aim[1:]}"
+        yield f"| {question} | {number(ratio)} | {words} | {met} |"
+
+
+def table(title, runs):
+    arguments = list(next(iter(runs.values())))
+    base = next(iter(runs.values()))
+    yield f"### {title}"
+    yield ""
+    yield "| | " + " | ".join(argument or "time" for argument in arguments) + " |"
+    yield "|---|" + "---|" * len(arguments)
+    for name, by_argument in runs.items():
+        first = by_argument is base
+        cells = ["-" if a not in by_argument else f"{number(by_argument[a])} ns" if first else number(by_argument[a] / base[a])
+                 for a in arguments]
+        yield f"| {name} | " + " | ".join(cells) + " |"
+    yield ""
+
+
+def machine():
+    cpu = next((line.split(":")[1].strip() for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines()
+                if line.startswith("model name")), platform.machine())
+    cores = subprocess.run(["nproc"], capture_output=True, text=True).stdout.strip()
+    wine = subprocess.run(["wine", "--version"], capture_output=True, text=True).stdout.strip()
+    return f"Measured {datetime.date.today()} on {cores} cores of {cpu}, {platform.freedesktop_os_release()['PRETTY_NAME']}, {wine}."
+
+
+def main():
+    folder, document = map(pathlib.Path, sys.argv[1:])
+    results = {path.stem: times(path) for path in sorted(folder.glob("*.json"))}
+    lines = [machine(), "", *aim_rows(results), ""]
+    lines += ["The first row of each table below is in nanoseconds, the others are multiples of it.", ""]
+    for title, runs in results.items():
+        lines += table(title, runs)
+    text = document.read_text(encoding="utf-8")
+    before, rest = text.split(BEGIN)
+    after = rest.split(END)[1]
+    document.write_text(before + BEGIN + "\n" + "\n".join(lines).rstrip() + "\n" + END + after, encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()
