@@ -9,8 +9,14 @@ system='C:\windows\system32'
 [ "$1" = 64 ] || system='C:\windows\syswow64'
 bin=$(windows_path "$2")
 work=$(mktemp -d "$2/example.XXXXXX")
-# Tidying up must neither stop half-way nor replace the outcome of the test.
-trap 'wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || true; rm -rf "$work"' EXIT
+# Tidying up goes on to its end; what cannot be taken back fails the test too.
+tidy_up() {
+  local outcome=$?
+  wine "$system\\regsvr32.exe" /u /s "$bin\\testado.dll" || outcome=1
+  rm -rf "$work"
+  exit "$outcome"
+}
+trap tidy_up EXIT
 wine "$system\\regsvr32.exe" /s "$bin\\testado.dll"
 # Somebody types a column that the list has not, then a name that nobody has.
 printf '%s\r\n' Ciudad=x Nombre=nadie '' |
