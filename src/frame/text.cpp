@@ -1,6 +1,7 @@
 #include "frame/text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
 
 #include "frame/fold_table.h"
@@ -74,8 +75,9 @@ TextView trimmed(TextView text) {
 }
 
 Text decimal(std::int64_t number) {
-  const std::string digits = std::to_string(number);
-  return Text(digits.begin(), digits.end());
+  char digits[20];  // of the smallest number, with its sign
+  const auto written = std::to_chars(std::begin(digits), std::end(digits), number);
+  return Text(digits, written.ptr);
 }
 
 Text join(std::initializer_list<TextView> pieces) {
@@ -83,7 +85,9 @@ Text join(std::initializer_list<TextView> pieces) {
   for (TextView piece : pieces) size += piece.size();
   Text result;
   result.reserve(size);
-  for (TextView piece : pieces) result.append(piece);
+  for (const TextView piece : pieces) {
+    if (!piece.empty()) result.append(piece);  // half the pieces of a statement are clauses that it has not
+  }
   return result;
 }
 

@@ -33,6 +33,9 @@ Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t*
 // Where `what` first occurs in any case; npos for nowhere.
 std::size_t find_no_case(TextView text, TextView what, std::size_t from = 0);
 
+// Whether it has nothing but blanks.
+inline bool is_blank(TextView text) { return text.find_first_not_of(u' ') == TextView::npos; }
+
 // Without the blanks at both ends.
 TextView trimmed(TextView text);
 

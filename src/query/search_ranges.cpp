@@ -62,7 +62,7 @@ AtomParser::Found AtomParser::range(TextView text) const {
 // "a..b", where texts cannot be compared.
 bool AtomParser::has_two_ends(TextView text) const {
   const std::size_t dots = find_dots(text);
-  return dots != TextView::npos && !trimmed(text.substr(0, dots)).empty() && !trimmed(text.substr(dots + 2)).empty();
+  return dots != TextView::npos && !is_blank(text.substr(0, dots)) && !is_blank(text.substr(dots + 2));
 }
 
 AtomParser::Found AtomParser::between(TextView first, TextView last) const {

@@ -125,7 +125,7 @@ class Splitter {
       for (const TextView word : words) {
         if (!word_at(search_, at, word)) continue;
         const TextView rest = search_.substr(at + word.size());
-        if (trimmed(rest).empty() || (is_textual(type_) && !begins_atom(rest))) return std::nullopt;
+        if (is_blank(rest) || (is_textual(type_) && !begins_atom(rest))) return std::nullopt;
         return Connector{word.size(), is_or, true};
       }
     }
