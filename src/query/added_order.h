@@ -12,7 +12,10 @@ namespace qvr::query {
 class AddedOrder {
  public:
   bool empty() const { return clicks_.empty(); }
-  void clear() noexcept { *this = {}; }
+  void clear() noexcept {
+    clicks_.clear();
+    list_.clear();
+  }
 
   // Another click: on the column clicked last it turns the direction round, on any other it makes that column the
   // first. Throws without having changed anything.
@@ -32,7 +35,7 @@ class AddedOrder {
     bool ascending;
   };
 
-  void write_list();
+  static void append_to_list(Text& list, const Click& click);
 
   // One for each column: an older click has no effect left.
   std::vector<Click> clicks_;

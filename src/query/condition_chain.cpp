@@ -3,6 +3,7 @@
 namespace qvr::query {
 namespace {
 
+constexpr TextView kAnd = u" and ";
 constexpr std::size_t kSearchedSimply = 4096;
 constexpr std::uint64_t kBase = 0x9E3779B97F4A7C15;
 
@@ -39,10 +40,18 @@ std::uint64_t hash_of(TextView piece) {
 
 }  // namespace
 
-void ConditionChain::clear() noexcept { assign({}); }
+void ConditionChain::clear() noexcept {
+  text_.clear();
+  forget_index();
+}
 
 void ConditionChain::assign(Text text) noexcept {
   text_ = std::move(text);
+  forget_index();
+}
+
+void ConditionChain::forget_index() noexcept {
+  if (indexed_ == 0) return;  // as in nearly every query
   pieces_.clear();
   open_.clear();
   indexed_ = 0;
@@ -51,14 +60,16 @@ void ConditionChain::assign(Text text) noexcept {
 }
 
 bool ConditionChain::add(TextView condition) {
-  if (trimmed(condition).empty()) return false;
-  const Text parenthesised = join({u"(", condition, u")"});
-  if (holds(parenthesised)) return false;
-  if (trimmed(text_).empty()) {
-    assign(parenthesised);
+  if (is_blank(condition)) return false;
+  if (is_blank(text_)) {
+    text_.reserve(condition.size() + 2);  // the last that can fail; memory of former conditions serves again
+    clear();
+    ((text_ += u'(') += condition) += u')';
     return true;
   }
-  text_.append(join({u" and ", parenthesised}));
+  const Text piece = join({kAnd, u"(", condition, u")"});
+  if (holds(TextView(piece).substr(kAnd.size()))) return false;
+  text_ += piece;
   return true;
 }
 

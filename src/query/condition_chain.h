@@ -22,6 +22,7 @@ class ConditionChain {
  private:
   bool holds(TextView parenthesised);
   void catch_up();
+  void forget_index() noexcept;
 
   struct Opening {
     std::size_t position;
