@@ -47,15 +47,12 @@ Text CondicionRowNum(const Engine& engine, std::int32_t count, bool prepend_and)
 }
 
 Text ClausulaAlias(const Engine& engine, TextView alias) {
-  Text clause;
-  append_alias(clause, engine, alias);
-  return clause;
+  const AliasQuotes quotes = alias_quotes(engine);
+  return quotes.known() ? join({quotes.opener, alias, quotes.closer}) : Text();
 }
 
-void append_alias(Text& statement, const Engine& engine, TextView alias) {
-  const auto opener = pick(engine, {u" As [", u" As [", u" \""});
-  const auto closer = pick(engine, {u"]", u"]", u"\""});
-  if (opener) statement.append(*opener).append(alias).append(*closer);
+AliasQuotes alias_quotes(const Engine& engine) {
+  return {pick(engine, {u" As [", u" As [", u" \""}).value_or(u""), pick(engine, {u"]", u"]", u"\""}).value_or(u"")};
 }
 
 Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {

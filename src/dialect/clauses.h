@@ -20,7 +20,13 @@ Text CondicionRowNum(const Engine& engine, std::int32_t count, bool prepend_and)
 
 // The name of a column in the result, to stand behind its expression; no blank at the end.
 Text ClausulaAlias(const Engine& engine, TextView alias);
-void append_alias(Text& statement, const Engine& engine, TextView alias);
+
+// What stands around an alias, for those who write many; nothing for a number that is no engine.
+struct AliasQuotes {
+  TextView opener, closer;
+  bool known() const { return !opener.empty(); }
+};
+AliasQuotes alias_quotes(const Engine& engine);
 
 // The elements joined by the engine's concatenation operator (none for a number that is no engine). Throws failure 5
 // without elements, 9 for an array of no or several dimensions, both meant for the caller; 13 or 94 for what is no

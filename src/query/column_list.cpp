@@ -1,7 +1,5 @@
 #include "query/column_list.h"
 
-#include <algorithm>
-
 #include "dialect/clauses.h"
 #include "dialect/lists.h"
 #include "frame/failure.h"
@@ -13,18 +11,20 @@ namespace {
 constexpr TextView kSeparator = u", ";
 
 Column column_from(TextView expression, TextView descriptor) {
-  Column column;
-  column.type = descriptor.substr(0, 1);
   const char16_t form = descriptor.size() > 1 ? descriptor[1] : u'\0';
-  if (form == u'>') {
-    column.field = descriptor.substr(2);
-    column.named = true;
-  } else {
-    const std::size_t dot = form == u'+' ? expression.rfind(u'.') : Text::npos;
-    column.field = dot == Text::npos ? expression : expression.substr(dot + 1);
+  const TextView type = descriptor.substr(0, 1);
+  if (form == u'>') return {expression, type, descriptor.substr(2), true};
+  const std::size_t dot = form == u'+' ? expression.rfind(u'.') : TextView::npos;
+  return {expression, type, dot == TextView::npos ? expression : expression.substr(dot + 1)};
+}
+
+std::size_t length_of_texts(const Array& list) {
+  std::size_t length = 0;
+  for (const Value& item : list.items) {
+    const Text* text = item.as<Text>();
+    length += text != nullptr ? text->size() : 0;
   }
-  column.expression = expression;
-  return column;
+  return length;
 }
 
 }  // namespace
@@ -33,35 +33,52 @@ ColumnList ColumnList::from_pairs(const Value& pairs) {
   const Array& list = dialect::list_in(pairs);
   ColumnList columns;
   columns.columns_.reserve(list.items.size() / 2);
+  columns.texts_.reserve(length_of_texts(list));
+  Text expression_text, descriptor_text;
   for (std::size_t i = 0; i < list.items.size(); i += 2) {
     const Value& descriptor = dialect::element_at(list, list.lower + static_cast<std::int64_t>(i) + 1);
-    Text expression_text, descriptor_text;
     columns.add(column_from(to_text_view(list.items[i], expression_text), to_text_view(descriptor, descriptor_text)));
   }
   return columns;
 }
 
-const Column& ColumnList::at(std::int64_t position) const {
+void ColumnList::add(const Column& column) {
+  Place place{texts_.size(), 0, 0, 0, column.named};
+  place.type = texts_.append(column.expression).size();
+  place.field = texts_.append(column.type).size();
+  place.end = texts_.append(column.field).size();
+  columns_.push_back(place);
+}
+
+Column ColumnList::operator[](std::size_t index) const {
+  const Place& place = columns_[index];
+  return {between(place.expression, place.type), between(place.type, place.field), between(place.field, place.end),
+          place.named};
+}
+
+Column ColumnList::at(std::int64_t position) const {
   if (position < 1 || position > static_cast<std::int64_t>(columns_.size())) {
     throw RuntimeFailure(failure_number::kSubscript);
   }
-  return columns_[static_cast<std::size_t>(position - 1)];
+  return (*this)[static_cast<std::size_t>(position - 1)];
 }
 
 std::size_t ColumnList::position_of(TextView field) const {
-  const auto found = std::ranges::find_if(columns_, [&](const Column& c) { return equal_no_case(c.field, field); });
-  return found == columns_.end() ? 0 : static_cast<std::size_t>(found - columns_.begin()) + 1;
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    if (equal_no_case((*this)[i].field, field)) return i + 1;
+  }
+  return 0;
 }
 
 void ColumnList::append_select_list(Text& list, const dialect::Engine& engine) const {
-  constexpr std::size_t kAround = 8;  // at most, of separator and alias
-  std::size_t size = list.size();
-  for (const Column& column : columns_) size += column.expression.size() + (column.named ? column.field.size() : 0) + kAround;
-  list.reserve(size);
-  for (const Column& column : columns_) {
-    if (&column != columns_.data()) list += kSeparator;
+  const dialect::AliasQuotes quotes = dialect::alias_quotes(engine);
+  const std::size_t around = kSeparator.size() + quotes.opener.size() + quotes.closer.size();
+  list.reserve(list.size() + texts_.size() + columns_.size() * around);
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    const Column column = (*this)[i];
+    if (i > 0) list += kSeparator;
     list += column.expression;
-    if (column.named) dialect::append_alias(list, engine, column.field);
+    if (column.named && quotes.known()) list.append(quotes.opener).append(column.field).append(quotes.closer);
   }
 }
 

@@ -9,10 +9,11 @@
 
 namespace qvr::query {
 
+// One column; its texts are the list's and stand until the list changes.
 struct Column {
-  Text expression;
-  Text type;   // one letter, or none
-  Text field;  // its name in a record set
+  TextView expression;
+  TextView type;   // one letter, or none
+  TextView field;  // its name in a record set
   bool named = false;  // the statement gives it that name
 };
 
@@ -22,12 +23,12 @@ class ColumnList {
   // name from behind the expression's last ".", ">" gives a name of its own. Throws for what is no such list.
   static ColumnList from_pairs(const Value& pairs);
 
-  void add(Column column) { columns_.push_back(std::move(column)); }
+  void add(const Column& column);
 
   std::size_t size() const { return columns_.size(); }
-  const std::vector<Column>& all() const { return columns_; }
+  Column operator[](std::size_t index) const;
   // The column at this position, from 1; throws failure 9.
-  const Column& at(std::int64_t position) const;
+  Column at(std::int64_t position) const;
   // The position, from 1, of the first column with this field name in any case; 0 for none.
   std::size_t position_of(TextView field) const;
 
@@ -37,7 +38,17 @@ class ColumnList {
   Text group_list(std::size_t count) const;
 
  private:
-  std::vector<Column> columns_;
+  // A column's texts follow each other: its expression, its type, its name.
+  struct Place {
+    std::size_t expression, type, field, end;
+    bool named;
+  };
+
+  TextView between(std::size_t from, std::size_t to) const { return TextView(texts_).substr(from, to - from); }
+
+  // All texts in one block: a query is made in a few allocations, however many columns it has.
+  Text texts_;
+  std::vector<Place> columns_;
 };
 
 }  // namespace qvr::query

@@ -76,59 +76,77 @@ void cSQL20::build_group_by(std::int16_t grouped) {
   fields_.group_by = join({u"GROUP BY ", fields_.columns.group_list(static_cast<std::size_t>(grouped))});
 }
 
-cSQL20::Clause cSQL20::where_clause(bool condition_only, Text& limit) const {
+// At most, of keywords, joiners, blanks and the limit of rows.
+constexpr std::size_t kAroundClauses = 64;
+
+void cSQL20::append_where(Text& statement, bool condition_only) const {
   const TextView original = fields_.where, added = fields_.added_where.text();
-  const TextView keyword = condition_only ? u"" : u"WHERE ";
-  const bool any_original = !trimmed(original).empty(), any_added = !trimmed(added).empty();
-  limit = dialect::CondicionRowNum(fields_.engine, fields_.top, any_original || any_added);
-  if (any_original && any_added) return {keyword, original, u" And ", added, limit};
-  if (any_original) return {keyword, original, u"", u"", limit};
-  if (any_added) return {keyword, u"", u"", added, limit};
-  return limit.empty() ? Clause() : Clause{keyword, u"", u"", u"", limit};
+  const bool any_original = !is_blank(original), any_added = !is_blank(added);
+  const bool limited = fields_.top > 0;
+  const Text limit =
+      limited ? dialect::CondicionRowNum(fields_.engine, fields_.top, any_original || any_added) : Text();
+  if (!any_original && !any_added && limit.empty()) return;
+  if (!condition_only) statement += u"WHERE ";
+  if (any_original) statement += original;
+  if (any_original && any_added) statement += u" And ";
+  if (any_added) statement += added;
+  statement += limit;
 }
 
 // "and" in small letters here and "And" in the WHERE: both are known to those who look for them.
-cSQL20::Clause cSQL20::having_clause(bool condition_only) const {
+void cSQL20::append_having(Text& statement, bool condition_only) const {
   const TextView original = fields_.having, added = fields_.added_having.text();
-  const TextView keyword = condition_only ? u"" : u"HAVING ";
-  const bool any_original = !trimmed(original).empty(), any_added = !trimmed(added).empty();
-  if (any_original && any_added) return {keyword, original, u" and ", added, u""};
-  if (any_original) return {keyword, original, u"", u"", u""};
-  if (any_added) return {keyword, u"", u"", added, u""};
-  return {};
+  const bool any_original = !is_blank(original), any_added = !is_blank(added);
+  if (!any_original && !any_added) return;
+  if (!condition_only) statement += u"HAVING ";
+  if (any_original) statement += original;
+  if (any_original && any_added) statement += u" and ";
+  if (any_added) statement += added;
 }
 
-cSQL20::Clause cSQL20::order_clause(bool list_only) const {
-  const TextView keyword = list_only ? u"" : u"ORDER BY ";
-  if (!fields_.added_order.empty()) return {keyword, fields_.added_order.list(), u"", u"", u""};
-  if (!trimmed(fields_.order).empty()) return {keyword, fields_.order, u"", u"", u""};
-  return {};
+void cSQL20::append_order(Text& statement, bool list_only) const {
+  const TextView order = fields_.added_order.empty() ? fields_.order : fields_.added_order.list();
+  if (is_blank(order)) return;
+  if (!list_only) statement += u"ORDER BY ";
+  statement += order;
+}
+
+// One blank between all parts, also where a part is empty.
+void cSQL20::append_statement(Text& statement) const {
+  (statement += fields_.select) += u' ';
+  (statement += fields_.from) += u' ';
+  append_where(statement, false);
+  statement += u' ';
+  (statement += fields_.group_by) += u' ';
+  append_having(statement, false);
+}
+
+std::size_t cSQL20::longest_statement() const {
+  const Fields& f = fields_;
+  return f.select.size() + f.from.size() + f.where.size() + f.added_where.text().size() + f.group_by.size() +
+         f.having.size() + f.added_having.text().size() + f.order.size() + f.added_order.list().size() + kAroundClauses;
 }
 
 Text cSQL20::ParteWhere(bool SoloCondicion) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteWhere", [&] {
-    Text limit;
-    return where_clause(SoloCondicion, limit).text();
-  });
+  return dialect::or_shown(Text(), kClass, u"ParteWhere", [&] { return current_where(SoloCondicion); });
 }
 
 Text cSQL20::ParteHaving(bool SoloCondicion) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteHaving", [&] { return having_clause(SoloCondicion).text(); });
+  return dialect::or_shown(Text(), kClass, u"ParteHaving", [&] { return current_having(SoloCondicion); });
 }
 
 Text cSQL20::ParteOrder(bool SinClausula) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteOrder", [&] { return order_clause(SinClausula).text(); });
+  return dialect::or_shown(Text(), kClass, u"ParteOrder", [&] { return current_order(SinClausula); });
 }
 
-Text cSQL20::current_order() const { return order_clause(false).text(); }
-
-// One blank between all parts, also where a part is empty.
 Text cSQL20::SQL() const noexcept {
   return or_no_text([&] {
-    Text limit;
-    const Clause w = where_clause(false, limit), h = having_clause(false), o = order_clause(false);
-    return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
-                 fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added, u" ", o.keyword, o.original});
+    Text statement;
+    statement.reserve(longest_statement());
+    append_statement(statement);
+    statement += u' ';
+    append_order(statement, false);
+    return statement;
   });
 }
 
@@ -137,10 +155,30 @@ Text cSQL20::SQLSinOrden() const noexcept {
 }
 
 Text cSQL20::current_statement() const {
-  Text limit;
-  const Clause w = where_clause(false, limit), h = having_clause(false);
-  return join({fields_.select, u" ", fields_.from, u" ", w.keyword, w.original, w.joiner, w.added, w.limit, u" ",
-               fields_.group_by, u" ", h.keyword, h.original, h.joiner, h.added});
+  Text statement;
+  statement.reserve(longest_statement());
+  append_statement(statement);
+  return statement;
+}
+
+Text cSQL20::current_where(bool condition_only) const {
+  Text text;
+  text.reserve(fields_.where.size() + fields_.added_where.text().size() + kAroundClauses);
+  append_where(text, condition_only);
+  return text;
+}
+
+Text cSQL20::current_having(bool condition_only) const {
+  Text text;
+  text.reserve(fields_.having.size() + fields_.added_having.text().size() + kAroundClauses);
+  append_having(text, condition_only);
+  return text;
+}
+
+Text cSQL20::current_order(bool list_only) const {
+  Text text;
+  append_order(text, list_only);
+  return text;
 }
 
 Text cSQL20::SQLOriginal() const noexcept {
@@ -173,9 +211,9 @@ Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
   return or_reported(
       Text(),
       [&] {
-        const Text& type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
+        const TextView type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
         if (type.empty()) throw RuntimeFailure(failure_number::kInvalidArgument);
-        return type;
+        return Text(type);
       },
       [&](const FailureDetail& failure) {
         dialect::show_failure(kClass, join({u"TipoCampo(", NombreCampoRS, u")"}), failure);
@@ -185,7 +223,7 @@ Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
 Text cSQL20::ExpresionOriginal(TextView NombreCampoRS) const noexcept {
   if (!fields_.created) return {};
   return dialect::or_shown(Text(), kClass, u"ExpresionOriginal", [&] {
-    return fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).expression;
+    return Text(fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).expression);
   });
 }
 

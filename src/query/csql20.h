@@ -58,7 +58,7 @@ class cSQL20 final : public iSQL20 {
   // The texts of the members that are named behind them, for a union: it has to know when one could not be made. Throw.
   Text current_statement() const;   // SQLSinOrden
   Text original_statement() const;  // SQLOriginalSinOrden
-  Text current_order() const;       // ParteOrder
+  Text current_order_clause() const { return current_order(false); }  // ParteOrder
   Text definition() const;          // TextoDefinicion
   Text complete_criterion() const;  // CriterioActualCompleto
 
@@ -86,14 +86,17 @@ class cSQL20 final : public iSQL20 {
     bool created = false;
   };
 
-  // A clause as it is now, in pieces.
-  struct Clause {
-    TextView keyword, original, joiner, added, limit;
-    Text text() const { return join({keyword, original, joiner, added, limit}); }
-  };
-  Clause where_clause(bool condition_only, Text& limit) const;
-  Clause having_clause(bool condition_only) const;
-  Clause order_clause(bool list_only) const;
+  Text current_where(bool condition_only) const;
+  Text current_having(bool condition_only) const;
+  Text current_order(bool list_only) const;
+
+  // Append the clauses as they are now, and the statement up to the HAVING, to a text with room for them.
+  void append_where(Text& statement, bool condition_only) const;
+  void append_having(Text& statement, bool condition_only) const;
+  void append_order(Text& statement, bool list_only) const;
+  void append_statement(Text& statement) const;
+  // Units that the statement has at most.
+  std::size_t longest_statement() const;
 
   bool build_select(const Value& pairs) noexcept;
   void build_from_and_where(const QueryRequest& request);

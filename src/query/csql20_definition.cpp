@@ -41,7 +41,8 @@ Text cSQL20::definition() const {
   writer.add_truth(kDistinct, f.distinct);
   writer.add_number(kTop, f.top);
   writer.add_text(kHead, TextView(f.select).substr(0, f.columns_at));
-  for (const query::Column& column : f.columns.all()) {
+  for (std::size_t i = 0; i < f.columns.size(); ++i) {
+    const query::Column column = f.columns[i];
     writer.add_text(kExpression, column.expression);
     writer.add_text(kType, column.type);
     writer.add_text(kField, column.field);
@@ -68,12 +69,8 @@ cSQL20::Fields cSQL20::read_definition(TextView text) const {
   f.select = reader.text(kHead);
   f.columns_at = f.select.size();
   while (reader.next_is(kExpression)) {
-    query::Column column;
-    column.expression = reader.text(kExpression);
-    column.type = reader.text(kType);
-    column.field = reader.text(kField);
-    column.named = true;
-    f.columns.add(std::move(column));
+    const Text expression = reader.text(kExpression), type = reader.text(kType), field = reader.text(kField);
+    f.columns.add({expression, type, field, true});
   }
   f.columns.append_select_list(f.select, f.engine);
   f.from = reader.text(kFrom);

@@ -58,8 +58,8 @@ bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
     const Text type = TipoCampo(NombreCampoRS);  // tells the user when there is no such column
     if (type.empty()) return false;
     const std::size_t position = fields_.columns.position_of(NombreCampoRS);
-    const query::Column& column = fields_.columns.at(static_cast<std::int64_t>(position));
-    const TextView label = Criterio.empty() ? TextView(column.field) : Criterio;
+    const query::Column column = fields_.columns.at(static_cast<std::int64_t>(position));
+    const TextView label = Criterio.empty() ? column.field : Criterio;
     const auto found = query::interpret_search(fields_.engine, {column.expression, type[0]}, TextoBusqueda, label);
     if (!found) return false;
     // In a grouped query the columns behind the grouped ones are totals: no WHERE can compare them.
@@ -99,10 +99,10 @@ void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) n
 // The criterion stays: it still describes what was adopted.
 void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
   or_default(false, [&] {
-    Text limit, where, having, order;
-    if (AdoptarWhere) where = where_clause(true, limit).text();
-    if (AdoptarHaving) having = having_clause(true).text();
-    if (AdoptarOrder) order = order_clause(true).text();
+    Text where, having, order;
+    if (AdoptarWhere) where = current_where(true);
+    if (AdoptarHaving) having = current_having(true);
+    if (AdoptarOrder) order = current_order(true);
     // Nothing fails from here on: all of it is adopted or none.
     if (AdoptarWhere) {
       fields_.where = std::move(where);
@@ -122,7 +122,7 @@ void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool Adop
 
 bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
   return dialect::or_shown(false, kClass, u"AmpliarOrden", [&] {
-    const Text& type = fields_.columns.at(NuevaColumna).type;
+    const TextView type = fields_.columns.at(NuevaColumna).type;
     // Dates begin with the newest; memos cannot be sorted.
     if (!equal_no_case(type, u"M")) fields_.added_order.click(NuevaColumna, !equal_no_case(type, u"F"));
     return false;

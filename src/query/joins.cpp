@@ -14,18 +14,6 @@ bool has_alias(TextView item, TextView alias) {
          equal_no_case(item.substr(item.size() - alias.size()), alias);
 }
 
-// Each item of a comma-separated list, trimmed, until one is accepted.
-template <class Accept>
-TextView first_item(TextView list, Accept&& accept) {
-  for (std::size_t from = 0; from <= list.size();) {
-    const std::size_t comma = std::min(list.find(u',', from), list.size());
-    const TextView item = trimmed(list.substr(from, comma - from));
-    if (accept(item)) return item;
-    from = comma + 1;
-  }
-  return {};
-}
-
 }  // namespace
 
 TextView PalabraJoin(TextView letter) {
@@ -39,10 +27,14 @@ TextView TablaDeCampo(TextView TablasFROM, TextView field) {
   const std::size_t dot = field.rfind(u'.');
   if (dot == TextView::npos || dot == 0) return {};
   const TextView qualifier = trimmed(field.substr(0, dot));
-  bool named = false;
-  first_item(TablasFROM, [&](TextView item) { return named = equal_no_case(item, qualifier); });
-  if (named) return qualifier;
-  const TextView aliased = first_item(TablasFROM, [&](TextView item) { return has_alias(item, qualifier); });
+  TextView aliased;
+  for (std::size_t from = 0; from <= TablasFROM.size();) {
+    const std::size_t comma = std::min(TablasFROM.find(u',', from), TablasFROM.size());
+    const TextView item = trimmed(TablasFROM.substr(from, comma - from));
+    if (equal_no_case(item, qualifier)) return qualifier;  // also where an earlier item has it as its alias
+    if (aliased.empty() && has_alias(item, qualifier)) aliased = item;
+    from = comma + 1;
+  }
   return aliased.empty() ? qualifier : aliased;
 }
 

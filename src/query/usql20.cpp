@@ -94,14 +94,14 @@ bool uSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
 Text uSQL20::SQL() const noexcept {
   return or_default(Text(), [&] {
     if (members_.empty()) return Text();
-    return join({joined(kUnion, &cSQL20::current_statement), u" ", members_.front()->current_order()});
+    return join({joined(kUnion, &cSQL20::current_statement), u" ", members_.front()->current_order_clause()});
   });
 }
 
 Text uSQL20::SQLOriginal() const noexcept {
   return or_default(Text(), [&] {
     if (members_.empty()) return Text();
-    return join({joined(kUnion, &cSQL20::original_statement), u" ", members_.front()->current_order()});
+    return join({joined(kUnion, &cSQL20::original_statement), u" ", members_.front()->current_order_clause()});
   });
 }
 
