@@ -7,6 +7,16 @@ else()
   set(wine_libraries /usr/lib/i386-linux-gnu/wine/i386-windows)
 endif()
 find_program(WIDL_EXECUTABLE ${widl_prefix}-widl REQUIRED)
+# The compiler writes the time into each type library, as a number and as text of the local zone, and knows no
+# SOURCE_DATE_EPOCH; so its clock stands still at that time, or else at one that only a release of the version changes.
+# A library is told apart by its version: the time serves nobody, and one that differs makes equal sources unequal bytes.
+find_program(FAKETIME_EXECUTABLE faketime REQUIRED)
+set(QVR_SOURCE_DATE 1793491200)  # 2.10.24: 1 November 2026, 0:00 UTC
+if(DEFINED ENV{SOURCE_DATE_EPOCH})
+  set(QVR_SOURCE_DATE $ENV{SOURCE_DATE_EPOCH})
+endif()
+set(WIDL_COMMAND ${CMAKE_COMMAND} -E env TZ=UTC LC_ALL=C FAKETIME_FMT=%s
+    ${FAKETIME_EXECUTABLE} -f ${QVR_SOURCE_DATE} ${WIDL_EXECUTABLE})
 set(WIDL_INCLUDES -I/usr/include/wine/wine/windows -L${wine_libraries})
 
 # Compiles IDL to generated/<name>.tlb and generated/<name>.h. `DEPENDS` names what it imports,
@@ -18,8 +28,8 @@ function(qvr_idl idl)
   set(out ${PROJECT_BINARY_DIR}/generated)
   add_custom_command(
     OUTPUT ${out}/${name}.tlb ${out}/${name}.h
-    COMMAND ${WIDL_EXECUTABLE} -t -o ${out}/${name}.tlb ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
-    COMMAND ${WIDL_EXECUTABLE} -h -o ${out}/${name}.h ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
+    COMMAND ${WIDL_COMMAND} -t -o ${out}/${name}.tlb ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
+    COMMAND ${WIDL_COMMAND} -h -o ${out}/${name}.h ${WIDL_INCLUDES} -I${out} -L${out} ${arg_INCLUDES} ${idl}
     DEPENDS ${idl} ${arg_DEPENDS}
     VERBATIM)
 endfunction()
