@@ -1,20 +1,43 @@
 #include "frame/number_text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <iterator>
 
 #include "frame/failure.h"
+#include "frame/float_digits.h"
 
 namespace qvr {
 namespace {
 
-Text widen_upper(const char* first, const char* last) {
-  Text text(first, last);
-  for (char16_t& unit : text) {
-    if (unit == u'e') unit = u'E';
+// The digits with the point behind the one of the magnitude 0, and zeros where there are no digits.
+Text plain(const DecimalDigits& number) {
+  Text text(number.digits.begin(), number.digits.end());
+  if (number.magnitude < 0) {
+    text.insert(0, static_cast<std::size_t>(-number.magnitude), u'0');
+    text.insert(1, 1, u'.');
+    return text;
   }
+  const auto whole = static_cast<std::size_t>(number.magnitude) + 1;
+  if (text.size() < whole) text.resize(whole, u'0');
+  if (text.size() > whole) text.insert(whole, 1, u'.');
+  return text;
+}
+
+// One digit before the point, and at least two digits of exponent.
+Text with_exponent(const DecimalDigits& number) {
+  Text text(number.digits.begin(), number.digits.end());
+  if (text.size() > 1) text.insert(1, 1, u'.');
+  text.append(number.magnitude < 0 ? u"E-" : u"E+");
+  const std::string exponent = std::to_string(std::abs(number.magnitude));
+  if (exponent.size() < 2) text.push_back(u'0');
+  return text.append(exponent.begin(), exponent.end());
+}
+
+Text with_sign(bool negative, Text text) {
+  if (negative) text.insert(0, 1, u'-');
   return text;
 }
 
@@ -30,11 +53,8 @@ template <class Float>
 Text shortest(Float number) {
   if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
   if (number == 0) return u"0";  // also for negative zero
-  const auto format =
-      reads_well_in_digits(std::fabs(number)) ? std::chars_format::fixed : std::chars_format::scientific;
-  std::array<char, 64> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format).ptr;
-  return widen_upper(buffer.data(), end);
+  const DecimalDigits digits = shortest_digits(number);
+  return with_sign(number < 0, reads_well_in_digits(std::fabs(number)) ? plain(digits) : with_exponent(digits));
 }
 
 // Digits of an integer magnitude with the decimal point put `scale` digits from the right, without trailing zeros.
@@ -59,22 +79,31 @@ std::uint32_t divide_by_ten(Decimal& number) {
   return static_cast<std::uint32_t>(rest);
 }
 
-// The power of ten of the number's first digit that is not 0. Only its sign counts for a number out of range, so an
-// exponent beyond measure may be cut.
-long long decimal_magnitude(std::string_view number) {
-  const std::size_t exponent_at = std::min(number.find_first_of("eE"), number.size());
-  const std::string_view digits = number.substr(0, exponent_at);
-  const std::size_t point = std::min(digits.find('.'), digits.size());
-  const std::size_t first = digits.find_first_of("123456789");
-  if (first == std::string_view::npos) return 0;
-  const auto power = static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
-  if (exponent_at == number.size()) return power;
-  const bool negative = number[exponent_at + 1] == '-';
-  const char* from = number.data() + exponent_at + 1 + (negative || number[exponent_at + 1] == '+' ? 1 : 0);
+// The exponent behind the "E" of a number; one beyond measure is cut.
+long long exponent_in(std::string_view text) {
+  const bool negative = text.starts_with('-');
+  text.remove_prefix(negative || text.starts_with('+') ? 1 : 0);
   int exponent = 0;
   constexpr int kBeyondMeasure = 1 << 30;
-  if (std::from_chars(from, number.data() + number.size(), exponent).ec != std::errc()) exponent = kBeyondMeasure;
-  return power + (negative ? -exponent : exponent);
+  if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec != std::errc()) exponent = kBeyondMeasure;
+  return negative ? -exponent : exponent;
+}
+
+// The digits of a number as `number_length` knows them, with the power of ten of the first that is not 0.
+DecimalDigits decimal_digits(std::string_view number) {
+  const std::size_t exponent_at = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view mantissa = number.substr(0, exponent_at);
+  const std::size_t first = mantissa.find_first_of("123456789");
+  if (first == std::string_view::npos) return {};
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  auto power = static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
+  if (exponent_at < number.size()) power += exponent_in(number.substr(exponent_at + 1));
+
+  constexpr long long kFarBeyondAnyNumber = 1'000'000;
+  DecimalDigits result{{}, static_cast<int>(std::clamp(power, -kFarBeyondAnyNumber, kFarBeyondAnyNumber))};
+  const std::string_view significant = mantissa.substr(first, mantissa.find_last_not_of("0.") - first + 1);
+  std::ranges::copy_if(significant, std::back_inserter(result.digits), [](char unit) { return unit != '.'; });
+  return result;
 }
 
 bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
@@ -102,11 +131,11 @@ Text shortest_number(const Decimal& number) {
 
 Text rounded_number(double number, int significant_digits) {
   if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
-  std::array<char, 64> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number == 0 ? 0.0 : number,
-                                 std::chars_format::general, significant_digits)
-                       .ptr;
-  return widen_upper(buffer.data(), end);
+  if (number == 0) return u"0";  // also for negative zero
+  const DecimalDigits digits = rounded_digits(number, significant_digits);
+  constexpr int kSmallestInDigits = -4;  // the magnitude
+  const bool in_digits = digits.magnitude >= kSmallestInDigits && digits.magnitude < significant_digits;
+  return with_sign(number < 0, in_digits ? plain(digits) : with_exponent(digits));
 }
 
 std::size_t number_length(TextView text) {
@@ -137,14 +166,9 @@ double number_prefix(TextView text) {
   text.remove_prefix(start);
   std::string narrow;
   for (char16_t unit : text.substr(0, number_length(text))) narrow.push_back(static_cast<char>(unit));
-  const char* first = narrow.data() + (narrow.starts_with('+') ? 1 : 0);  // from_chars takes no plus sign
-  double number = 0;
-  const auto [end, error] = std::from_chars(first, narrow.data() + narrow.size(), number);
-  if (error == std::errc::result_out_of_range) {
-    if (decimal_magnitude(narrow) > 0) throw RuntimeFailure(failure_number::kOverflow);
-    return 0;  // too small for a double
-  }
-  return number == 0 ? 0 : number;  // no negative zero
+  const auto number = nearest_double(decimal_digits(narrow));
+  if (!number) throw RuntimeFailure(failure_number::kOverflow);
+  return narrow.starts_with('-') && *number != 0 ? -*number : *number;  // no negative zero
 }
 
 double number_of(Currency amount) { return static_cast<double>(amount.scaled) / 10000; }
