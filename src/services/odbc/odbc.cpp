@@ -54,6 +54,12 @@ void Handle::check(int result) const {
   fail(type_, handle_);
 }
 
+Statement::Statement(const Handle& connection, std::int32_t limit)
+    : handle(SQL_HANDLE_STMT, connection.get()), timeout(limit) {
+  // A driver without a time limit of its own has none; that is no reason to refuse the command.
+  SQLSetStmtAttrW(handle.get(), SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(limit)), 0);
+}
+
 namespace {
 
 // A connection handle is only given out once the environment knows its version.
@@ -69,6 +75,7 @@ Connection::Connection()
 
 Connection::~Connection() {
   if (!open_) return;
+  kept_.reset();
   // The driver refuses to disconnect in a transaction; outside of one this does nothing.
   SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
   SQLDisconnect(connection_.get());
@@ -87,6 +94,7 @@ void Connection::open(TextView connection_string, std::int32_t login_timeout) {
 
 void Connection::close() {
   if (!open_) return;
+  kept_.reset();
   connection_.check(SQLDisconnect(connection_.get()));
   open_ = false;
 }
@@ -98,6 +106,16 @@ void Connection::set_autocommit(bool on) {
 
 void Connection::end_transaction(bool commit) {
   connection_.check(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), commit ? SQL_COMMIT : SQL_ROLLBACK));
+}
+
+std::unique_ptr<Statement> Connection::statement(std::int32_t timeout) {
+  std::unique_ptr<Statement> kept = std::move(kept_);
+  if (kept != nullptr && kept->timeout == timeout) return kept;
+  return std::make_unique<Statement>(connection_, timeout);
+}
+
+void Connection::keep(std::unique_ptr<Statement> used) {
+  if (SQLFreeStmt(used->handle.get(), SQL_CLOSE) == SQL_SUCCESS) kept_ = std::move(used);
 }
 
 }  // namespace qvr::odbc

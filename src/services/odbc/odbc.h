@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -39,6 +40,14 @@ class Handle {
   void* handle_ = nullptr;
 };
 
+// What commands are executed by. Its time limit is that of its first command and never changes.
+struct Statement {
+  Statement(const Handle& connection, std::int32_t timeout);  // in seconds, 0: no limit
+
+  Handle handle;
+  const std::int32_t timeout;
+};
+
 class Connection {
  public:
   Connection();
@@ -52,9 +61,16 @@ class Connection {
 
   const Handle& handle() const { return connection_; }
 
+  // A statement with this time limit: the one that was kept or, where there is none such, a new one.
+  std::unique_ptr<Statement> statement(std::int32_t timeout);
+  // Keeps it for the next command, without its results; making one costs the driver manager nearly as much as a short
+  // command. Not for one that has parameters bound or whose command failed: what it carries on could meet the next.
+  void keep(std::unique_ptr<Statement> used);
+
  private:
   Handle environment_;
   Handle connection_;
+  std::unique_ptr<Statement> kept_;  // gone before its connection is: closing frees all that it has
   bool open_ = false;
 };
 

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <limits>
+#include <memory>
+#include <utility>
 
 #include "services/odbc/odbc_api.h"
 #include "services/odbc/odbc_date.h"
@@ -115,11 +117,9 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
 
 }  // namespace
 
-ResultSet execute(const Connection& connection, TextView text, const std::vector<Value>& parameters,
-                  std::int32_t timeout) {
-  const Handle statement(SQL_HANDLE_STMT, connection.handle().get());
-  // A driver without a time limit of its own has none; that is no reason to refuse the command.
-  SQLSetStmtAttrW(statement.get(), SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(timeout)), 0);
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
+  std::unique_ptr<Statement> used = connection.statement(timeout);
+  const Handle& statement = used->handle;
   const std::list<BoundValue> bound = bind(statement, parameters);
   statement.check(SQLExecDirectW(statement.get(), wide(text), units(text)));
 
@@ -134,6 +134,7 @@ ResultSet execute(const Connection& connection, TextView text, const std::vector
     statement.check(SQLRowCount(statement.get(), &affected));
     result.affected = affected;
   }
+  if (parameters.empty()) connection.keep(std::move(used));
   return result;
 }
 

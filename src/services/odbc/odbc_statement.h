@@ -18,7 +18,7 @@ struct ResultSet {
 };
 
 // `parameters` stand for the `?` of the text, in order, as input only. `timeout` in seconds, 0: no limit.
-ResultSet execute(const Connection& connection, TextView text, const std::vector<Value>& parameters,
-                  std::int32_t timeout);
+// What a command leaves behind, results and failure, never meets the next one.
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
 
 }  // namespace qvr::odbc
