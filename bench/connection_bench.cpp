@@ -1,5 +1,5 @@
-// What opening a connection file costs beside the derivation of its key, on a thread that has opened none yet and on one
-// that has opened it before.
+// What opening a connection file costs beside the derivation of its key, on a thread that has opened none yet and on
+// one that has opened it before.
 
 #include <array>
 #include <filesystem>

@@ -1,6 +1,6 @@
-// What a late-bound call costs beside the system's own dispatch of the same member (ITypeInfo::Invoke on the same object)
-// and beside the early-bound call, for a member of each kind of signature. The system's dispatch gets every argument by
-// reference and of the very type, since it takes no other.
+// What a late-bound call costs beside the system's own dispatch of the same member (ITypeInfo::Invoke on the same
+// object) and beside the early-bound call, for a member of each kind of signature. The system's dispatch gets every
+// argument by reference and of the very type, since it takes no other.
 #include "automation/library.h"
 #include "automation/timing.h"
 
@@ -46,8 +46,8 @@ VARIANT texts(std::initializer_list<const wchar_t*> items) {
 
 // One member: its arguments last to first, and the call through its slot.
 template <class I, class Early>
-void compare(Times& times, I* object, const wchar_t* member, const char* kind, WORD flags, std::vector<VARIANT> arguments,
-             Early&& early) {
+void compare(Times& times, I* object, const wchar_t* member, const char* kind, WORD flags,
+             std::vector<VARIANT> arguments, Early&& early) {
   ComPtr<ITypeInfo> info;
   if (FAILED(object->GetTypeInfo(0, LOCALE_USER_DEFAULT, &info))) give_up("no type information");
   auto* name = const_cast<LPOLESTR>(member);

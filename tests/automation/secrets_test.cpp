@@ -79,7 +79,8 @@ void use_early(_QVRcfp& cfp) {
   Password admin, client;
   VARIANT_BOOL done = VARIANT_FALSE, yes = VARIANT_TRUE;
   BSTR given = nullptr;
-  EXPECT_EQ(cfp.Asignar(&id, &engine, &text, &text, &text, &text, admin.out(), &text, client.out(), &text, &done), S_OK);
+  EXPECT_EQ(cfp.Asignar(&id, &engine, &text, &text, &text, &text, admin.out(), &text, client.out(), &text, &done),
+            S_OK);
   cfp.CadenaADO(&id, &yes, &given);
   EXPECT_GT(SysStringLen(given), kLength);
   Password::forget(std::exchange(given, nullptr));
@@ -105,7 +106,8 @@ void use_late(const LateObject& cfp) {
   DISPID id = 0;
   ASSERT_EQ(cfp.get()->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id), S_OK);
   VARIANT result{};
-  ASSERT_EQ(cfp.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, &result, nullptr, nullptr),
+  ASSERT_EQ(cfp.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, &result, nullptr,
+                              nullptr),
             S_OK);
   EXPECT_GT(SysStringLen(result.bstrVal), kLength);
   Password::forget(result.bstrVal);

@@ -9,7 +9,9 @@
 namespace qvr::tests {
 namespace {
 
-bool is_letter(char character) { return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z'); }
+bool is_letter(char character) {
+  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
 
 // The check line is compared without regard to case, so the bit that makes a small letter a capital says nothing there;
 // it changes none of the values either.
