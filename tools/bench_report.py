@@ -17,7 +17,11 @@ import sys
 BEGIN, END = "<!-- figures -->", "<!-- end of figures -->"
 SCALE = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
-# What has an aim: question, file, measured, argument, beside what, aim ("<" at most, ">" at least this many times as fast).
+# In place of what a time stands beside: the benchmark's own count, which is a multiple already.
+PEAK = "peak"
+
+# What has an aim: question, file, measured, argument, beside what, aim ("<" at most, ">" at least this many times as
+# fast).
 AIMS = [
     ("`Crear` and `SQL`, 10 columns and 4 tables: times faster than the faster peer", "query", "CrearAndSQL", "10", "Knex", ">10"),
     ("The same beside copying the statement", "query", "CrearAndSQL", "10", "Copy", "<3"),
@@ -31,6 +35,7 @@ AIMS = [
     ("100,000 INSERTs into SQLite beside a bare ODBC loop", "inserts", "EjecutarComandos", "100000", "OdbcLoop", "<1.2"),
     ("The sqlite3 shell beside that loop", "inserts", "Shell", "100000", "OdbcLoop", ""),
     ("Preparing scripts of 100 MB beside one copy a pass", "loading", "Prepare", "50", "CopyForEachPass", "<2"),
+    ("Peak memory of loading and preparing scripts of 100 MB beside their text", "loading", "CargarDefinicion", "50", PEAK, "<3"),
     ("Opening a connection file the first time beside its key derivation", "connection", "FirstCrear", "", "KeyDerivation", ""),
     ("... and again", "connection", "SecondCrear", "", "KeyDerivation", ""),
 ]
@@ -42,14 +47,28 @@ for name in ("Ov", "QVRcfp", "cSQL20", "uSQL20", "QVRScr", "QVRprp"):
 AIMS.append(("The first object of a thread beside one that does nothing", "creation", "Create", "first on a thread", "Nothing", ""))
 
 
-def times(path):
-    """Nanoseconds by name and argument, in the order of the file."""
-    found = {}
+def measured_runs(path):
+    """Name, argument and result of each benchmark, in the order of the file."""
     for run in json.loads(path.read_text(encoding="utf-8"))["benchmarks"]:
         name, _, argument = run["name"].partition("/")
-        argument = re.sub("/iterations:.*|/real_time", "", argument)
+        yield name, re.sub("/iterations:.*|/real_time", "", argument), run
+
+
+def times(path):
+    """Nanoseconds by name and argument."""
+    found = {}
+    for name, argument, run in measured_runs(path):
         measured = run["real_time"] if "real_time" in run["name"] else run["cpu_time"]
         found.setdefault(name, {})[argument] = measured * SCALE[run["time_unit"]]
+    return found
+
+
+def peaks(path):
+    """What counts its memory, by name and argument."""
+    found = {}
+    for name, argument, run in measured_runs(path):
+        if PEAK in run:
+            found.setdefault(name, {})[argument] = run[PEAK]
     return found
 
 
@@ -57,18 +76,21 @@ def number(value):
     return f"{value:.3g}" if value < 1000 else f"{value:,.0f}"
 
 
-def aim_rows(results):
+def aim_rows(results, memory):
     yield "| what | ratio | aim | |"
     yield "|---|---|---|---|"
     for question, file, name, argument, base, aim in AIMS:
-        measured, beside = results[file][name][argument], results[file][base][argument]
+        if base == PEAK:
+            measured, beside = memory[file][name][argument], 1
+        else:
+            measured, beside = results[file][name][argument], results[file][base][argument]
         ratio = beside / measured if aim.startswith(">") else measured / beside
         met = "" if not aim else "met" if (ratio >= float(aim[1:]) if aim[0] == ">" else ratio <= float(aim[1:])) else "missed"
         words = "" if not aim else f"{'at least' if aim[0] == '>' else 'at most'} {aim[1:]}"
         yield f"| {question} | {number(ratio)} | {words} | {met} |"
 
 
-def table(title, runs):
+def table(title, runs, memory):
     arguments = list(next(iter(runs.values())))
     base = next(iter(runs.values()))
     yield f"### {title}"
@@ -80,6 +102,9 @@ def table(title, runs):
         cells = ["-" if a not in by_argument else f"{number(by_argument[a])} ns" if first else number(by_argument[a] / base[a])
                  for a in arguments]
         yield f"| {name} | " + " | ".join(cells) + " |"
+    for name, by_argument in memory.items():
+        cells = ["-" if a not in by_argument else number(by_argument[a]) for a in arguments]
+        yield f"| {name}, peak memory | " + " | ".join(cells) + " |"
     yield ""
 
 
@@ -93,11 +118,14 @@ def machine():
 
 def main():
     folder, document = map(pathlib.Path, sys.argv[1:])
-    results = {path.stem: times(path) for path in sorted(folder.glob("*.json"))}
-    lines = [machine(), "", *aim_rows(results), ""]
-    lines += ["The first row of each table below is in nanoseconds, the others are multiples of it.", ""]
+    paths = sorted(folder.glob("*.json"))
+    results = {path.stem: times(path) for path in paths}
+    memory = {path.stem: peaks(path) for path in paths}
+    lines = [machine(), "", *aim_rows(results, memory), ""]
+    lines += ["The first row of each table below is in nanoseconds, the others are multiples of it. Peak memory is a",
+              "multiple of the text's: two bytes for each unit of UTF-16.", ""]
     for title, runs in results.items():
-        lines += table(title, runs)
+        lines += table(title, runs, memory[title])
     text = document.read_text(encoding="utf-8")
     before, rest = text.split(BEGIN)
     after = rest.split(END)[1]

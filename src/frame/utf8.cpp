@@ -65,8 +65,14 @@ std::string to_utf8(TextView text) {
 }
 
 std::optional<Text> from_utf8(std::string_view bytes) {
+  // As many as there will be: for some scripts the bytes are three times as many.
+  std::size_t units = 0;
+  for (const char each : bytes) {
+    const auto byte = static_cast<unsigned char>(each);
+    units += (byte & 0xC0) == 0x80 ? 0u : byte < 0xF0 ? 1u : 2u;
+  }
   Text text;
-  text.reserve(bytes.size());
+  text.reserve(units);
   for (std::size_t i = 0; i < bytes.size();) {
     const auto lead = read_lead(static_cast<unsigned char>(bytes[i++]));
     if (!lead) return std::nullopt;

@@ -24,14 +24,19 @@ Text QVRScr::load(Body&& body) noexcept {
 }
 
 Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names) {
-  Text text;
+  std::vector<Text> texts;
+  std::size_t size = 0;
   for (const Text& name : names) {
     events_.Progreso(join({u"Procesando ", name}));
-    const auto read = thread_state().script_reader().Leer(ID, join({Ruta, u"\\", name}));
+    auto read = thread_state().script_reader().Leer(ID, join({Ruta, u"\\", name}));
     if (!read || read->empty()) throw RuntimeFailure(failure_number::kFile);
-    text.append(*read).append(kLineBreak);
+    size += read->size() + kLineBreak.size();
+    texts.push_back(std::move(*read));
   }
-  return text;
+  Text joined;
+  joined.reserve(size);  // at once: a text that grows is there several times over
+  for (const Text& each : texts) joined.append(each).append(kLineBreak);
+  return joined;
 }
 
 Text QVRScr::prepared(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, bool Encri) {

@@ -1,26 +1,32 @@
 #include "services/builtin_script_reader.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "frame/failure.h"
 #include "services/script_text.h"
 
 namespace qvr::services {
 
+// In pieces, since nobody tells the size before: a buffer that grows is there up to three times over.
 std::string script_bytes(Files& files, TextView Ruta) {
   constexpr std::size_t kAtOnce = std::size_t{1} << 20, kMost = BuiltinScriptReader::kLargest + 1;
   const auto file = files.open(Ruta);
-  std::string bytes;
-  for (std::size_t filled = 0; filled < kMost;) {
-    bytes.resize(std::min(filled + kAtOnce, kMost));
-    const std::size_t wanted = bytes.size() - filled;
-    const std::size_t count = file->read(std::span(bytes).subspan(filled));
-    filled += count;
-    if (count == wanted) continue;
-    bytes.resize(filled);
-    return bytes;
+  std::vector<std::string> pieces;
+  std::size_t size = 0;
+  for (bool whole = false; !whole;) {
+    std::string& piece = pieces.emplace_back(std::min(kAtOnce, kMost - size), '\0');
+    const std::size_t count = file->read(piece);
+    whole = count < piece.size();
+    piece.resize(count);
+    size += count;
+    if (size == kMost) throw RuntimeFailure(failure_number::kFile);
   }
-  throw RuntimeFailure(failure_number::kFile);
+  if (pieces.size() == 1) return std::move(pieces.front());
+  std::string bytes;
+  bytes.reserve(size);
+  for (const std::string& piece : pieces) bytes += piece;
+  return bytes;
 }
 
 std::optional<Text> BuiltinScriptReader::Leer(TextView, TextView Ruta) {

@@ -10,7 +10,7 @@ namespace qvr::services {
 
 class BuiltinScriptReader : public ScriptReader {
  public:
-  // A file beyond this is refused: what is read is held in memory several times over while it is prepared.
+  // A file beyond this is refused: what is read is held in memory up to three times over while it is prepared.
   // A 32-bit process has less room for that.
   static constexpr std::size_t kLargest = std::size_t{sizeof(void*) == 4 ? 128 : 512} << 20;
 
