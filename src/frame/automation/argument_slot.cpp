@@ -49,6 +49,8 @@ std::size_t size_of(VARTYPE type) {
   }
 }
 
+bool passes_on(VARTYPE type) { return type == VT_BSTR || size_of(type) > 0; }
+
 // A value of the very type, by value or by reference. The system's conversion would copy it twice, and leave a copy of
 // what may be a password in freed memory.
 HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
@@ -66,7 +68,7 @@ HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
 
 HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
   const auto given = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
-  if (given == type && (type == VT_BSTR || size_of(type) > 0)) return take_same(target, source, type);
+  if (given == type && passes_on(type)) return take_same(target, source, type);
   const HRESULT result =
       VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
   return SUCCEEDED(result) ? S_OK : refusal(result);
@@ -106,15 +108,28 @@ HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
   return take_typed(*held_.get(), number, type_, LOCALE_USER_DEFAULT);
 }
 
-// An array of the caller's is not copied: members read it once, and those that give values back put them into its
-// elements. By way of the caller's variant, which can hold something else by then.
-void ArgumentSlot::refer_to(const VARIANT& array) noexcept {
-  if (array.vt & VT_BYREF) {
-    std::memcpy(held_.get(), &array, sizeof array);
-    return;
+// The variable that the member gets itself, if there is one. Only what no host code can take away meanwhile: a typed
+// variable keeps its type, while a text inside a variant goes when another value comes. An object is held during the
+// call. A variant is passed on with what it holds by value, also an array, which members that give values back fill.
+void* ArgumentSlot::callers_variable(const VARIANT& argument, const VARIANT& inner) const noexcept {
+  if (!by_reference_ || !(argument.vt & VT_BYREF)) return nullptr;
+  if (type_ != VT_VARIANT) return inner.vt == (VT_BYREF | type_) && passes_on(type_) ? inner.byref : nullptr;
+  const bool of_value = inner.vt == VT_BSTR || OwnedVariant::holds_nothing(inner.vt) ||
+                        (inner.vt & (VT_ARRAY | VT_BYREF)) == VT_ARRAY;
+  return of_value ? const_cast<VARIANT*>(&inner) : nullptr;
+}
+
+HRESULT ArgumentSlot::convert(const Parameter& parameter, const VARIANT* inner, LCID locale) noexcept {
+  if (inner == nullptr) return take_missing(parameter);
+  if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), *inner);
+  if (type_ != VT_VARIANT) return take_typed(*held_.get(), *inner, type_, usable(locale));
+  // An array in a typed variable, which is not copied either.
+  if (by_reference_ && (inner->vt & VT_BYREF) && (inner->vt & VT_ARRAY)) {
+    std::memcpy(held_.get(), inner, sizeof *inner);
+    return S_OK;
   }
-  held_->vt = VT_BYREF | VT_VARIANT;
-  held_->pvarVal = const_cast<VARIANT*>(&array);
+  const HRESULT copied = copy_content(*held_.get(), *inner);
+  return SUCCEEDED(copied) ? S_OK : refusal(copied);
 }
 
 HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept {
@@ -123,39 +138,30 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   const VARIANT* inner = argument != nullptr ? innermost(*argument) : nullptr;
   if (argument != nullptr && inner == nullptr) return DISP_E_TYPEMISMATCH;
   if (inner != nullptr && (inner->vt & VT_BYREF) && inner->byref == nullptr) return DISP_E_TYPEMISMATCH;
-  HRESULT result = S_OK;
-  if (is_missing(inner)) {
-    result = take_missing(parameter);
-  } else if (type_ == VT_VARIANT && by_reference_ && (argument->vt & VT_BYREF) && (inner->vt & VT_ARRAY)) {
-    refer_to(*inner);
-  } else if (type_ == VT_VARIANT) {
-    result = copy_content(*held_.get(), *inner);
-    if (FAILED(result)) result = refusal(result);
-  } else if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) {
-    result = take_object(*held_.get(), *inner);
-  } else {
-    result = take_typed(*held_.get(), *inner, type_, usable(locale));
-  }
-  std::memcpy(&before_, held_.get(), sizeof before_);
+  if (is_missing(inner)) inner = nullptr;
+  if (inner != nullptr) variable_ = callers_variable(*argument, *inner);
+  if (variable_ != nullptr) return S_OK;
+  const HRESULT result = convert(parameter, inner, locale);
+  if (by_reference_) std::memcpy(&before_, held_.get(), sizeof before_);
   return result;
 }
 
-VARTYPE ArgumentSlot::type_passed() const noexcept {
-  return by_reference_ ? static_cast<VARTYPE>(VT_BYREF | type_) : type_;
-}
-
-VARIANT ArgumentSlot::as_passed() noexcept {
-  if (!by_reference_) return *held_;
-  VARIANT passed;
-  passed.vt = type_passed();
-  passed.byref = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
-  return passed;
+Word* ArgumentSlot::put_words(Word* words) noexcept {
+  void* address = variable_;
+  if (address == nullptr) address = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
+  const std::size_t count = by_reference_ ? 1 : words_by_value(type_).value_or(0);
+  if (by_reference_ || (type_ == VT_VARIANT && count == 1)) {
+    *words = reinterpret_cast<Word>(address);
+  } else {
+    std::memcpy(words, address, count * sizeof(Word));
+  }
+  return words + count;
 }
 
 bool ArgumentSlot::changed() const noexcept { return std::memcmp(&before_, &*held_, sizeof before_) != 0; }
 
 void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
-  if (!by_reference_ || !(argument.vt & VT_BYREF) || !changed()) return;
+  if (variable_ != nullptr || !by_reference_ || !(argument.vt & VT_BYREF) || !changed()) return;
   VARIANT* target = const_cast<VARIANT*>(innermost(argument));
   if (target == &argument || (target->vt & VT_BYREF)) {
     const auto type = static_cast<VARTYPE>(target->vt & ~VT_BYREF);

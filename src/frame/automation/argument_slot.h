@@ -1,32 +1,35 @@
-// Storage of our own for one argument of a late-bound call.
+// One argument of a late-bound call, as the member takes it.
 #pragma once
 
 #include "frame/automation/signature.h"
+#include "frame/automation/slot_call.h"
 #include "frame/automation/variant.h"
 
 namespace qvr::automation {
 
+// A variable of the very type that the parameter has is passed on, as an early-bound caller passes it. Everything else
+// is converted into storage of the slot's own and given back from there.
 class ArgumentSlot {
  public:
   // Converts the argument (null or "missing": left out) to the parameter's type.
   HRESULT take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept;
 
-  // What the member is called with: the value, or its address where the parameter is by reference. Valid as long as
-  // the slot stays where it is.
-  VARIANT as_passed() noexcept;
-  // The parameter's type, not that of a value in a variant.
-  VARTYPE type_passed() const noexcept;
+  // Writes what the member is called with: the value, or its address where the parameter is by reference. Valid as long
+  // as the slot stays where it is. The place behind the last word.
+  Word* put_words(Word* words) noexcept;
 
   // Writes the value to the caller's variable when the argument came by reference and the member changed it.
   void give_back(VARIANT& argument, LCID locale) noexcept;
 
  private:
-  void refer_to(const VARIANT& array) noexcept;
+  void* callers_variable(const VARIANT& argument, const VARIANT& inner) const noexcept;
+  HRESULT convert(const Parameter& parameter, const VARIANT* inner, LCID locale) noexcept;
   HRESULT take_missing(const Parameter& parameter) noexcept;
   bool changed() const noexcept;
 
   OwnedVariant held_;
-  VARIANT before_{};  // bits of the value as it was taken; compared, never released
+  VARIANT before_;  // bits of the value as it was taken, where it is by reference; compared, never released
+  void* variable_ = nullptr;  // the caller's, passed on
   VARTYPE type_ = VT_EMPTY;
   bool by_reference_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 #include "frame/automation/argument_slot.h"
 
@@ -10,8 +11,26 @@ namespace {
 
 constexpr std::size_t kMost = Signatures::kMostParameters;
 
-// Where each parameter's argument is in rgvarg; -1 for one that was left out.
+// Where each parameter's argument is in rgvarg; -1 for one that was left out. As many as the member has parameters.
 using Positions = std::array<int, kMost>;
+
+// As many slots as the member has parameters: to make and end all that there is room for would cost more than the call.
+class Slots {
+ public:
+  explicit Slots(std::size_t count) noexcept : count_(count) {
+    std::uninitialized_default_construct_n(&slots_[0], count_);
+  }
+  ~Slots() { std::destroy_n(&slots_[0], count_); }
+  Slots(const Slots&) = delete;
+  Slots& operator=(const Slots&) = delete;
+  ArgumentSlot& operator[](std::size_t at) noexcept { return slots_[at]; }
+
+ private:
+  union {
+    ArgumentSlot slots_[kMost];
+  };
+  std::size_t count_;
+};
 
 HRESULT refuse(HRESULT result, UINT index, const LateCall& call) {
   if (call.wrong_argument != nullptr) *call.wrong_argument = index;
@@ -42,7 +61,7 @@ HRESULT place_named(const Member& member, const LateCall& call, Positions& posit
 // Named arguments come first in rgvarg, the others behind them, last one first.
 HRESULT place_arguments(const Member& member, const LateCall& call, Positions& positions) {
   const DISPPARAMS& given = *call.arguments;
-  positions.fill(-1);
+  std::fill_n(positions.begin(), member.parameters.size(), -1);
   if (given.cNamedArgs > given.cArgs || given.cArgs > member.parameters.size()) return DISP_E_BADPARAMCOUNT;
   if (given.cArgs > 0 && given.rgvarg == nullptr) return E_INVALIDARG;
   if (given.cNamedArgs > 0 && given.rgdispidNamedArgs == nullptr) return E_INVALIDARG;
@@ -58,7 +77,8 @@ HRESULT place_arguments(const Member& member, const LateCall& call, Positions& p
 
 class Call {
  public:
-  Call(const Member& member, const LateCall& late) : member_(member), late_(late) {}
+  Call(const Member& member, const LateCall& late)
+      : member_(member), late_(late), slots_(member.parameters.size()) {}
 
   HRESULT run(void* object) {
     HRESULT result = place_arguments(member_, late_, positions_);
@@ -80,30 +100,19 @@ class Call {
   }
 
   HRESULT dispatch(void* object) {
-    std::array<VARTYPE, kMost + 1> types{};
-    std::array<VARIANT, kMost + 1> values;
-    std::array<VARIANT*, kMost + 1> pointers{};
-    UINT count = 0;
-    for (std::size_t i = 0; i < member_.parameters.size(); ++i) {
-      types[count] = slots_[i].type_passed();
-      values[count++] = slots_[i].as_passed();
-    }
+    std::array<Word, kMostWords> words;
+    Word* end = words.data();
+    for (std::size_t i = 0; i < member_.parameters.size(); ++i) end = slots_[i].put_words(end);
     OwnedVariant answer;
-    answer->vt = member_.result;
-    if (member_.result != VT_EMPTY) {
-      VARIANT& passed = values[count++];
-      passed.vt = static_cast<VARTYPE>(VT_BYREF | member_.result);
-      passed.byref = member_.result == VT_VARIANT ? static_cast<void*>(answer.get()) : &answer->llVal;
-      types[count - 1] = passed.vt;
-      if (member_.result == VT_VARIANT) answer->vt = VT_EMPTY;
+    if (member_.result == VT_VARIANT) {
+      *end++ = reinterpret_cast<Word>(answer.get());
+    } else if (member_.result != VT_EMPTY) {
+      answer->vt = member_.result;
+      *end++ = reinterpret_cast<Word>(&answer->llVal);
     }
-    for (UINT i = 0; i < count; ++i) pointers[i] = &values[i];
-    VARIANT returned;
-    VariantInit(&returned);
-    const HRESULT called = DispCallFunc(object, static_cast<ULONG_PTR>(member_.slot_offset), CC_STDCALL, VT_ERROR,
-                                        count, types.data(), pointers.data(), &returned);
-    if (FAILED(called)) return called;
-    if (FAILED(returned.scode)) return raise(returned.scode);
+    const auto count = static_cast<std::size_t>(end - words.data());
+    const HRESULT result = call_slot(object, member_.slot_offset, words.data(), count);
+    if (FAILED(result)) return raise(result);
     if (late_.result != nullptr) *late_.result = answer.release();
     return S_OK;
   }
@@ -131,8 +140,8 @@ class Call {
 
   const Member& member_;
   const LateCall& late_;
-  Positions positions_{};
-  std::array<ArgumentSlot, kMost> slots_;
+  Positions positions_;
+  Slots slots_;
 };
 
 }  // namespace
@@ -141,7 +150,7 @@ HRESULT invoke(const Signatures& signatures, void* object, const LateCall& call)
   if (call.arguments == nullptr) return E_INVALIDARG;
   const Member* member = signatures.called(call.id, call.flags);
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
-  if (call.result != nullptr) VariantInit(call.result);
+  if (call.result != nullptr) call.result->vt = VT_EMPTY;
   return Call(*member, call).run(object);
 }
 

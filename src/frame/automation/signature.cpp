@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <memory>
+#include <ranges>
+#include <utility>
 
 #include "frame/automation/late_failure.h"
+#include "frame/automation/slot_call.h"
 #include "frame/automation/text_bstr.h"
 #include "frame/automation/type_library.h"
 
@@ -15,6 +18,9 @@ bool equal_names(std::wstring_view a, std::wstring_view b) noexcept {
            return x == y || fold(static_cast<char16_t>(x)) == fold(static_cast<char16_t>(y));
          });
 }
+
+// An id is a base, which differs by kind, and the member's position.
+std::size_t position_in(DISPID id) noexcept { return static_cast<std::uint32_t>(id) & 0xFFFF; }
 
 // A type named elsewhere: enumerations are numbers, all else that signatures name is an object.
 VARTYPE named_type(ITypeInfo& info, HREFTYPE reference) {
@@ -71,11 +77,23 @@ void add_parameters(Member& member, ITypeInfo& info, const FUNCDESC& function, c
   }
 }
 
+// What the call's own storage has room for, and passes.
+void require_callable(const Member& member) {
+  std::size_t words = 1;  // of the result
+  for (const Parameter& parameter : member.parameters) {
+    const auto needed = parameter.by_reference ? 1 : words_by_value(parameter.type);
+    if (!needed) throw RuntimeFailure(failure_number::kTypeMismatch);
+    words += *needed;
+  }
+  const bool fits = member.parameters.size() <= Signatures::kMostParameters && words <= kMostWords;
+  if (!fits) throw RuntimeFailure(failure_number::kSubscript);
+}
+
 Member read_member(ITypeInfo& info, const FUNCDESC& function) {
   Member member;
   member.id = function.memid;
   member.kind = static_cast<WORD>(function.invkind);
-  member.slot_offset = static_cast<SHORT>(function.oVft & ~3);
+  member.slot_offset = static_cast<std::size_t>(function.oVft & ~3);
   OwnedBstr names[Signatures::kMostParameters + 2];
   BSTR raw[std::size(names)] = {};
   UINT count = 0;
@@ -83,7 +101,7 @@ Member read_member(ITypeInfo& info, const FUNCDESC& function) {
   for (UINT i = 0; i < count; ++i) *names[i].out() = raw[i];
   member.name.assign(raw[0], SysStringLen(raw[0]));
   add_parameters(member, info, function, raw, count);
-  if (member.parameters.size() > Signatures::kMostParameters) throw RuntimeFailure(failure_number::kSubscript);
+  require_callable(member);
   return member;
 }
 
@@ -112,6 +130,11 @@ Signatures::Signatures(REFIID id) {
     const std::unique_ptr<FUNCDESC, decltype(release)> keep(function, release);
     members_.push_back(read_member(*info.Get(), *function));
   }
+  for (Member& member : members_ | std::views::reverse) {
+    const std::size_t at = position_in(member.id);
+    if (at >= at_position_.size()) at_position_.resize(at + 1, nullptr);
+    member.next = std::exchange(at_position_[at], &member);
+  }
 }
 
 const Member* Signatures::named(std::wstring_view name) const noexcept {
@@ -120,8 +143,10 @@ const Member* Signatures::named(std::wstring_view name) const noexcept {
 }
 
 const Member* Signatures::called(DISPID id, WORD flags) const noexcept {
-  const auto found = std::ranges::find_if(members_, [&](const Member& m) { return m.id == id && (m.kind & flags); });
-  return found == members_.end() ? nullptr : &*found;
+  const std::size_t at = position_in(id);
+  const Member* member = at < at_position_.size() ? at_position_[at] : nullptr;
+  while (member != nullptr && (member->id != id || !(member->kind & flags))) member = member->next;
+  return member;
 }
 
 std::optional<DISPID> position_of(const Member& member, std::wstring_view parameter) noexcept {

@@ -23,9 +23,10 @@ struct Member {
   std::wstring name;
   DISPID id = DISPID_UNKNOWN;
   WORD kind = 0;  // DISPATCH_METHOD, DISPATCH_PROPERTYGET...
-  SHORT slot_offset = 0;
+  std::size_t slot_offset = 0;
   std::vector<Parameter> parameters;   // without the result
   VARTYPE result = VT_EMPTY;           // VT_EMPTY for none
+  const Member* next = nullptr;        // at the same position: the other accessor of a property
 };
 
 class Signatures {
@@ -34,6 +35,8 @@ class Signatures {
 
   // Of the dual interface with this id. Throws when the type library cannot be read.
   explicit Signatures(REFIID id);
+  Signatures(const Signatures&) = delete;
+  Signatures& operator=(const Signatures&) = delete;
 
   // The member with this name, whatever its case; null for none.
   const Member* named(std::wstring_view name) const noexcept;
@@ -42,6 +45,7 @@ class Signatures {
 
  private:
   std::vector<Member> members_;
+  std::vector<const Member*> at_position_;  // the first of each
 };
 
 // The parameter's position, which is also its dispatch id in a named call.

@@ -231,7 +231,7 @@ void put_elements(VARIANT& variant, const Value& value) {
   for (const Value& item : list->items) put_element(array, type, index++, item);
 }
 
-OwnedVariant::~OwnedVariant() {
+void OwnedVariant::let_go() noexcept {
   if (held_.vt != VT_BSTR) VariantClear(&held_);
   else free_wiped(held_.bstrVal);
 }

@@ -9,13 +9,19 @@ namespace qvr::automation {
 class OwnedVariant {
  public:
   OwnedVariant() noexcept = default;
-  ~OwnedVariant();
+  ~OwnedVariant() {
+    if (!holds_nothing(held_.vt)) let_go();
+  }
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
 
   VARIANT* get() { return &held_; }
   const VARIANT& operator*() const { return held_; }
   VARIANT* operator->() { return &held_; }
+  // Whether what a variant of this type holds is all in the variant itself.
+  static bool holds_nothing(VARTYPE type) noexcept {
+    return type <= VT_DATE || type == VT_ERROR || type == VT_BOOL || (type >= VT_I1 && type <= VT_UINT);
+  }
   // Gives the content away; what stays is Empty.
   VARIANT release() noexcept {
     const VARIANT content = held_;
@@ -24,6 +30,8 @@ class OwnedVariant {
   }
 
  private:
+  void let_go() noexcept;
+
   VARIANT held_{};  // all zero, so that a typed variant is releasable before its content comes
 };
 
