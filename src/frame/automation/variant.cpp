@@ -56,11 +56,18 @@ class Locked {
 };
 
 Value value_inside(const VARIANT& variant, const Reading* outer);
+Value scalar_from(const VARIANT& v);
 
 // An element into a variant of its own type. Records have no value of ours, and without their description they could
 // not even be released.
 Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& reading) {
   if (type == VT_RECORD) return ErrorValue{DISP_E_BADVARTYPE};
+  void* there = nullptr;
+  if (type == VT_VARIANT && SUCCEEDED(SafeArrayPtrOfIndex(array, &index, &there))) {
+    // Texts and numbers are read where they are: no code of the host's runs meanwhile that could change them.
+    const auto& variant = *static_cast<const VARIANT*>(there);
+    if (variant.vt == VT_BSTR || OwnedVariant::holds_nothing(variant.vt)) return scalar_from(variant);
+  }
   OwnedVariant item;
   void* target = &item->llVal;
   if (type == VT_VARIANT) target = item.get();
@@ -88,6 +95,9 @@ Value array_from(SAFEARRAY* array, const Reading* outer) {
   if (result.dimensions == 0) return result;
   const Locked locked(array);
   const Reading reading{array, outer, outer != nullptr ? outer->depth + 1 : 1};
+  const auto count = static_cast<ULONGLONG>(LONGLONG{upper} - lower + 1);
+  if (count > result.items.max_size()) throw std::bad_alloc();
+  result.items.reserve(static_cast<std::size_t>(count));
   for (LONGLONG index = lower; index <= upper; ++index) {
     result.items.push_back(element_from(array, type, static_cast<LONG>(index), reading));
   }
