@@ -31,8 +31,12 @@ services::ScriptReader& ThreadState::script_reader() {
 }
 
 ThreadState& thread_state() {
-  if (current() == nullptr) exchange_thread_state(std::make_unique<ThreadState>(environment()));
-  return *current();
+  ThreadState* state = current();
+  if (state == nullptr) {
+    exchange_thread_state(std::make_unique<ThreadState>(environment()));
+    state = current();
+  }
+  return *state;
 }
 
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {

@@ -12,8 +12,8 @@ namespace qvr::automation {
 namespace {
 
 template <class Object>
-IUnknown* create() {
-  return static_cast<typename Object::Identity*>(new Object());
+HRESULT create(REFIID id, void** found) {
+  return (new Object)->hand_over(id, found);  // without "()", which would fill the memory with zeros first
 }
 
 }  // namespace

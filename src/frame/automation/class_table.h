@@ -9,8 +9,8 @@ namespace qvr::automation {
 
 struct ClassRow {
   const CLSID& id;
-  const wchar_t* name;          // the program id is the library's name, ".", this
-  IUnknown* (*create)();        // a new object with one reference; throws
+  const wchar_t* name;                         // the program id is the library's name, ".", this
+  HRESULT (*create)(REFIID id, void** found);  // a new object's one reference, as this interface; throws
 };
 
 std::span<const ClassRow> class_table();

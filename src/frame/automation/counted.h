@@ -19,16 +19,21 @@ struct AskedAs<IProvideClassInfo2> {
 template <class First, class... Others>
 class Counted : public First, public Others... {
  public:
-  using Identity = First;
-
   Counted() = default;
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;
 
+  // Gives away the reference that the maker of the object has; without such an interface the object ends.
+  HRESULT hand_over(REFIID id, void** found) noexcept {
+    *found = as(id);
+    if (*found != nullptr) return S_OK;
+    Release();
+    return E_NOINTERFACE;
+  }
+
   STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override {
     if (found == nullptr) return E_POINTER;
-    *found = id == IID_IUnknown || AskedAs<First>::any(id) ? static_cast<First*>(this) : nullptr;
-    (answer_as<Others>(id, found), ...);
+    *found = as(id);
     if (*found == nullptr) return E_NOINTERFACE;
     AddRef();
     return S_OK;
@@ -37,7 +42,8 @@ class Counted : public First, public Others... {
   STDMETHODIMP_(ULONG) AddRef() noexcept override { return static_cast<ULONG>(InterlockedIncrement(&count_)); }
 
   STDMETHODIMP_(ULONG) Release() noexcept override {
-    const LONG left = InterlockedDecrement(&count_);
+    // Nobody else can be counting where the caller has the only reference; that saves waiting for other processors.
+    const LONG left = count_ == 1 ? 0 : InterlockedDecrement(&count_);
     if (left == 0) {
       count_ = 1;  // a reference taken and given back while the object goes must not end it a second time
       delete this;
@@ -49,9 +55,16 @@ class Counted : public First, public Others... {
   virtual ~Counted() = default;
 
  private:
+  // Without a reference for the caller.
+  void* as(REFIID id) noexcept {
+    void* found = id == IID_IUnknown || AskedAs<First>::any(id) ? static_cast<First*>(this) : nullptr;
+    (answer_as<Others>(id, found), ...);
+    return found;
+  }
+
   template <class I>
-  void answer_as(REFIID id, void** found) noexcept {
-    if (*found == nullptr && AskedAs<I>::any(id)) *found = static_cast<I*>(this);
+  void answer_as(REFIID id, void*& found) noexcept {
+    if (found == nullptr && AskedAs<I>::any(id)) found = static_cast<I*>(this);
   }
 
   volatile LONG count_ = 1;
