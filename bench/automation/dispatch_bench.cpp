@@ -1,6 +1,6 @@
 // What a late-bound call costs beside the system's own dispatch of the same member (ITypeInfo::Invoke on the same
-// object) and beside the early-bound call, for a member of each kind of signature. The system's dispatch gets every
-// argument by reference and of the very type, since it takes no other.
+// object) and beside the early-bound call, for a member of each kind of signature. Both get the same arguments: each by
+// reference and of the very type, since the system's dispatch takes no other.
 #include "automation/library.h"
 #include "automation/timing.h"
 

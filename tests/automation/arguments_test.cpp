@@ -172,5 +172,37 @@ TEST_F(ArgumentsTest, AReferenceToNowhereIsRefused) {
   nowhere.raw().vt = VT_EMPTY;
 }
 
+// A script's object whose value is asked for while the other arguments wait: it puts something else into a variable.
+class ValueThatReplaces final : public IDispatch {
+ public:
+  explicit ValueThatReplaces(Var& variable) : variable_(variable) {}
+  STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override {
+    *found = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
+    return *found != nullptr ? S_OK : E_NOINTERFACE;
+  }
+  STDMETHODIMP_(ULONG) AddRef() noexcept override { return 2; }
+  STDMETHODIMP_(ULONG) Release() noexcept override { return 1; }
+  STDMETHODIMP GetTypeInfoCount(UINT*) noexcept override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexcept override { return E_NOTIMPL; }
+  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) noexcept override {
+    variable_ = Var(L"a text that takes the other one's place");
+    result->vt = VT_BSTR;
+    result->bstrVal = SysAllocString(L"12");
+    return S_OK;
+  }
+
+ private:
+  Var& variable_;
+};
+
+TEST_F(ArgumentsTest, ATextThatGoesWhileAnotherArgumentIsConvertedWasTakenBefore) {
+  Var type(L"N");
+  ValueThatReplaces value(type);
+  const LateAnswer answer = cfp.call(L"TextoAValor", {Var::by_reference(type), &value});
+  EXPECT_EQ(describe(answer.value.raw()), "R8 12.000000");
+  EXPECT_EQ(describe(type.raw()), "BSTR a text that takes the other one's place");
+}
+
 }  // namespace
 }  // namespace qvr::tests
