@@ -16,7 +16,6 @@ class SecretText {
   ~SecretText() { wipe(text_); }
 
   operator TextView() const noexcept { return text_; }  // stands wherever a text is read
-  const Text& text() const noexcept { return text_; }
 
  private:
   Text text_;
