@@ -39,7 +39,7 @@ with open(ours, "w", encoding="utf-8") as file:
     json.dump(result, file, indent=1)
 PY
 
-for subject in creation dispatch; do
+for subject in creation dispatch members; do
   say "bench: $subject"
   timeout 300 "$root/tools/wine.sh" "$build/win32/bin/${subject}_bench.exe" >"$results/$subject.json"
 done

@@ -84,8 +84,8 @@ int main() {
     times.take("Create", each.name, [&] { create(each.factory); });
   }
   const Body first_nothing = [&] { create(&nothing); }, first = [&] { create(classes[1].factory); };
-  times.take<50>("Nothing", "first on a thread", [&] { run_thread(first_nothing); });
-  times.take<50>("Create", "first on a thread", [&] { run_thread(first); });
+  times.take("Nothing", "first on a thread", [&] { run_thread(first_nothing); }, 50);
+  times.take("Create", "first on a thread", [&] { run_thread(first); }, 50);
   times.print();
   return 0;
 }

@@ -13,15 +13,15 @@ namespace qvr::bench {
 class Times {
  public:
   // Calls the body often; the quickest of some rounds counts, as the others were disturbed.
-  template <int kCalls = 4000, class Body>
-  void take(const std::string& what, const std::string& argument, Body&& body) {
+  template <class Body>
+  void take(const std::string& what, const std::string& argument, Body&& body, int calls = 4000) {
     constexpr int kRounds = 15;
-    for (int i = 0; i < kCalls / 10; ++i) body();
+    for (int i = 0; i < calls / 10; ++i) body();
     double best = 1e300;
     for (int round = 0; round < kRounds; ++round) {
       const double start = now();
-      for (int i = 0; i < kCalls; ++i) body();
-      best = std::min(best, (now() - start) / kCalls);
+      for (int i = 0; i < calls; ++i) body();
+      best = std::min(best, (now() - start) / calls);
     }
     rows_.push_back("{\"name\": \"" + what + "/" + argument + "\", \"cpu_time\": " + std::to_string(best * 1e9) +
                     ", \"time_unit\": \"ns\"}");
@@ -33,7 +33,7 @@ class Times {
     std::printf("]}\n");
   }
 
- private:
+  // In seconds.
   static double now() {
     LARGE_INTEGER count, frequency;
     QueryPerformanceCounter(&count);
@@ -41,6 +41,7 @@ class Times {
     return static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
   }
 
+ private:
   std::vector<std::string> rows_;
 };
 

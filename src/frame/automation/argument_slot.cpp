@@ -119,6 +119,17 @@ void* ArgumentSlot::callers_variable(const VARIANT& argument, const VARIANT& inn
   return of_value ? const_cast<VARIANT*>(&inner) : nullptr;
 }
 
+// The bits of an argument by value for a parameter by value. The caller keeps its text until the call returns, and the
+// member copies it at once.
+void* ArgumentSlot::borrowed(const VARIANT& argument) noexcept {
+  const bool whole = type_ == VT_VARIANT;
+  const bool of_type = whole ? argument.vt == VT_BSTR || OwnedVariant::holds_nothing(argument.vt)
+                             : argument.vt == type_ && passes_on(type_);
+  if (by_reference_ || !of_type) return nullptr;
+  std::memcpy(&before_, &argument, sizeof argument);
+  return whole ? static_cast<void*>(&before_) : &before_.llVal;
+}
+
 HRESULT ArgumentSlot::convert(const Parameter& parameter, const VARIANT* inner, LCID locale) noexcept {
   if (inner == nullptr) return take_missing(parameter);
   if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), *inner);
@@ -139,15 +150,16 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   if (argument != nullptr && inner == nullptr) return DISP_E_TYPEMISMATCH;
   if (inner != nullptr && (inner->vt & VT_BYREF) && inner->byref == nullptr) return DISP_E_TYPEMISMATCH;
   if (is_missing(inner)) inner = nullptr;
-  if (inner != nullptr) variable_ = callers_variable(*argument, *inner);
-  if (variable_ != nullptr) return S_OK;
+  if (inner != nullptr) passed_on_ = inner == argument ? borrowed(*inner) : nullptr;
+  if (inner != nullptr && passed_on_ == nullptr) passed_on_ = callers_variable(*argument, *inner);
+  if (passed_on_ != nullptr) return S_OK;
   const HRESULT result = convert(parameter, inner, locale);
   if (by_reference_) std::memcpy(&before_, held_.get(), sizeof before_);
   return result;
 }
 
 Word* ArgumentSlot::put_words(Word* words) noexcept {
-  void* address = variable_;
+  void* address = passed_on_;
   if (address == nullptr) address = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
   const std::size_t count = by_reference_ ? 1 : words_by_value(type_).value_or(0);
   if (by_reference_ || (type_ == VT_VARIANT && count == 1)) {
@@ -161,7 +173,7 @@ Word* ArgumentSlot::put_words(Word* words) noexcept {
 bool ArgumentSlot::changed() const noexcept { return std::memcmp(&before_, &*held_, sizeof before_) != 0; }
 
 void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
-  if (variable_ != nullptr || !by_reference_ || !(argument.vt & VT_BYREF) || !changed()) return;
+  if (passed_on_ != nullptr || !by_reference_ || !(argument.vt & VT_BYREF) || !changed()) return;
   VARIANT* target = const_cast<VARIANT*>(innermost(argument));
   if (target == &argument || (target->vt & VT_BYREF)) {
     const auto type = static_cast<VARTYPE>(target->vt & ~VT_BYREF);

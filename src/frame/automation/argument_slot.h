@@ -7,8 +7,8 @@
 
 namespace qvr::automation {
 
-// A variable of the very type that the parameter has is passed on, as an early-bound caller passes it. Everything else
-// is converted into storage of the slot's own and given back from there.
+// What is of the very type that the parameter has is passed on, as an early-bound caller passes it: variables by
+// reference, values by value. Everything else is converted into storage of the slot's own and given back from there.
 class ArgumentSlot {
  public:
   // Converts the argument (null or "missing": left out) to the parameter's type.
@@ -22,14 +22,15 @@ class ArgumentSlot {
   void give_back(VARIANT& argument, LCID locale) noexcept;
 
  private:
+  void* borrowed(const VARIANT& argument) noexcept;
   void* callers_variable(const VARIANT& argument, const VARIANT& inner) const noexcept;
   HRESULT convert(const Parameter& parameter, const VARIANT* inner, LCID locale) noexcept;
   HRESULT take_missing(const Parameter& parameter) noexcept;
   bool changed() const noexcept;
 
   OwnedVariant held_;
-  VARIANT before_;  // bits of the value as it was taken, where it is by reference; compared, never released
-  void* variable_ = nullptr;  // the caller's, passed on
+  VARIANT before_;             // bits of the value as it was taken, never released; by reference, they are compared
+  void* passed_on_ = nullptr;  // instead of what is held: the caller's variable or bits
   VARTYPE type_ = VT_EMPTY;
   bool by_reference_ = false;
 };
