@@ -34,7 +34,7 @@ std::string row_of(const ManualCall& each) {
 
 // The rows of the page's tables under that heading.
 std::vector<std::string> rows_in(const std::string& page) {
-  std::ifstream file(std::string(QVR_TESTS_MANUAL) + "/" + page + ".md");
+  std::ifstream file(std::string(QVR_TESTS_MANUAL) + "/en/" + page + ".md");
   EXPECT_TRUE(file.good()) << page;
   std::vector<std::string> rows;
   bool inside = false;

@@ -30,7 +30,7 @@ std::string quoted(const std::string& cell) {
 
 // Table rows of three cells, headings left out.
 std::vector<PageRow> rows_of(const Page& page) {
-  std::ifstream file(std::string(QVR_TESTS_MANUAL) + "/search." + page.name + ".md");
+  std::ifstream file(std::string(QVR_TESTS_MANUAL) + "/" + page.name + "/search.md");
   EXPECT_TRUE(file.good()) << page.name;
   std::vector<PageRow> rows;
   for (std::string line; std::getline(file, line);) {

@@ -23,7 +23,7 @@ std::set<std::string> rules_by(const std::regex& line, const std::string& text) 
 }
 
 TEST(Help, NamesTheRulesOfTheManual) {
-  std::ifstream page(QVR_TESTS_MANUAL "/qvrscript.md");
+  std::ifstream page(QVR_TESTS_MANUAL "/en/qvrscript.md");
   ASSERT_TRUE(page);
   const std::string manual{std::istreambuf_iterator<char>(page), {}};
   const std::set<std::string> rules = rules_by(std::regex(R"(\n\| (`[^|]+`) \|)"), manual);
