@@ -73,7 +73,7 @@ def class_problems(name, members, entries):
 
 def context_problems(library):
     """Every number leads to one place."""
-    taken = {1: "the library"}
+    taken = {}
     for name, coclass, members in documented(library):
         numbers = {name: coclass.context} | {f"{name}.{each.name}": each.context for each in members.values()}
         if coclass.source:

@@ -11,7 +11,7 @@ TYPES = {
     "Command": "ADODB.Command",
     "ParameterDirectionEnum": "ADODB.ParameterDirectionEnum",
 }
-WIDTH = 96
+WIDTH = 84
 
 
 def type_name(idl_type):

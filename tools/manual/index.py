@@ -44,7 +44,7 @@ def contexts(library):
 
 def contexts_page(library, language):
     words = WORDS[language]
-    rows = [f"| 1 | [{words['library']}](README.md) |"]
+    rows = [f"| 0 | [{words['library']}](README.md) |"]
     for number, page, member in contexts(library):
         target = f"{page}.md#{member.lower()}" if member else f"{page}.md"
         rows.append(f"| {number} | [`{page + '.' + member if member else page}`]({target}) |")
@@ -54,6 +54,6 @@ def contexts_page(library, language):
 
 def contexts_ini(library):
     """For hosts: the page of each number, to be put behind the folder of a language."""
-    lines = ["[contexts]", "1=reference/index.html"]
+    lines = ["[contexts]", "0=reference/index.html"]
     lines += [f"{number}=reference/{page}.html#help-{number}" for number, page, _ in contexts(library)]
     return "\n".join(lines) + "\n"

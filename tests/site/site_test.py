@@ -1,0 +1,182 @@
+#!/usr/bin/python3
+"""The manual's site in a browser, opened from files: site_test.py SITE [RESULTS.xml].
+
+The site is looked at from a zip that was unpacked into a folder with a blank and an accent in its name.
+"""
+import pathlib
+import re
+import shutil
+import sys
+import tempfile
+import unittest
+
+import junit
+import reference_test  # noqa: F401  run along
+from browser import NARROW, WIDE, Browser
+from links import Site
+
+SEARCHES = [
+    ("en", "SqlINSERT", "en/reference/QVRcfp.html#sqlinsert"),
+    ("es", "SqlINSERT", "es/reference/QVRcfp.html#sqlinsert"),
+    ("en", "sqlinsert", "en/reference/QVRcfp.html#sqlinsert"),
+    ("en", "join", "en/reference/QVRcfp.html"),
+    ("en", "patterns", "en/literals.html#patterns"),
+    ("en", "joining", "en/clauses.html"),
+    ("es", "fecha", "es/search-box.html#fechas"),
+    ("es", "uniones", "es/reference/uSQL20.html"),
+    ("es", "contraseñas", "es/reference/QVRcfp.html"),
+    ("es", "busqueda", "es/search-box.html"),
+    ("fr", "dates", "fr/search-box.html#dates"),
+]
+# Elements that are wider than the page and do not scroll inside anything.
+OVERFLOWING = """
+const wide = document.documentElement.clientWidth;
+const inside = (e) => { for (let p = e; p; p = p.parentElement) {
+  if (/auto|scroll|hidden/.test(getComputedStyle(p).overflowX) && p !== document.documentElement) return true;
+} return false; };
+return [...document.querySelectorAll(".main *")].filter((e) => e.getBoundingClientRect().right > wide + 1 && !inside(e)
+    && e.getClientRects().length && !e.closest(".toc-drawer")).map((e) => e.tagName + "." + e.className).slice(0, 5);
+"""
+
+
+class SitePages(unittest.TestCase):
+    """One case for each page, and those of what the site does."""
+
+    def setUp(self):
+        browser.resize(WIDE)
+
+    def test_the_browser_tells_what_is_wrong_with_a_page(self):
+        page = site.folder.parent / "wrong.html"
+        page.write_text("<html><body class=main><script src='none.js'></script><img src='https://example.invalid/a.png'>"
+                        "<div class=wide style='width: 900px'>wide</div><script>nothing()</script></body></html>")
+        browser.open("../wrong.html")
+        complaints, requests = "\n".join(browser.complaints()), browser.requests()
+        self.assertIn("none.js", complaints)
+        self.assertIn("nothing is not defined", complaints)
+        self.assertIn("https://example.invalid/a.png", requests)
+        browser.resize(NARROW)
+        self.assertGreater(browser.run("return document.documentElement.scrollWidth"), NARROW)
+
+    def look_at(self, page):
+        browser.open(page)
+        self.assertTrue(browser.run("return document.body.innerText.trim().length") > 0)
+        self.assertEqual(browser.complaints(), [])
+        requests = browser.requests()
+        self.assertIn(browser.address(page), requests)
+        self.assertEqual([each for each in requests if not re.match(r"file:|data:", each)], [])
+        self.assertEqual(site.problems(page), [])
+        if page != "index.html":
+            current = "return [...document.querySelectorAll('.languages [aria-current]')].map((each) => each.lang)"
+            self.assertEqual(browser.run(current), [page.partition("/")[0]])
+        browser.resize(NARROW)
+        self.assertLessEqual(browser.run("return document.documentElement.scrollWidth"), NARROW)
+        self.assertEqual(browser.run(OVERFLOWING), [])
+
+    def search_for(self, language, words, expected):
+        browser.open(f"{language}/index.html")
+        field = browser.find(".sidebar-search")
+        field.send_keys(words)
+        field.submit()
+        browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
+                                         "return s && s.innerText"), "the search is finished")
+        self.assertEqual(browser.find("input[type=search]").get_attribute("value"), words)
+        address = browser.address(expected)
+        hits = browser.run("return [...document.querySelectorAll('ul.search a')].map((a) => a.href)")
+        self.assertIn(address, hits)
+        browser.run("[...document.querySelectorAll('ul.search a')].find((a) => a.href === arguments[0]).click()", address)
+        browser.wait(lambda: browser.place() == expected, f"{expected} is open")
+        self.assertEqual(browser.complaints(), [])
+        self.assertEqual([each for each in browser.requests() if not each.startswith(("file:", "data:"))], [])
+
+    def test_the_search_tells_when_nothing_is_found(self):
+        browser.open("es/search.html?q=xyzzyx")
+        text = browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
+                                                "return s && s.innerText"), "the search is finished")
+        self.assertIn("no coincide", text)
+        self.assertEqual(browser.run("return document.querySelectorAll('ul.search a').length"), 0)
+
+    def test_the_search_counts_in_the_language_of_the_page(self):
+        browser.open("es/search.html?q=fecha")
+        text = browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
+                                                "return s && s.innerText"), "the search is finished")
+        self.assertRegex(text, r"^La búsqueda encontró \d+ resultados\.$")
+
+    def test_the_first_page_leads_to_every_language(self):
+        browser.open("index.html")
+        languages = sorted(path.name for path in site.folder.iterdir() if path.is_dir())
+        links = browser.run("return [...document.querySelectorAll('a')].map((a) => a.getAttribute('href'))")
+        self.assertEqual(sorted(links), [f"{each}/index.html" for each in languages])
+
+    def test_a_page_leads_to_the_same_page_in_the_other_language(self):
+        browser.open("en/reference/QVRcfp.html")
+        browser.find(".languages a[lang=es]").click()
+        self.assertEqual(browser.place(), "es/reference/QVRcfp.html")
+        self.assertEqual(browser.run("return document.documentElement.lang"), "es")
+        browser.find(".languages a[lang=en]").click()
+        self.assertEqual(browser.place(), "en/reference/QVRcfp.html")
+
+    def test_a_page_that_another_language_lacks_leads_to_its_first(self):
+        browser.open("en/reference/QVRcfp.html")
+        browser.find(".languages a[lang=fr]").click()
+        self.assertEqual(browser.place(), "fr/index.html")
+
+    def test_the_menu_opens_on_a_narrow_screen(self):
+        browser.resize(NARROW)
+        browser.open("es/index.html")
+        left = "return document.querySelector('.sidebar-drawer').getBoundingClientRect().left"
+        self.assertLess(browser.run(left), 0)
+        browser.find("label.nav-overlay-icon").click()
+        browser.wait(lambda: browser.run(left) == 0, "the menu is open")
+        link = browser.find(".sidebar-tree a[href='reference/index.html']")
+        self.assertTrue(link.is_displayed())
+        link.click()
+        self.assertEqual(browser.place(), "es/reference/index.html")
+
+    def test_light_and_dark_can_be_chosen_and_stay(self):
+        browser.open("en/index.html")
+        colour = "return getComputedStyle(document.body).backgroundColor"
+        button, seen = browser.find(".theme-toggle-content .theme-toggle"), set()
+        for _ in range(3):
+            button.click()
+            seen.add((browser.run("return document.body.dataset.theme"), browser.run(colour)))
+        self.assertEqual({theme for theme, _ in seen}, {"light", "dark", "auto"})
+        self.assertGreater(len({colours for _, colours in seen}), 1)
+        while browser.run("return document.body.dataset.theme") != "dark":
+            button.click()
+        dark = browser.run(colour)
+        browser.open("es/index.html")
+        self.assertEqual(browser.run(colour), dark)
+
+    def test_every_help_context_leads_to_its_member(self):
+        lines = (site.folder / "contexts.ini").read_text(encoding="utf-8").split()
+        numbers = dict(line.split("=") for line in lines[1:])
+        self.assertEqual(lines[0], "[contexts]")
+        for language in ("en", "es"):
+            found = [site.problem("index.html", f"{language}/{page}") for page in numbers.values()]
+            self.assertEqual([each for each in found if each], [])
+        browser.open(f"en/{numbers['2038']}")
+        self.assertEqual(browser.run("return document.querySelector(':target + h2').firstChild.textContent"), "SqlINSERT")
+
+
+def add_rows():
+    def add(name, method, *arguments):
+        setattr(SitePages, f"test_{name}", lambda self: getattr(self, method)(*arguments))
+
+    for page in site.pages:
+        add(f"renders_{page}", "look_at", page)
+    for language, words, expected in SEARCHES:
+        add(f"search_{language}_{words}", "search_for", language, words, expected)
+
+
+if __name__ == "__main__":
+    with tempfile.TemporaryDirectory() as work:
+        archive = shutil.make_archive(f"{work}/site", "zip", sys.argv[1])
+        folder = pathlib.Path(work).resolve() / "Manual en español"
+        shutil.unpack_archive(archive, folder)
+        site, browser = Site(folder), Browser(folder)
+        try:
+            add_rows()
+            outcome = junit.run("__main__", "reference_test", results=sys.argv[2] if len(sys.argv) > 2 else None)
+        finally:
+            browser.close()
+    sys.exit(outcome)

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Builds the manual's site: build/manual/site/, to be opened from its index.html; nothing in it needs a network.
+# tools/manual.sh --check only looks whether the reference is complete.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+manual=$root/build/manual
+settings=$root/docs/manual/site
+
+"$root/tools/manual/reference.py" --check
+[ "${1:-}" = --check ] && exit 0
+
+rm -rf "$manual"
+mkdir -p "$manual"
+"$root/tools/manual/reference.py" "$manual/reference"
+"$root/tools/manual/assemble.py" "$manual/reference" "$manual/sources"
+for sources in "$manual"/sources/*/; do
+  language=$(basename "$sources")
+  sphinx-build -q -W --keep-going -b html -c "$settings" -D language="$language" -d "$manual/doctrees/$language" \
+    "$sources" "$manual/site/$language"
+  # What Sphinx leaves for its own next run.
+  rm -f "$manual/site/$language/.buildinfo" "$manual/site/$language/objects.inv"
+done
+cp "$settings/index.html" "$manual/site/"
+cp "$manual/reference/contexts.ini" "$manual/site/"
+"$root/tools/manual/offline.py" "$manual/site"
