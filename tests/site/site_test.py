@@ -47,7 +47,7 @@ class SitePages(unittest.TestCase):
 
     def test_the_browser_tells_what_is_wrong_with_a_page(self):
         page = site.folder.parent / "wrong.html"
-        page.write_text("<html><body class=main><script src='none.js'></script><img src='https://example.invalid/a.png'>"
+        page.write_text("<html><body><script src='none.js'></script><img src='https://example.invalid/a.png'>"
                         "<div class=wide style='width: 900px'>wide</div><script>nothing()</script></body></html>")
         browser.open("../wrong.html")
         complaints, requests = "\n".join(browser.complaints()), browser.requests()
@@ -83,7 +83,8 @@ class SitePages(unittest.TestCase):
         address = browser.address(expected)
         hits = browser.run("return [...document.querySelectorAll('ul.search a')].map((a) => a.href)")
         self.assertIn(address, hits)
-        browser.run("[...document.querySelectorAll('ul.search a')].find((a) => a.href === arguments[0]).click()", address)
+        browser.run("[...document.querySelectorAll('ul.search a')].find((a) => a.href === arguments[0]).click()",
+                    address)
         browser.wait(lambda: browser.place() == expected, f"{expected} is open")
         self.assertEqual(browser.complaints(), [])
         self.assertEqual([each for each in browser.requests() if not each.startswith(("file:", "data:"))], [])
@@ -155,7 +156,8 @@ class SitePages(unittest.TestCase):
             found = [site.problem("index.html", f"{language}/{page}") for page in numbers.values()]
             self.assertEqual([each for each in found if each], [])
         browser.open(f"en/{numbers['2038']}")
-        self.assertEqual(browser.run("return document.querySelector(':target + h2').firstChild.textContent"), "SqlINSERT")
+        heading = browser.run("return document.querySelector(':target + h2').firstChild.textContent")
+        self.assertEqual(heading, "SqlINSERT")
 
 
 def add_rows():

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Puts the sources of the site together: assemble.py REFERENCE FOLDER.
 
-FOLDER gets one folder for each language with the manual's pages, the reference (from the folder that reference.py wrote)
-and, in English, those pages of docs/ that the manual links to. Links are made to hold there. One to a page of another
-language becomes "site:<language>/<page>.html", which conf.py resolves.
+FOLDER gets one folder for each language with the manual's pages, the reference (from the folder that reference.py
+wrote) and, in English, those pages of docs/ that the manual links to. Links are made to hold there. One to a page of
+another language becomes "site:<language>/<page>.html", which conf.py resolves.
 """
 import json
 import pathlib
@@ -25,7 +25,7 @@ class Broken(Exception):
 
 
 def site_name(page):
-    """README pages are what a folder opens with; the name of the page on searching is taken by the site's own search."""
+    """README pages are what a folder opens with; "search" is the name of the site's own search."""
     name = page.removesuffix(".md")
     return "search-box" if name == "search" else re.sub(r"(^|/)README$", r"\1index", name)
 

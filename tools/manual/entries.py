@@ -28,7 +28,7 @@ class Entries:
         return {key: value for key, value in self.classes.get(name, {}).items() if key not in OF_CLASS}
 
     def member(self, class_name, member):
-        """A member's entry with the class's arguments and guide. One of the contract takes over what it does not say."""
+        """A member's entry with the class's arguments and guide; one of the contract has the rest from there."""
         own = self.members(class_name).get(member, {})
         if class_name != CONTRACT and member.startswith(PREFIX):
             own = self.member(CONTRACT, member.removeprefix(PREFIX)) | own

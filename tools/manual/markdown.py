@@ -38,7 +38,7 @@ def slug(heading):
 
 
 def with_links(text, change):
-    """The text with each link replaced by change(label, target, is_image), which gives Markdown; links can span lines."""
+    """The text with each link replaced by what change(label, target, is_image) gives; links can span lines."""
 
     def replaced(match):
         return match[0] if match[1] else change(match[3], match[4], bool(match[2]))

@@ -43,9 +43,9 @@ WORDS = {
     },
     "es": {
         "reference": "Referencia",
-        "intro": "Todos los miembros de la biblioteca. La frase bajo cada nombre es la traducción de la que muestran los "
-                 "examinadores de bibliotecas de tipos; el número de un contexto de ayuda lleva al mismo lugar, como el "
-                 "ancla `help-<número>`: [contextos de ayuda](contexts.md).",
+        "intro": "Todos los miembros de la biblioteca. La frase bajo cada nombre es la traducción de la que muestran "
+                 "los examinadores de bibliotecas de tipos; el número de un contexto de ayuda lleva al mismo lugar, "
+                 "como el ancla `help-<número>`: [contextos de ayuda](contexts.md).",
         "by reference": "Los argumentos van por referencia; sirven variables de cualquier tipo que se pueda convertir, "
                         "constantes y expresiones. Los opcionales están al final y se pueden omitir.",
         "classes": "Por clases",
