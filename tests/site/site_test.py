@@ -159,6 +159,13 @@ class SitePages(unittest.TestCase):
         heading = browser.run("return document.querySelector(':target + h2').firstChild.textContent")
         self.assertEqual(heading, "SqlINSERT")
 
+    def test_an_anchor_is_not_hidden_by_the_bar_of_a_narrow_screen(self):
+        browser.resize(NARROW)
+        browser.open("en/reference/QVRcfp.html#help-2038")
+        below = "return document.querySelector(arguments[0]).getBoundingClientRect()[arguments[1]]"
+        self.assertGreater(browser.run(below, ".mobile-header", "height"), 0)
+        self.assertGreaterEqual(browser.run(below, ":target + h2", "top"), browser.run(below, ".mobile-header", "bottom"))
+
 
 def add_rows():
     def add(name, method, *arguments):

@@ -26,7 +26,7 @@ def index_page(library, entries, language):
         rows.append(f"- [`{name}`]({name}.md): {sentence(text(entries.of_class(name), 'help', language))}")
     parts += ["\n".join(rows), f"## {words['all']}",
               f"| {words['member']} | {words['class']} | {words['help']} |\n|---|---|---|\n" +
-              "\n".join(member_rows(library, entries, language))]
+              "\n".join(member_rows(library, entries, language)), words["by number"]]
     return "\n\n".join(parts) + "\n"
 
 

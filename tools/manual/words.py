@@ -3,9 +3,9 @@
 WORDS = {
     "en": {
         "reference": "Reference",
-        "intro": "Every member of the library. The sentence below a name is the one that type-library browsers show; "
-                 "the number of a help context leads to the same place, as the anchor `help-<number>`: "
-                 "[help contexts](contexts.md).",
+        "intro": "Every member of the library. The sentence below a name is the one that type-library browsers show.",
+        "by number": "A type-library browser and a form's `HelpContextID` have numbers instead: "
+                     "[help contexts](contexts.md).",
         "by reference": "Arguments go by reference; variables of any type that converts, constants and expressions "
                         "will do. Optional ones stand at the end and can be left out.",
         "classes": "By class",
@@ -44,8 +44,9 @@ WORDS = {
     "es": {
         "reference": "Referencia",
         "intro": "Todos los miembros de la biblioteca. La frase bajo cada nombre es la traducción de la que muestran "
-                 "los examinadores de bibliotecas de tipos; el número de un contexto de ayuda lleva al mismo lugar, "
-                 "como el ancla `help-<número>`: [contextos de ayuda](contexts.md).",
+                 "los examinadores de bibliotecas de tipos.",
+        "by number": "Un examinador de bibliotecas de tipos y el `HelpContextID` de un formulario tienen números en "
+                     "su lugar: [contextos de ayuda](contexts.md).",
         "by reference": "Los argumentos van por referencia; sirven variables de cualquier tipo que se pueda convertir, "
                         "constantes y expresiones. Los opcionales están al final y se pueden omitir.",
         "classes": "Por clases",
