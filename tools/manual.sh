@@ -23,3 +23,9 @@ done
 cp "$settings/index.html" "$manual/site/"
 cp "$manual/reference/contexts.ini" "$manual/site/"
 "$root/tools/manual/offline.py" "$manual/site"
+
+# The terms of what the theme and the search bring along.
+mkdir "$manual/site/licences"
+for package in furo libjs-jquery libjs-underscore node-normalize.css sphinx-common; do
+  cp "/usr/share/doc/$package/copyright" "$manual/site/licences/$package.txt"
+done

@@ -32,7 +32,7 @@ SEARCHES = [
 OVERFLOWING = """
 const wide = document.documentElement.clientWidth;
 const inside = (e) => { for (let p = e; p; p = p.parentElement) {
-  if (/auto|scroll|hidden/.test(getComputedStyle(p).overflowX) && p !== document.documentElement) return true;
+  if (/auto|scroll/.test(getComputedStyle(p).overflowX) && p !== document.documentElement) return true;
 } return false; };
 return [...document.querySelectorAll(".main *")].filter((e) => e.getBoundingClientRect().right > wide + 1 && !inside(e)
     && e.getClientRects().length && !e.closest(".toc-drawer")).map((e) => e.tagName + "." + e.className).slice(0, 5);
@@ -104,7 +104,7 @@ class SitePages(unittest.TestCase):
 
     def test_the_first_page_leads_to_every_language(self):
         browser.open("index.html")
-        languages = sorted(path.name for path in site.folder.iterdir() if path.is_dir())
+        languages = sorted(path.parent.name for path in site.folder.glob("*/searchindex.js"))
         links = browser.run("return [...document.querySelectorAll('a')].map((a) => a.getAttribute('href'))")
         self.assertEqual(sorted(links), [f"{each}/index.html" for each in languages])
 
@@ -159,12 +159,13 @@ class SitePages(unittest.TestCase):
         heading = browser.run("return document.querySelector(':target + h2').firstChild.textContent")
         self.assertEqual(heading, "SqlINSERT")
 
-    def test_an_anchor_is_not_hidden_by_the_bar_of_a_narrow_screen(self):
+    def test_an_anchor_is_shown_right_below_the_bar_of_a_narrow_screen(self):
         browser.resize(NARROW)
         browser.open("en/reference/QVRcfp.html#help-2038")
-        below = "return document.querySelector(arguments[0]).getBoundingClientRect()[arguments[1]]"
-        self.assertGreater(browser.run(below, ".mobile-header", "height"), 0)
-        self.assertGreaterEqual(browser.run(below, ":target + h2", "top"), browser.run(below, ".mobile-header", "bottom"))
+        edge = "return document.querySelector(arguments[0]).getBoundingClientRect()[arguments[1]]"
+        bar = browser.run(edge, ".mobile-header", "bottom")
+        self.assertGreater(bar, 0)
+        browser.wait(lambda: bar <= browser.run(edge, ":target + h2", "top") < 2 * bar, "the heading is below the bar")
 
 
 def add_rows():
