@@ -102,6 +102,11 @@ class SitePages(unittest.TestCase):
                                                 "return s && s.innerText"), "the search is finished")
         self.assertRegex(text, r"^La búsqueda encontró \d+ resultados\.$")
 
+    def test_the_theme_speaks_the_language_of_the_page(self):
+        for language, words in {"en": "Back to top", "es": "Volver arriba", "fr": "Haut de page"}.items():
+            browser.open(f"{language}/search-box.html")
+            self.assertEqual(browser.run("return document.querySelector('.back-to-top').textContent.trim()"), words)
+
     def test_the_first_page_leads_to_every_language(self):
         browser.open("index.html")
         languages = sorted(path.parent.name for path in site.folder.glob("*/searchindex.js"))

@@ -42,6 +42,14 @@ WORDS = {
     "fr": {"search": "Rechercher", "languages": "Langue", "next": "Suivant", "previous": "Précédent",
            "toc": "Sur cette page"},
 }
+THEME_WORDS = {"es": {"Back to top": "Volver arriba"}, "fr": {"Back to top": "Haut de page"}}
+
+
+def translated_theme(app):
+    """Sphinx's own words, and those that only the theme has."""
+    words, known = THEME_WORDS.get(app.config.language, {}), app.translator
+    app.builder.templates.environment.install_gettext_callables(
+        lambda text: words.get(text.strip()) or known.gettext(text), known.ngettext)
 
 
 def site_root(page):
@@ -70,6 +78,7 @@ def links_within_site(app, doctree, page):
 
 
 def setup(app):
+    app.connect("builder-inited", translated_theme)
     app.connect("html-page-context", other_languages)
     app.connect("doctree-resolved", links_within_site)
 
