@@ -69,7 +69,7 @@ WORDS = {
         "class id": "Contexto de ayuda {}.",
         "events": "Eventos",
         "event": "Evento de `{}`.",
-        "engines": "Lo que recibe cada motor; un punto `·` al extremo de un texto representa un blanco:",
+        "engines": "Lo que recibe cada motor; un punto `·` al extremo de un texto representa un espacio:",
         "empty": "(vacío)",
         "call": "llamada",
         "late": "Es `{0}` del contrato [`iSQL20`]({1}). En la propia clase, y por tanto con enlace tardío, lleva "
