@@ -15,6 +15,8 @@ bin=$(windows_path "$2")
 sources=$(windows_path "$3")
 expected=$3/expected.txt
 work=$(mktemp -d)
+# The library's texts are those of the user's language.
+export LC_ALL=C.UTF-8
 outcome=0
 
 # Tidying up goes on to its end; what cannot be taken back fails the test too.
@@ -43,7 +45,6 @@ host() {
       outcome=1
     fi
   done
-  grep -q . "$work/expected" || { echo "$name: nothing expected"; outcome=1; }
 }
 
 # Wine's script host has no events; JScript has no arguments by reference either.
@@ -52,3 +53,5 @@ host vbscript "$events" "$system\\cscript.exe" //nologo "$sources\\vbscript\\hos
 host jscript "$events|^By reference:" "$system\\cscript.exe" //nologo "$sources\\jscript\\hosts.js"
 host cpp-early '^$' "$bin\\hosts_early.exe"
 host cpp-late '^$' "$bin\\hosts_late.exe"
+# There is no cross compiler for 32 bits.
+[ "$width" = 32 ] || host pascal '^$' "$bin\\hosts_pascal.exe"
