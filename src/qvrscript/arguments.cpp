@@ -7,7 +7,7 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr unsigned kForCheck = 1, kForList = 2, kForRun = 4;
+constexpr unsigned kForCheck = 1, kForList = 2, kForRun = 4, kForDoctor = 8;
 
 [[noreturn]] void refuse(std::initializer_list<TextView> message) { throw UsageFailure(join(message)); }
 
@@ -39,7 +39,7 @@ constexpr Option kOptions[] = {
     {u"--connection", kForRun, true, [](Arguments& a, TextView value) { a.connection = Text(value); }},
     {u"--no-transaction", kForRun, false, [](Arguments& a, TextView) { a.use_transaction = false; }},
     {u"--continue", kForRun, false, [](Arguments& a, TextView) { a.go_on = true; }},
-    {u"--json", kForCheck | kForList | kForRun, false, [](Arguments& a, TextView) { a.json = true; }},
+    {u"--json", kForCheck | kForList | kForRun | kForDoctor, false, [](Arguments& a, TextView) { a.json = true; }},
 };
 
 unsigned bit_of(Action action) {
@@ -47,6 +47,7 @@ unsigned bit_of(Action action) {
     case Action::Check: return kForCheck;
     case Action::List: return kForList;
     case Action::Run: return kForRun;
+    case Action::Doctor: return kForDoctor;
     default: return 0;
   }
 }
@@ -112,6 +113,9 @@ void require_complete(const Arguments& arguments) {
       if (!arguments.engine) refuse({u"run wants --engine"});
       if (arguments.connection.empty()) refuse({u"run wants --connection"});
       break;
+    case Action::Doctor:
+      if (count != 0) refuse({u"doctor takes no files"});
+      break;
     default: break;
   }
 }
@@ -130,6 +134,7 @@ std::optional<Action> action_named(TextView word) {
   if (word == u"check") return Action::Check;
   if (word == u"list") return Action::List;
   if (word == u"run") return Action::Run;
+  if (word == u"doctor") return Action::Doctor;
   return std::nullopt;
 }
 

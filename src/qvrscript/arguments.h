@@ -11,7 +11,7 @@
 
 namespace qvr::script_tool {
 
-enum class Action { Help, Version, Check, List, Run };
+enum class Action { Help, Version, Check, List, Run, Doctor };
 
 struct Arguments {
   Action action = Action::Help;

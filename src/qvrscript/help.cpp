@@ -10,6 +10,7 @@ A script is text in which each command is followed by a line that holds only GO.
   qvrscript check FOLDER|FILE...   what the runner would do that you may not mean
   qvrscript list FOLDER NAME       which files a definition or an update would run
   qvrscript run ... FILE           run a file on a database
+  qvrscript doctor                 what this machine lacks for the library, and what to do
   qvrscript COMMAND --help         more about one of them, with examples
   qvrscript --version
 
@@ -113,12 +114,41 @@ On a terminal a bar shows how far it is, otherwise a line is written for each co
 Exit codes: 0 done, 1 failed, 2 a command line or file that cannot be read.
 )";
 
+constexpr std::string_view kDoctor = R"(qvrscript doctor [--json]
+
+Looks this machine over for what the library needs in programs of this program's width, and says in a sentence what to
+do where something is missing. Run the qvrscript.exe of the width that the application has: a provider, a component or
+a registration of the other width is of no use to it.
+
+  error  registration   64-bit programs, for the user: leads to D:\old\QVRlib21.dll, which is not there
+                        -> Register the library where it is now, which writes the same keys: ...
+
+  process        width, version of Windows, version of this program
+  library        the file beside this program: width, version and place by its own Ov
+  registration   for user and machine and each width: which file, whether it is there, of that width, the same version
+  type library   whether it is registered and loads
+  ado            whether ADODB.Connection can be made, and its version
+  providers      by engine, those that are there in this width
+  components     text protection, error report and script reader of the application family, where registered
+  language       the language of the library's texts, and why
+  desktop        whether message boxes can be seen
+
+A note is worth knowing and fails nothing. Nothing is changed, and no connection is opened. Elsewhere than on Windows
+only process and language can be told.
+
+  qvrscript doctor
+  qvrscript doctor --json        {"command","errors","findings":[{"level","subject","message","advice"}]}
+
+Exit codes: 0 no errors, 1 errors found, 2 a command line that cannot be read.
+)";
+
 }  // namespace
 
 std::string_view help_text(std::optional<Action> topic) {
   if (topic == Action::Check) return kCheck;
   if (topic == Action::List) return kList;
   if (topic == Action::Run) return kRun;
+  if (topic == Action::Doctor) return kDoctor;
   return kProgram;
 }
 

@@ -2,6 +2,7 @@
 
 #include "frame/ov.h"
 #include "qvrscript/check.h"
+#include "qvrscript/doctor.h"
 #include "qvrscript/help.h"
 #include "qvrscript/list.h"
 
@@ -15,6 +16,7 @@ int act(const Arguments& arguments, const Console& console, MakeAdo make_ado) {
     case Action::Check: return check(arguments, console);
     case Action::List: return list(arguments, console);
     case Action::Run: return run(arguments, console, make_ado);
+    case Action::Doctor: return doctor(arguments, console);
   }
   return exit_code::kDone;
 }

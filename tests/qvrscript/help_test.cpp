@@ -22,6 +22,7 @@ TEST(Help, IsThereForAllAndEach) {
       {{u"check", u"--help"}, "qvrscript check "},
       {{u"list", u"-h"}, "qvrscript list "},
       {{u"help", u"run"}, "qvrscript run "},
+      {{u"doctor", u"--help"}, "qvrscript doctor "},
   };
   for (const auto& row : rows) {
     const ToolAnswer answer = run_tool(row.words);
@@ -34,7 +35,8 @@ TEST(Help, IsThereForAllAndEach) {
 
 TEST(Help, FitsOnAScreen) {
   for (const std::vector<Text>& words :
-       {std::vector<Text>{u"help"}, {u"help", u"check"}, {u"help", u"list"}, {u"help", u"run"}}) {
+       {std::vector<Text>{u"help"}, {u"help", u"check"}, {u"help", u"list"}, {u"help", u"run"},
+        {u"help", u"doctor"}}) {
     std::istringstream text(run_tool(words).out);
     for (std::string line; std::getline(text, line);) EXPECT_LE(line.size(), 120u) << line;
   }

@@ -1,0 +1,19 @@
+// Asks the library's own core which language it would take.
+#include "frame/global.h"
+#include "frame/thread_state.h"
+#include "qvrscript/doctor_facts.h"
+
+namespace qvr::script_tool {
+
+LanguageFacts language_facts() {
+  const Platform& platform = thread_state().platform();
+  LanguageFacts facts;
+  facts.setting = platform.settings.read(u"QVR", u"Idioma", u"IdiomaOmision", u"");
+  facts.of_user = platform.user_language.default_identifier();
+  facts.asked = IdiomaOmision();
+  InicializarComun();
+  facts.shown = thread_state().idioma.Idioma();
+  return facts;
+}
+
+}  // namespace qvr::script_tool

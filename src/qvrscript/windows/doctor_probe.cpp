@@ -1,0 +1,124 @@
+// Gathers what the doctor judges, on Windows.
+#include "QVRlib21.h"
+#include "frame/automation/com.h"
+#include "frame/automation/text_bstr.h"
+#include "frame/global.h"
+#include "frame/ov.h"
+#include "frame/value_convert.h"
+#include "frame/windows/parts.h"
+#include "qvrscript/doctor_facts.h"
+#include "qvrscript/windows/library_file.h"
+#include "qvrscript/windows/registered.h"
+#include "services/automation/com_error_report.h"
+#include "services/automation/com_script_reader.h"
+#include "services/automation/com_text_protection.h"
+#include "services/automation/late_object.h"
+
+namespace qvr::script_tool {
+namespace {
+
+using automation::ComPtr;
+using qvr::windows::text_from;
+using qvr::windows::wide;
+
+template <class Function>
+Function function_of(const wchar_t* module, const char* name) {
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(module), name)));
+}
+
+// The version that the system has, not the one that it shows to programs without a manifest.
+void look_at_system(Facts& facts) {
+  using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
+  OSVERSIONINFOW version{};
+  version.dwOSVersionInfoSize = sizeof version;
+  if (const auto get_version = function_of<GetVersion>(L"ntdll.dll", "RtlGetVersion")) get_version(&version);
+  facts.system = join({u"Windows ", decimal(version.dwMajorVersion), u".", decimal(version.dwMinorVersion), u".",
+                       decimal(version.dwBuildNumber)});
+  using WineVersion = const char*(CDECL*)();
+  if (const auto wine_version = function_of<WineVersion>(L"ntdll.dll", "wine_get_version")) {
+    const std::string_view number = wine_version();
+    facts.wine = true;
+    facts.system += join({u", Wine ", Text(number.begin(), number.end())});
+  }
+  SYSTEM_INFO system;
+  GetNativeSystemInfo(&system);
+  facts.system_width = system.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_AMD64 ? 64 : 32;
+  facts.width = sizeof(void*) * 8;
+}
+
+void look_at_library(Facts& facts) {
+  facts.folder = Ov::Path(system_platform().own_module.path());
+  const std::wstring folder = wide(facts.folder) + L"\\";
+  facts.beside = windows::library_file(folder + L"QVRlib21.dll");
+  facts.manifest_beside = windows::exists(folder + L"QVRlib21.SxS.manifest");
+  if (facts.beside.exists && facts.beside.width == facts.width) facts.ov = windows::ov_of(wide(facts.beside.path));
+  facts.class_count = windows::class_count();
+  facts.registrations = windows::registrations(facts.wine);
+  facts.stale_names = windows::stale_names();
+}
+
+void look_at_type_library(Facts& facts) {
+  const std::wstring registered = windows::registered_type_library();
+  TypeLibraryFacts& types = facts.type_library;
+  types.registered = text_from(registered);
+  types.registered_exists = windows::exists(registered);
+  const std::wstring file = registered.empty() ? wide(facts.beside.path) : registered;
+  ComPtr<ITypeLib> library;
+  TLIBATTR* attributes = nullptr;
+  automation::OwnedBstr name;
+  if (FAILED(LoadTypeLibEx(file.c_str(), REGKIND_NONE, &library))) return;
+  if (FAILED(library->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr))) return;
+  if (FAILED(library->GetLibAttr(&attributes))) return;
+  types.loaded_from = text_from(file);
+  types.name = name.text();
+  types.version = join({decimal(attributes->wMajorVerNum), u".", decimal(attributes->wMinorVerNum)});
+  library->ReleaseTLibAttr(attributes);
+}
+
+void look_at_ado(Facts& facts) {
+  facts.ado = windows::component(L"ADODB.Connection");
+  if (!facts.ado.usable) return;
+  try {
+    const auto id = automation::registered_class(L"ADODB.Connection");
+    facts.ado_version = to_text(automation::LateObject::create(*id).get(L"Version"));
+  } catch (const std::exception&) {
+    facts.ado_version = u"unknown";
+  }
+}
+
+void look_at_others(Facts& facts) {
+  for (const wchar_t* name :
+       {L"Microsoft.Jet.OLEDB.4.0", L"Microsoft.ACE.OLEDB.12.0", L"Microsoft.ACE.OLEDB.16.0", L"SQLOLEDB", L"MSOLEDBSQL",
+        L"MSOLEDBSQL19", L"SQLNCLI11", L"MSDAORA", L"OraOLEDB.Oracle", L"MSDASQL"}) {
+    facts.providers.push_back(windows::provider(name));
+  }
+  for (const wchar_t* name : {automation::ComTextProtection::kProgramId, automation::ComErrorReport::kProgramId,
+                              automation::ComScriptReader::kProgramId}) {
+    facts.components.push_back(windows::component(name));
+  }
+}
+
+void look_at_desktop(Facts& facts) {
+  USEROBJECTFLAGS flags{};
+  DWORD needed = 0;
+  const HWINSTA station = GetProcessWindowStation();
+  const bool told = station != nullptr && GetUserObjectInformationW(station, UOI_FLAGS, &flags, sizeof flags, &needed);
+  facts.desktop = station != nullptr && (!told || (flags.dwFlags & WSF_VISIBLE) != 0);
+}
+
+}  // namespace
+
+Facts facts_of_this_machine() {
+  Facts facts;
+  facts.own_version = Ov::CadenaVersion(own_version());
+  look_at_system(facts);
+  look_at_library(facts);
+  look_at_type_library(facts);
+  look_at_ado(facts);
+  look_at_others(facts);
+  facts.language = language_facts();
+  look_at_desktop(facts);
+  return facts;
+}
+
+}  // namespace qvr::script_tool
