@@ -46,18 +46,11 @@ install_packages() {
   [ -z "$missing" ] || fail "still missing after installing:" $missing
 }
 
-# A prefix without display, sound and foreign runtimes. The null graphics driver lets message boxes work unseen.
 make_wine_prefix() {
   [ -e "$build/wine/ready" ] && return 0
   say "setup: making the Wine prefix"
   rm -rf "$build/wine"
-  "$root/tools/wine.sh" wineboot -i >>"$log" 2>&1 || fail "wineboot failed"
-  "$root/tools/wine.sh" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >>"$log" 2>&1 ||
-    fail "the graphics driver could not be set"
-  # A program that crashes ends with its backtrace instead of waiting in a dialog.
-  "$root/tools/wine.sh" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >>"$log" 2>&1 ||
-    fail "the crash dialog could not be turned off"
-  "$root/tools/wine.sh" --stop || true
+  "$root/tools/wine_prefix.sh" "$build/wine" >>"$log" 2>&1 || fail "the Wine prefix could not be made"
   touch "$build/wine/ready"
 }
 

@@ -2,7 +2,7 @@
 # Sets the machine up, builds everything and passes every test. The last line is "N passed, N failed".
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$root/tools/setup.sh" native asan fuzz win32 win64
+. "$root/tools/setup.sh" native asan fuzz win32 win64 package
 
 results=$build/test-results
 mkdir -p "$results"
@@ -27,6 +27,7 @@ run asan asan
 run fuzz fuzz
 run win32 win32
 run win64 win64
+run package package
 "$root/tools/wine.sh" --stop || true
 
 # The manual's site as a browser shows it; building it fails when the reference is not complete.
@@ -38,7 +39,7 @@ say "test: site"
 }
 
 # Adds up the suites; one that left no result file counts as a failure.
-python3 - "$results" "$failed_suites" native asan fuzz win32 win64 site <<'PY'
+python3 - "$results" "$failed_suites" native asan fuzz win32 win64 package site <<'PY'
 import pathlib
 import sys
 import xml.etree.ElementTree as xml

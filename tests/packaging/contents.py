@@ -1,0 +1,80 @@
+#!/usr/bin/env python3
+"""Looks into the package: its check sums, what has to be there, the libraries' widths, the links of its pages, and that
+nothing tells of the machine that built it. Usage: contents.py ZIP SOURCE_FOLDER"""
+import hashlib
+import posixpath
+import re
+import struct
+import sys
+import zipfile
+
+BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
+        "registration_free.exe.manifest"]
+WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
+    "include/QVRlib21.h", "include/adodb25.h", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
+    "doctor.ps1", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp",
+    "examples/registration_free/main.cpp"]
+MACHINES = {0x14C: 32, 0x8664: 64}
+
+
+def image(data):
+    """Width of a program or library, and whether it keeps symbols for a debugger."""
+    (header,) = struct.unpack_from("<I", data, 0x3C)
+    machine, sections, _, symbols, count = struct.unpack_from("<HHIII", data, header + 4)
+    optional = struct.unpack_from("<H", data, header + 20)[0]
+    names = [data[at:at + 8] for at in range(header + 24 + optional, header + 24 + optional + 40 * sections, 40)]
+    return MACHINES.get(machine), bool(symbols or count or any(name.startswith((b"/", b".debug")) for name in names))
+
+
+def broken_links(files, name):
+    text = re.sub(r"```.*?```", "", files[name].decode(), flags=re.S)
+    for target in re.findall(r"\]\(([^)#\s]+)(?:#[^)]*)?\)", text):
+        if ":" in target:
+            continue
+        path = posixpath.normpath(posixpath.join(posixpath.dirname(name), target))
+        if path not in files and not any(each.startswith(path + "/") for each in files):
+            yield f"{name} links to {target}, which is not there"
+
+
+def problems(files, source):
+    listed = dict(reversed(line.split("  ", 1)) for line in files["SHA256SUMS"].decode().splitlines())
+    sums = {name: hashlib.sha256(data).hexdigest() for name, data in files.items() if name != "SHA256SUMS"}
+    if listed != sums:
+        yield "SHA256SUMS differs from the files"
+    yield from (f"{name} is missing" for name in WANTED if name not in files)
+    for name, data in files.items():
+        for encoding in ("utf-8", "utf-16-le"):
+            if source.encode(encoding) in data:
+                yield f"{name} names the folder that it was built in"
+        if name.endswith((".exe", ".dll")):
+            width, symbols = image(data)
+            if f"win{width}/" not in name:
+                yield f"{name} has {width} bits"
+            if symbols:
+                yield f"{name} has symbols"
+        if name.endswith(".md"):
+            yield from broken_links(files, name)
+
+
+def other_identifiers(files):
+    """The script for PowerShell names the classes and the type library itself."""
+    own = set(re.findall(r"'(\{[0-9A-F-]+\})'", files["doctor.ps1"].decode()))
+    element = r'<(?:comClass clsid|typelib tlbid)="([^"]*)"'
+    wanted = set(re.findall(element, files["win32/QVRlib21.SxS.manifest"].decode()))
+    if not wanted or own != wanted:
+        yield f"doctor.ps1 differs from the manifest: {sorted(own ^ wanted)}"
+
+
+def main():
+    archive = zipfile.ZipFile(sys.argv[1])
+    top = archive.namelist()[0].split("/")[0] + "/"
+    outside = [name for name in archive.namelist() if not name.startswith(top)]
+    files = {name[len(top):]: archive.read(name) for name in archive.namelist()}
+    found = [f"{name} is outside the folder {top}" for name in outside] + list(problems(files, sys.argv[2]))
+    found += other_identifiers(files)
+    print("\n".join(found) or f"{len(files)} files, all as they should be")
+    sys.exit(1 if found else 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# Goes the way of the package's README in a folder and a Wine prefix that have seen nothing else, once for each width:
+# the commands are those of its text, and what they print is compared. Usage: five_minutes.sh ZIP
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+tools=$here/../../tools
+
+work=$(mktemp -d)
+export QVR_WINEPREFIX=$work/prefix
+tidy_up() {
+  local outcome=$?
+  "$tools/wine.sh" --stop || true
+  rm -rf "$work"
+  exit "$outcome"
+}
+trap tidy_up EXIT
+"$tools/wine_prefix.sh" "$QVR_WINEPREFIX" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
+WINEPREFIX=$QVR_WINEPREFIX wineserver -w
+# Programs start as from the command prompt of a 64-bit Windows.
+export QVR_WINE=/usr/lib/wine/wine64
+# Wine looks for classes in the machine's registration only. Here the user's classes are the machine's, so that what is
+# registered for the user is found as on Windows.
+python3 "$here/merge_user_classes.py" "$QVR_WINEPREFIX/user.reg"
+
+python3 -m zipfile -e "$1" "$work/unpacked"
+folder=$(echo "$work"/unpacked/*)
+cd "$folder"
+sha256sum --check --quiet --strict SHA256SUMS
+
+# run COMMAND: a line of the README in a command prompt of this folder.
+run() {
+  printf '@echo off\r\n%s\r\n' "$1" >"$work/line.bat"
+  timeout 60 "$tools/wine.sh" cmd /c "Z:${work//\//\\}\\line.bat" </dev/null | tr -d '\r'
+}
+
+# The commands of one width, one a line; both languages have the same ones, and the same expected output.
+commands() { awk -v width="$1" '/^ *```bat/ { inside = 1; next } /^ *```/ { inside = 0 }
+  inside && (/win'"$1"'/ || /'"$2"'/) { sub(/^ +/, ""); print }' README.md; }
+blocks() { awk '/^ *```[a-z]/ { inside = 1 } inside { print } /^ *```$/ { inside = 0 }' "$1"; }
+diff <(blocks README.md) <(blocks LEAME.md)
+
+# Does what the README says, and prints what is to be compared. Of the doctor's lines these are the one about the
+# registration, which here shows as the user's, the machine's or both, and the last one.
+go() {
+  local width=$1 system=$2 command
+  mapfile -t steps < <(commands "$width" "$system")
+  [ "${#steps[@]}" = 5 ] || { echo "the README has ${#steps[@]} commands for $width-bit programs"; exit 1; }
+  run "${steps[0]}" >/dev/null
+  echo "== first script, registered"
+  run "${steps[1]}" | sed 's/ *$//'
+  echo "== doctor"
+  run "${steps[2]}" >"$work/doctor"
+  grep -E '^(ok|note|error) +registration' "$work/doctor" | grep -F "$width-bit programs" |
+    sed -e "s|Z:.*win$width|FOLDER|" -e 's/, for the \(user\|machine\)//' | uniq
+  tail -n 1 "$work/doctor"
+  run "${steps[3]}" >/dev/null
+  echo "== first script, not registered any more"
+  run "${steps[1]}" | sed 's/ *$//'
+  echo "== without registration"
+  run "${steps[4]}" | tail -n 1
+}
+
+# What the README says that the script prints, and what the rest prints.
+expected() {
+  echo "== first script, registered"
+  awk '/^ *```text/ { inside = 1; next } /^ *```/ { inside = 0 } inside { sub(/^   /, ""); print }' README.md
+  echo "== doctor"
+  echo "ok     registration   $1-bit programs: FOLDER\\QVRlib21.dll, version $version"
+  echo "no errors"
+  echo "== first script, not registered any more"
+  echo "== without registration"
+  echo "Everything was as expected."
+}
+version=$(sed -n 's/^# QVRlib21 \([0-9.]*\):.*/\1/p' README.md)
+diff <(expected 32) <(go 32 SysWOW64)
+diff <(expected 64) <(go 64 System32)

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Makes a Wine prefix without display, sound and foreign runtimes: tools/wine_prefix.sh FOLDER
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+export QVR_WINEPREFIX=$1
+"$root/tools/wine.sh" wineboot -i
+# The null graphics driver lets message boxes work unseen.
+"$root/tools/wine.sh" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+# A program that crashes ends with its backtrace instead of waiting in a dialog.
+"$root/tools/wine.sh" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
+"$root/tools/wine.sh" --stop || true
