@@ -52,7 +52,8 @@ Value::Value(const Value& other) {
 
 std::wstring Value::text() const {
   Value as_text;
-  require(VariantChangeTypeEx(as_text.out(), const_cast<VARIANT*>(&variant_), 0x409, VARIANT_ALPHABOOL, VT_BSTR), L"VariantChangeType");
+  require(VariantChangeTypeEx(as_text.out(), const_cast<VARIANT*>(&variant_), 0x409, VARIANT_ALPHABOOL, VT_BSTR),
+          L"VariantChangeType");
   return std::wstring(as_text.variant_.bstrVal, SysStringLen(as_text.variant_.bstrVal));
 }
 

@@ -139,8 +139,8 @@ void diagnose_type_library(const Facts& facts, Diagnoses& found) {
     }
     return;
   }
-  found.ok({types.name, u" ", types.version, types.registered.empty() ? u", not registered, loads from " : u", loads from ",
-            types.loaded_from});
+  const TextView registered = types.registered.empty() ? u", not registered, loads from " : u", loads from ";
+  found.ok({types.name, u" ", types.version, registered, types.loaded_from});
 }
 
 }  // namespace qvr::script_tool

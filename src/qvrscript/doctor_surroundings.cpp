@@ -22,7 +22,9 @@ const std::vector<EngineProviders>& engines() {
        {u"SQLOLEDB", u"MSOLEDBSQL", u"MSOLEDBSQL19", u"SQLNCLI11"},
        u"Install the OLE DB Driver for SQL Server (MSOLEDBSQL)."},
       {u"Oracle", {u"MSDAORA", u"OraOLEDB.Oracle"}, u"Install Oracle's client of this width with OraOLEDB."},
-      {u"ODBC", {u"MSDASQL"}, u"It is part of Windows; where an ODBC driver is to be used, repair Windows' components."},
+      {u"ODBC",
+       {u"MSDASQL"},
+       u"It is part of Windows; where an ODBC driver is to be used, repair Windows' components."},
   };
   return rows;
 }

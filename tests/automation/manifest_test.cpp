@@ -87,7 +87,8 @@ TEST_F(ManifestTest, HasTheInterfacesOfTheTypeLibraryWithTheirMarshallers) {
 }
 
 TEST_F(ManifestTest, HasTheTypeLibraryOfTheFileItself) {
-  EXPECT_EQ(elements("typelib", {"tlbid", "version", "resourceid"}), std::set<std::string>{std::string(kTypes) + " 1.1 1"});
+  EXPECT_EQ(elements("typelib", {"tlbid", "version", "resourceid"}),
+            std::set<std::string>{std::string(kTypes) + " 1.1 1"});
   for (const char* name : {"comClass", "comInterfaceExternalProxyStub"}) {
     std::set<std::string> named;
     for (const std::string& each : elements(name, {name == std::string("comClass") ? "clsid" : "iid", "tlbid"})) {

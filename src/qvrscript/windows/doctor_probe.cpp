@@ -88,8 +88,8 @@ void look_at_ado(Facts& facts) {
 
 void look_at_others(Facts& facts) {
   for (const wchar_t* name :
-       {L"Microsoft.Jet.OLEDB.4.0", L"Microsoft.ACE.OLEDB.12.0", L"Microsoft.ACE.OLEDB.16.0", L"SQLOLEDB", L"MSOLEDBSQL",
-        L"MSOLEDBSQL19", L"SQLNCLI11", L"MSDAORA", L"OraOLEDB.Oracle", L"MSDASQL"}) {
+       {L"Microsoft.Jet.OLEDB.4.0", L"Microsoft.ACE.OLEDB.12.0", L"Microsoft.ACE.OLEDB.16.0", L"SQLOLEDB",
+        L"MSOLEDBSQL", L"MSOLEDBSQL19", L"SQLNCLI11", L"MSDAORA", L"OraOLEDB.Oracle", L"MSDASQL"}) {
     facts.providers.push_back(windows::provider(name));
   }
   for (const wchar_t* name : {automation::ComTextProtection::kProgramId, automation::ComErrorReport::kProgramId,

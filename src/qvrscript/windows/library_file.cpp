@@ -25,7 +25,8 @@ class Handle {
   template <class T>
   bool read(LONG at, T& into) const {
     DWORD count = 0;
-    return handle_ != INVALID_HANDLE_VALUE && SetFilePointer(handle_, at, nullptr, FILE_BEGIN) != INVALID_SET_FILE_POINTER &&
+    return handle_ != INVALID_HANDLE_VALUE &&
+           SetFilePointer(handle_, at, nullptr, FILE_BEGIN) != INVALID_SET_FILE_POINTER &&
            ReadFile(handle_, &into, sizeof into, &count, nullptr) && count == sizeof into;
   }
 

@@ -89,7 +89,8 @@ auto first_of_own_width(Look look) -> decltype(look(Place{})) {
 }
 
 std::optional<std::wstring> class_id_of(const wchar_t* program_id) {
-  return first_of_own_width([&](const Place& place) { return class_value(place, std::wstring(program_id) + L"\\CLSID"); });
+  const std::wstring key = std::wstring(program_id) + L"\\CLSID";
+  return first_of_own_width([&](const Place& place) { return class_value(place, key); });
 }
 
 // A server's value may be quoted, may have variables and may be a name alone, which the system's folder has.
