@@ -71,7 +71,6 @@ PY
   cp "$2/QVRlib21.dll" "$work"
   other_width "$work/QVRlib21.dll"
   doctor "a library of the other width"
-} | sed -e 's/ win32 and win64 / both widths /' -e "s/$width-bit/OWN-bit/g" -e "s/$((96 - width))-bit/OTHER-bit/g" -e "s/win$width/winOWN/g" \
-    -e "s/win$((96 - width))/winOTHER/g" \
-    -e 's/SysWOW64\|System32/SYSTEM/g' >"$work/all"
+} | sed -e 's/ win32 and win64 / both widths /' -e "s/$width-bit/OWN-bit/g" -e "s/$((96 - width))-bit/OTHER-bit/g" \
+    -e "s/win$width/winOWN/g" -e "s/win$((96 - width))/winOTHER/g" -e 's/SysWOW64\|System32/SYSTEM/g' >"$work/all"
 diff "$work/all" "$here/doctor.approved.txt"
