@@ -1,4 +1,4 @@
-// The manual's page beside the program.
+// The manual's page beside the program, in both languages.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -22,8 +22,10 @@ std::set<std::string> rules_by(const std::regex& line, const std::string& text) 
   return rules;
 }
 
-TEST(Help, NamesTheRulesOfTheManual) {
-  std::ifstream page(QVR_TESTS_MANUAL "/en/qvrscript.md");
+class ManualPages : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(ManualPages, NameTheRulesOfTheHelp) {
+  std::ifstream page(QVR_TESTS_MANUAL "/" + GetParam() + "/qvrscript.md");
   ASSERT_TRUE(page);
   const std::string manual{std::istreambuf_iterator<char>(page), {}};
   const std::set<std::string> rules = rules_by(std::regex(R"(\n\| (`[^|]+`) \|)"), manual);
@@ -31,6 +33,9 @@ TEST(Help, NamesTheRulesOfTheManual) {
   EXPECT_EQ(rules,
             rules_by(std::regex(R"(\n  ([a-z0-9-]+-[a-z0-9-]+(, [a-z0-9-]+)*))"), run_tool({u"help", u"check"}).out));
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, ManualPages, ::testing::Values("en", "es"),
+                         [](const auto& each) { return each.param; });
 
 }  // namespace
 }  // namespace qvr::tests
