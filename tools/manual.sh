@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the manual's site: build/manual/site/, to be opened from its index.html; nothing in it needs a network.
-# tools/manual.sh --check only looks whether the reference is complete.
+# tools/manual.sh --check only looks whether the reference is complete, and diagrams and excerpts are current.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 manual=$root/build/manual

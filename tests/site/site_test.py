@@ -12,6 +12,7 @@ import unittest
 
 import junit
 import reference_test  # noqa: F401  run along
+import sources_test  # noqa: F401  run along
 from browser import NARROW, WIDE, Browser
 from links import Site
 
@@ -191,7 +192,8 @@ if __name__ == "__main__":
         site, browser = Site(folder), Browser(folder)
         try:
             add_rows()
-            outcome = junit.run("__main__", "reference_test", results=sys.argv[2] if len(sys.argv) > 2 else None)
+            outcome = junit.run("__main__", "reference_test", "sources_test",
+                                results=sys.argv[2] if len(sys.argv) > 2 else None)
         finally:
             browser.close()
     sys.exit(outcome)

@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
 """Writes the reference of every member from the IDL and the entries: reference.py [--check] [FOLDER].
 
-Without a folder, or with --check, it only looks for what is missing or out of date. The pages of a language go to
-FOLDER/<language>/, the table of help contexts also to FOLDER/contexts.ini.
+Without a folder, or with --check, it only looks for what is missing or out of date, in the pages' diagrams and excerpts
+of examples too. The pages of a language go to FOLDER/<language>/, the table of help contexts also to
+FOLDER/contexts.ini.
 """
 import pathlib
 import sys
 
+import diagrams
+import excerpts
 from check import problems
 from entries import LANGUAGES, Entries, documented
 from examples import by_member
@@ -47,8 +50,10 @@ def main(arguments):
     library = read_library(IDL.read_text(encoding="utf-8"))
     entries = Entries(MANUAL / "reference")
     found = list(problems(library, entries)) + list(guide_problems(library, entries, Guides(MANUAL, "en")))
+    found = [f"reference: {each}" for each in found]
+    found += [f"manual: {each}" for each in (*diagrams.problems(MANUAL / "diagrams"), *excerpts.problems(ROOT))]
     for problem in found:
-        print(f"reference: {problem}", file=sys.stderr)
+        print(problem, file=sys.stderr)
     if found:
         return 1
     folders = [each for each in arguments if each != "--check"]
