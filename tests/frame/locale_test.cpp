@@ -54,6 +54,15 @@ TEST(SystemLocale, ReadsATimeAlone) {
   EXPECT_EQ(noon->days, 0.5);
 }
 
+// What typed texts of dates are written as, and the form that is the same everywhere.
+TEST(SystemLocale, ReadsAYearInFrontAsYearMonthDay) {
+  for (const TextView text : {u"2024-03-01", u"2024/03/01", u"2024-3-1", u"2024-03-01 00:00:00"}) {
+    const auto date = locale().parse_date(text);
+    ASSERT_TRUE(date) << to_utf8(text);
+    EXPECT_EQ(date->days, 45352) << to_utf8(text);
+  }
+}
+
 TEST(SystemLocale, HasNothingForWhatIsNoDate) {
   const Text kTexts[] = {u"", u"abc", u"32/13/2000", u"30/02/2000", u"0/0/2000", u"1/1/2000 25:00:00", u"1/2/3/4/5",
                          Text(u"1/1/2000\0x", 10)};
