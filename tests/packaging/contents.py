@@ -13,7 +13,7 @@ BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe"
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
     "include/QVRlib21.h", "include/adodb25.h", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "doctor.ps1", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp",
-    "examples/registration_free/main.cpp"]
+    "examples/registration_free/main.cpp", "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
 MACHINES = {0x14C: 32, 0x8664: 64}
 
 
@@ -52,6 +52,8 @@ def problems(files, source):
                 yield f"{name} has {width} bits"
             if symbols:
                 yield f"{name} has symbols"
+        if name.endswith((".bas", ".cls")) and data.count(b"\n") != data.count(b"\r\n"):
+            yield f"{name} has lines that do not end in CR LF, which Visual Basic's editor does not read"
         if name.endswith(".md"):
             yield from broken_links(files, name)
 
