@@ -26,7 +26,8 @@ regsvr "$bin\\testado.dll"
 trap 'regsvr /u "$bin\\QVRlib21.dll" || true; regsvr /u "$bin\\testado.dll" || true; "$root/tools/wine.sh" --stop || true' EXIT
 
 echo "=== A host in C++, late-bound ==="
-wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$folder" "$example\\scripts\\sqlite" | tr -d '\r'
+wine "$bin\\gestion.exe" --answer --unregister "$bin\\QVRlib21.dll" "$folder" "$example\\scripts\\sqlite" |
+  tr -d '\r' | tee "$work/gestion.txt"
 echo
 echo "=== The same in VBScript ==="
 regsvr "$bin\\QVRlib21.dll"

@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
-# Takes the pictures of the manual's site in docs/images/ with a headless browser; tools/manual.sh has to have built it.
+# Takes the pictures in docs/images/ with a headless browser: of the manual's site, which tools/manual.sh has to have
+# built, and of what tools/demo.sh printed when it last ran.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 site=$root/build/manual/site
+told=$root/build/demo/gestion.txt
 images=$root/docs/images
 [ -e "$site/index.html" ] || { echo "screenshots: build the site first: tools/manual.sh" >&2; exit 1; }
+[ -e "$told" ] || { echo "screenshots: run the demo first: tools/demo.sh" >&2; exit 1; }
 mkdir -p "$images"
 
-# take NAME PAGE WIDTH HEIGHT
+# take NAME PAGE WIDTH HEIGHT [FOLDER]
 take() {
-  "$root/tests/site/screenshot.py" "$site" "$2" "$images/$1.png" "$3" "$4"
+  "$root/tests/site/screenshot.py" "${5:-$site}" "$2" "$images/$1.png" "$3" "$4"
   pngquant --force --strip --speed 1 --output "$images/$1.png" 64 "$images/$1.png"
   [ "$(stat -c %s "$images/$1.png")" -le 153600 ] || { echo "screenshots: $1.png is too large" >&2; exit 1; }
 }
@@ -17,3 +20,8 @@ take() {
 take site-en en/reference/QVRcfp.html#help-2038 1280 860
 take site-es-narrow es/reference/QVRcfp.html#help-2038 360 720
 take site-search 'es/search.html?q=fecha' 1280 720
+
+terminal=$(mktemp -d)
+trap 'rm -rf "$terminal"' EXIT
+"$root/tools/terminal_page.py" "$told" 9 >"$terminal/index.html"
+take demo index.html 1000 640 "$terminal"

@@ -142,7 +142,7 @@ TEST(NearestDouble, DecidesHalfWayExactly) {
 TEST(NearestDouble, ReadsAnyDigitsAsTheStandardLibraryDoes) {
   std::mt19937_64 random(25);
   for (int round = 0; round < 20000; ++round) {
-    std::string digits(random() % 40 + 1, '0');
+    std::string digits(static_cast<std::size_t>(random() % 40 + 1), '0');
     for (char& unit : digits) unit = static_cast<char>('1' + random() % 9);
     const int magnitude = static_cast<int>(random() % 640) - 330;
     const std::string text = digits.substr(0, 1) + "." + digits.substr(1) + "e" + std::to_string(magnitude);

@@ -8,6 +8,7 @@ TYPES = {"BSTR": "string", "VARIANT": "object", "VARIANT_BOOL": "bool", "long": 
          "MotoresBD": "MotoresBD", "Connection": "object", "Command": "object", "ParameterDirectionEnum": "int"}
 MEMBER = re.compile(r"\[([^]]*?)helpstring\(\"[^\"]*\"\)\]\s*(?:HRESULT|void)\s+(\w+)\(([^;]*)\);")
 PARAMETER = re.compile(r"\[([^]]*)\]\s*(\w+)\s*(\**)\s*(\w+)")
+COCLASS = re.compile(r"\[(uuid\(([\w-]+)\)(?:\"[^\"]*\"|[^]\"])*)\]\s*coclass (\w+)\s*{(.*?)\n  }", re.S)
 
 
 def without_comments(text):
@@ -61,7 +62,7 @@ def event_lines(idl):
 
 
 def coclass_lines(idl):
-    for head, uuid, name, body in re.findall(r"\[(uuid\(([\w-]+)\)[^\n]*)\]\s*coclass (\w+)\s*{(.*?)\n  }", idl, re.S):
+    for head, uuid, name, body in COCLASS.findall(idl):
         default = re.search(r"\[default\] interface (\w+)", body)[1]
         source = re.search(r"source\] dispinterface (\w+)", body)
         bases = default + (f", {source[1]}_Event" if source else "")
