@@ -11,8 +11,10 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
 endif()
 
 # Source files of the current folder that are worth their size: they run once for each row, command or call.
+# Aligning functions and jumps made no difference that could be told from chance, but in size.
 function(qvr_fast)
-  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS
+    "$<$<CONFIG:Release>:-O2;-fno-align-functions;-fno-align-jumps>")
 endfunction()
 
 # For a DLL with standard entry points: plain names also where the calling convention decorates them.
