@@ -19,6 +19,7 @@ std::string script_bytes(Files& files, TextView Ruta) {
     const std::size_t count = file->read(piece);
     whole = count < piece.size();
     piece.resize(count);
+    if (whole) piece.shrink_to_fit();  // in a small file its room would outweigh the text
     size += count;
     if (size == kMost) throw RuntimeFailure(failure_number::kFile);
   }
