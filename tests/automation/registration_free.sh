@@ -8,7 +8,17 @@ windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 [ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+# A prefix of its own has certainly nothing registered; and Wine registers a type library that it finds by a manifest.
+export QVR_WINEPREFIX=$work/prefix
+tidy_up() {
+  local outcome=$?
+  "$here/../../tools/wine.sh" --stop || true
+  rm -rf "$work"
+  exit "$outcome"
+}
+trap tidy_up EXIT
+"$here/../../tools/wine_prefix.sh" "$QVR_WINEPREFIX" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
+WINEPREFIX=$QVR_WINEPREFIX wineserver -w
 mkdir "$work/with" "$work/without"
 cp "$2"/{QVRlib21.dll,QVRlib21.SxS.manifest,registration_free.exe,registration_free.exe.manifest} "$work/with"
 cp "$2"/{QVRlib21.dll,registration_free.exe} "$work/without"
