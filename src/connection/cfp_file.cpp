@@ -11,13 +11,18 @@ namespace qvr {
 namespace {
 
 // Lines 2 to 9; line 1 is the engine.
-constexpr Text ConnectionParameters::* kTextLines[] = {
-    &ConnectionParameters::Provider,   &ConnectionParameters::DataSource, &ConnectionParameters::InitialCatalogOTablespace,
-    &ConnectionParameters::UsuarioAdm, &ConnectionParameters::ClaveAdm,   &ConnectionParameters::UsuarioCli,
-    &ConnectionParameters::ClaveCli,   &ConnectionParameters::OtrosParametros,
+constexpr Text ConnectionParameters::*kTextLines[] = {
+    &ConnectionParameters::Provider,
+    &ConnectionParameters::DataSource,
+    &ConnectionParameters::InitialCatalogOTablespace,
+    &ConnectionParameters::UsuarioAdm,
+    &ConnectionParameters::ClaveAdm,
+    &ConnectionParameters::UsuarioCli,
+    &ConnectionParameters::ClaveCli,
+    &ConnectionParameters::OtrosParametros,
 };
 
-// Far beyond any field, and short enough that a file of another kind is given up early.
+// With its CR: far beyond any field, and short enough that a file of another kind is given up early.
 constexpr std::size_t kLongestLine = std::size_t{16} << 20;
 
 class LineReader {
@@ -108,8 +113,9 @@ std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, s
                       TextView key) {
   std::string bytes;
   const auto append_line = [&](TextView text) {
-    bytes += encoding.to_system_page(protection.Cifrar(key, text));
-    bytes += "\r\n";
+    const std::string line = encoding.to_system_page(protection.Cifrar(key, text));
+    if (line.size() >= kLongestLine) throw RuntimeFailure(failure_number::kFile);  // it could not be read again
+    bytes.append(line).append("\r\n");
   };
   append_line(decimal(parameters.MotorBD));
   for (const auto line : kTextLines) append_line(parameters.*line);

@@ -56,12 +56,11 @@ bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
   return or_default(false, [&] {
     if (!created_) return false;
     ThreadState& state = thread_state();
-    // All that can fail first, written after: a protection that fails leaves the file that is there alone.
-    const std::string bytes = cfp_bytes(fields_, state.platform().files, state.text_protection(), ID);
     Text name(A);
     const auto file = state.platform().files.create(cfp_path(R, A));
     if (fields_.Archivo.empty()) fields_.Archivo = std::move(name);
-    file->write(bytes);
+    // All that can fail first, written after: a protection that fails leaves the file that is there alone.
+    file->write(cfp_bytes(fields_, state.platform().files, state.text_protection(), ID));
     file->close();
     return true;
   });

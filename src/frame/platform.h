@@ -51,7 +51,8 @@ struct Files {
   virtual std::vector<Text> names(TextView folder) = 0;           // of its plain files; throws when it cannot be read
   virtual std::unique_ptr<InputFile> open(TextView path) = 0;     // throws when it cannot be read
   // A file that is there stays as it is until the new one is closed and takes its place. What is written until then
-  // stands beside it, its name with ".tmp" behind, and stays there when it comes to no end. Throws.
+  // stands beside it, its name with ".tmp" behind, and stays there when it comes to no end. Where nothing can stand
+  // beside it, or cannot take its place, it is written over, from the first byte that is written. Throws.
   virtual std::unique_ptr<OutputFile> create(TextView path) = 0;
   // Text in the system's single-byte or multi-byte page. Throws when a character has no place in that page.
   virtual std::string to_system_page(TextView text) = 0;

@@ -152,9 +152,32 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
     ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
     EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"a"));
     EXPECT_EQ(thread.files.memory[u"F\\a.cfp"], "what was there");
+    EXPECT_FALSE(thread.files.memory.contains(u"F\\a.cfp.tmp"));
+    EXPECT_EQ(cfp.Archivo(), u"a") << "the file could be opened";
     EXPECT_EQ(calls, failing);
     EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a")) << "the object still holds its parameters";
   }
+}
+
+// Up to the longest line that is read again.
+TEST_F(CfpFileTest, IsNotWrittenWithALineThatCouldNotBeRead) {
+  thread.files.keep_in_memory();
+  thread.make_text_protection = [] { return std::make_unique<CheapProtection>(); };
+  constexpr std::size_t kLongestLine = std::size_t{16} << 20, kDigitsOfAUnit = 4;
+  ConnectionParameters parameters;
+  parameters.MotorBD = 2;
+  const std::size_t room = (kLongestLine - 1) / kDigitsOfAUnit - 1;  // the check line holds the engine's digit too
+  parameters.OtrosParametros = Text(room, u'o');
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", parameters));
+  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+  QVRcfp read;
+  EXPECT_TRUE(read.Crear(u"id", u"F", u"a"));
+  EXPECT_EQ(read.OtrosParametros().size(), room);
+  parameters.OtrosParametros.push_back(u'o');
+  ASSERT_TRUE(cfp.Asignar(u"id", parameters));
+  EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"b"));
+  EXPECT_FALSE(thread.files.memory.contains(u"F\\b.cfp"));
 }
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {

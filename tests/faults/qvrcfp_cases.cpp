@@ -47,6 +47,11 @@ struct Cfp {
   QVRcfp cfp;
 };
 
+// One that has the name of its file already.
+struct NamedCfp : Cfp {
+  NamedCfp() { cfp.Guardar(kId, kFolder, u"Named"); }
+};
+
 // The system's cryptography, with a key that is quickly derived.
 struct QuickCryptography final : Cryptography {
   std::unique_ptr<BlockCipher> aes(Bytes key) override { return system_platform().cryptography.aes(key); }
@@ -175,9 +180,14 @@ std::vector<FaultCase> qvrcfp_cases() {
   }));
   all.push_back(
       emptying(on("QVRcfp.Crear", "True", {"False"}, [](Cfp& f) { return f.cfp.Crear(kId, kFolder, kName); })));
-  all.push_back(on("QVRcfp.Guardar", "True", {"False"}, [](Cfp& f) { return f.cfp.Guardar(kId, kFolder, kName); }));
-  all.push_back(on("QVRcfp.Guardar, a new file", "True", {"False"},
+  all.push_back(fault_case<NamedCfp>("QVRcfp.Guardar", "True", {"False"},
+                                     [](NamedCfp& f) { return f.cfp.Guardar(kId, kFolder, kName); }));
+  all.push_back(fault_case<NamedCfp>("QVRcfp.Guardar, a new file", "True", {"False"},
+                                     [](NamedCfp& f) { return f.cfp.Guardar(kId, kFolder, kOtherName); }));
+  // `Archivo` has the name once the file can be opened.
+  all.push_back(on("QVRcfp.Guardar, the first", "True", {"False"},
                    [](Cfp& f) { return f.cfp.Guardar(kId, kFolder, kOtherName); }));
+  all.back().leaves = Failed::LineByLine;
   all.push_back(fault_case<SystemCfp>("QVRcfp.Guardar, over the system", "True", {"False"},
                                       [](SystemCfp& f) { return f.cfp.Guardar(kId, f.path, u"An older one"); }));
   all.push_back(fault_case<SystemCfp>("QVRcfp.Crear, over the system", "True", {"False"},

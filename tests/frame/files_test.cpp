@@ -70,11 +70,21 @@ TEST(SystemFiles, HaveNoNewFileUntilItIsWhole) {
   EXPECT_EQ(folder.read(u"x.cfp"), "new");
 }
 
+TEST(SystemFiles, OfWhichNothingWasWrittenLeaveNothingBehind) {
+  const TemporaryFolder folder;
+  folder.write(u"x.cfp", "former");
+  files().create(folder.file_text(u"x.cfp"));
+  files().create(folder.file_text(u"y.cfp"));
+  EXPECT_EQ(folder.read(u"x.cfp"), "former");
+  EXPECT_EQ(files().names(folder.text()), std::vector<Text>{u"x.cfp"});
+}
+
 TEST(SystemFiles, AreWrittenInPlaceWhereNothingCanStandBeside) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.file(u"x.cfp.tmp"));
   folder.write(u"x.cfp", "former and longer");
   const auto out = files().create(folder.file_text(u"x.cfp"));
+  EXPECT_EQ(folder.read(u"x.cfp"), "former and longer") << "nothing has been written";
   out->write("new");
   out->close();
   EXPECT_EQ(folder.read(u"x.cfp"), "new");

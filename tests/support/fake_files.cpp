@@ -19,9 +19,15 @@ class MemoryOutput final : public OutputFile {
     const FaultsPaused paused;
     written().clear();
   }
+  ~MemoryOutput() override {
+    if (!begun_) files_.memory.erase(beside_);
+  }
+  MemoryOutput(const MemoryOutput&) = delete;
+  MemoryOutput& operator=(const MemoryOutput&) = delete;
 
   void write(std::string_view bytes) override {
     const FaultsPaused paused;  // a disk has its own room
+    begun_ = true;
     const auto& disk = files_.writable_bytes;
     const std::size_t room = disk ? *disk - std::min(*disk, written().size()) : bytes.size();
     written() += bytes.substr(0, room);
@@ -30,6 +36,7 @@ class MemoryOutput final : public OutputFile {
 
   void close() override {
     const FaultsPaused paused;
+    begun_ = true;
     if (files_.close_fails) refuse();
     files_.memory[path_] = std::move(written());
     files_.memory.erase(beside_);
@@ -40,6 +47,7 @@ class MemoryOutput final : public OutputFile {
 
   FakeFiles& files_;
   const Text path_, beside_;
+  bool begun_ = false;
 };
 
 }  // namespace

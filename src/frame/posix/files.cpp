@@ -1,17 +1,18 @@
+#include <dirent.h>
 #include <fcntl.h>
-#include <glob.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "frame/failure.h"
 #include "frame/posix/parts.h"
 #include "frame/utf8.h"
+#include "frame/wildcards.h"
 
 namespace qvr::posix {
 namespace {
@@ -56,8 +57,8 @@ class DescriptorInput : public InputFile {
   Descriptor descriptor_;
 };
 
-int opened_to_write(const std::string& path) {
-  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+int opened_to_write(const std::string& path, int how) {
+  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | how, 0666);
 }
 
 // The permissions of the file that is there; none where there is no file. What may not be written must not be replaced
@@ -80,7 +81,14 @@ class DescriptorOutput : public OutputFile {
         permissions_(permissions_to_keep(path_)),
         descriptor_(opened()) {}
 
+  ~DescriptorOutput() override {
+    if (!begun_ && !beside_.empty()) ::unlink(beside_.c_str());
+  }
+  DescriptorOutput(const DescriptorOutput&) = delete;
+  DescriptorOutput& operator=(const DescriptorOutput&) = delete;
+
   void write(std::string_view bytes) override {
+    begun_ = true;
     while (!bytes.empty()) {
       const ssize_t count = ::write(descriptor_.number(), bytes.data(), bytes.size());
       if (count < 0 && errno == EINTR) continue;
@@ -90,65 +98,78 @@ class DescriptorOutput : public OutputFile {
   }
 
   void close() override {
-    const bool kept = !permissions_ || ::fchmod(descriptor_.number(), *permissions_) == 0;
-    // On the disk before its name is: a machine that stops must not keep the name alone.
-    const bool flushed = ::fsync(descriptor_.number()) == 0;
-    if (::close(descriptor_.release()) != 0 || !flushed || !kept) refuse();
+    begun_ = true;
+    const int number = descriptor_.number();
+    const bool kept = !permissions_ || ::fchmod(number, *permissions_) == 0;
+    // Ends where it was written to, and is on the disk before its name is: a machine that stops must not keep the name
+    // alone.
+    const bool whole = ::ftruncate(number, ::lseek(number, 0, SEEK_CUR)) == 0 && ::fsync(number) == 0;
+    if (::close(descriptor_.release()) != 0 || !whole || !kept) refuse();
     if (!beside_.empty() && ::rename(beside_.c_str(), path_.c_str()) != 0) refuse();
   }
 
  private:
   int opened() {
-    const int number = opened_to_write(beside_);
+    const int number = opened_to_write(beside_, O_TRUNC);
     if (number >= 0) return number;
     beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
-    return opened_to_write(path_);
+    return opened_to_write(path_, 0);
   }
 
   const std::string path_;
   std::string beside_;  // empty where there is none
+  bool begun_ = false;
   const std::optional<mode_t> permissions_;
   Descriptor descriptor_;
 };
 
 constexpr std::int32_t kDirectoryAttribute = 16;
 
-// Only "*" and "?" are wildcards; a bracket is part of a name.
-std::string search_pattern(TextView path) {
-  std::string pattern;
-  for (const char byte : native_path(path)) {
-    if (byte == '[') pattern.push_back('\\');
-    pattern.push_back(byte);
+// Hands the name of every entry over, with the way to it, until it is told that this is enough; a name that is no text
+// cannot be asked for. Throws when the folder cannot be read. (The standard library's walk ends the program when there is
+// no memory.)
+template <class Use>
+void each_name(const std::string& folder, Use&& use) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(folder.c_str()), &::closedir);
+  if (!listing) refuse();
+  while (const dirent* entry = ::readdir(listing.get())) {
+    auto name = from_utf8(entry->d_name);
+    if (name && use(std::move(*name), folder + "/" + entry->d_name)) return;
   }
-  return pattern;
+}
+
+// As a search shows it: the two entries for the folder itself and for the one above it among them.
+enum class Kind { None, Plain, Directory };
+Kind kind_of(const std::string& path) {
+  struct stat entry{};
+  if (::stat(path.c_str(), &entry) != 0) return Kind::None;
+  return S_ISDIR(entry.st_mode) ? Kind::Directory : S_ISREG(entry.st_mode) ? Kind::Plain : Kind::None;
 }
 
 class PosixFiles final : public Files {
  public:
+  // Without regard to case, as the names of a folder are compared everywhere else.
   bool any_entry(TextView path, std::int32_t attributes) override {
-    glob_t found{};
-    const int result = ::glob(search_pattern(path).c_str(), GLOB_NOSORT, nullptr, &found);
+    const std::size_t end = path.find_last_of(u"/\\");
+    const TextView folder = end == TextView::npos ? u"." : path.substr(0, end + 1);
+    const TextView pattern = end == TextView::npos ? path : path.substr(end + 1);
+    const bool directories = (attributes & kDirectoryAttribute) != 0;
     bool any = false;
-    for (std::size_t i = 0; result == 0 && i < found.gl_pathc && !any; ++i) {
-      struct stat entry{};
-      // A search shows folders only where the mask asks for them.
-      any = ::stat(found.gl_pathv[i], &entry) == 0 &&
-            (!S_ISDIR(entry.st_mode) || (attributes & kDirectoryAttribute) != 0);
-    }
-    ::globfree(&found);
+    each_name(native_path(folder), [&](const Text& name, const std::string& found) {
+      if (!matches_wildcards(name, pattern)) return false;
+      const Kind kind = kind_of(found);
+      return any = kind == Kind::Plain || (kind == Kind::Directory && directories);
+    });
     return any;
   }
 
   std::vector<Text> names(TextView folder) override {
-    std::vector<Text> found;
-    const std::filesystem::path path(native_path(folder));
-    for (const auto& entry : std::filesystem::directory_iterator(path)) {
-      std::error_code vanished;
-      auto name = from_utf8(entry.path().filename().string());
-      // A name that is no text cannot be asked for.
-      if (name && entry.is_regular_file(vanished)) found.push_back(std::move(*name));
-    }
-    return found;
+    std::vector<Text> names;
+    each_name(native_path(folder), [&](Text name, const std::string& found) {
+      if (kind_of(found) == Kind::Plain) names.push_back(std::move(name));
+      return false;
+    });
+    return names;
   }
 
   std::unique_ptr<InputFile> open(TextView path) override {

@@ -47,41 +47,72 @@ class HandleInput : public InputFile {
   FileHandle file_;
 };
 
-// Who may read the former file may read the new one, and nobody else.
-void keep_protection(const std::wstring& from, const std::wstring& to) {
+// Who may read the former file may read the new one, and nobody else. False where rights cannot be given.
+bool keep_protection(const std::wstring& from, const std::wstring& to) {
   DWORD size = 0;
   GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
   std::vector<std::byte> descriptor(size);
-  if (size == 0 || !GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size)) return;
-  if (!SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data())) refuse();
+  if (size == 0) return true;
+  if (!GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size)) return true;
+  return SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data()) != FALSE;
 }
 
 // Programs that look at every new file, and readers of the former one, hold them for a moment.
-void replace(const std::wstring& file, const std::wstring& by) {
+bool replace(const std::wstring& file, const std::wstring& by) {
   constexpr int kAttempts = 5;
   constexpr DWORD kPause = 20, kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
   for (int attempt = 1; !MoveFileExW(by.c_str(), file.c_str(), kHow); ++attempt) {
     const DWORD reason = GetLastError();
     const bool held = reason == ERROR_SHARING_VIOLATION || reason == ERROR_ACCESS_DENIED;
-    if (!held || attempt == kAttempts) refuse();
+    if (!held || attempt == kAttempts) return false;
     Sleep(kPause);
   }
+  return true;
 }
 
-HANDLE opened_to_write(const std::wstring& path, DWORD how) {
-  return CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
+HANDLE opened_to_write(const std::wstring& path, DWORD how, DWORD shared = 0) {
+  return CreateFileW(path.c_str(), GENERIC_WRITE, shared, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-// What may not be written, or is in use, must not be replaced either.
+constexpr DWORD kWithReaders = FILE_SHARE_READ;
+
+// What may not be written, or is in use by somebody who allows no writer, must not be replaced either.
 void require_replaceable(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) refuse();
-  const HANDLE there = opened_to_write(path, OPEN_EXISTING);
+  const HANDLE there = opened_to_write(path, OPEN_EXISTING, kWithReaders);
   if (there != INVALID_HANDLE_VALUE) {
     CloseHandle(there);
   } else if (GetLastError() != ERROR_FILE_NOT_FOUND) {
     refuse();
   }
+}
+
+void write_all(HANDLE file, std::string_view bytes) {
+  constexpr std::size_t kAtOnce = std::size_t{1} << 20;
+  while (!bytes.empty()) {
+    DWORD count = 0;
+    const auto part = static_cast<DWORD>(std::min(bytes.size(), kAtOnce));
+    if (!WriteFile(file, bytes.data(), part, &count, nullptr) || count == 0) refuse();
+    bytes.remove_prefix(count);
+  }
+}
+
+// Ends where it was written to, and is on the disk before it counts as closed: a machine that stops must not keep the
+// name alone.
+void close_whole(FileHandle& file) {
+  const bool whole = SetEndOfFile(file.get()) && FlushFileBuffers(file.get());
+  if (!file.close() || !whole) refuse();
+}
+
+// A folder may let a file be written and neither renamed nor given rights, and a reader may stay. The copy beside it
+// goes only when all is written, so that a full disk leaves it whole.
+void copy_into(const std::wstring& path, const std::wstring& from) {
+  HandleInput source(from);
+  FileHandle target(opened_to_write(path, OPEN_ALWAYS, kWithReaders));
+  std::array<char, 8192> buffer;
+  while (const std::size_t count = source.read(buffer)) write_all(target.get(), {buffer.data(), count});
+  close_whole(target);
 }
 
 // Written under a name of its own, where there is one, and put in the file's place when it is whole.
@@ -90,23 +121,23 @@ class HandleOutput : public OutputFile {
   explicit HandleOutput(std::wstring path)
       : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
 
+  ~HandleOutput() override {
+    if (!begun_ && file_.close() && !beside_.empty()) DeleteFileW(beside_.c_str());
+  }
+  HandleOutput(const HandleOutput&) = delete;
+  HandleOutput& operator=(const HandleOutput&) = delete;
+
   void write(std::string_view bytes) override {
-    constexpr std::size_t kAtOnce = std::size_t{1} << 20;
-    while (!bytes.empty()) {
-      DWORD count = 0;
-      const auto part = static_cast<DWORD>(std::min(bytes.size(), kAtOnce));
-      if (!WriteFile(file_.get(), bytes.data(), part, &count, nullptr) || count == 0) refuse();
-      bytes.remove_prefix(count);
-    }
+    begun_ = true;
+    write_all(file_.get(), bytes);
   }
 
   void close() override {
-    // On the disk before its name is: a machine that stops must not keep the name alone.
-    const bool flushed = FlushFileBuffers(file_.get()) != FALSE;
-    if (!file_.close() || !flushed) refuse();
-    if (beside_.empty()) return;
-    keep_protection(path_, beside_);
-    replace(path_, beside_);
+    begun_ = true;
+    close_whole(file_);
+    if (beside_.empty() || (keep_protection(path_, beside_) && replace(path_, beside_))) return;
+    copy_into(path_, beside_);
+    DeleteFileW(beside_.c_str());
   }
 
  private:
@@ -116,11 +147,12 @@ class HandleOutput : public OutputFile {
     if (handle != INVALID_HANDLE_VALUE) return handle;
     if (GetLastError() == ERROR_SHARING_VIOLATION) refuse();  // somebody else is writing the same file
     beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
-    return opened_to_write(path_, CREATE_ALWAYS);
+    return opened_to_write(path_, OPEN_ALWAYS, kWithReaders);
   }
 
   const std::wstring path_;
   std::wstring beside_;  // empty where there is none
+  bool begun_ = false;
   FileHandle file_;
 };
 

@@ -23,11 +23,30 @@ TEST(WindowsFiles, ThatMustNotBeWrittenAreNotReplaced) {
   EXPECT_EQ(files().names(folder.text()), std::vector<Text>{u"x.cfp"});
 }
 
-TEST(WindowsFiles, ThatAreInUseAreNotReplaced) {
+TEST(WindowsFiles, ThatNobodyElseMayWriteAreNotReplaced) {
   const TemporaryFolder folder;
   folder.write(u"x.cfp", "former");
-  const auto reader = files().open(folder.file_text(u"x.cfp"));
+  const HANDLE reader = CreateFileW(folder.file(u"x.cfp").wstring().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(reader, INVALID_HANDLE_VALUE);
   EXPECT_THROW(files().create(folder.file_text(u"x.cfp")), RuntimeFailure);
+  EXPECT_TRUE(CloseHandle(reader));
+  EXPECT_EQ(folder.read(u"x.cfp"), "former");
+}
+
+// It cannot be renamed then.
+TEST(WindowsFiles, ThatAReaderKeepsOpenAreWrittenInTheirPlace) {
+  const TemporaryFolder folder;
+  for (const std::string former : {"former", "former and longer than the new one"}) {
+    folder.write(u"x.cfp", former);
+    const auto reader = files().open(folder.file_text(u"x.cfp"));
+    const auto out = files().create(folder.file_text(u"x.cfp"));
+    out->write("new and whole");
+    EXPECT_EQ(folder.read(u"x.cfp"), former);
+    out->close();
+    EXPECT_EQ(folder.read(u"x.cfp"), "new and whole");
+    EXPECT_EQ(files().names(folder.text()), std::vector<Text>{u"x.cfp"});
+  }
 }
 
 TEST(WindowsFiles, AreWrittenByOneAtATime) {
