@@ -10,6 +10,8 @@ namespace qvr {
 namespace {
 
 constexpr TextView kAvoidTransaction = u"EvitarTransaccion";
+// A host that always starts one more would use up its stack.
+constexpr int kDeepestChain = 32;
 constexpr TextView kAccounts[] = {u"Admin", u"sa", u"System"};  // by engine number, from 1
 
 }  // namespace
@@ -18,7 +20,7 @@ QVRScr::QVRScr(ScriptEvents& events) noexcept : events_(events) { InicializarCom
 
 bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
                               Text& TextoMostrar) noexcept {
-  if (running_) return false;
+  if (busy()) return false;
   running_ = true;
   InicializarComun();
   const bool success = or_reported(
@@ -30,16 +32,22 @@ bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosCom
         return ScriptRun(*this, events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
       },
       [&](const FailureDetail& failure) { report_failure(failure, {u"EjecutarComandos"}, MotorBD, nullptr); });
-  events_.Terminado(success);
-  running_ = false;
+  finish(success);
   return success;
 }
 
-void QVRScr::end_unbegun() noexcept {
-  if (running_) return;
-  running_ = true;
-  events_.Terminado(false);
+bool QVRScr::busy() const noexcept { return running_ || finishing_ == kDeepestChain; }
+
+// The run is over before its host hears of it, so that an application can go on with the next one there.
+void QVRScr::finish(bool success) noexcept {
   running_ = false;
+  ++finishing_;
+  events_.Terminado(success);
+  --finishing_;
+}
+
+void QVRScr::end_unbegun() noexcept {
+  if (!busy()) finish(false);
 }
 
 bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept {

@@ -26,8 +26,9 @@ class QVRScr {
   explicit QVRScr(ScriptEvents& events) noexcept;
 
   // Runs every command of the text on a connection of its own, in one transaction unless ID begins with
-  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; a call on the same
-  // object while a run of it is under way, its Terminado included, is refused with false and no events.
+  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; from inside
+  // it the next may begin, 32 runs deep. A call on the same object while a run of it is under way is refused with false
+  // and no events.
   // ID loses the prefix and an empty TextoMostrar becomes the default text, as the caller can see.
   bool EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
                         Text& TextoMostrar) noexcept;
@@ -36,8 +37,8 @@ class QVRScr {
   bool Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept;
 
   // The text of all scripts "<NombreDefinicion><tag>?.cfc" of the folder in the order of their names, ready to be run:
-  // fit for the engine, names and accounts filled in, with encryption (`Encri`, SQL Server). Empty when there is none or
-  // one cannot be read. Exactly one Terminado, as for a run; refused in the same way during one.
+  // fit for the engine, names and accounts filled in, with encryption (`Encri`, SQL Server). Empty when there is none
+  // or one cannot be read. Exactly one Terminado, as for a run; refused in the same way during one.
   Text CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView NombreDefinicion,
                         const ScriptAccounts& accounts, bool Encri) noexcept;
 
@@ -54,6 +55,8 @@ class QVRScr {
   Text UsuarioSegunMotor(std::int32_t MotorBD) const noexcept;
 
  private:
+  bool busy() const noexcept;
+  void finish(bool success) noexcept;
   template <class Body>
   Text load(Body&& body) noexcept;
   Text joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names);
@@ -61,6 +64,7 @@ class QVRScr {
 
   ScriptEvents& events_;
   bool running_ = false;
+  int finishing_ = 0;  // runs whose Terminado has not returned
 };
 
 }  // namespace qvr

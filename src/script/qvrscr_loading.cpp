@@ -15,11 +15,10 @@ constexpr std::int32_t kSqlServer = 2;
 // Whatever fails leaves no text: half an installation is worse than none.
 template <class Body>
 Text QVRScr::load(Body&& body) noexcept {
-  if (running_) return {};
+  if (busy()) return {};
   running_ = true;
   Text text = or_default(Text(), std::forward<Body>(body));
-  events_.Terminado(!text.empty());
-  running_ = false;
+  finish(!text.empty());
   return text;
 }
 

@@ -97,16 +97,33 @@ TEST_F(QVRScrTest, ASinkMayLeaveDuringTheRun) {
 TEST_F(QVRScrTest, ANestedRunOnTheSameObjectIsRefusedWithoutEvents) {
   Connected connected(late);
   std::vector<std::string> nested;
-  connected.sink().reaction = [&](DISPID, VARIANT&) {
+  connected.sink().reaction = [&](DISPID event, VARIANT&) {
+    if (event == kTerminado) return S_OK;
     const std::size_t before = connected.events().size();
     nested.push_back(describe(run_late(L"app", kTwoCommands).value.raw()));
     EXPECT_EQ(connected.events().size(), before);
     return S_OK;
   };
   EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
-  EXPECT_EQ(nested, std::vector<std::string>(4, "BOOL false"));
+  EXPECT_EQ(nested, std::vector<std::string>(3, "BOOL false"));
   connected.sink().reaction = nullptr;
   EXPECT_EQ(describe(run_late(L"app", L"delete from Art\u00edculos\r\nGO\r\n").value.raw()), "BOOL true");
+}
+
+TEST_F(QVRScrTest, TheNextRunMayBeginInsideTerminado) {
+  Connected connected(late);
+  std::vector<std::string> next;
+  connected.sink().reaction = [&](DISPID event, VARIANT&) {
+    if (event != kTerminado || !next.empty()) return S_OK;
+    next.emplace_back("begun");
+    next.push_back(describe(run_late(L"app", L"delete from Art\u00edculos\r\nGO\r\n").value.raw()));
+    return S_OK;
+  };
+  EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
+  EXPECT_EQ(next, (std::vector<std::string>{"begun", "BOOL true"}));
+  EXPECT_EQ(connected.events().size(), 7u);
+  EXPECT_EQ(connected.events().back(), "Terminado BOOL* true");
+  EXPECT_EQ(database.ask(L"select count(*) from Art\u00edculos"), "0");
 }
 
 TEST_F(QVRScrTest, TheObjectLivesThroughARunThatReleasesIt) {
@@ -208,52 +225,6 @@ TEST_F(QVRScrTest, WithoutATransactionWhatRanStaysWhenTheAnswerIsNo) {
   const wchar_t* const commands = L"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n";
   EXPECT_EQ(describe(run_late(L"EvitarTransaccion", commands).value.raw()), "BOOL false");
   EXPECT_EQ(database.ask(L"select count(*) from T"), "1");
-}
-
-TEST_F(QVRScrTest, Ejecutar1Comando) {
-  const LateObject connection = database.open();
-  const LateAnswer ran = late.call(L"Ejecutar1Comando", {connection.get(), L"create table T(N int)", 2});
-  Bstr command(L"insert into T values(5)");
-  long engine = 2;
-  VARIANT_BOOL done = 0;
-  auto* raw = reinterpret_cast<Connection*>(connection.get());
-  const HRESULT status = late.as<_QVRScr>()->Ejecutar1Comando(&raw, &command, &engine, &done);
-  expect_same(ran, status, early_result(done), "BOOL true");
-  EXPECT_EQ(database.ask(L"select N from T"), "5");
-  connection.call(L"Close");
-}
-
-TEST_F(QVRScrTest, Ejecutar1ComandoWithoutAnOpenConnectionReportsAndIsFalse) {
-  Person person;
-  const LateAnswer nothing = late.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 2});
-  EXPECT_EQ(describe(nothing.value.raw()), "BOOL false");
-  VARIANT_BOOL done = VARIANT_TRUE;
-  EXPECT_EQ(late.as<_QVRScr>()->Ejecutar1Comando(nullptr, nullptr, nullptr, &done), S_OK);
-  EXPECT_EQ(done, VARIANT_FALSE);
-  const LateObject closed(L"ADODB.Connection");
-  EXPECT_EQ(describe(late.call(L"Ejecutar1Comando", {closed.get(), L"select 1", 2}).value.raw()), "BOOL false");
-  const LateObject no_connection(L"QVRlib21.Ov");
-  EXPECT_EQ(describe(late.call(L"Ejecutar1Comando", {no_connection.get(), L"select 1", 2}).value.raw()), "BOOL false");
-  ASSERT_EQ(person.boxes().size(), 4u);
-  EXPECT_EQ(person.boxes()[0].text,
-            L"Error indeterminado\r\n\r\nError 91: Object variable or With block variable not set (QVRlib21)\r\n\r\n"
-            L"M\u00e9todo: Ejecutar1Comando: select 1");
-  EXPECT_TRUE(person.boxes()[2].text.starts_with(L"Error indeterminado\r\n\r\nError 3709: "))
-      << narrow(person.boxes()[2].text);
-}
-
-TEST_F(QVRScrTest, UsuarioSegunMotor) {
-  struct Row {
-    long engine;
-    const char* expected;
-  };
-  for (const Row& row : {Row{1, "BSTR Admin"}, {2, "BSTR sa"}, {3, "BSTR System"}, {0, "BSTR "}, {-1, "BSTR "}}) {
-    Bstr result;
-    long engine = row.engine;
-    const HRESULT status = late.as<_QVRScr>()->UsuarioSegunMotor(&engine, &result);
-    expect_same(late.call(L"UsuarioSegunMotor", {static_cast<int>(row.engine)}), status, early_result(result),
-                row.expected);
-  }
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 
 namespace qvr::tests {
 
+inline constexpr DISPID kTerminado = 2;  // the other event is Progreso
+
 class Sink final : public IDispatch {
  public:
   using Reaction = std::function<HRESULT(DISPID event, VARIANT& argument)>;

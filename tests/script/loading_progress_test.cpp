@@ -140,21 +140,37 @@ TEST_F(LoadingProgressTest, NoOtherRunBeginsFromInside) {
     const bool loaded = !definition().empty() || !update(10024).empty();
     if (!ran && !loaded && other_id == u"EvitarTransaccionOther" && shown.empty()) ++refused;
   };
-  events.on_progress = events.on_end = intrude;
+  events.on_progress = intrude;
   EXPECT_EQ(definition(), definition_text);
   EXPECT_EQ(taken(), whole_definition());
-  EXPECT_EQ(refused, 8) << "two files, five steps, the end";
+  EXPECT_EQ(refused, 7) << "two files, five steps";
   EXPECT_EQ(update(10024), joined({kUpdate}));
   EXPECT_EQ(taken(), whole_update());
-  EXPECT_EQ(refused, 15);
+  EXPECT_EQ(refused, 13);
+}
+
+TEST_F(LoadingProgressTest, TheNextRunOrLoadBeginsInsideTerminado) {
+  Text updated;
+  bool ran = false;
+  int ended = 0;
+  events.on_end = [&] {
+    ++ended;
+    if (ended == 1) updated = update(10024);
+    if (ended == 2) ran = run(u"");
+  };
+  EXPECT_EQ(definition(), definition_text);
+  EXPECT_EQ(updated, joined({kUpdate}));
+  EXPECT_TRUE(ran);
+  EXPECT_EQ(ended, 3);
+  EXPECT_EQ(taken(), together({whole_definition(), whole_update(), opening(), closing()}));
 }
 
 TEST_F(LoadingProgressTest, NoLoadingBeginsInsideARunOfCommands) {
   int refused = 0;
   const auto intrude = [&] { refused += definition().empty() && update(10024).empty() ? 1 : 0; };
-  events.on_progress = events.on_end = thread.host_events.on_process = intrude;
+  events.on_progress = thread.host_events.on_process = intrude;
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
-  EXPECT_EQ(refused, 4);
+  EXPECT_EQ(refused, 3);
   EXPECT_EQ(taken(), together({opening(),
                                {"Progreso: Comandos ejecutados: 0/1"},
                                command_lines("A"),

@@ -31,12 +31,43 @@ TEST_F(RunEventsTest, ARunFromProgresoIsRefusedWithoutEvents) {
   EXPECT_EQ(taken(), whole_run);
 }
 
-TEST_F(RunEventsTest, ARunFromTerminadoIsRefusedWithoutEvents) {
-  int refused = 0;
-  events.on_end = [&] { refused += nested_run() ? 0 : 1; };
+TEST_F(RunEventsTest, TheNextRunMayBeginInsideTerminado) {
+  bool inner_result = false;
+  events.on_end = [&] {
+    if (++attempts == 1) inner_result = run(u"A\r\nGO\r\n");
+  };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_TRUE(inner_result);
+  EXPECT_EQ(attempts, 2);
+  EXPECT_EQ(taken(), together({whole_run, whole_run}));
+}
+
+TEST_F(RunEventsTest, ARunFromProgresoOfTheNextRunIsRefused) {
+  int ended = 0;
+  events.on_end = [&] {
+    if (++ended > 1) return;
+    events.on_progress = [&] { EXPECT_FALSE(nested_run()); };
+    EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  };
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(attempts, 2);
+  EXPECT_EQ(taken(), together({whole_run, whole_run}));
+}
+
+TEST_F(RunEventsTest, AChainOfRunsHasAnEnd) {
+  int begun = 1, refused = 0;
+  events.on_end = [&] {
+    ASSERT_LT(begun, 100);
+    ++begun;
+    if (!run(u"")) ++refused, --begun;
+  };
+  EXPECT_TRUE(run(u""));
+  EXPECT_EQ(begun, 32);
   EXPECT_EQ(refused, 1);
-  EXPECT_EQ(taken(), whole_run);
+  events.on_end = nullptr;
+  taken();
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(taken(), whole_run) << "the next one that the host starts runs";
 }
 
 TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
@@ -50,12 +81,6 @@ TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
 TEST_F(RunEventsTest, ARunThatCannotBeginIsToldAsEnded) {
   runner.end_unbegun();
   EXPECT_EQ(taken(), Lines{"Terminado: False"});
-  int refused = 0;
-  events.on_end = [&] { refused += nested_run() ? 0 : 1; };
-  runner.end_unbegun();
-  EXPECT_EQ(refused, 1);
-  EXPECT_EQ(taken(), Lines{"Terminado: False"});
-  events.on_end = nullptr;
   events.on_progress = [&] { runner.end_unbegun(); };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(taken(), whole_run) << "during a run it is not told";
