@@ -1,8 +1,23 @@
 #include "services/failure_report.h"
 
+#include <algorithm>
+
 #include "frame/thread_state.h"
 
 namespace qvr {
+namespace {
+
+// The provider's errors behind this failure. The connection keeps them until its provider fails again, so that after
+// a failure of ADO's own, or of the library, they are those of some former call: then none has the failure's number.
+std::vector<services::AdoError> errors_behind(const FailureDetail& failure, services::AdoConnection& connection) {
+  auto errors = connection.errors();
+  const bool of_this_call = std::ranges::any_of(
+      errors, [&](const services::AdoError& error) { return error.number == failure.number; });
+  if (!of_this_call) errors.clear();
+  return errors;
+}
+
+}  // namespace
 
 void report_failure(const FailureDetail& failure, FailedOperation operation, std::int32_t motor,
                     services::AdoConnection* connection) {
@@ -13,7 +28,7 @@ void report_failure(const FailureDetail& failure, FailedOperation operation, std
   notice.object = std::move(operation.object);
   // A broken connection may not even tell its errors; the failure itself is reported all the same.
   using Errors = std::vector<services::AdoError>;
-  if (connection != nullptr) notice.errors = or_default(Errors(), [&] { return connection->errors(); });
+  if (connection != nullptr) notice.errors = or_default(Errors(), [&] { return errors_behind(failure, *connection); });
   thread_state().error_report().Informar(notice);
 }
 

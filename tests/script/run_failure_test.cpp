@@ -112,7 +112,7 @@ TEST_F(RunFailureTest, ACloseThatFailsAgainAndAgainEndsTheRun) {
 
 TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
   thread.ado.fail("Connection.Open", 1, refusal(),
-                  {{-1, u"first", u"P", u"08001", 17}, {-2, u"second", u"P", u"", 0}});
+                  {{-1, u"first", u"P", u"08001", 17}, {-2147217900, u"second", u"P", u"", 0}});
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   ASSERT_EQ(thread.report.notices.size(), 1u);
   const services::ErrorNotice& notice = thread.report.notices[0];
@@ -125,6 +125,16 @@ TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
   EXPECT_EQ(notice.errors[0].description, u"first");
   EXPECT_EQ(notice.errors[0].native_error, 17);
   EXPECT_EQ(notice.errors[1].description, u"second");
+}
+
+// The connection keeps them until its provider fails again.
+TEST_F(RunFailureTest, TheReportHasNoErrorsOfFormerCalls) {
+  thread.ado.fail("Connection.Open", 1, {3709, u"The connection is closed", u"ADODB.Connection"},
+                  {{-2147217873, u"of a call before", u"P", u"23505", 2627}});
+  EXPECT_FALSE(run(u"A\r\nGO\r\n"));
+  ASSERT_EQ(thread.report.notices.size(), 1u);
+  EXPECT_EQ(thread.report.notices[0].failure.number, 3709);
+  EXPECT_TRUE(thread.report.notices[0].errors.empty());
 }
 
 TEST_F(RunFailureTest, AConnectionThatCannotTellItsErrorsIsReportedAllTheSame) {
