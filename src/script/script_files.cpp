@@ -33,9 +33,9 @@ std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std
 }
 
 bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
+  const Text pattern = join({Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"});
   constexpr std::int32_t kPlainFiles = 0;
-  return ExisteArchivo(join({Ruta, u"\\", Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"}),
-                       kPlainFiles);
+  return ExisteArchivo(join({Ruta, u"\\", pattern}), kPlainFiles) && !sorted_names(Ruta, pattern).empty();
 }
 
 std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {

@@ -74,8 +74,8 @@ class LoadingFromDiskTest : public ScriptTest {
   Text definition(TextView ruta, TextView name = u"Gestion") {
     return runner.CargarDefinicion(id, 2, ruta, name, ScriptAccounts(), false);
   }
-  Text update(TextView ruta, std::int32_t version) {
-    return runner.CargarActualizacion(id, 2, ruta, u"Gestion", version, ScriptAccounts(), false);
+  Text update(TextView ruta, std::int32_t version, TextView application = u"Gestion") {
+    return runner.CargarActualizacion(id, 2, ruta, application, version, ScriptAccounts(), false);
   }
   void fill(TextView subfolder) const {
     folder.write(join({subfolder, u"GestionSQL2.cfc"}), "second");
@@ -135,6 +135,12 @@ TEST_F(LoadingFromDiskTest, NamesInAnotherCaseAndWithAccents) {
   EXPECT_EQ(definition(folder.text(), u"Gesti\u00f3n"), u"one\r\ntwo\r\n");
   EXPECT_EQ(definition(folder.text(), u"Gesti?n"), u"one\r\ntwo\r\n");
   EXPECT_EQ(definition(folder.text(), u"Gestion"), u"");
+}
+
+TEST_F(LoadingFromDiskTest, UpdatesInAnotherCase) {
+  folder.write(u"GESTI\u00d3N10024A10025sql.CFC", "one");
+  EXPECT_EQ(update(folder.text(), 10024, u"Gesti\u00f3n"), u"one\r\n");
+  EXPECT_EQ(update(folder.text(), 10025, u"Gesti\u00f3n"), u"");
 }
 
 }  // namespace
