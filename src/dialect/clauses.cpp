@@ -2,7 +2,6 @@
 
 #include "dialect/lists.h"
 #include "frame/failure.h"
-#include "frame/value_convert.h"
 
 namespace qvr::dialect {
 namespace {
@@ -26,7 +25,7 @@ Text value_map(const CaseForm& form, TextView field, const Value& pairs) {
   for (std::size_t i = 0; i < elements.items.size(); ++i) {
     const bool result = i % 2 == 1, alone = !result && i + 1 == elements.items.size();
     text += result ? form.before_result : alone ? form.before_default : form.before_value;
-    text += to_text(elements.items[i]);
+    text += sql_piece(elements.items[i]);
   }
   return text += form.closer;
 }
@@ -62,7 +61,7 @@ Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {
   Text text = u" ";
   for (std::size_t i = 0; i < elements.items.size(); ++i) {
     if (i > 0) text += concatenation;
-    text += to_text(elements.items[i]);
+    text += sql_piece(elements.items[i]);
   }
   return text += u" ";
 }

@@ -1,6 +1,7 @@
 #include "dialect/clauses.h"
 
 #include "dialect/dialect_fixture.h"
+#include "dialect/table_relations.h"
 
 namespace qvr::tests {
 namespace {
@@ -85,6 +86,15 @@ TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
     SCOPED_TRACE(row.name);
     expect_each(row.expected, [&](const Engine& engine) { return dialect::sqlConcatenar(engine, row.elements); });
   }
+}
+
+// A comma would part a number in two.
+TEST_F(ClausesTest, NumbersHaveAPointInEveryLocale) {
+  thread.locale.decimal = u',', thread.locale.thousands = u'.';
+  const Value numbers = list({2.5, 0.1f, Currency{-12500}, Decimal{0, 0, 15, 1, false}, std::int64_t{7}});
+  EXPECT_EQ(dialect::sqlConcatenar(kOracle, numbers), u" 2.5 || 0.1 || -1.25 || 1.5 || 7 ");
+  EXPECT_EQ(dialect::sqlCASE(kOracle, u"c", numbers), u" DECODE(c,2.5,0.1,-1.25,1.5,7) ");
+  EXPECT_EQ(dialect::CondicionWhereRelacionTablas(kOracle, list({u"a", 2.5, u"I"})), u" (a=2.5) ");
 }
 
 TEST_F(ClausesTest, ConcatenarFailsForWhatItCannotWalk) {
