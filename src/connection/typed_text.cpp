@@ -14,6 +14,7 @@ Text number_text(const Value& value) {
   if (const auto* held = value.as<Currency>()) return shortest_number(*held);
   if (const auto* held = value.as<Decimal>()) return shortest_number(*held);
   if (const auto* held = value.as<std::int64_t>()) return decimal(*held);
+  if (const auto* held = value.as<std::uint64_t>()) return shortest_number(*held);
   return shortest_number(to_number(value));
 }
 

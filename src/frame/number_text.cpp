@@ -113,9 +113,14 @@ bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 Text shortest_number(double number) { return shortest(number); }
 Text shortest_number(float number) { return shortest(number); }
 
+Text shortest_number(std::uint64_t number) {
+  return shortest_number(Decimal{0, static_cast<std::uint32_t>(number >> 32), static_cast<std::uint32_t>(number)});
+}
+
 Text shortest_number(Currency amount) {
   const bool negative = amount.scaled < 0;
-  const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(amount.scaled) : static_cast<std::uint64_t>(amount.scaled);
+  const auto unsigned_amount = static_cast<std::uint64_t>(amount.scaled);
+  const std::uint64_t magnitude = negative ? 0 - unsigned_amount : unsigned_amount;
   const std::string digits = std::to_string(magnitude);
   return scaled(Text(digits.begin(), digits.end()), 4, negative);
 }

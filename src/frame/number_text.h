@@ -11,6 +11,7 @@ Text shortest_number(double number);
 Text shortest_number(float number);
 Text shortest_number(Currency amount);
 Text shortest_number(const Decimal& number);
+Text shortest_number(std::uint64_t number);
 
 // At most this many significant digits, as people read numbers.
 Text rounded_number(double number, int significant_digits);

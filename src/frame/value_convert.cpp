@@ -44,7 +44,7 @@ struct AsText {
     else if constexpr (is_whole<T>) return decimal(held);
     else if constexpr (std::is_same_v<T, float>) return localised(rounded_number(held, 7));
     else if constexpr (std::is_same_v<T, double>) return localised(rounded_number(held, 15));
-    else if constexpr (is_one_of<T, Currency, Decimal>) return localised(shortest_number(held));
+    else if constexpr (is_one_of<T, Currency, Decimal, std::uint64_t>) return localised(shortest_number(held));
     else if constexpr (std::is_same_v<T, Date>) return locale().date_text(held);
     else if constexpr (std::is_same_v<T, ErrorValue>) return join({u"Error ", decimal(held.code & 0xFFFF)});
     else refuse<T>();
@@ -63,7 +63,7 @@ struct AsNumber {
     if constexpr (std::is_same_v<T, Empty>) return 0;
     else if constexpr (std::is_same_v<T, Text>) return number_from(held);
     else if constexpr (std::is_same_v<T, bool>) return held ? -1 : 0;
-    else if constexpr (is_whole<T> || is_one_of<T, float, double>) return static_cast<double>(held);
+    else if constexpr (is_whole<T> || is_one_of<T, std::uint64_t, float, double>) return static_cast<double>(held);
     else if constexpr (is_one_of<T, Currency, Decimal>) return number_of(held);
     else if constexpr (std::is_same_v<T, Date>) return held.days;
     else refuse<T>();
@@ -100,7 +100,7 @@ bool is_numeric(const Value& value) {
       [](const auto& held) {
         using T = std::remove_cvref_t<decltype(held)>;
         if constexpr (std::is_same_v<T, Text>) return locale().parse_number(held).has_value();
-        else return is_whole<T> || is_one_of<T, Empty, bool, float, double, Currency, Decimal>;
+        else return is_whole<T> || is_one_of<T, Empty, bool, std::uint64_t, float, double, Currency, Decimal>;
       },
       value.storage());
 }

@@ -114,11 +114,26 @@ TEST_F(HostileArrays, AnArrayThatKnowsNoTypeOfItsElements) {
   array->cbElements = 4;
   array->rgsabound[0] = {2, 0};
   ASSERT_EQ(SafeArrayAllocData(array), S_OK);
+  static_cast<LONG*>(array->pvData)[0] = 5, static_cast<LONG*>(array->pvData)[1] = -7;
   VARIANT list;
-  list.vt = VT_ARRAY | VT_I4;
   list.parray = array;
-  expect_insert(list, "BSTR INSERT INTO T VALUES)");
+  list.vt = VT_ARRAY | VT_I4;
+  expect_insert(list, "BSTR INSERT INTO T VALUES ( 5, -7)");
+  // What would have to be freed is not taken for what it may not be.
+  for (const VARTYPE owned : {VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_UNKNOWN, VT_RECORD}) {
+    list.vt = static_cast<VARTYPE>(VT_ARRAY | owned);
+    expect_insert(list, "BSTR ");
+  }
   EXPECT_EQ(SafeArrayDestroy(array), S_OK);
+}
+
+TEST_F(HostileArrays, AnArrayOfTextsThatKnowsNoTypeOfItsElements) {
+  Var list = array_of({L"a", L"b"}, 0, VT_BSTR);
+  list.raw().parray->fFeatures = static_cast<USHORT>(list.raw().parray->fFeatures & ~FADF_HAVEVARTYPE);
+  expect_insert(list.raw(), "BSTR INSERT INTO T VALUES ('a', 'b')");
+  list.raw().vt = VT_ARRAY | VT_I4;
+  expect_insert(list.raw(), "BSTR INSERT INTO T VALUES ('a', 'b')");
+  list.raw().vt = VT_ARRAY | VT_BSTR;
 }
 
 TEST_F(HostileArrays, ElementsLargerThanTheirTypeSays) {

@@ -75,8 +75,10 @@ TEST_F(AnyValue, EverythingElseIsNull) {
   Var unknown;
   unknown.raw().vt = VT_UNKNOWN;
   unknown.raw().punkVal = object.as<IUnknown>().Detach();
+  Var largest = Var(5).as(VT_UI8);
+  largest.raw().ullVal = UINT64_MAX;
   for (const Var& value :
-       {Var(), Var::null(), Var::error(E_FAIL), Var(object.get()), Var::nothing(), unknown, Var(5).as(VT_I8),
+       {largest, Var(), Var::null(), Var::error(E_FAIL), Var(object.get()), Var::nothing(), unknown, Var(5).as(VT_I8),
         Var(5).as(VT_I1), Var(5).as(VT_UI2), Var(5).as(VT_UI4), Var(5).as(VT_UI8), array_of({1, L"a"}), array_of({}),
         array_of({1, 2}, 1, VT_I4), array_of({L"a"}, -3, VT_BSTR), square_array(), no_array(), no_array(VT_BSTR)}) {
     expect_literal(value, kNull);

@@ -21,6 +21,7 @@ struct Describe {
   std::string operator()(std::int16_t held) const { return "Integer " + std::to_string(held); }
   std::string operator()(std::int32_t held) const { return "Long " + std::to_string(held); }
   std::string operator()(std::int64_t held) const { return "LongLong " + std::to_string(held); }
+  std::string operator()(std::uint64_t held) const { return "ULongLong " + std::to_string(held); }
   std::string operator()(float held) const { return "Single " + digits(held); }
   std::string operator()(double held) const { return "Double " + digits(held); }
   std::string operator()(const Currency& held) const { return "Currency " + std::to_string(held.scaled); }

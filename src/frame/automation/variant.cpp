@@ -8,18 +8,8 @@
 namespace qvr::automation {
 namespace {
 
-ObjectRef object_from(IUnknown* object) {
-  return object == nullptr ? ObjectRef() : std::make_shared<DispatchObject>(object);
-}
-
 Decimal decimal_from(const DECIMAL& number) {
   return {number.Hi32, number.Mid32, number.Lo32, number.scale, (number.sign & DECIMAL_NEG) != 0};
-}
-
-// A number of a width that the contract's types lack.
-Value wide_number(ULONGLONG number) {
-  if (number <= INT64_MAX) return static_cast<std::int64_t>(number);
-  return Decimal{0, static_cast<std::uint32_t>(number >> 32), static_cast<std::uint32_t>(number), 0, false};
 }
 
 constexpr int kDeepest = 16;  // far beyond what hosts nest
@@ -81,17 +71,32 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& re
 // Null for an array without bounds, and bounds without elements are what is left of one that was destroyed.
 bool has_elements(SAFEARRAY* array) { return array != nullptr && array->pvData != nullptr; }
 
-Value array_from(SAFEARRAY* array, const Reading* outer) {
-  Array result;
+// An array that was made without its type still tells what there is to free; of plain content the variant alone knows
+// what it is. VT_EMPTY where the two do not go together.
+VARTYPE type_of_elements(SAFEARRAY* array, VARTYPE told) {
   VARTYPE type = VT_EMPTY;
+  if (SUCCEEDED(SafeArrayGetVartype(array, &type))) return type;
+  constexpr std::pair<USHORT, VARTYPE> kOwned[] = {
+      {FADF_BSTR, VT_BSTR}, {FADF_VARIANT, VT_VARIANT}, {FADF_DISPATCH, VT_DISPATCH}, {FADF_UNKNOWN, VT_UNKNOWN}};
+  bool plain = told != VT_RECORD;
+  for (const auto& [feature, owned] : kOwned) {
+    if ((array->fFeatures & feature) != 0) return owned;
+    plain = plain && told != owned;
+  }
+  return plain ? told : VARTYPE{VT_EMPTY};
+}
+
+Value array_from(SAFEARRAY* array, VARTYPE type, const Reading* outer) {
+  Array result;
   LONG lower = 0, upper = -1;
   result.dimensions = array == nullptr ? std::uint16_t{0} : static_cast<std::uint16_t>(SafeArrayGetDim(array));
-  if (result.dimensions != 1 || FAILED(SafeArrayGetVartype(array, &type)) ||
-      FAILED(SafeArrayGetLBound(array, 1, &lower)) || FAILED(SafeArrayGetUBound(array, 1, &upper))) {
+  if (result.dimensions != 1 || FAILED(SafeArrayGetLBound(array, 1, &lower)) ||
+      FAILED(SafeArrayGetUBound(array, 1, &upper))) {
     return result;
   }
   result.lower = lower;
-  if (upper >= lower && !has_elements(array)) result.dimensions = 0;
+  type = type_of_elements(array, type);
+  if (type == VT_EMPTY || (upper >= lower && !has_elements(array))) result.dimensions = 0;
   if (result.dimensions == 0) return result;
   const Locked locked(array);
   const Reading reading{array, outer, outer != nullptr ? outer->depth + 1 : 1};
@@ -118,7 +123,7 @@ Value scalar_from(const VARIANT& v) {
     case VT_UI4:
     case VT_UINT: return static_cast<std::int64_t>(v.ulVal);
     case VT_I8: return static_cast<std::int64_t>(v.llVal);
-    case VT_UI8: return wide_number(v.ullVal);
+    case VT_UI8: return static_cast<std::uint64_t>(v.ullVal);
     case VT_R4: return v.fltVal;
     case VT_R8: return v.dblVal;
     case VT_CY: return Currency{v.cyVal.int64};
@@ -127,7 +132,7 @@ Value scalar_from(const VARIANT& v) {
     case VT_BSTR: return text_from(v.bstrVal);
     case VT_ERROR: return v.scode == DISP_E_PARAMNOTFOUND ? Value(Missing{}) : Value(ErrorValue{v.scode});
     case VT_DISPATCH:
-    case VT_UNKNOWN: return object_from(v.punkVal);
+    case VT_UNKNOWN: return v.punkVal == nullptr ? ObjectRef() : std::make_shared<DispatchObject>(v.punkVal);
     default: return ErrorValue{DISP_E_BADVARTYPE};
   }
 }
@@ -143,6 +148,7 @@ struct Put {
   void operator()(std::int16_t held) const { v.vt = VT_I2, v.iVal = held; }
   void operator()(std::int32_t held) const { v.vt = VT_I4, v.lVal = held; }
   void operator()(std::int64_t held) const { v.vt = VT_I8, v.llVal = held; }
+  void operator()(std::uint64_t held) const { v.vt = VT_UI8, v.ullVal = held; }
   void operator()(float held) const { v.vt = VT_R4, v.fltVal = held; }
   void operator()(double held) const { v.vt = VT_R8, v.dblVal = held; }
   void operator()(Currency held) const { v.vt = VT_CY, v.cyVal.int64 = held.scaled; }
@@ -208,7 +214,7 @@ Value value_inside(const VARIANT& variant, const Reading* outer) {
   if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
   if (inner->vt & VT_ARRAY) {
     SAFEARRAY* array = array_of(*inner);
-    return never_ends(array, outer) ? Value(ErrorValue{DISP_E_BADVARTYPE}) : array_from(array, outer);
+    return never_ends(array, outer) ? Value(ErrorValue{DISP_E_BADVARTYPE}) : array_from(array, inner->vt & VT_TYPEMASK, outer);
   }
   if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
   OwnedVariant copy;
@@ -233,8 +239,9 @@ void put_elements(VARIANT& variant, const Value& value) {
   const Array* list = value.as<Array>();
   if (inner == nullptr || !(inner->vt & VT_ARRAY) || list == nullptr) return;
   SAFEARRAY* array = array_of(*inner);
-  VARTYPE type = VT_EMPTY;
-  if (!has_elements(array) || SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type))) return;
+  if (!has_elements(array) || SafeArrayGetDim(array) != 1) return;
+  const VARTYPE type = type_of_elements(array, inner->vt & VT_TYPEMASK);
+  if (type == VT_EMPTY) return;
   if (array->rgsabound[0].lLbound != list->lower || array->rgsabound[0].cElements != list->items.size()) return;
   const Locked locked(array);
   LONG index = list->lower;

@@ -44,6 +44,7 @@ struct Binder {
   }
   BoundValue operator()(float value) const { return number(static_cast<double>(value)); }
   BoundValue operator()(double value) const { return number(value); }
+  BoundValue operator()(std::uint64_t value) const { return number(static_cast<double>(value)); }
   BoundValue operator()(Currency value) const { return number(number_of(value)); }
   BoundValue operator()(const Decimal& value) const { return number(number_of(value)); }
   BoundValue operator()(const Text& value) const { return text(value); }
