@@ -4,6 +4,8 @@
 namespace qvr::thread_slot {
 
 void* get() noexcept;
-void set(void* pointer) noexcept;
+
+// False where the system has no room for it; the thread keeps what it had then.
+bool set(void* pointer) noexcept;
 
 }  // namespace qvr::thread_slot

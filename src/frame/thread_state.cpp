@@ -1,5 +1,7 @@
 #include "frame/thread_state.h"
 
+#include <new>
+
 #include "frame/thread_slot.h"
 
 namespace qvr {
@@ -40,9 +42,11 @@ ThreadState& thread_state() {
 }
 
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {
-  std::unique_ptr<ThreadState> former(current());
-  thread_slot::set(state.release());
-  return former;
+  ThreadState* const former = current();
+  // A leaving thread that has none asks the system for nothing; one that has a place for it can be sure of it.
+  if (state.get() != former && !thread_slot::set(state.get())) throw std::bad_alloc();
+  static_cast<void>(state.release());
+  return std::unique_ptr<ThreadState>(former);
 }
 
 }  // namespace qvr

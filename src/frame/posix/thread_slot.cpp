@@ -16,6 +16,10 @@ thread_local Slot slot;
 }  // namespace
 
 void* get() noexcept { return slot.pointer; }
-void set(void* pointer) noexcept { slot.pointer = pointer; }
+
+bool set(void* pointer) noexcept {
+  slot.pointer = pointer;
+  return true;
+}
 
 }  // namespace qvr::thread_slot

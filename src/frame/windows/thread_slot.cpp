@@ -28,6 +28,6 @@ void* get() noexcept {
   return pointer;
 }
 
-void set(void* pointer) noexcept { TlsSetValue(index.number, pointer); }
+bool set(void* pointer) noexcept { return TlsSetValue(index.number, pointer) != FALSE; }
 
 }  // namespace qvr::thread_slot
