@@ -1,4 +1,4 @@
-"""Sphinx settings of the manual's site, one build for each language: -D language=<code> on the folder of its sources."""
+"""Sphinx settings of the manual's site, one build a language: -D language=<code> on the folder of its sources."""
 import json
 import pathlib
 import posixpath
