@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What SQLAlchemy takes to build the statement that query_bench builds: times in the form of Google Benchmark's JSON."""
+"""What SQLAlchemy takes to build the statement that query_bench builds: times as Google Benchmark's JSON."""
 import json
 import timeit
 
@@ -34,5 +34,7 @@ def nanoseconds(count):
 
 
 if __name__ == "__main__":
-    found = [{"name": f"SQLAlchemy/{count}", "cpu_time": nanoseconds(count), "time_unit": "ns"} for count in (1, 10, 100)]
+    found = [
+        {"name": f"SQLAlchemy/{count}", "cpu_time": nanoseconds(count), "time_unit": "ns"} for count in (1, 10, 100)
+    ]
     print(json.dumps({"benchmarks": found, "example": statement(10, tables(10))}))

@@ -36,7 +36,8 @@ Text replace_all(TextView text, TextView what, TextView by) {
       from = at + what.size();
     }
   }
-  return result.append(text, from);
+  result.append(text, from);
+  return result;
 }
 
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
@@ -53,7 +54,8 @@ Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t*
     from = at + what.size();
   }
   if (position != nullptr) *position = place;
-  return result.append(text, from);
+  result.append(text, from);
+  return result;
 }
 
 std::size_t find_no_case(TextView text, TextView what, std::size_t from) {

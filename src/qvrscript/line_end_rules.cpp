@@ -3,8 +3,9 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr TextView kTail = u": the library's own reader makes CR LF of them, also in strings; where a program hands the "
-                           u"text over itself, their GO lines separate nothing";
+constexpr TextView kTail =
+    u": the library's own reader makes CR LF of them, also in strings; where a program hands the "
+    u"text over itself, their GO lines separate nothing";
 
 struct LineEnds {
   std::size_t whole = 0, feeds = 0, returns = 0;

@@ -21,7 +21,8 @@ Bytes as_bytes(std::string_view text) { return {reinterpret_cast<const std::uint
 MutableBytes as_mutable(std::string& text) { return {reinterpret_cast<std::uint8_t*>(text.data()), text.size()}; }
 
 [[noreturn]] void not_ours() {
-  throw RuntimeFailure(failure_number::kInvalidArgument, u"The protected text is damaged or was written with another key");
+  throw RuntimeFailure(failure_number::kInvalidArgument,
+                       u"The protected text is damaged or was written with another key");
 }
 
 // Without the mark of the end and the zeros behind it.

@@ -8,7 +8,9 @@ struct ArgumentsTest : testing::Test {
   LateObject cfp{L"QVRlib21.QVRcfp"};
   LateObject scr{L"QVRlib21.QVRScr"};
 
-  std::string account(Var engine) const { return describe(scr.call(L"UsuarioSegunMotor", {std::move(engine)}).value.raw()); }
+  std::string account(Var engine) const {
+    return describe(scr.call(L"UsuarioSegunMotor", {std::move(engine)}).value.raw());
+  }
   std::string written(Var value) const {
     return describe(cfp.call(L"ValorATexto", {L"T", std::move(value)}).value.raw());
   }

@@ -21,8 +21,10 @@ LateAnswer rot(const std::wstring& member, const std::vector<Var>& arguments) {
 void save_and_load(const wchar_t* name, bool expected) {
   const LateObject written(L"QVRlib21.QVRcfp"), read(L"QVRlib21.QVRcfp");
   written.call(L"Asignar", {L"id", 1, L"PROV", L"", L"", L"", L"", L"", L"", L""});
-  EXPECT_EQ(describe(written.call(L"Guardar", {L"id", work_folder(), name}).value.raw()), expected ? "BOOL true" : "BOOL false");
-  EXPECT_EQ(describe(read.call(L"Crear", {L"id", work_folder(), name}).value.raw()), expected ? "BOOL true" : "BOOL false");
+  EXPECT_EQ(describe(written.call(L"Guardar", {L"id", work_folder(), name}).value.raw()),
+            expected ? "BOOL true" : "BOOL false");
+  EXPECT_EQ(describe(read.call(L"Crear", {L"id", work_folder(), name}).value.raw()),
+            expected ? "BOOL true" : "BOOL false");
   EXPECT_EQ(describe(read.get(L"Provider").value.raw()), expected ? "BSTR PROV" : "BSTR ");
 }
 
@@ -65,20 +67,23 @@ TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
     });
     Person person;
     const LateObject runner(L"QVRlib21.QVRScr");
-    EXPECT_EQ(describe(runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3}).value.raw()),
+    EXPECT_EQ(describe(
+                  runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3}).value.raw()),
               "BOOL false");
     EXPECT_TRUE(person.boxes().empty());
     EXPECT_EQ(component.calls(),
-              std::vector<std::string>{"Informar(I4 91, BSTR Object variable or With block variable not set, BSTR QVRlib21, "
-                                       "I4 3, BSTR Ejecutar1Comando: select 1, {BSTR Servidor no encontrado; BSTR Registro "
-                                       "duplicado; BSTR Error indeterminado; BSTR M\u00e9todo; BSTR Objeto})"});
+              std::vector<std::string>{
+                  "Informar(I4 91, BSTR Object variable or With block variable not set, BSTR QVRlib21, "
+                  "I4 3, BSTR Ejecutar1Comando: select 1, {BSTR Servidor no encontrado; BSTR Registro "
+                  "duplicado; BSTR Error indeterminado; BSTR M\u00e9todo; BSTR Objeto})"});
   });
 }
 
 TEST(ErrorReportComponent, LeavesTheFailureToTheBoxWhenItFailsOrCannotBeCreated) {
   for (const bool created : {true, false}) {
     on_fresh_thread([created] {
-      FamilyComponent component(L"QVRServicios.InformeErrores", {L"Informar"}, [](auto&, auto&) { return LateAnswer(); });
+      FamilyComponent component(L"QVRServicios.InformeErrores", {L"Informar"},
+                                [](auto&, auto&) { return LateAnswer(); });
       if (!created) component.revoke();
       Person person;
       const LateObject runner(L"QVRlib21.QVRScr");

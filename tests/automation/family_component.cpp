@@ -46,7 +46,9 @@ class Component final : public IDispatch, public IClassFactory {
     if (left == 0) delete this;
     return static_cast<ULONG>(left);
   }
-  STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** found) noexcept override { return QueryInterface(id, found); }
+  STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** found) noexcept override {
+    return QueryInterface(id, found);
+  }
   STDMETHODIMP LockServer(BOOL) noexcept override { return S_OK; }
   STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override {
     *count = 0;
@@ -99,7 +101,8 @@ FamilyComponent::FamilyComponent(const wchar_t* program_id, std::vector<std::wst
   EXPECT_EQ(CoRegisterClassObject(kComponent, factory.Get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_), S_OK);
   wchar_t id[40];
   StringFromGUID2(kComponent, id, 40);
-  EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key_of(program_id_) + L"\\CLSID").c_str(), nullptr, REG_SZ, id, 39 * sizeof(wchar_t)),
+  EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key_of(program_id_) + L"\\CLSID").c_str(), nullptr, REG_SZ, id,
+                            39 * sizeof(wchar_t)),
             ERROR_SUCCESS);
 }
 

@@ -22,8 +22,9 @@ Help help_of(ITypeInfo& info, MEMBERID member) {
 
 // The thousands of each type's numbers. A class has those of its default interface.
 DWORD thousands(const std::string& type) {
-  const std::map<std::string, DWORD> numbers = {{"Ov", 1},     {"QVRcfp", 2}, {"iSQL20", 3},  {"cSQL20", 4},   {"uSQL20", 5},
-                                                {"QVRScr", 6}, {"QVRprp", 7}, {"_QVRScr", 8}, {"MotoresBD", 9}};
+  const std::map<std::string, DWORD> numbers = {{"Ov", 1},     {"QVRcfp", 2},  {"iSQL20", 3},
+                                                {"cSQL20", 4}, {"uSQL20", 5},  {"QVRScr", 6},
+                                                {"QVRprp", 7}, {"_QVRScr", 8}, {"MotoresBD", 9}};
   const auto found = numbers.find(type.starts_with("_") ? type.substr(1) : type);
   return found != numbers.end() ? found->second * 1000 : 0;
 }

@@ -18,9 +18,9 @@ struct Loading : testing::Test {
     VARIANT_BOOL wanted = encrypt ? VARIANT_TRUE : VARIANT_FALSE;
     const HRESULT status = early->CargarDefinicion(&id, &engine, &path, &name, &database, &admin, &admin_key, &client,
                                                    &client_key, &wanted, &result);
-    const LateAnswer answer =
-        late.call(L"CargarDefinicion", {id.get(), static_cast<int>(engine), folder, L"Gestion", database.get(), admin.get(),
-                                        admin_key.get(), client.get(), client_key.get(), encrypt});
+    const LateAnswer answer = late.call(L"CargarDefinicion",
+                                        {id.get(), static_cast<int>(engine), folder, L"Gestion", database.get(),
+                                         admin.get(), admin_key.get(), client.get(), client_key.get(), encrypt});
     expect_same(answer, status, early_result(result), expected);
   }
 
@@ -28,8 +28,8 @@ struct Loading : testing::Test {
     long engine = 2;
     Bstr path(folder), name(L"Gestion"), result;
     VARIANT_BOOL encrypt = VARIANT_FALSE;
-    const HRESULT status = early->CargarActualizacion(&id, &engine, &path, &name, &version, &database, &admin, &admin_key,
-                                                      &client, &client_key, &encrypt, &result);
+    const HRESULT status = early->CargarActualizacion(&id, &engine, &path, &name, &version, &database, &admin,
+                                                      &admin_key, &client, &client_key, &encrypt, &result);
     const LateAnswer answer =
         late.call(L"CargarActualizacion", {id.get(), 2, folder, L"Gestion", static_cast<int>(version), database.get(),
                                            admin.get(), admin_key.get(), client.get(), client_key.get(), false});
@@ -87,8 +87,8 @@ TEST_F(Loading, TheRegisteredReaderReadsInsteadOfTheBuiltInOne) {
       return answer;
     });
     const LateObject runner(L"QVRlib21.QVRScr");
-    const LateAnswer loaded = runner.call(L"CargarDefinicion", {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"",
-                                                                L"", false});
+    const LateAnswer loaded = runner.call(L"CargarDefinicion",
+                                          {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"", L"", false});
     EXPECT_EQ(describe(loaded.value.raw()), "BSTR clear BD\r\nGO\r\n\r\n");
     ASSERT_EQ(component.calls().size(), 1u);
     EXPECT_EQ(component.calls()[0].substr(0, 19), "Leer(BSTR app, BSTR");
@@ -107,8 +107,8 @@ TEST_F(Loading, AReaderThatCannotReadLeavesNothing) {
     });
     const LateObject runner(L"QVRlib21.QVRScr");
     Connected connected(runner);
-    const LateAnswer loaded = runner.call(L"CargarDefinicion", {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"",
-                                                                L"", false});
+    const LateAnswer loaded = runner.call(L"CargarDefinicion",
+                                          {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"", L"", false});
     EXPECT_EQ(describe(loaded.value.raw()), "BSTR ");
     EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   });

@@ -49,7 +49,8 @@ class RunIntoDatabase : public testing::Test {
 };
 
 TEST_F(RunIntoDatabase, CommitsWhatRan) {
-  EXPECT_TRUE(run(u"create table Art\u00edculos(Nombre varchar(20))\r\nGO\r\n\r\ninsert into Art\u00edculos values('Jam\u00f3n')\r\ngo\r\n"));
+  EXPECT_TRUE(run(
+      u"create table Art\u00edculos(Nombre varchar(20))\r\nGO\r\n\r\ninsert into Art\u00edculos values('Jam\u00f3n')\r\ngo\r\n"));
   EXPECT_EQ(ask(u"select Nombre from Art\u00edculos"), u"Jam\u00f3n");
   EXPECT_EQ(events.progress, (std::vector<Text>{u"Contando comandos...", u"Hecho: 0/2", u"Hecho: 1/2"}));
   EXPECT_EQ(events.ends, std::vector<bool>{true});
@@ -63,8 +64,10 @@ TEST_F(RunIntoDatabase, RollsBackWhenTheAnswerIsNo) {
   EXPECT_EQ(ask(u"select count(*) from T"), u"0");
   EXPECT_EQ(events.ends, (std::vector<bool>{true, false}));
   ASSERT_EQ(thread.boxes.shown.size(), 2u);
-  EXPECT_TRUE(thread.boxes.shown[0].starts_with(u"Error indeterminado\r\n\r\nError -2147217900: ")) << to_utf8(thread.boxes.shown[0]);
-  EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense")) << to_utf8(thread.boxes.shown[0]);
+  EXPECT_TRUE(thread.boxes.shown[0].starts_with(u"Error indeterminado\r\n\r\nError -2147217900: "))
+      << to_utf8(thread.boxes.shown[0]);
+  EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense"))
+      << to_utf8(thread.boxes.shown[0]);
   EXPECT_EQ(thread.boxes.shown[1], u"\u00bfDesea que se ejecuten los restantes comandos?");
 }
 
@@ -79,16 +82,20 @@ TEST_F(RunIntoDatabase, AppliesTheRestWhenTheAnswerIsYes) {
 TEST_F(RunIntoDatabase, KeepsWhatRanWithoutATransaction) {
   thread.boxes.answer(BoxAnswer::Ok);
   thread.boxes.answer(BoxAnswer::No);
-  EXPECT_FALSE(run(u"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n", u"EvitarTransaccionApp"));
+  EXPECT_FALSE(run(u"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n",
+                   u"EvitarTransaccionApp"));
   EXPECT_EQ(ask(u"select count(*) from T"), u"1");
 }
 
 TEST_F(RunIntoDatabase, ReportsADatabaseThatCannotBeOpened) {
   thread.boxes.answer(BoxAnswer::Ok);
   Text id, shown;
-  EXPECT_FALSE(runner.EjecutarComandos(id, 2, u"select 1\r\nGO\r\n", u"Provider=MSDASQL;Data Source=NoSuchDsn;", shown));
-  EXPECT_TRUE(thread.boxes.shown[0].starts_with(u"Servidor no encontrado\r\n\r\nError ")) << to_utf8(thread.boxes.shown[0]);
-  EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: EjecutarComandos")) << to_utf8(thread.boxes.shown[0]);
+  EXPECT_FALSE(
+      runner.EjecutarComandos(id, 2, u"select 1\r\nGO\r\n", u"Provider=MSDASQL;Data Source=NoSuchDsn;", shown));
+  EXPECT_TRUE(thread.boxes.shown[0].starts_with(u"Servidor no encontrado\r\n\r\nError "))
+      << to_utf8(thread.boxes.shown[0]);
+  EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: EjecutarComandos"))
+      << to_utf8(thread.boxes.shown[0]);
   EXPECT_EQ(events.ends, std::vector<bool>{false});
   EXPECT_TRUE(events.progress.empty());
 }

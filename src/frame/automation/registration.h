@@ -11,8 +11,8 @@ enum class Scope { Machine, User };  // User needs no administrator rights and s
 // registration included.
 HRESULT register_library(Scope scope) noexcept;
 
-// Removes exactly those keys, and a user's keys above them that are empty then; what is not there is no failure. Keys that the library of the other width shares with
-// this one stay as long as that one is registered.
+// Removes exactly those keys, and a user's keys above them that are empty then; what is not there is no failure. Keys
+// that the library of the other width shares with this one stay as long as that one is registered.
 HRESULT unregister_library(Scope scope) noexcept;
 
 }  // namespace qvr::automation

@@ -62,7 +62,8 @@ std::int32_t IdiomaSimple::nearest_available(std::int32_t idioma) const noexcept
     for (const Value& number : available_) {
       if (to_number(number) == idioma) return idioma;
     }
-    const bool reads_spanish = idioma == language::kItalian || (idioma >= language::kCatalan && idioma <= language::kPortuguese);
+    const bool reads_spanish =
+        idioma == language::kItalian || (idioma >= language::kCatalan && idioma <= language::kPortuguese);
     return reads_spanish ? language::kSpanish : language::kEnglish;
   });
 }

@@ -63,8 +63,8 @@ class Cng final : public Cryptography {
   std::unique_ptr<BlockCipher> aes(Bytes key) override { return std::make_unique<CngAes>(key); }
 
   void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) override {
-    require(BCryptDeriveKeyPBKDF2(hmac_sha256(), writable(password), static_cast<ULONG>(password.size()), writable(salt),
-                                  static_cast<ULONG>(salt.size()), rounds, derived.data(),
+    require(BCryptDeriveKeyPBKDF2(hmac_sha256(), writable(password), static_cast<ULONG>(password.size()),
+                                  writable(salt), static_cast<ULONG>(salt.size()), rounds, derived.data(),
                                   static_cast<ULONG>(derived.size()), 0));
   }
 

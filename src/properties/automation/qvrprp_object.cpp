@@ -37,8 +37,8 @@ HRESULT QVRprpObject::get_NombrePropiedad(LONG* Indice, BSTR* Resultado) noexcep
   return answer(Resultado, [&] { return core_.NombrePropiedad(number_of(Indice)); });
 }
 
-HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
-                             EXCEPINFO* exception, UINT* wrong_argument) noexcept {
+HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments,
+                             VARIANT* result, EXCEPINFO* exception, UINT* wrong_argument) noexcept {
   const bool reads = (flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) != 0;
   if (id != DISPID_NEWENUM || !reads) {
     return Dual<_QVRprp>::Invoke(id, reserved, locale, flags, arguments, result, exception, wrong_argument);
@@ -54,7 +54,8 @@ HRESULT QVRprpObject::enumerate(VARIANT* result) noexcept {
   VariantInit(result);
   return guarded(E_OUTOFMEMORY, [&] {
     auto values = std::make_shared<std::vector<Value>>();
-    for (std::int32_t position = 0; position < core_.NumPropiedades(); ++position) values->push_back(core_.Item(position));
+    for (std::int32_t position = 0; position < core_.NumPropiedades(); ++position)
+      values->push_back(core_.Item(position));
     result->punkVal = new Enumerator<ValueTraits>(std::move(values));
     result->vt = VT_UNKNOWN;
     return S_OK;

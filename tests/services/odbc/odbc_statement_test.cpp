@@ -44,7 +44,8 @@ std::string described(odbc::Connection& connection, const Command& command) {
     Text text = join({result.has_rows ? u"rows" : u"affected ", result.has_rows ? Text() : decimal(result.affected)});
     for (const Text& column : result.columns) text += join({u" ", column});
     for (const auto& row : result.rows) {
-      for (const Value& each : row) text += join({u" ", std::holds_alternative<Null>(each.storage()) ? Text(u"null") : to_text(each)});
+      for (const Value& each : row)
+        text += join({u" ", std::holds_alternative<Null>(each.storage()) ? Text(u"null") : to_text(each)});
     }
     return to_utf8(text);
   } catch (const odbc::Failure& failure) {
