@@ -115,6 +115,16 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
   }
 }
 
+// Of a command with several statements the first result counts, as ADO has it; but a server runs the others, and tells
+// that one of them failed, only when it is asked for their results.
+void run_to_the_end(const Handle& statement) {
+  SQLRETURN more = SQL_SUCCESS;
+  do {
+    more = SQLMoreResults(statement.get());
+    statement.check(more);
+  } while (more != SQL_NO_DATA);
+}
+
 }  // namespace
 
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
@@ -134,6 +144,7 @@ ResultSet execute(Connection& connection, TextView text, const std::vector<Value
     statement.check(SQLRowCount(statement.get(), &affected));
     result.affected = affected;
   }
+  run_to_the_end(statement);
   if (parameters.empty()) connection.keep(std::move(used));
   return result;
 }
