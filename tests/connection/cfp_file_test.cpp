@@ -159,25 +159,26 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
   }
 }
 
-// Up to the longest line that is read again.
+struct NoProtection final : services::TextProtection {
+  Text Cifrar(TextView, TextView Texto) override { return Text(Texto); }
+  Text Descifrar(TextView, TextView Texto) override { return Text(Texto); }
+};
+
 TEST_F(CfpFileTest, IsNotWrittenWithALineThatCouldNotBeRead) {
   thread.files.keep_in_memory();
-  thread.make_text_protection = [] { return std::make_unique<CheapProtection>(); };
-  constexpr std::size_t kLongestLine = std::size_t{16} << 20, kDigitsOfAUnit = 4;
+  thread.make_text_protection = [] { return std::make_unique<NoProtection>(); };
   ConnectionParameters parameters;
   parameters.MotorBD = 2;
-  const std::size_t room = (kLongestLine - 1) / kDigitsOfAUnit - 1;  // the check line holds the engine's digit too
-  parameters.OtrosParametros = Text(room, u'o');
+  parameters.OtrosParametros = Text(std::size_t{16} << 20, u'o');
   QVRcfp cfp;
   ASSERT_TRUE(cfp.Asignar(u"id", parameters));
-  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
-  QVRcfp read;
-  EXPECT_TRUE(read.Crear(u"id", u"F", u"a"));
-  EXPECT_EQ(read.OtrosParametros().size(), room);
-  parameters.OtrosParametros.push_back(u'o');
+  EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"a"));
+  EXPECT_TRUE(thread.files.memory.empty());
+  parameters.OtrosParametros.resize(std::size_t{1} << 20);
   ASSERT_TRUE(cfp.Asignar(u"id", parameters));
-  EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"b"));
-  EXPECT_FALSE(thread.files.memory.contains(u"F\\b.cfp"));
+  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+  EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
+  EXPECT_EQ(cfp.OtrosParametros().size(), std::size_t{1} << 20);
 }
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
