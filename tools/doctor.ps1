@@ -224,7 +224,7 @@ function Test-Language {
   $setting = Get-ItemProperty -Path 'HKCU:\Software\VB and VBA Program Settings\QVR\Idioma' -ErrorAction SilentlyContinue
   $value = $null
   if ($null -ne $setting -and $null -ne $setting.PSObject.Properties['IdiomaOmision']) { $value = $setting.IdiomaOmision }
-  if ($null -eq $value) { Tell 'ok' 'language' ("By the user's Windows language, " + (Get-UICulture).Name) }
+  if ($null -eq $value) { Tell 'ok' 'language' ("By the user's regional format, " + (Get-Culture).Name) }
   elseif ('0', '1', '2', '3' -contains $value) { Tell 'ok' 'language' "By the setting QVR\Idioma\IdiomaOmision, $value" }
   else {
     Tell 'note' 'language' "The setting QVR\Idioma\IdiomaOmision is $value, which no catalogue has" `

@@ -124,7 +124,7 @@ void diagnose_language(const Facts& facts, Diagnoses& found) {
   found.of("language");
   const Text told = join({language_word(language.shown), u": "});
   if (language.setting.empty()) {
-    found.ok({told, u"by the user's Windows language ", hexadecimal(language.of_user),
+    found.ok({told, u"by the user's regional format ", hexadecimal(language.of_user),
               u"; there is no setting QVR\\Idioma\\IdiomaOmision"});
   } else if (language.asked == language.shown) {
     found.ok({told, u"by the setting QVR\\Idioma\\IdiomaOmision, \"", language.setting, u"\""});

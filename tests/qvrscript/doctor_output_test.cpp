@@ -77,7 +77,7 @@ TEST(Doctor, TellsElsewhereWhatItCan) {
             "ok     process        qvrscript 2.10.24, 64-bit, on Linux 6.1 (64-bit)\n"
             "note   library        The library, its registration and ADO exist on Windows only\n"
             "                      -> Run qvrscript.exe doctor on the machine that the application runs on.\n"
-            "ok     language       English: by the user's Windows language 0x0409; there is no setting "
+            "ok     language       English: by the user's regional format 0x0409; there is no setting "
             "QVR\\Idioma\\IdiomaOmision\n"
             "no errors\n");
 }
