@@ -95,8 +95,10 @@ AtomParser::Found AtomParser::between_texts(TextView first, TextView last) const
 AtomParser::Found AtomParser::between_dates(TextView first, TextView last) const {
   const auto a = period_in(first), b = period_in(last);
   if (!a || !b) return std::nullopt;
-  const Period& lower = a->from <= b->from ? *a : *b;
-  const Period& upper = a->from <= b->from ? *b : *a;
+  // From a day to the end of its year is no reversed range: only where nothing lies between are the ends exchanged.
+  const bool reversed = a->from >= b->to;
+  const Period& lower = reversed ? *b : *a;
+  const Period& upper = reversed ? *a : *b;
   const auto bound = [](Comparison how, const Period& period, bool at_end) {
     if (!period.whole_days) return CompareDate{how, period.from, period.to, false, period.with_seconds};
     const Moment day = at_end ? day_before(period.to) : period.from;

@@ -33,6 +33,7 @@ class RandomSearches {
   MeantSearch ordered_text_atom();
   MeantSearch number_atom();
   MeantSearch date_atom();
+  MeantSearch date_range();
   MeantSearch truth_atom();
   MeantSearch null_atom();
   MeantSearch negated(MeantSearch search);
@@ -42,6 +43,9 @@ class RandomSearches {
     std::int64_t first, end;
   };
   Span span();
+  static std::vector<Cell> date_rows();
+  static std::vector<Cell> text_rows(bool memo);
+  Text range_text(TextView first, TextView last);
   Text number_text(double number) const;
   Text day_text(int month, int day) const;
 

@@ -1,4 +1,6 @@
 // Random searches for columns of text.
+#include <algorithm>
+
 #include "query/like_rules.h"
 #include "query/random_searches.h"
 
@@ -8,6 +10,11 @@ namespace {
 constexpr TextView kWords[] = {u"ana", u"O'Neil", u"50%", u"a_b", u"R&D", u"and", u"Nulo", u"(b)", u"x--y", u"/-z",
                                u"1=1", u"\u00f1and\u00fa", u"a\\b", u"a#b", u"50!%", u"y", u"bea"};
 constexpr TextView kPlainWords[] = {u"ana", u"b", u"c", u"bea", u"ca"};
+
+// Long texts may be compared as they stand.
+bool is_small(TextView text) {
+  return std::ranges::none_of(text, [](char16_t unit) { return (unit >= u'A' && unit <= u'Z') || unit == u'\u00d1'; });
+}
 
 bool is_null(const Cell& cell) { return std::holds_alternative<std::monostate>(cell); }
 
@@ -74,6 +81,18 @@ MeantSearch RandomSearches::ordered_text_atom() {
       return {join({low, u"..", high}),
               text_test(oracle, [=](const Text& t) { return t >= low && (t <= high || t.starts_with(high)); })};
   }
+}
+
+std::vector<Cell> RandomSearches::text_rows(bool memo) {
+  constexpr TextView kTexts[] = {
+      u"", u"ana", u"Ana", u"ana l\u00f3pez", u"mariana", u"O'Neil", u"o'neill", u"50%", u"50", u"500", u"a_b", u"axb",
+      u"R&D", u"R and D", u"Nulo, S.A.", u"(b) c", u"x--y", u"/-z-/", u"1=1", u"c", u"cab", u"d", u"a*b", u"a?b",
+      u"a\\b", u"!&/()$#=|", u"50!%", u"bea", u"\u00f1and\u00fa", u"\u00d1AND\u00da", u"x;y", u"\"q\"", u"a#b", u"b"};
+  std::vector<Cell> rows = {Cell()};
+  for (const TextView text : kTexts) {
+    if (!memo || is_small(text)) rows.push_back(Text(text));
+  }
+  return rows;
 }
 
 }  // namespace qvr::tests

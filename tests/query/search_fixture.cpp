@@ -1,5 +1,7 @@
 #include "query/search_fixture.h"
 
+#include "frame/utf8.h"
+
 namespace qvr::tests {
 
 TextView label_of(const query::SearchColumn& column) {
@@ -18,6 +20,14 @@ void speak(TestThread& thread, UserLanguage language) {
 Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search) {
   const auto found = query::interpret_search(engine, column, search, label_of(column));
   return found ? join({found->condition, u" | ", found->criterion}) : Text(u"no search");
+}
+
+void SpanishSearch::expect(const query::SearchColumn& column, dialect::Engine engine,
+                           std::initializer_list<SearchRow> rows) {
+  for (const SearchRow& row : rows) {
+    const Text expected = row.condition.empty() ? Text(u"no search") : join({row.condition, u" | ", row.criterion});
+    EXPECT_EQ(interpreted(column, engine, row.search), expected) << to_utf8(row.search);
+  }
 }
 
 }  // namespace qvr::tests

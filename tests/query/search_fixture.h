@@ -28,4 +28,17 @@ void speak(TestThread& thread, UserLanguage language);
 // "condition | criterion", or "no search".
 Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search);
 
+struct SearchRow {
+  TextView search, condition, criterion = {};  // no condition: no search
+};
+
+// What a Spanish user types, and what comes of it for one engine.
+class SpanishSearch : public ::testing::Test {
+ protected:
+  SpanishSearch() { speak(thread, kSpanish); }
+  static void expect(const query::SearchColumn& column, dialect::Engine engine, std::initializer_list<SearchRow> rows);
+
+  TestThread thread;
+};
+
 }  // namespace qvr::tests

@@ -6,22 +6,7 @@ namespace {
 
 using query::SearchColumn;
 
-struct Row {
-  TextView search, condition, criterion = {};  // no condition: no search
-};
-
-class SearchRules : public ::testing::Test {
- protected:
-  void expect(const SearchColumn& column, dialect::Engine engine, std::initializer_list<Row> rows) {
-    for (const Row& row : rows) {
-      const Text expected = row.condition.empty() ? Text(u"no search") : join({row.condition, u" | ", row.criterion});
-      EXPECT_EQ(interpreted(column, engine, row.search), expected);
-    }
-  }
-  SearchRules() { speak(thread, kSpanish); }
-
-  TestThread thread;
-};
+class SearchRules : public SpanishSearch {};
 
 TEST_F(SearchRules, NothingIsNoSearch) {
   for (const SearchColumn& column : {kNombre, kNotas, kPrecio, kAlta, kActivo}) {
