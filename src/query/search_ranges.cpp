@@ -87,7 +87,9 @@ AtomParser::Found AtomParser::between_texts(TextView first, TextView last) const
   const auto folded_less = [](const Text& a, const Text& b) {
     return std::ranges::lexicographical_compare(a, b, {}, fold, fold);
   };
-  if (folded_less(upper.text(), lower.text())) std::swap(lower, upper);
+  // "martin..m" is not reversed: what begins with its last end is within.
+  const bool reversed = folded_less(upper.text(), lower.text()) && !starts_with_no_case(lower.text(), upper.text());
+  if (reversed) std::swap(lower, upper);
   return Alternatives{{CompareText{Comparison::GreaterOrEqual, std::move(lower)},
                        CompareText{Comparison::LessOrEqual, std::move(upper), true}}};
 }

@@ -31,6 +31,7 @@ class RandomSearches {
   MeantSearch atom(char16_t letter);
   MeantSearch text_atom(bool memo);
   MeantSearch ordered_text_atom();
+  MeantSearch text_range(TextView a, TextView b);
   MeantSearch number_atom();
   MeantSearch date_atom();
   MeantSearch date_range();

@@ -70,17 +70,23 @@ MeantSearch RandomSearches::text_atom(bool memo) {
 MeantSearch RandomSearches::ordered_text_atom() {
   const bool oracle = engine_ == dialect::kOracle;
   const Text a = in_capitals(one_of(kPlainWords)), b = in_capitals(one_of(kPlainWords));
-  const Text low = std::min(a, b), high = std::max(a, b);
   switch (below(5)) {
     case 0: return {u">=" + a, text_test(oracle, [=](const Text& t) { return t >= a; })};
     case 1: return {u"< " + a, text_test(oracle, [=](const Text& t) { return t < a; })};
     case 2: return {u"<=" + a, text_test(oracle, [=](const Text& t) { return t <= a; })};
     case 3:
       return {join({u"<=", a, u"*"}), text_test(oracle, [=](const Text& t) { return t <= a || t.starts_with(a); })};
-    default:
-      return {join({low, u"..", high}),
-              text_test(oracle, [=](const Text& t) { return t >= low && (t <= high || t.starts_with(high)); })};
+    default: return text_range(a, b);
   }
+}
+
+// Up to all that begins with the last end; the other way about where that would be nothing.
+MeantSearch RandomSearches::text_range(TextView a, TextView b) {
+  const bool reversed = b < a && !a.starts_with(b);
+  const Text low(reversed ? b : a), high(reversed ? a : b);
+  return {join({a, u"..", b}), text_test(engine_ == dialect::kOracle, [=](const Text& t) {
+            return t >= low && (t <= high || t.starts_with(high));
+          })};
 }
 
 std::vector<Cell> RandomSearches::text_rows(bool memo) {

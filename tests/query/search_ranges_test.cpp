@@ -28,5 +28,13 @@ TEST_F(SearchRanges, ThatWouldBeEmptyAreReversed) {
            u"Alta >= 31/12/2010 y <= 31/12/2011"}});
 }
 
+// The last end stands for all that begins with it.
+TEST_F(SearchRanges, OfTextsEndBehindAllThatBeginsWithTheirLastEnd) {
+  expect(kNombre, kJet,
+         {{u"martin..M", u"C.Nombre>='martin' And (C.Nombre<='M' Or C.Nombre LIKE 'M%')", u"Nombre >= martin y <= M*"},
+          {u"martin..k", u"C.Nombre>='k' And (C.Nombre<='martin' Or C.Nombre LIKE 'martin%')",
+           u"Nombre >= k y <= martin*"}});
+}
+
 }  // namespace
 }  // namespace qvr::tests
