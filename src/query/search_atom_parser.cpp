@@ -32,20 +32,10 @@ bool is_null_test(TextView text, SearchType type) {
 
 std::optional<Alternatives> AtomParser::parse(TextView piece) const {
   if (piece.empty() || piece.size() > kLongestOperand + 20) return std::nullopt;
-  bool negation = false;
-  if (piece[0] == u'!' && operator_length(piece) == 0) {
-    negation = true;
-    piece = trimmed(piece.substr(1));
-  } else if (!is_textual(type_)) {
-    for (const TextView word : not_words()) {
-      if (!word_at(piece, 0, word) || piece.size() == word.size() || piece[word.size()] != u' ') continue;
-      negation = true;
-      piece = trimmed(piece.substr(word.size()));
-      break;
-    }
-  }
+  const std::size_t negation = negation_length(piece, type_);
+  piece = trimmed(piece.substr(negation));
   auto found = parse_positive(piece);
-  if (!found || !negation) return found;
+  if (!found || negation == 0) return found;
   return found->size() == 1 ? std::optional(negated(*found)) : std::nullopt;
 }
 

@@ -67,7 +67,7 @@ class Splitter {
   // Where the operand begins: behind blanks, a negation and an operator or LIKE.
   std::size_t operand_offset(TextView text) const {
     std::size_t at = std::min(text.find_first_not_of(u' '), text.size());
-    if (text.substr(at).starts_with(u'!') && operator_length(text.substr(at)) == 0) ++at;
+    at += negation_length(text.substr(at), type_);
     at += operator_length(text.substr(at));
     at = std::min(text.find_first_not_of(u' ', at), text.size());
     if (const auto operand = like_operand(text.substr(at)))
@@ -78,7 +78,7 @@ class Splitter {
   bool starts_with_between(TextView text) const {
     if (is_textual(type_) || type_ == SearchType::Logical) return false;
     text = without_leading_blanks(text);
-    if (text.starts_with(u'!')) text = without_leading_blanks(text.substr(1));
+    text = without_leading_blanks(text.substr(negation_length(text, type_)));
     return std::ranges::any_of(between_words(), [&](TextView word) { return word_at(text, 0, word); });
   }
 
@@ -153,6 +153,15 @@ std::size_t operator_length(TextView text) {
     if (text.starts_with(two)) return 2;
   }
   return text.starts_with(u'=') || text.starts_with(u'>') || text.starts_with(u'<') ? 1 : 0;
+}
+
+std::size_t negation_length(TextView text, SearchType type) {
+  if (text.starts_with(u'!')) return operator_length(text) == 0 ? 1 : 0;
+  if (is_textual(type)) return 0;
+  for (const TextView word : not_words()) {
+    if (word_at(text, 0, word) && text.size() > word.size() && text[word.size()] == u' ') return word.size();
+  }
+  return 0;
 }
 
 std::optional<TextView> like_operand(TextView text) {

@@ -83,9 +83,11 @@ Text RandomSearches::range_text(TextView first, TextView last) {
   return join({form.before, first, form.between, last});
 }
 
-// What is null belongs to what is not so.
+// Not for texts, where no word negates. What is null belongs to what is not so.
 MeantSearch RandomSearches::negated(MeantSearch search) {
-  return {u"!" + search.typed, [meant = search.meant](const Cell& cell) { return is_null(cell) || !meant(cell); }};
+  constexpr TextView kNots[] = {u"!", u"! ", u"no ", u"Not  ", u"non "};
+  return {join({one_of(kNots), search.typed}),
+          [meant = search.meant](const Cell& cell) { return is_null(cell) || !meant(cell); }};
 }
 
 Text RandomSearches::number_text(double number) const {
@@ -103,8 +105,8 @@ MeantSearch RandomSearches::number_atom() {
     case 1: return {u"= " + first, number_test([=](double n) { return n == a; })};
     case 2: return {u"<>" + first, [=](const Cell& cell) { return is_null(cell) || std::get<double>(cell) != a; }};
     case 3: return negated({first, number_test([=](double n) { return n == a; })});
-    case 4:
-    case 5: return {range_text(first, second), within};
+    case 4: return {range_text(first, second), within};
+    case 5: return negated({range_text(first, second), within});
     case 6: {
       const Sign& sign = one_of(kSigns);
       return negated({join({sign.typed, first}), number_test([=](double n) { return sign.holds(n, a); })});
