@@ -19,9 +19,21 @@ std::optional<FoundWord> find_word(TextView text, std::span<const TextView> word
   return std::nullopt;
 }
 
+// Where single quotes close that the text begins with: before two points or at its end, since what a user types between
+// them may hold some. 0 for none.
+std::size_t end_of_first_quoted(TextView text) {
+  if (text.empty() || !is_single_quote(text[0])) return 0;
+  for (std::size_t i = 1; i < text.size(); ++i) {
+    if (!is_single_quote(text[i])) continue;
+    const TextView behind = trimmed(text.substr(i + 1));
+    if (behind.empty() || behind.starts_with(u"..")) return i + 1;
+  }
+  return 0;
+}
+
 // Two points outside quotes that are no part of three.
 std::size_t find_dots(TextView text) {
-  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+  for (std::size_t i = end_of_first_quoted(text); i + 1 < text.size(); ++i) {
     if (is_double_quote(text[i])) {
       const std::size_t end = end_of_double_quoted(text, i);
       if (end != TextView::npos) i = end - 1;

@@ -38,6 +38,10 @@ class Splitter {
         at_ = end;
         continue;
       }
+      if (dots_at(at_)) {
+        begin_last_end();
+        continue;
+      }
       const auto connector = connector_at(at_);
       if (!connector || skips_range_and(*connector)) {
         at_ += connector ? connector->length : 1;
@@ -55,30 +59,39 @@ class Splitter {
  private:
   void begin_piece(std::size_t at) {
     begin_ = at;
-    text_ = std::min(search_.find_first_not_of(u' ', at), search_.size());
-    operand_ = at + operand_offset(search_.substr(at));
-    range_and_ahead_ = starts_with_between(search_.substr(at));
+    text_ = behind_blanks(at);
+    const std::size_t atom = behind_blanks(text_ + negation_length(search_.substr(text_), type_));
+    operand_ = operand_of(atom);
+    dots_ahead_ = operand_ == atom;
+    range_and_ahead_ = starts_with_between(search_.substr(atom));
   }
+
+  // Behind two points, unless there are three.
+  void begin_last_end() {
+    dots_ahead_ = false;
+    at_ += 2;
+    if (at_ == search_.size() || search_[at_] != u'.') operand_ = behind_blanks(at_);
+  }
+
+  bool dots_at(std::size_t at) const { return dots_ahead_ && search_.substr(at).starts_with(u".."); }
 
   void add(bool starts_alternative) {
     pieces_.push_back({trimmed(search_.substr(begin_, at_ - begin_)), starts_alternative});
   }
 
-  // Where the operand begins: behind blanks, a negation and an operator or LIKE.
-  std::size_t operand_offset(TextView text) const {
-    std::size_t at = std::min(text.find_first_not_of(u' '), text.size());
-    at += negation_length(text.substr(at), type_);
-    at += operator_length(text.substr(at));
-    at = std::min(text.find_first_not_of(u' ', at), text.size());
-    if (const auto operand = like_operand(text.substr(at)))
-      at = static_cast<std::size_t>(operand->data() - text.data());
-    return at;
+  std::size_t behind_blanks(std::size_t at) const {
+    return std::min(search_.find_first_not_of(u' ', at), search_.size());
+  }
+
+  // Behind an operator or LIKE.
+  std::size_t operand_of(std::size_t atom) const {
+    const std::size_t at = behind_blanks(atom + operator_length(search_.substr(atom)));
+    const auto operand = like_operand(search_.substr(at));
+    return operand ? static_cast<std::size_t>(operand->data() - search_.data()) : at;
   }
 
   bool starts_with_between(TextView text) const {
     if (is_textual(type_) || type_ == SearchType::Logical) return false;
-    text = without_leading_blanks(text);
-    text = without_leading_blanks(text.substr(negation_length(text, type_)));
     return std::ranges::any_of(between_words(), [&](TextView word) { return word_at(text, 0, word); });
   }
 
@@ -97,7 +110,8 @@ class Splitter {
     return is_single_quote(unit) && at_ == operand_ ? end_of_single_quoted() : 0;
   }
 
-  // Single quotes close before a connector or at the end: what a user types between them may hold some.
+  // Single quotes close before a connector, before the points of a range or at the end: what a user types between them
+  // may hold some.
   std::size_t end_of_single_quoted() {
     const TextView near = search_.substr(0, at_ + kFarthest);
     for (std::size_t i = at_ + 1; i < near.size(); ++i) {
@@ -105,8 +119,8 @@ class Splitter {
         const std::size_t end = end_of_double_quoted(near, i);
         if (end != TextView::npos) i = end - 1;
       } else if (is_single_quote(near[i])) {
-        const std::size_t next = search_.find_first_not_of(u' ', i + 1);
-        if (next == TextView::npos || connector_at(next)) return i + 1;
+        const std::size_t next = behind_blanks(i + 1);
+        if (next == search_.size() || connector_at(next) || dots_at(next)) return i + 1;
       }
     }
     return 0;
@@ -142,6 +156,7 @@ class Splitter {
   std::size_t text_ = 0;           // where the piece begins, its leading blanks left out
   bool open_ended_ = false;        // a double quote that is never closed was seen
   bool range_and_ahead_ = false;   // the next "and" joins the ends of a range
+  bool dots_ahead_ = false;        // and so would the next two points
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace {
 constexpr TextView kWords[] = {u"ana", u"O'Neil", u"50%", u"a_b", u"R&D", u"and", u"Nulo", u"(b)", u"x--y", u"/-z",
                                u"1=1", u"\u00f1and\u00fa", u"a\\b", u"a#b", u"50!%", u"y", u"bea"};
 constexpr TextView kPlainWords[] = {u"ana", u"b", u"c", u"bea", u"ca"};
+constexpr TextView kEnds[] = {u"ana", u"b", u"c", u"bea", u"ca", u"o'neil", u"p"};
 
 // Long texts may be compared as they stand.
 bool is_small(TextView text) {
@@ -44,7 +45,7 @@ MeantSearch RandomSearches::text_atom(bool memo) {
     };
   };
   const auto empty = [](const Cell& cell) { return is_null(cell) || std::get<Text>(cell).empty(); };
-  switch (below(memo ? 12 : 16)) {
+  switch (below(memo ? 14 : 18)) {
     case 0: return {word, contains};
     case 1: {
       const Text other = word_of(), other_capitals = in_capitals(other);
@@ -63,13 +64,22 @@ MeantSearch RandomSearches::text_atom(bool memo) {
                     })};
     case 10: return {below(2) == 0 ? u"=" : u"\"\"", empty};
     case 11: return {below(2) == 0 ? u"<>" : u"*", [=](const Cell& cell) { return !empty(cell); }};
+    case 12:
+    case 13: {
+      // Points between quotes are no range.
+      const Text dotted = join({word, u"..", word_of()}), dotted_capitals = in_capitals(dotted);
+      const auto there = text_test(oracle, [=](const Text& t) { return t.find(dotted_capitals) != Text::npos; });
+      if (below(4) == 0) return {join({u"!'", dotted, u"'"}), not_so(there)};
+      const TextView quote = below(2) == 0 ? u"'" : u"\"";
+      return {join({quote, dotted, quote}), there};
+    }
     default: return ordered_text_atom();
   }
 }
 
 MeantSearch RandomSearches::ordered_text_atom() {
   const bool oracle = engine_ == dialect::kOracle;
-  const Text a = in_capitals(one_of(kPlainWords)), b = in_capitals(one_of(kPlainWords));
+  const Text a = in_capitals(one_of(kEnds)), b = in_capitals(one_of(kEnds));
   switch (below(5)) {
     case 0: return {u">=" + a, text_test(oracle, [=](const Text& t) { return t >= a; })};
     case 1: return {u"< " + a, text_test(oracle, [=](const Text& t) { return t < a; })};
@@ -80,11 +90,15 @@ MeantSearch RandomSearches::ordered_text_atom() {
   }
 }
 
-// Up to all that begins with the last end; the other way about where that would be nothing.
+// Each end in quotes or as it is, up to all that begins with the last one; the other way about where that would be
+// nothing.
 MeantSearch RandomSearches::text_range(TextView a, TextView b) {
   const bool reversed = b < a && !a.starts_with(b);
   const Text low(reversed ? b : a), high(reversed ? a : b);
-  return {join({a, u"..", b}), text_test(engine_ == dialect::kOracle, [=](const Text& t) {
+  constexpr TextView kQuotes[] = {u"", u"'", u"\""};
+  const TextView around_a = one_of(kQuotes), around_b = one_of(kQuotes);
+  const Text typed = join({around_a, a, around_a, u"..", around_b, b, around_b});
+  return {typed, text_test(engine_ == dialect::kOracle, [=](const Text& t) {
             return t >= low && (t <= high || t.starts_with(high));
           })};
 }
@@ -93,7 +107,8 @@ std::vector<Cell> RandomSearches::text_rows(bool memo) {
   constexpr TextView kTexts[] = {
       u"", u"ana", u"Ana", u"ana l\u00f3pez", u"mariana", u"O'Neil", u"o'neill", u"50%", u"50", u"500", u"a_b", u"axb",
       u"R&D", u"R and D", u"Nulo, S.A.", u"(b) c", u"x--y", u"/-z-/", u"1=1", u"c", u"cab", u"d", u"a*b", u"a?b",
-      u"a\\b", u"!&/()$#=|", u"50!%", u"bea", u"\u00f1and\u00fa", u"\u00d1AND\u00da", u"x;y", u"\"q\"", u"a#b", u"b"};
+      u"a\\b", u"!&/()$#=|", u"50!%", u"bea", u"\u00f1and\u00fa", u"\u00d1AND\u00da", u"x;y", u"\"q\"", u"a#b", u"b",
+      u"bea..ana", u"<ana..bea>"};
   std::vector<Cell> rows = {Cell()};
   for (const TextView text : kTexts) {
     if (!memo || is_small(text)) rows.push_back(Text(text));

@@ -62,5 +62,38 @@ TEST_F(SearchRanges, InWordsAreNegatedByWordsToo) {
                           u"Nombre es como '*no*' y es como '*entre*' y es como '*a*'"}});
 }
 
+TEST_F(SearchRanges, HaveTheirPointsOutsideQuotes) {
+  constexpr TextView kContains = u"C.Nombre LIKE '%a..b%'", kShown = u"Nombre es como '*a..b*'";
+  expect(kNombre, kJet,
+         {{u"\"a..b\"", kContains, kShown},
+          {u"'a..b'", kContains, kShown},
+          {u"\u2018a..b\u2019", kContains, kShown},
+          {u"!'a..b'", u"(C.Nombre NOT LIKE '%a..b%' Or C.Nombre Is Null)", u"Nombre <> es como '*a..b*'"},
+          {u"'O'Neil..b'", u"C.Nombre LIKE '%O''Neil..b%'", u"Nombre es como '*O'Neil..b*'"},
+          {u"'a..b'; 'c'", u"C.Nombre LIKE '%a..b%' Or C.Nombre LIKE '%c%'",
+           u"Nombre es como '*a..b*'; es como '*c*'"}});
+  expect(kNotas, kSqlServer, {{u"'a..b'", u"C.Notas LIKE N'%a..b%'", u"Notas es como '*a..b*'"}, {u"'a'..'b'", u""}});
+  expect(kNotas, kOracle, {{u"'a..b'", u" UPPER(C.Notas) LIKE UPPER('%a..b%')", u"Notas es como '*a..b*'"}});
+}
+
+TEST_F(SearchRanges, MayHaveQuotedEnds) {
+  constexpr TextView kRange = u"C.Nombre>='a' And (C.Nombre<='c' Or C.Nombre LIKE 'c%')";
+  constexpr TextView kShown = u"Nombre >= a y <= c*";
+  expect(kNombre, kJet,
+         {{u"'a'..'c'", kRange, kShown},
+          {u"'a' .. c", kRange, kShown},
+          {u"a..'c'", kRange, kShown},
+          {u"\"a\"..'c'", kRange, kShown},
+          {u"'a..b'..'c'", u"C.Nombre>='a..b' And (C.Nombre<='c' Or C.Nombre LIKE 'c%')", u"Nombre >= a..b y <= c*"},
+          {u"O'Neil..P", u"C.Nombre>='O''Neil' And (C.Nombre<='P' Or C.Nombre LIKE 'P%')", u"Nombre >= O'Neil y <= P*"},
+          {u"'a' .. 'c' ; !'d'", join({kRange, u" Or (C.Nombre NOT LIKE '%d%' Or C.Nombre Is Null)"}),
+           join({kShown, u"; <> es como '*d*'"})},
+          {u"'a'..c & 'd'", join({kRange, u" And C.Nombre LIKE '%d%'"}), join({kShown, u" y es como '*d*'"})},
+          {u"'x;y'..'y | z'", u"C.Nombre>='x;y' And (C.Nombre<='y | z' Or C.Nombre LIKE 'y | z%')",
+           u"Nombre >= \"x;y\" y <= \"y | z\"*"},
+          {u"a..'c;d'", u"C.Nombre>='a' And (C.Nombre<='c;d' Or C.Nombre LIKE 'c;d%')", u"Nombre >= a y <= \"c;d\"*"},
+          {u"'t..u", u"C.Nombre>='''t' And (C.Nombre<='u' Or C.Nombre LIKE 'u%')", u"Nombre >= \"'t\" y <= u*"}});
+}
+
 }  // namespace
 }  // namespace qvr::tests
