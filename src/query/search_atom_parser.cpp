@@ -34,9 +34,8 @@ std::optional<Alternatives> AtomParser::parse(TextView piece) const {
   if (piece.empty() || piece.size() > kLongestOperand + 20) return std::nullopt;
   const std::size_t negation = negation_length(piece, type_);
   piece = trimmed(piece.substr(negation));
-  auto found = parse_positive(piece);
-  if (!found || negation == 0) return found;
-  return found->size() == 1 ? std::optional(negated(*found)) : std::nullopt;
+  const auto found = parse_positive(piece);
+  return found && negation > 0 ? std::optional(negated(*found)) : found;
 }
 
 AtomParser::Found AtomParser::parse_positive(TextView text) const {

@@ -48,9 +48,23 @@ struct Opposite {
   }
 };
 
+// Where not one of several single atoms holds: all their opposites. Only the "<>" of a year or a month gives several,
+// and null is one of them, which leaves what lies within: comparisons that no null passes.
+Alternatives none_of(const Alternatives& alternatives) {
+  Alternative all;
+  bool null_too = false;
+  for (const Alternative& single : alternatives) {
+    if (std::holds_alternative<IsNull>(single.front())) continue;
+    const Alternative opposites = std::visit(Opposite{null_too}, single.front());
+    all.insert(all.end(), opposites.begin(), opposites.end());
+  }
+  return {std::move(all)};
+}
+
 }  // namespace
 
 Alternatives negated(const Alternatives& alternatives) {
+  if (alternatives.size() > 1) return none_of(alternatives);
   Alternatives found;
   bool null_too = false;
   for (const Atom& atom : alternatives.front()) found.push_back(std::visit(Opposite{null_too}, atom));

@@ -44,7 +44,7 @@ RandomSearches::Span RandomSearches::span() {
 MeantSearch RandomSearches::date_atom() {
   const Span a = span();
   const auto inside = [a](std::int64_t s) { return s >= a.first && s < a.end; };
-  switch (below(10)) {
+  switch (below(11)) {
     case 0: return {a.typed, date_test(inside)};
     case 1: return {u"=" + a.typed, date_test(inside)};
     case 2: return {u"<>" + a.typed, [=](const Cell& c) { return is_null(c) || !inside(std::get<Moment>(c).second); }};
@@ -54,6 +54,7 @@ MeantSearch RandomSearches::date_atom() {
     case 6: return {a.typed + u"..", date_test([a](std::int64_t s) { return s >= a.first; })};
     case 7: return negated({u">=" + a.typed, date_test([a](std::int64_t s) { return s >= a.first; })});
     case 8: return negated(date_range());
+    case 9: return {(below(2) == 0 ? u"!<>" : u"no <> ") + a.typed, date_test(inside)};
     default: return date_range();
   }
 }

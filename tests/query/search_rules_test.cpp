@@ -70,6 +70,18 @@ TEST_F(SearchRules, NegationsKeepNull) {
           {u"''", u"(P.Precio Is Null)", u"Precio Es Nulo"}});
 }
 
+TEST_F(SearchRules, TwoNegationsAreNone) {
+  constexpr TextView kFebruary = u"C.Alta>=#2011-02-01# And C.Alta<#2011-03-01#";
+  expect(kAlta, kJet,
+         {{u"!<>2011", u"C.Alta>=#2011-01-01# And C.Alta<#2012-01-01#", u"Alta >= 01/01/2011 y <= 31/12/2011"},
+          {u"no <>02/2011", kFebruary, u"Alta >= 01/02/2011 y <= 28/02/2011"},
+          {u"!!=02/2011", kFebruary, u"Alta >= 01/02/2011 y <= 28/02/2011"},
+          {u"!<>05/01/2011", u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-06#", u"Alta = 05/01/2011"}});
+  expect(kPrecio, kJet, {{u"!<>5", u"P.Precio= 5", u"Precio = 5"}});
+  expect(kNombre, kJet, {{u"!<>Ana*", u"C.Nombre LIKE 'Ana%'", u"Nombre es como 'Ana*'"},
+                         {u"!<>", u"(C.Nombre='' Or C.Nombre Is Null)", u"Nombre = ''"}});
+}
+
 TEST_F(SearchRules, NumbersAreThoseOfTheLocaleOrNone) {
   expect(kPrecio, kSqlServer,
          {{u"1.5", u"P.Precio= 1.5", u"Precio = 1,5"},
