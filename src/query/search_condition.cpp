@@ -101,6 +101,13 @@ class ConditionWriter {
   bool upper_, like_only_;
 };
 
+// "<=C; C*" is written just as the bound "C*" is within a longer condition, parentheses around it, and is not it.
+bool reads_as_bound(TextView condition, const ConditionWriter& writer, const Alternatives& search) {
+  const auto* first = std::get_if<CompareText>(&search.front().front());
+  if (search.size() != 2 || first == nullptr || first->comparison != Comparison::LessOrEqual) return false;
+  return equal_no_case(join({u"(", condition, u")"}), writer(CompareText{first->comparison, first->operand, true}));
+}
+
 }  // namespace
 
 Text search_condition(const Engine& engine, SearchType type, TextView expression, const Alternatives& search) {
@@ -113,6 +120,7 @@ Text search_condition(const Engine& engine, SearchType type, TextView expression
       condition += std::visit(writer, atom);
     }
   }
+  if (reads_as_bound(condition, writer, search)) return join({u"(", condition, u")"});
   return condition;
 }
 

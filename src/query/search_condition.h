@@ -7,7 +7,7 @@
 namespace qvr::query {
 
 // Atoms that hold an "or" have parentheses of their own, the others none: no atom inside a longer condition looks like
-// one that was added alone.
+// a search that was added alone.
 Text search_condition(const dialect::Engine& engine, SearchType type, TextView expression, const Alternatives& search);
 
 // The pattern as the engine's literal, with an ESCAPE clause (a blank before it, none behind) where it needs one.

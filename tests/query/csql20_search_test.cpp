@@ -78,6 +78,17 @@ TEST_F(Search, IsNotMadeTwice) {
   EXPECT_EQ(query.CriterioActual(), criterion);
 }
 
+// Two alternatives and the last end of a range are one text, but "Zoe" is within the one only.
+TEST_F(Search, IsNotTakenForAPartOfAnEarlierOne) {
+  for (const dialect::Engine engine : {kJet, kSqlServer, kOracle}) {
+    query.Crear(request_for(engine));
+    EXPECT_TRUE(search(u"Nombre", u"a..C; z"));
+    EXPECT_TRUE(search(u"Nombre", u"<=c; C*"));
+    EXPECT_FALSE(search(u"Nombre", u"<=C; C*"));
+    EXPECT_EQ(query.CriterioActual(), u"Nombre >= a y <= C*; es como '*z*' y Nombre <= c; es como 'C*'");
+  }
+}
+
 TEST_F(Search, ThatIsNoneChangesNothing) {
   const Text statement = query.SQL();
   for (const TextView text : {u"", u"   ", u";"}) EXPECT_FALSE(search(u"Nombre", text));

@@ -53,6 +53,17 @@ TEST_F(SearchRules, ConnectorsInTextsNeedAnOperatorOrBlanks) {
           {u"\"a;b\"", u"C.Nombre LIKE '%a;b%'", u"Nombre es como '*\"a;b\"*'"}});
 }
 
+// As the last end of a range is written, in parentheses all the same.
+TEST_F(SearchRules, AlternativesAreBareUnlessTheyReadAsABound) {
+  constexpr TextView kBound = u"(C.Nombre<='C' Or C.Nombre LIKE 'C%')";
+  expect(kNombre, kJet,
+         {{u"<=C; C*", kBound, u"Nombre <= C; es como 'C*'"},
+          {u"<=C*", kBound, u"Nombre <= C*"},
+          {u"C*; <=C", u"C.Nombre LIKE 'C%' Or C.Nombre<='C'", u"Nombre es como 'C*'; <= C"},
+          {u"<=C; D*", u"C.Nombre<='C' Or C.Nombre LIKE 'D%'", u"Nombre <= C; es como 'D*'"},
+          {u"<C; C*", u"C.Nombre<'C' Or C.Nombre LIKE 'C%'", u"Nombre < C; es como 'C*'"}});
+}
+
 TEST_F(SearchRules, NegationsKeepNull) {
   expect(kNombre, kJet,
          {{u"<>Ana*", u"(C.Nombre NOT LIKE 'Ana%' Or C.Nombre Is Null)", u"Nombre <> es como 'Ana*'"},
