@@ -7,7 +7,8 @@
 namespace qvr::query {
 namespace {
 
-constexpr std::size_t kLongestOperand = 1000;
+// With the longest operator, phrase, stars and quotes around an operand.
+constexpr std::size_t kLongestPiece = kLongestOperand + 20;
 
 Alternatives one(Atom atom) { return {{std::move(atom)}}; }
 
@@ -31,7 +32,7 @@ bool is_null_test(TextView text, SearchType type) {
 }  // namespace
 
 std::optional<Alternatives> AtomParser::parse(TextView piece) const {
-  if (piece.empty() || piece.size() > kLongestOperand + 20) return std::nullopt;
+  if (piece.empty() || piece.size() > kLongestPiece) return std::nullopt;
   const std::size_t negation = negation_length(piece, type_);
   piece = trimmed(piece.substr(negation));
   const auto found = parse_positive(piece);
@@ -72,7 +73,7 @@ AtomParser::Found AtomParser::nothing_or_something(TextView text) const {
 }
 
 AtomParser::Found AtomParser::compared(Comparison comparison, TextView operand) const {
-  if (operand.empty() || operand.size() > kLongestOperand) return std::nullopt;
+  if (operand.empty() || (!is_textual(type_) && operand.size() > kLongestOperand)) return std::nullopt;
   switch (type_) {
     case SearchType::Number: return compared_number(comparison, operand);
     case SearchType::Date: return compared_date(comparison, operand);
@@ -94,6 +95,7 @@ AtomParser::Found AtomParser::compared_text(Comparison comparison, TextView oper
       return found ? std::optional(negated(*found)) : std::nullopt;
     }
     Operand value = Operand::read(operand);
+    if (value.too_long()) return std::nullopt;
     if (!value.has_wildcard()) return one(CompareText{comparison, std::move(value)});
     if (value.only_stars()) return one(IsEmpty{!negation});
     return one(Like{negation, std::move(value)});
@@ -101,7 +103,7 @@ AtomParser::Found AtomParser::compared_text(Comparison comparison, TextView oper
   if (!can_be_compared()) return std::nullopt;
   Operand value = Operand::read(operand);
   const bool begins = value.drop_last_star();
-  if (value.has_wildcard() || value.empty()) return std::nullopt;
+  if (value.has_wildcard() || value.empty() || value.too_long()) return std::nullopt;
   if (!begins || comparison == Comparison::Less || comparison == Comparison::GreaterOrEqual) {
     return one(CompareText{comparison, std::move(value)});
   }
@@ -146,7 +148,7 @@ AtomParser::Found AtomParser::compared_truth(Comparison comparison, TextView ope
 
 AtomParser::Found AtomParser::pattern(TextView operand) const {
   Operand value = Operand::read(operand, true);
-  if (!value.given()) return std::nullopt;
+  if (!value.given() || value.too_long()) return std::nullopt;
   if (value.empty()) return one(IsEmpty{false});
   return one(value.only_stars() ? Atom(IsEmpty{true}) : Atom(Like{false, std::move(value)}));
 }
@@ -154,7 +156,7 @@ AtomParser::Found AtomParser::pattern(TextView operand) const {
 // Without wildcards each word may be anywhere; with one the whole is a pattern as written.
 AtomParser::Found AtomParser::words(TextView text) const {
   Operand value = Operand::read(text);
-  if (value.empty() || text.size() > kLongestOperand) return std::nullopt;
+  if (value.empty() || value.too_long()) return std::nullopt;
   if (value.has_wildcard()) return one(Like{false, std::move(value)});
   Alternative all;
   for (Operand& word : value.words()) {

@@ -104,6 +104,14 @@ bool Operand::only_stars() const {
 
 bool Operand::any_quoted() const { return std::ranges::find(quoted_, true) != quoted_.end(); }
 
+bool Operand::too_long() const {
+  const auto star_at = [this](std::size_t i) { return text_[i] == u'*' && !quoted_[i]; };
+  std::size_t size = text_.size();
+  if (size > 0 && star_at(size - 1)) --size;
+  if (size > 0 && star_at(0)) --size;
+  return size > kLongestOperand;
+}
+
 std::vector<Operand> Operand::words() const {
   std::vector<Operand> words, all;
   Operand word;

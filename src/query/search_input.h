@@ -20,6 +20,8 @@ std::size_t end_of_double_quoted(TextView text, std::size_t at);
 // Whether the word stands there by itself, and in any case.
 bool word_at(TextView text, std::size_t at, TextView word);
 
+inline constexpr std::size_t kLongestOperand = 1000;
+
 // A text that a user gave as a value: which of its units were quoted and so stand for themselves.
 class Operand {
  public:
@@ -34,6 +36,9 @@ class Operand {
   bool has_wildcard() const;
   bool only_stars() const;  // at least one, and nothing else
   bool any_quoted() const;
+  // More than people type. A star at either end does not count, nor do quotes: what is shown may have them where what
+  // was typed had none, and can be typed again.
+  bool too_long() const;
 
   // Its words, quoted blanks being part of one; punctuation by itself is none unless there is nothing else.
   std::vector<Operand> words() const;

@@ -80,7 +80,7 @@ bool AtomParser::has_two_ends(TextView text) const {
 AtomParser::Found AtomParser::between(TextView first, TextView last) const {
   const bool open = first.empty() || last.empty();
   if (is_textual(type_)) return open || !can_be_compared() ? std::nullopt : between_texts(first, last);
-  if (first.empty() && last.empty()) return std::nullopt;
+  if ((first.empty() && last.empty()) || std::max(first.size(), last.size()) > kLongestOperand) return std::nullopt;
   if (first.empty()) return compared(Comparison::LessOrEqual, last);
   if (last.empty()) return compared(Comparison::GreaterOrEqual, first);
   if (type_ == SearchType::Date) return between_dates(first, last);
@@ -96,6 +96,7 @@ AtomParser::Found AtomParser::between_texts(TextView first, TextView last) const
   lower.drop_last_star();
   upper.drop_last_star();
   if (lower.has_wildcard() || upper.has_wildcard() || lower.empty() || upper.empty()) return std::nullopt;
+  if (lower.too_long() || upper.too_long()) return std::nullopt;
   const auto folded_less = [](const Text& a, const Text& b) {
     return std::ranges::lexicographical_compare(a, b, {}, fold, fold);
   };

@@ -163,28 +163,6 @@ TEST_F(SearchRules, PatternsSayWhatTheyMeanToEachEngine) {
   expect(kNombre, kJet, {{u"\"a?\"#[_", u"C.Nombre LIKE '%a[?][#][[][_]%'", u"Nombre es como '*\"a?#[_\"*'"}});
 }
 
-TEST_F(SearchRules, OperandsAreNoLongerThanPeopleType) {
-  const Text longest = u"=" + Text(1000, u'a'), longer = u"=" + Text(1001, u'a');
-  EXPECT_NE(interpreted(kNombre, kJet, longest), u"no search");
-  EXPECT_EQ(interpreted(kNombre, kJet, longer), u"no search");
-  EXPECT_EQ(interpreted(kNombre, kJet, Text(4 << 20, u'a')), u"no search");
-  EXPECT_EQ(interpreted(kPrecio, kJet, Text(29, u'1')), u"no search");
-}
-
-// Whoever looks at a run of blanks again from each of its blanks, or for a ";" to the end from each word, does not come
-// back from these.
-TEST_F(SearchRules, LongTextsAreGoneThroughOnce) {
-  constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
-  const Text blanks(std::size_t{1} << 21, u' ');
-  expect(kNombre, kJet, {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
-                         {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
-                         {join({u"a", blanks, u"b"}), u""}});
-  expect(kPrecio, kJet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
-  Text likes;
-  for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";
-  expect(kNombre, kJet, {{likes, u""}});
-}
-
 TEST_F(SearchRules, OtherTypesAndEnginesAreNotSearched) {
   EXPECT_FALSE(query::interpret_search(kJet, {u"C.X", u'Z'}, u"a", u"X"));
   EXPECT_FALSE(query::interpret_search(0, kNombre, u"a", u"X"));

@@ -1,0 +1,73 @@
+// How long what is typed may be, and that nothing takes long.
+#include "frame/utf8.h"
+#include "query/search_fixture.h"
+
+namespace qvr::tests {
+namespace {
+
+class SearchLengths : public SpanishSearch {
+ protected:
+  static void expect_none(const query::SearchColumn& column, TextView typed) {
+    EXPECT_EQ(interpreted(column, kJet, typed), u"no search");
+  }
+  // A search, which is the same when it is typed as it is shown.
+  static void expect_search(TextView typed) {
+    const auto found = query::interpret_search(kJet, kNombre, typed, u"X");
+    ASSERT_TRUE(found) << to_utf8(typed);
+    const auto again = query::interpret_search(kJet, kNombre, TextView(found->criterion).substr(2), u"X");
+    ASSERT_TRUE(again) << to_utf8(found->criterion);
+    EXPECT_EQ(again->condition, found->condition);
+  }
+
+  const Text longest_ = Text(1000, u'a'), longer_ = Text(1001, u'a');
+};
+
+TEST_F(SearchLengths, OperandsAreNoLongerThanPeopleType) {
+  constexpr struct {
+    TextView before, behind;
+  } kPlaces[] = {{u"", u""},          {u"*", u"*"},        {u"!", u""},      {u"=", u""},    {u"<>", u"*"},
+                 {u"LIKE ", u""},     {u"<> LIKE ", u""},  {u"< ", u""},     {u"<=", u"*"},  {u"LIKE '*", u"*'"},
+                 {u"es como '", u"'"}, {u"LIKE \"", u"\"*"}, {u"=\"", u"\""}, {u"a..", u""}, {u"", u"..b"},
+                 {u"'", u"'..b"},     {u"0..\"", u"\""}};
+  for (const auto& [before, behind] : kPlaces) {
+    expect_search(join({before, longest_, behind}));
+    expect_none(kNombre, join({before, longer_, behind}));
+  }
+  expect_none(kNombre, Text(4 << 20, u'a'));
+}
+
+TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
+  expect_none(kPrecio, Text(29, u'1'));
+  const Text blanks(1000, u' '), fewer(900, u' ');
+  expect(kPrecio, kJet, {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
+                         {join({u"1", blanks, u"2..15"}), u""}});
+  expect(kAlta, kJet, {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
+                        u"Alta >= 04/01/2011 y <= 05/01/2011"},
+                       {join({u"hoy", blanks, u"-1..hoy"}), u""}});
+}
+
+// Quotes that a value needs where it is shown leave it as long as it is.
+TEST_F(SearchLengths, ShownQuotesDoNotCount) {
+  for (const TextView begin : {u"&", u"a  <", u"a' b"}) {
+    const Text value = join({begin, TextView(longest_).substr(begin.size())});
+    expect_search(join({u"=", value}));
+    expect_search(join({u"LIKE ", value}));
+  }
+}
+
+// Whoever looks at a run of blanks again from each of its blanks, or for a ";" to the end from each word, does not come
+// back from these.
+TEST_F(SearchLengths, LongTextsAreGoneThroughOnce) {
+  constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
+  const Text blanks(std::size_t{1} << 21, u' ');
+  expect(kNombre, kJet, {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+                         {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+                         {join({u"a", blanks, u"b"}), u""}});
+  expect(kPrecio, kJet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
+  Text likes;
+  for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";
+  expect(kNombre, kJet, {{likes, u""}});
+}
+
+}  // namespace
+}  // namespace qvr::tests
