@@ -7,9 +7,6 @@
 namespace qvr::query {
 namespace {
 
-// With the longest operator, phrase, stars and quotes around an operand.
-constexpr std::size_t kLongestPiece = kLongestOperand + 20;
-
 Alternatives one(Atom atom) { return {{std::move(atom)}}; }
 
 Comparison comparison_of(TextView sign) {

@@ -21,6 +21,8 @@ std::size_t end_of_double_quoted(TextView text, std::size_t at);
 bool word_at(TextView text, std::size_t at, TextView word);
 
 inline constexpr std::size_t kLongestOperand = 1000;
+// Two of them, or one in which all are double quotes and doubled, with what may stand around: "<> est comme '*"..."*'".
+inline constexpr std::size_t kLongestPiece = 2 * kLongestOperand + 20;
 
 // A text that a user gave as a value: which of its units were quoted and so stand for themselves.
 class Operand {

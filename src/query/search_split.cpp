@@ -8,8 +8,8 @@
 namespace qvr::query {
 namespace {
 
-// Longer operands are refused: nothing farther away is looked at more than once.
-constexpr std::size_t kFarthest = 1010;
+// No wildcard is looked for farther away: longer operands are refused, and each of their words would look again.
+constexpr std::size_t kFarthest = kLongestOperand + 10;
 
 struct Connector {
   std::size_t length;
@@ -113,7 +113,7 @@ class Splitter {
   // Single quotes close before a connector, before the points of a range or at the end: what a user types between them
   // may hold some.
   std::size_t end_of_single_quoted() {
-    const TextView near = search_.substr(0, at_ + kFarthest);
+    const TextView near = search_.substr(0, at_ + kLongestPiece);  // a longer one is refused
     for (std::size_t i = at_ + 1; i < near.size(); ++i) {
       if (is_double_quote(near[i])) {
         const std::size_t end = end_of_double_quoted(near, i);

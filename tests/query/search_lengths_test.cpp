@@ -55,6 +55,17 @@ TEST_F(SearchLengths, ShownQuotesDoNotCount) {
   }
 }
 
+// Each end may be as long as one, and a quote of a value is two where it is shown.
+TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
+  expect_search(join({longest_, u"..", Text(1000, u'b')}));
+  const Text quotes(999, u'"');  // never closed: they are text
+  for (const TextView before : {u"", u"!", u"=", u"<>", u"LIKE ", u"<> LIKE ", u"<="}) {
+    expect_search(join({before, quotes}));
+  }
+  expect_search(join({u"=\"", quotes, quotes, u"\"\"\""}));
+  expect_none(kNombre, join({u"=\"", quotes, quotes, u"\"\"\"\"\""}));
+}
+
 // Whoever looks at a run of blanks again from each of its blanks, or for a ";" to the end from each word, does not come
 // back from these.
 TEST_F(SearchLengths, LongTextsAreGoneThroughOnce) {
