@@ -54,8 +54,9 @@ struct Array {
 // Long int32_t; the two of 64 bits are none of the contract's types but can arrive all the same.
 class Value {
  public:
-  using Storage = std::variant<Empty, Missing, Null, bool, std::uint8_t, std::int16_t, std::int32_t, std::int64_t,
-                               std::uint64_t, float, double, Currency, Decimal, Date, Text, ErrorValue, ObjectRef, Array>;
+  using Storage =
+      std::variant<Empty, Missing, Null, bool, std::uint8_t, std::int16_t, std::int32_t, std::int64_t, std::uint64_t,
+                   float, double, Currency, Decimal, Date, Text, ErrorValue, ObjectRef, Array>;
 
   Value() = default;
   template <class T>

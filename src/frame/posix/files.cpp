@@ -126,8 +126,8 @@ class DescriptorOutput : public OutputFile {
 constexpr std::int32_t kDirectoryAttribute = 16;
 
 // Hands the name of every entry over, with the way to it, until it is told that this is enough; a name that is no text
-// cannot be asked for. Throws when the folder cannot be read. (The standard library's walk ends the program when there is
-// no memory.)
+// cannot be asked for. Throws when the folder cannot be read. (The standard library's walk ends the program when there
+// is no memory.)
 template <class Use>
 void each_name(const std::string& folder, Use&& use) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(folder.c_str()), &::closedir);
