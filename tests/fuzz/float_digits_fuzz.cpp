@@ -47,6 +47,7 @@ void check_equal(const DecimalDigits& found, const std::string& wanted, std::str
 // The bytes as a number's own; false for what has no digits.
 template <class Float>
 bool number_in(std::string_view bytes, Float& number) {
+  if (bytes.empty()) return false;
   std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof(number)));
   number = std::fabs(number);
   return std::isfinite(number) && number != 0;
