@@ -43,7 +43,7 @@ for subject in creation dispatch members; do
   say "bench: $subject"
   timeout 300 "$root/tools/wine.sh" "$build/win32/bin/${subject}_bench.exe" >"$results/$subject.json"
 done
-"$root/tools/wine.sh" --stop || true
+"$root/tools/wine.sh" --stop
 
 "$root/tools/bench_report.py" "$results" "$root/docs/performance.md"
 sed -n '/^<!-- figures -->/,/^<!-- end of figures -->/p' "$root/docs/performance.md"

@@ -4,5 +4,8 @@ set -eu
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export WINEPREFIX=${QVR_WINEPREFIX:-$root/build/wine} WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 unset DISPLAY WAYLAND_DISPLAY
-[ "${1:-}" = --stop ] && exec wineserver -k
+if [ "${1:-}" = --stop ]; then
+  wineserver -k || true  # there may be none
+  exit
+fi
 exec "${QVR_WINE:-wine}" "$@"

@@ -3,22 +3,12 @@
 # Usage: registration_free.sh 32|64 BIN
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 60 "$here/../../tools/wine.sh" "$@"; }
+wine() { timeout 60 "$tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 [ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
-work=$(mktemp -d)
-# A prefix of its own has certainly nothing registered; and Wine registers a type library that it finds by a manifest.
-export QVR_WINEPREFIX=$work/prefix
-tidy_up() {
-  local outcome=$?
-  "$here/../../tools/wine.sh" --stop || true
-  rm -rf "$work"
-  exit "$outcome"
-}
-trap tidy_up EXIT
-"$here/../../tools/wine_prefix.sh" "$QVR_WINEPREFIX" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-WINEPREFIX=$QVR_WINEPREFIX wineserver -w
+# Wine registers a type library that it finds by a manifest: not in the prefix of the other tests.
+. "$here/../support/own_prefix.sh"
 mkdir "$work/with" "$work/without"
 cp "$2"/{QVRlib21.dll,QVRlib21.SxS.manifest,registration_free.exe,registration_free.exe.manifest} "$work/with"
 cp "$2"/{QVRlib21.dll,registration_free.exe} "$work/without"

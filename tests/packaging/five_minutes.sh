@@ -3,19 +3,7 @@
 # the commands are those of its text, and what they print is compared. Usage: five_minutes.sh ZIP
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-tools=$here/../../tools
-
-work=$(mktemp -d)
-export QVR_WINEPREFIX=$work/prefix
-tidy_up() {
-  local outcome=$?
-  "$tools/wine.sh" --stop || true
-  rm -rf "$work"
-  exit "$outcome"
-}
-trap tidy_up EXIT
-"$tools/wine_prefix.sh" "$QVR_WINEPREFIX" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-WINEPREFIX=$QVR_WINEPREFIX wineserver -w
+. "$here/../support/own_prefix.sh"
 # Programs start as from the command prompt of a 64-bit Windows.
 export QVR_WINE=/usr/lib/wine/wine64
 # Wine looks for classes in the machine's registration only. Here the user's classes are the machine's, so that what is
