@@ -2,6 +2,7 @@
 
 #include "dialect/lists.h"
 #include "frame/failure.h"
+#include "frame/value_convert.h"
 
 namespace qvr::dialect {
 namespace {
@@ -25,7 +26,7 @@ Text value_map(const CaseForm& form, TextView field, const Value& pairs) {
   for (std::size_t i = 0; i < elements.items.size(); ++i) {
     const bool result = i % 2 == 1, alone = !result && i + 1 == elements.items.size();
     text += result ? form.before_result : alone ? form.before_default : form.before_value;
-    text += sql_piece(elements.items[i]);
+    text += to_text(elements.items[i], Decimals::Point);
   }
   return text += form.closer;
 }
@@ -61,7 +62,7 @@ Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {
   Text text = u" ";
   for (std::size_t i = 0; i < elements.items.size(); ++i) {
     if (i > 0) text += concatenation;
-    text += sql_piece(elements.items[i]);
+    text += to_text(elements.items[i], Decimals::Point);
   }
   return text += u" ";
 }

@@ -42,12 +42,12 @@ Text conditions(const Engine& engine, const Array& triples) {
   const std::int64_t first = triples.lower, end = first + static_cast<std::int64_t>(triples.items.size());
   for (std::int64_t i = first; i < end; i += 3) {
     if (i > first) text += u" And ";
-    text += sql_piece(element_at(triples, i));
+    text += to_text(element_at(triples, i), Decimals::Point);
     const Text code = to_text(element_at(triples, i + 2));
     const Relation* relation = relation_of(engine, code);
     if (relation == nullptr) return wrong_relation(code);
     text += engine == kOracle ? relation->oracle : relation->sql_server;
-    text += sql_piece(element_at(triples, i + 1));
+    text += to_text(element_at(triples, i + 1), Decimals::Point);
     if (engine == kOracle) text += relation->oracle_at_the_end;
   }
   return text += u") ";

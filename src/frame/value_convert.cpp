@@ -15,13 +15,6 @@ namespace {
 
 Locale& locale() { return thread_state().platform().locale; }
 
-Text localised(Text number) {
-  for (char16_t& unit : number) {
-    if (unit == u'.') unit = locale().decimal_separator();
-  }
-  return number;
-}
-
 template <class T, class... Kinds>
 inline constexpr bool is_one_of = (std::is_same_v<T, Kinds> || ...);
 
@@ -36,15 +29,23 @@ template <class T>
 }
 
 struct AsText {
+  Decimals decimals;
+
+  Text written(Text number) const {
+    const std::size_t point = decimals == Decimals::OfLocale ? number.find(u'.') : Text::npos;
+    if (point != Text::npos) number[point] = locale().decimal_separator();
+    return number;
+  }
+
   template <class T>
   Text operator()(const T& held) const {
     if constexpr (std::is_same_v<T, Empty>) return {};
     else if constexpr (std::is_same_v<T, Text>) return held;
     else if constexpr (std::is_same_v<T, bool>) return held ? u"True" : u"False";
     else if constexpr (is_whole<T>) return decimal(held);
-    else if constexpr (std::is_same_v<T, float>) return localised(rounded_number(held, 7));
-    else if constexpr (std::is_same_v<T, double>) return localised(rounded_number(held, 15));
-    else if constexpr (is_one_of<T, Currency, Decimal, std::uint64_t>) return localised(shortest_number(held));
+    else if constexpr (std::is_same_v<T, float>) return written(rounded_number(held, 7));
+    else if constexpr (std::is_same_v<T, double>) return written(rounded_number(held, 15));
+    else if constexpr (is_one_of<T, Currency, Decimal, std::uint64_t>) return written(shortest_number(held));
     else if constexpr (std::is_same_v<T, Date>) return locale().date_text(held);
     else if constexpr (std::is_same_v<T, ErrorValue>) return join({u"Error ", decimal(held.code & 0xFFFF)});
     else refuse<T>();
@@ -72,11 +73,11 @@ struct AsNumber {
 
 }  // namespace
 
-Text to_text(const Value& value) { return std::visit(AsText{}, value.storage()); }
+Text to_text(const Value& value, Decimals decimals) { return std::visit(AsText{decimals}, value.storage()); }
 
-TextView to_text_view(const Value& value, Text& converted) {
+TextView to_text_view(const Value& value, Text& converted, Decimals decimals) {
   if (const Text* held = value.as<Text>()) return *held;
-  return converted = to_text(value);
+  return converted = to_text(value, decimals);
 }
 
 double to_number(const Value& value) { return std::visit(AsNumber{}, value.storage()); }

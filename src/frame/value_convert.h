@@ -7,9 +7,13 @@
 
 namespace qvr {
 
-Text to_text(const Value& value);
+// What stands before the decimals of a number: the locale's sign, or a point in pieces of SQL, where a comma would part
+// the number in two.
+enum class Decimals { OfLocale, Point };
+
+Text to_text(const Value& value, Decimals decimals = Decimals::OfLocale);
 // The same as a view into the value where it is a text, else into `converted`.
-TextView to_text_view(const Value& value, Text& converted);
+TextView to_text_view(const Value& value, Text& converted, Decimals decimals = Decimals::OfLocale);
 double to_number(const Value& value);
 bool to_truth(const Value& value);
 Date to_date(const Value& value);

@@ -37,7 +37,7 @@ ColumnList ColumnList::from_pairs(const Value& pairs) {
   Text expression_text, descriptor_text;
   for (std::size_t i = 0; i < list.items.size(); i += 2) {
     const Value& descriptor = dialect::element_at(list, list.lower + static_cast<std::int64_t>(i) + 1);
-    columns.add(column_from(dialect::sql_piece_view(list.items[i], expression_text),
+    columns.add(column_from(to_text_view(list.items[i], expression_text, Decimals::Point),
                             to_text_view(descriptor, descriptor_text)));
   }
   return columns;
