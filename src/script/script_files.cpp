@@ -35,6 +35,7 @@ std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std
 bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
   const Text pattern = join({Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"});
   constexpr std::int32_t kPlainFiles = 0;
+  // The folder is listed only where the system's search finds something, which may be less than the pattern asks for.
   return ExisteArchivo(join({Ruta, u"\\", pattern}), kPlainFiles) && !sorted_names(Ruta, pattern).empty();
 }
 

@@ -138,7 +138,7 @@ void each_name(const std::string& folder, Use&& use) {
   }
 }
 
-// As a search shows it: the two entries for the folder itself and for the one above it among them.
+// Devices and what leads nowhere are none of both.
 enum class Kind { None, Plain, Directory };
 Kind kind_of(const std::string& path) {
   struct stat entry{};
