@@ -5,7 +5,7 @@
 #include <string>
 
 #include "connection/qvrcfp.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "services/text_protection.h"
 
 namespace qvr {

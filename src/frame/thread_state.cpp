@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "frame/thread_slot.h"
+#include "platform/thread_slot.h"
 
 namespace qvr {
 namespace {

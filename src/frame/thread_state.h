@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "frame/languages/idioma_simple.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "services/ado.h"
 #include "services/error_report.h"
 #include "services/script_reader.h"

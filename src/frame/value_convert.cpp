@@ -5,7 +5,7 @@
 #include "frame/date_text.h"
 #include "frame/failure.h"
 #include "frame/number_text.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "frame/thread_state.h"
 
 namespace qvr {

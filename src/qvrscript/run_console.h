@@ -1,7 +1,7 @@
 // What a run shows on a console in place of boxes and windows.
 #pragma once
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "qvrscript/report.h"
 #include "script/qvrscr.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "qvrscript/sql_regions.h"
 
 namespace qvr::script_tool {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "frame/text.h"
 
 namespace qvr::services {

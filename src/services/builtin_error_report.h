@@ -1,7 +1,7 @@
 // The library's own error report: one message box.
 #pragma once
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "services/error_report.h"
 
 namespace qvr::services {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "services/script_reader.h"
 
 namespace qvr::services {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "services/error_report.h"
 #include "services/script_reader.h"
 #include "services/text_protection.h"

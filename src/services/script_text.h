@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::services {
 

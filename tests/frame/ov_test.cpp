@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::tests {
 namespace {

@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::tests {
 

@@ -1,7 +1,7 @@
 // A locale whose separators and date order a test chooses.
 #pragma once
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::tests {
 

@@ -9,7 +9,7 @@
 #include <tuple>
 #include <vector>
 
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "support/call_log.h"
 
 namespace qvr::tests {

@@ -1,7 +1,7 @@
 #include "frame/automation/ov_object.h"
 
 #include "frame/ov.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::automation {
 namespace {

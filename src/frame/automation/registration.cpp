@@ -4,7 +4,7 @@
 #include "frame/automation/answer.h"
 #include "frame/automation/class_table.h"
 #include "frame/automation/registry_rows.h"
-#include "frame/windows/parts.h"
+#include "platform/windows/parts.h"
 
 namespace qvr::automation {
 namespace {

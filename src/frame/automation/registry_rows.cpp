@@ -5,7 +5,7 @@
 #include "frame/automation/late_failure.h"
 #include "frame/automation/text_bstr.h"
 #include "frame/automation/type_library.h"
-#include "frame/windows/parts.h"
+#include "platform/windows/parts.h"
 
 namespace qvr::automation {
 namespace {

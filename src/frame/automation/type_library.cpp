@@ -2,7 +2,7 @@
 
 #include "frame/automation/late_failure.h"
 #include "frame/automation/text_bstr.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 
 namespace qvr::automation {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "frame/languages/catalogue.h"
-#include "frame/platform.h"
+#include "platform/platform.h"
 #include "frame/value.h"
 
 namespace qvr {

@@ -5,7 +5,7 @@
 #include "frame/global.h"
 #include "frame/ov.h"
 #include "frame/value_convert.h"
-#include "frame/windows/parts.h"
+#include "platform/windows/parts.h"
 #include "qvrscript/doctor_facts.h"
 #include "qvrscript/windows/library_file.h"
 #include "qvrscript/windows/registered.h"

@@ -5,7 +5,7 @@
 #include "QVRlib21.h"
 #include "frame/automation/com.h"
 #include "frame/automation/text_bstr.h"
-#include "frame/windows/parts.h"
+#include "platform/windows/parts.h"
 
 namespace qvr::script_tool::windows {
 namespace {

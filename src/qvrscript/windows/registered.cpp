@@ -3,7 +3,7 @@
 #include <array>
 
 #include "QVRlib21.h"
-#include "frame/windows/parts.h"
+#include "platform/windows/parts.h"
 #include "qvrscript/windows/library_file.h"
 #include "services/automation/late_object.h"
 

@@ -1,0 +1,25 @@
+#include <cstdio>
+
+#include "platform/posix/parts.h"
+#include "frame/utf8.h"
+
+namespace qvr::posix {
+namespace {
+
+// There is no desktop here: the text is logged once per call.
+class LoggedBoxes final : public MessageBoxes {
+ public:
+  BoxAnswer show(TextView text, BoxButtons buttons) override {
+    std::fprintf(stderr, "QVRlib21: %s\n", to_utf8(text).c_str());
+    return buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Ok;
+  }
+};
+
+}  // namespace
+
+MessageBoxes& message_boxes() {
+  static LoggedBoxes instance;
+  return instance;
+}
+
+}  // namespace qvr::posix

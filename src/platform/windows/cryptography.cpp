@@ -1,0 +1,81 @@
+#include "frame/failure.h"
+#include "platform/windows/parts.h"
+
+#include <bcrypt.h>
+
+namespace qvr::windows {
+namespace {
+
+void require(NTSTATUS status) {
+  if (status < 0) {
+    throw RuntimeFailure(failure_number::kInvalidArgument, u"The system's cryptographic library refused a call");
+  }
+}
+
+PUCHAR writable(Bytes bytes) { return const_cast<PUCHAR>(bytes.data()); }
+
+// Opened once in the process and never closed: closing may unload the provider, and a thread that leaves gives its
+// keys back under the loader's lock.
+BCRYPT_ALG_HANDLE open_algorithm(LPCWSTR name, ULONG flags) {
+  BCRYPT_ALG_HANDLE handle = nullptr;
+  require(BCryptOpenAlgorithmProvider(&handle, name, nullptr, flags));
+  return handle;
+}
+
+BCRYPT_ALG_HANDLE aes_in_blocks() {
+  static const BCRYPT_ALG_HANDLE handle = [] {
+    const BCRYPT_ALG_HANDLE opened = open_algorithm(BCRYPT_AES_ALGORITHM, 0);
+    require(BCryptSetProperty(opened, BCRYPT_CHAINING_MODE,
+                              reinterpret_cast<PUCHAR>(const_cast<wchar_t*>(BCRYPT_CHAIN_MODE_ECB)),
+                              sizeof BCRYPT_CHAIN_MODE_ECB, 0));
+    return opened;
+  }();
+  return handle;
+}
+
+BCRYPT_ALG_HANDLE hmac_sha256() {
+  static const BCRYPT_ALG_HANDLE handle = open_algorithm(BCRYPT_SHA256_ALGORITHM, BCRYPT_ALG_HANDLE_HMAC_FLAG);
+  return handle;
+}
+
+class CngAes : public BlockCipher {
+ public:
+  explicit CngAes(Bytes key) {
+    require(BCryptGenerateSymmetricKey(aes_in_blocks(), &key_, nullptr, 0, writable(key),
+                                       static_cast<ULONG>(key.size()), 0));
+  }
+  ~CngAes() override { BCryptDestroyKey(key_); }
+  CngAes(const CngAes&) = delete;
+  CngAes& operator=(const CngAes&) = delete;
+
+  void encrypt(MutableBytes blocks) override {
+    ULONG written = 0;
+    const auto size = static_cast<ULONG>(blocks.size());
+    require(BCryptEncrypt(key_, blocks.data(), size, nullptr, nullptr, 0, blocks.data(), size, &written, 0));
+  }
+
+ private:
+  BCRYPT_KEY_HANDLE key_ = nullptr;
+};
+
+class Cng final : public Cryptography {
+ public:
+  std::unique_ptr<BlockCipher> aes(Bytes key) override { return std::make_unique<CngAes>(key); }
+
+  void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) override {
+    require(BCryptDeriveKeyPBKDF2(hmac_sha256(), writable(password), static_cast<ULONG>(password.size()),
+                                  writable(salt), static_cast<ULONG>(salt.size()), rounds, derived.data(),
+                                  static_cast<ULONG>(derived.size()), 0));
+  }
+
+  void wipe(MutableBytes secret) override { SecureZeroMemory(secret.data(), secret.size()); }
+};
+
+}  // namespace
+
+Cryptography& cryptography() {
+  static Cng instance;
+  return instance;
+}
+
+}  // namespace qvr::windows

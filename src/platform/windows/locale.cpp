@@ -1,0 +1,63 @@
+#include "frame/failure.h"
+#include "platform/windows/parts.h"
+
+#include <oleauto.h>
+
+#include <iterator>
+
+namespace qvr::windows {
+namespace {
+
+// The conversions stop at a zero unit, which belongs to no date and no number.
+bool has_zero(TextView text) { return text.find(u'\0') != TextView::npos; }
+
+// Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
+class UserLocale final : public Locale {
+ public:
+  std::optional<Date> parse_date(TextView text) override {
+    Date date;
+    if (has_zero(text) || FAILED(VarDateFromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &date.days)))
+      return std::nullopt;
+    return date;
+  }
+
+  std::optional<double> parse_number(TextView text) override {
+    double number = 0;
+    if (has_zero(text) || FAILED(VarR8FromStr(wide(text).data(), LOCALE_USER_DEFAULT, 0, &number))) return std::nullopt;
+    return number;
+  }
+
+  Text date_text(Date date) override {
+    BSTR written = nullptr;
+    if (FAILED(VarBstrFromDate(date.days, LOCALE_USER_DEFAULT, 0, &written))) {
+      throw RuntimeFailure(failure_number::kTypeMismatch);
+    }
+    Text text = text_from({written, SysStringLen(written)});
+    SysFreeString(written);
+    return text;
+  }
+
+  char16_t decimal_separator() override { return first_of(LOCALE_SDECIMAL, u'.'); }
+  char16_t thousands_separator() override { return first_of(LOCALE_STHOUSAND, u','); }
+  Text currency_symbol() override { return convention(LOCALE_SCURRENCY); }
+
+ private:
+  static Text convention(LCTYPE which) {
+    wchar_t text[16] = L"";
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, which, text, static_cast<int>(std::size(text)));
+    return text_from(text);
+  }
+  static char16_t first_of(LCTYPE which, char16_t otherwise) {
+    const Text text = convention(which);
+    return text.empty() ? otherwise : text[0];
+  }
+};
+
+}  // namespace
+
+Locale& locale() {
+  static UserLocale instance;
+  return instance;
+}
+
+}  // namespace qvr::windows

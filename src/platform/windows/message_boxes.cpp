@@ -1,0 +1,41 @@
+#include "platform/windows/parts.h"
+
+namespace qvr::windows {
+namespace {
+
+// A service or a scheduled task runs on a window station that nobody sees: a box there would wait for ever.
+bool has_desktop() {
+  USEROBJECTFLAGS flags{};
+  DWORD needed = 0;
+  const HWINSTA station = GetProcessWindowStation();
+  if (station == nullptr) return false;
+  if (!GetUserObjectInformationW(station, UOI_FLAGS, &flags, sizeof flags, &needed)) return true;
+  return (flags.dwFlags & WSF_VISIBLE) != 0;
+}
+
+class SystemBoxes final : public MessageBoxes {
+ public:
+  BoxAnswer show(TextView text, BoxButtons buttons) override {
+    const bool question = buttons == BoxButtons::YesNo;
+    if (!has_desktop()) {
+      OutputDebugStringW((std::wstring(kLibraryName) + L": " + wide(text) + L"\r\n").c_str());
+      return question ? BoxAnswer::No : BoxAnswer::Ok;
+    }
+    const HWND owner = GetActiveWindow();
+    // With another application in front no window of the thread is active: the box still has to stop all of them.
+    const UINT reach = owner == nullptr ? MB_TASKMODAL : 0;
+    const UINT style = question ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONEXCLAMATION;
+    const int answer = MessageBoxW(owner, wide(text).c_str(), kLibraryName, style | reach);
+    if (!question) return BoxAnswer::Ok;
+    return answer == IDYES ? BoxAnswer::Yes : BoxAnswer::No;
+  }
+};
+
+}  // namespace
+
+MessageBoxes& message_boxes() {
+  static SystemBoxes instance;
+  return instance;
+}
+
+}  // namespace qvr::windows

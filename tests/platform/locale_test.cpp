@@ -1,0 +1,77 @@
+// The system's own locale, whichever it is: what holds in each of them.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "frame/date_text.h"
+#include "platform/platform.h"
+#include "frame/utf8.h"
+
+namespace qvr::tests {
+namespace {
+
+Locale& locale() { return system_platform().locale; }
+
+TEST(SystemLocale, ReadsNumbersWithItsOwnSeparator) {
+  const Text point(1, locale().decimal_separator());
+  EXPECT_EQ(locale().parse_number(u"12"), 12.0);
+  EXPECT_EQ(locale().parse_number(u"-12"), -12.0);
+  EXPECT_EQ(locale().parse_number(u" 7 "), 7.0);
+  EXPECT_EQ(locale().parse_number(u"2" + point + u"5"), 2.5);
+  EXPECT_EQ(locale().parse_number(u"-0" + point + u"25"), -0.25);
+  EXPECT_EQ(locale().parse_number(u"1E3"), 1000.0);
+}
+
+TEST(SystemLocale, HasNothingForWhatIsNoNumber) {
+  const Text kTexts[] = {u"", u" ", u"abc", u"12abc", u"-", u"1 2", u"--1", u"\u0661",
+                         Text(u"12\0x", 4), Text(1, u'\0')};
+  for (const Text& text : kTexts) {
+    SCOPED_TRACE(::testing::PrintToString(text));
+    EXPECT_EQ(locale().parse_number(text), std::nullopt);
+  }
+}
+
+TEST(SystemLocale, ReadsTheDatesThatItWrites) {
+  const auto first = date_from({1930, 1, 1}), last = date_from({2029, 12, 31});
+  ASSERT_TRUE(first && last);
+  std::mt19937 random(17);
+  std::uniform_int_distribution<int> day(static_cast<int>(first->days), static_cast<int>(last->days)), second(0, 86399);
+  for (int round = 0; round < 3000; ++round) {
+    const Date whole{static_cast<double>(day(random))};
+    const Date with_time{whole.days + second(random) / 86400.0};
+    for (const Date date : {whole, with_time}) {
+      const Text text = locale().date_text(date);
+      const auto read = locale().parse_date(text);
+      ASSERT_TRUE(read) << to_utf8(text);
+      ASSERT_NEAR(read->days, date.days, 0.4 / 86400) << to_utf8(text);
+    }
+  }
+}
+
+TEST(SystemLocale, ReadsATimeAlone) {
+  const auto noon = locale().parse_date(locale().date_text(Date{0.5}));
+  ASSERT_TRUE(noon);
+  EXPECT_EQ(noon->days, 0.5);
+}
+
+// What typed texts of dates are written as, and the form that is the same everywhere.
+TEST(SystemLocale, ReadsAYearInFrontAsYearMonthDay) {
+  for (const TextView text : {u"2024-03-01", u"2024/03/01", u"2024-3-1", u"2024-03-01 00:00:00"}) {
+    const auto date = locale().parse_date(text);
+    ASSERT_TRUE(date) << to_utf8(text);
+    EXPECT_EQ(date->days, 45352) << to_utf8(text);
+  }
+}
+
+TEST(SystemLocale, HasNothingForWhatIsNoDate) {
+  const Text kTexts[] = {u"", u"abc", u"32/13/2000", u"30/02/2000", u"0/0/2000", u"1/1/2000 25:00:00", u"1/2/3/4/5",
+                         Text(u"1/1/2000\0x", 10)};
+  for (const Text& text : kTexts) {
+    SCOPED_TRACE(::testing::PrintToString(text));
+    const auto date = locale().parse_date(text);
+    EXPECT_FALSE(date) << date->days;
+  }
+}
+
+}  // namespace
+}  // namespace qvr::tests
