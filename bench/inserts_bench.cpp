@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "script/qvrscr.h"
 #include "services/odbc/odbc.h"
 #include "services/odbc/odbc_api.h"

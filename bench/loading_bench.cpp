@@ -7,7 +7,7 @@
 #include <fstream>
 #include <vector>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "script/script_preparation.h"
 #include "support/peak_memory.h"
 #include "run.h"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes src/frame/fold_table.h from the Unicode data of this Python.
+"""Writes src/base/fold_table.h from the Unicode data of this Python.
 
 Only needed to move to a newer Unicode version; the table is kept in the tree so that a build needs no Python.
 """
@@ -52,7 +52,7 @@ def main():
             line = " "
         line += entry
     lines += [line, "};", "// clang-format on", "", "}  // namespace qvr"]
-    path = pathlib.Path(__file__).parent.parent / "src/frame/fold_table.h"
+    path = pathlib.Path(__file__).parent.parent / "src/base/fold_table.h"
     path.write_text("\n".join(lines) + "\n", encoding="ascii")
 
 

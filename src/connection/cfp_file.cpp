@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 
 namespace qvr {
 namespace {

@@ -3,7 +3,7 @@
 #include "connection/cfp_file.h"
 #include "connection/connection_string.h"
 #include "connection/typed_text.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "dialect/ado_parameter.h"
-#include "frame/text.h"
-#include "frame/value.h"
+#include "base/text.h"
+#include "base/value.h"
 
 namespace qvr {
 

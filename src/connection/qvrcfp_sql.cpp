@@ -7,7 +7,7 @@
 #include "dialect/procedure_call.h"
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/failure_report.h"
 
 namespace qvr {

@@ -1,8 +1,8 @@
 // Values written as text under a one-letter type code: "T" text, "N" number, "F" date, "L" logical.
 #pragma once
 
-#include "frame/text.h"
-#include "frame/value.h"
+#include "base/text.h"
+#include "base/value.h"
 
 namespace qvr {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 

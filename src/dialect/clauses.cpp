@@ -1,7 +1,7 @@
 #include "dialect/clauses.h"
 
 #include "dialect/lists.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/value_convert.h"
 
 namespace qvr::dialect {

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "dialect/engine.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 

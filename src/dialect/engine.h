@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::dialect {
 

@@ -1,7 +1,7 @@
 // The report of a failure that the user has to see, in the thread's language.
 #pragma once
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::dialect {
 

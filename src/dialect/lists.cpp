@@ -1,6 +1,6 @@
 #include "dialect/lists.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::dialect {
 

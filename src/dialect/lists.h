@@ -1,7 +1,7 @@
 // Lists of values as callers pass them: arrays of one dimension with any lower bound.
 #pragma once
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 

@@ -1,7 +1,7 @@
 #include "dialect/procedure_call.h"
 
 #include "dialect/lists.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
 #include "frame/value_convert.h"
 

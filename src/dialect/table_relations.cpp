@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "dialect/lists.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/value_convert.h"
 
 namespace qvr::dialect {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialect/engine.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 

@@ -1,7 +1,7 @@
 #include "frame/global.h"
 
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "frame/thread_state.h"
 #include "frame/value_convert.h"
 

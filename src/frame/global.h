@@ -5,7 +5,7 @@
 #include <span>
 
 #include "frame/languages/catalogue.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

@@ -1,8 +1,8 @@
 #include "frame/ov.h"
 
-#include "frame/date_text.h"
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "frame/version.h"
 
 namespace qvr {

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

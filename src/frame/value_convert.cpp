@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "frame/date_text.h"
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "platform/platform.h"
 #include "frame/thread_state.h"
 

@@ -3,7 +3,7 @@
 // mismatch, 94 for Null, 6 for overflow.
 #pragma once
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

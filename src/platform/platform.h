@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/text.h"
-#include "frame/value.h"
+#include "base/text.h"
+#include "base/value.h"
 
 namespace qvr {
 

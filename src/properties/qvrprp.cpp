@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 #include "frame/value_convert.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

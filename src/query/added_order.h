@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::query {
 

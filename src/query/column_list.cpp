@@ -2,7 +2,7 @@
 
 #include "dialect/clauses.h"
 #include "dialect/lists.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/value_convert.h"
 
 namespace qvr::query {

@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::query {
 

@@ -3,7 +3,7 @@
 #include "dialect/clauses.h"
 #include "dialect/error_box.h"
 #include "dialect/table_relations.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 #include "query/joins.h"

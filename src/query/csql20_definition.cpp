@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "dialect/error_box.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "query/csql20.h"
 #include "query/definition_text.h"
 

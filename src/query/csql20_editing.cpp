@@ -3,7 +3,7 @@
 
 #include "dialect/clauses.h"
 #include "dialect/error_box.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "query/csql20.h"
 #include "query/search_text.h"

@@ -1,7 +1,7 @@
 // The query's current and original texts, put together from the clauses that it holds.
 #include "dialect/clauses.h"
 #include "dialect/error_box.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "query/csql20.h"
 
 namespace qvr {

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::query {
 namespace {

@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::query {
 

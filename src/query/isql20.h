@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "dialect/engine.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

@@ -1,7 +1,7 @@
 // Joins written in the FROM clause.
 #pragma once
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::query {
 

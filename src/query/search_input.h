@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::query {
 

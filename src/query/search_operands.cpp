@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/date_text.h"
-#include "frame/failure.h"
+#include "base/date_text.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
 
 namespace qvr::query {

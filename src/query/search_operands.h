@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "frame/value.h"
+#include "base/value.h"
 #include "query/search_atoms.h"
 
 namespace qvr::query {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <span>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::query {
 

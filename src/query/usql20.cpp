@@ -1,6 +1,6 @@
 #include "query/usql20.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 
 namespace qvr {

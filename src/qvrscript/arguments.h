@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::script_tool {
 

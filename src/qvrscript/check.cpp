@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
-#include "frame/utf8.h"
-#include "frame/wildcards.h"
+#include "base/utf8.h"
+#include "base/wildcards.h"
 #include "qvrscript/engines.h"
 #include "qvrscript/json.h"
 #include "qvrscript/paths.h"

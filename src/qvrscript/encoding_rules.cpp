@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <string>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "qvrscript/rules.h"
 #include "services/script_text.h"
 

@@ -1,6 +1,6 @@
 #include "qvrscript/engines.h"
 
-#include "frame/wildcards.h"
+#include "base/wildcards.h"
 #include "script/script_files.h"
 
 namespace qvr::script_tool {

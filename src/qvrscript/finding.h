@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::script_tool {
 

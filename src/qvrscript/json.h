@@ -1,7 +1,7 @@
 // JSON as text.
 #pragma once
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::script_tool {
 

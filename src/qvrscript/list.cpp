@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
 #include "qvrscript/engines.h"
 #include "qvrscript/json.h"

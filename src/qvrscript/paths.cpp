@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
-#include "frame/wildcards.h"
+#include "base/wildcards.h"
 
 namespace qvr::script_tool {
 

@@ -1,6 +1,6 @@
 #include "qvrscript/report.h"
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::script_tool {
 

@@ -3,7 +3,7 @@
 
 #include <ostream>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::script_tool {
 

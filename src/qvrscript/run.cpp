@@ -1,6 +1,6 @@
 #include "qvrscript/run.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "qvrscript/json.h"
 #include "qvrscript/run_console.h"
 #include "script/command_splitter.h"

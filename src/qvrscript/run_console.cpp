@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
-#include "frame/number_text.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/number_text.h"
+#include "base/utf8.h"
 
 namespace qvr::script_tool {
 namespace {

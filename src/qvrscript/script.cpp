@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "qvrscript/engines.h"
 #include "script/command_splitter.h"
 #include "services/script_text.h"

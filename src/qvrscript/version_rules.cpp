@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <map>
 
-#include "frame/number_text.h"
-#include "frame/wildcards.h"
+#include "base/number_text.h"
+#include "base/wildcards.h"
 #include "qvrscript/engines.h"
 #include "script/script_files.h"
 

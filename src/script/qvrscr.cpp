@@ -1,6 +1,6 @@
 #include "script/qvrscr.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 #include "services/failure_report.h"

@@ -1,5 +1,5 @@
 // The members that put scripts together.
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
 #include "script/qvrscr.h"
 #include "script/script_files.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "frame/global.h"
-#include "frame/number_text.h"
+#include "base/number_text.h"
 #include "frame/thread_state.h"
-#include "frame/wildcards.h"
+#include "base/wildcards.h"
 
 namespace qvr {
 namespace {

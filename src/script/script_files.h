@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

@@ -1,6 +1,6 @@
 #include "script/script_preparation.h"
 
-#include "frame/date_text.h"
+#include "base/date_text.h"
 #include "frame/thread_state.h"
 #include "script/word_search.h"
 

@@ -1,6 +1,6 @@
 #include "script/script_run.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/global.h"
 #include "frame/thread_state.h"
 #include "script/command_splitter.h"

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "script/qvrscr.h"
 
 namespace qvr {

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
-#include "frame/text.h"
-#include "frame/value.h"
+#include "base/text.h"
+#include "base/value.h"
 
 namespace qvr::services {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/platform.h"
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::services {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/script_text.h"
 
 namespace qvr::services {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/utf8.h"
 #include "services/base32.h"
 
 namespace qvr::services {

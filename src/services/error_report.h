@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/ado.h"
 
 namespace qvr::services {

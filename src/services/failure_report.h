@@ -1,7 +1,7 @@
 // Hands a failed command or procedure call to the error-reporting service.
 #pragma once
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/ado.h"
 
 namespace qvr {

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::services {
 

@@ -1,7 +1,7 @@
 #include "services/script_text.h"
 
-#include "frame/failure.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/utf8.h"
 
 namespace qvr::services {
 namespace {

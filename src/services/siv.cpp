@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::services {
 namespace {

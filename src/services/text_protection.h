@@ -1,7 +1,7 @@
 // Scrambling of texts with the caller's identification as the key.
 #pragma once
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::services {
 

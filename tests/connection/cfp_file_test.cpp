@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "connection/sample_parameters.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "services/builtin_text_protection.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"

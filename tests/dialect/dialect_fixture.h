@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "dialect/engine.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {

@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "frame/date_text.h"
+#include "base/date_text.h"
 
 namespace qvr::tests {
 namespace {

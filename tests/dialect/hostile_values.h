@@ -5,7 +5,7 @@
 #include <random>
 
 #include "dialect/sql_tokens.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::tests {
 

@@ -1,6 +1,6 @@
 #include "dialect/like_pieces.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::tests {
 

@@ -7,7 +7,7 @@
 
 #include "dialect/dialect_fixture.h"
 #include "dialect/literals.h"
-#include "frame/number_text.h"
+#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {

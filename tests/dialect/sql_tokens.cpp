@@ -3,7 +3,7 @@
 #include <optional>
 #include <ostream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

@@ -1,6 +1,6 @@
 #include "engines/checked_script.h"
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "dialect/literals.h"
 #include "engines/checked_script.h"
-#include "frame/number_text.h"
+#include "base/number_text.h"
 #include "query/random_searches.h"
 #include "query/search_fixture.h"
 

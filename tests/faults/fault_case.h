@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "faults/failing_allocations.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "support/describe.h"
 #include "support/test_thread.h"
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <limits>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "support/describe.h"
 #include "support/test_thread.h"
 

@@ -1,7 +1,7 @@
 // The parameters' file and the protection of its lines: what was written is read, whatever else is refused.
 #include "connection/cfp_file.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "fuzz/fuzz_input.h"
 #include "services/builtin_text_protection.h"
 #include "services/siv.h"

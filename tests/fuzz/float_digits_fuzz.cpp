@@ -1,5 +1,5 @@
 // Digits of numbers in floating point are those of the standard library, and so are the numbers that digits make.
-#include "frame/float_digits.h"
+#include "base/float_digits.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "fuzz/fuzz_input.h"
 
 namespace qvr::tests {

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::tests {
 

@@ -1,5 +1,5 @@
 // Scripts are prepared as the plain passes do it.
-#include "frame/date_text.h"
+#include "base/date_text.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 #include "script/preparation_model.h"

@@ -1,7 +1,7 @@
 // Bytes of script files are decoded as the tables of Unicode say, or refused.
 #include "services/script_text.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "fuzz/fuzz_input.h"
 #include "support/fake_files.h"
 

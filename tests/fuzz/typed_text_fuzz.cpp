@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "connection/qvrcfp.h"
-#include "frame/date_text.h"
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 

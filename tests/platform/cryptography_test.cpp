@@ -1,7 +1,7 @@
 // The platform's primitives against published figures: FIPS 197 for AES, RFC 7914 for the derivation.
 #include <gtest/gtest.h>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/platform.h"
 #include "support/hexadecimal.h"
 

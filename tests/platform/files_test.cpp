@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/platform.h"
 #include "support/temporary_folder.h"
 

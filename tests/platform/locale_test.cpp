@@ -3,9 +3,9 @@
 
 #include <random>
 
-#include "frame/date_text.h"
+#include "base/date_text.h"
 #include "platform/platform.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "dialect/sql_tokens.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "query/like_rules.h"
 
 namespace qvr::tests {

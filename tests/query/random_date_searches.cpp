@@ -1,6 +1,6 @@
 // Random searches for columns of dates.
-#include "frame/date_text.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/number_text.h"
 #include "query/random_searches.h"
 
 namespace qvr::tests {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "frame/number_text.h"
+#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {

@@ -1,6 +1,6 @@
 #include "query/search_fixture.h"
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 

@@ -1,5 +1,5 @@
 // How long what is typed may be, and that nothing takes long.
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "query/search_fixture.h"
 
 namespace qvr::tests {

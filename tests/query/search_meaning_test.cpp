@@ -1,5 +1,5 @@
 // Conditions select the rows that the user meant, by each engine's own rules; criteria can be typed again.
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "query/condition_chain.h"
 #include "query/random_searches.h"
 #include "query/search_fixture.h"

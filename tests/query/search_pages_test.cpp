@@ -1,7 +1,7 @@
 // The pages for users, row by row: what is typed there gives the criterion that stands beside it, on every engine.
 #include <fstream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "query/search_fixture.h"
 
 namespace qvr::tests {

@@ -1,5 +1,5 @@
 // Whatever is typed, a condition is nothing but tests of its column against literals.
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "query/condition_evaluator.h"
 #include "query/search_fixture.h"
 

@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "json_reader.h"
 #include "support/temporary_folder.h"
 #include "tool_in_process.h"

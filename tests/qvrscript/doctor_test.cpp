@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "machine.h"
 
 namespace qvr::tests {

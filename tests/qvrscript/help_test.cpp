@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "frame/ov.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "qvrscript/program.h"
 #include "tool_in_process.h"
 

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <stdexcept>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

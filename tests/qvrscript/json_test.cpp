@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "json_reader.h"
 
 namespace qvr::tests {

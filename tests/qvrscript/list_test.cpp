@@ -1,7 +1,7 @@
 // What loading a definition or an update would run.
 #include <gtest/gtest.h>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "json_reader.h"
 #include "support/temporary_folder.h"
 #include "tool_in_process.h"

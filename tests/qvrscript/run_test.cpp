@@ -1,7 +1,7 @@
 // Script files run into a real database.
 #include <gtest/gtest.h>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "frame/value_convert.h"
 #include "json_reader.h"
 #include "services/odbc/odbc_ado.h"

@@ -5,7 +5,7 @@
 #include <random>
 #include <vector>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

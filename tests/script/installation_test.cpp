@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "frame/value_convert.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "script/command_splitter.h"
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"

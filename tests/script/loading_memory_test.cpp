@@ -5,7 +5,7 @@
 #include <functional>
 #include <ostream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"
 #include "services/builtin_script_reader.h"

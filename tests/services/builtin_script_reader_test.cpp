@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/utf8.h"
 #include "services/script_text.h"
 #include "support/fake_files.h"
 #include "support/temporary_folder.h"

@@ -5,8 +5,8 @@
 #include <random>
 #include <set>
 
-#include "frame/failure.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/utf8.h"
 #include "services/base32.h"
 
 namespace qvr::tests {

@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "frame/failure.h"
-#include "frame/utf8.h"
+#include "base/failure.h"
+#include "base/utf8.h"
 #include "services/script_text.h"
 #include "support/fake_files.h"
 

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "frame/text.h"
-#include "frame/utf8.h"
+#include "base/text.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

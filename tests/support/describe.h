@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::tests {
 

@@ -1,5 +1,5 @@
 // What stands behind the library in this program where a test puts nothing else: the system and the built-in services.
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/thread_state.h"
 #include "services/builtin_services.h"
 

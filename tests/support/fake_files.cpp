@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
-#include "frame/wildcards.h"
+#include "base/failure.h"
+#include "base/wildcards.h"
 #include "support/faults_paused.h"
 
 namespace qvr::tests {

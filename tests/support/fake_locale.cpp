@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "frame/date_text.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "support/faults_paused.h"
 
 namespace qvr::tests {

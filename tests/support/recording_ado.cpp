@@ -1,6 +1,6 @@
 #include "support/recording_ado.h"
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "support/describe.h"
 #include "support/faults_paused.h"
 

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/ado.h"
 #include "support/call_log.h"
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::tests {
 

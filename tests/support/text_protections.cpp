@@ -1,6 +1,6 @@
 #include "support/text_protections.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::tests {
 namespace {

@@ -6,7 +6,7 @@
 #include "frame/automation/late_failure.h"
 #include "frame/automation/text_bstr.h"
 #include "frame/automation/variant.h"
-#include "frame/secret_text.h"
+#include "base/secret_text.h"
 
 namespace qvr::automation {
 

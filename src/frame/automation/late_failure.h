@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/automation/com.h"
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::automation {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "frame/automation/com.h"
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::automation {
 

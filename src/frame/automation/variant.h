@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/automation/com.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::automation {
 

@@ -1,6 +1,6 @@
 #include "frame/languages/catalogue.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/languages/system_language.h"
 #include "frame/value_convert.h"
 

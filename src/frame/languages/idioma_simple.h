@@ -9,7 +9,7 @@
 
 #include "frame/languages/catalogue.h"
 #include "platform/platform.h"
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

@@ -1,7 +1,7 @@
 #include <ctime>
 
-#include "frame/date_text.h"
-#include "frame/failure.h"
+#include "base/date_text.h"
+#include "base/failure.h"
 #include "platform/posix/parts.h"
 
 namespace qvr::posix {

@@ -1,7 +1,7 @@
 #include <openssl/crypto.h>
 #include <openssl/evp.h>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/posix/parts.h"
 
 namespace qvr::posix {

@@ -9,10 +9,10 @@
 #include <optional>
 #include <string>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/posix/parts.h"
-#include "frame/utf8.h"
-#include "frame/wildcards.h"
+#include "base/utf8.h"
+#include "base/wildcards.h"
 
 namespace qvr::posix {
 namespace {

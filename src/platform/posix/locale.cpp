@@ -3,8 +3,8 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/date_text.h"
-#include "frame/number_text.h"
+#include "base/date_text.h"
+#include "base/number_text.h"
 #include "platform/posix/parts.h"
 
 namespace qvr::posix {

@@ -1,7 +1,7 @@
 #include <cstdio>
 
 #include "platform/posix/parts.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::posix {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/posix/parts.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::posix {
 namespace {

@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "platform/posix/parts.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::posix {
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/date_text.h"
+#include "base/date_text.h"
 #include "platform/windows/parts.h"
 
 namespace qvr::windows {

@@ -1,4 +1,4 @@
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/windows/parts.h"
 
 namespace qvr::windows {

@@ -2,7 +2,7 @@
 #include <sys/utsname.h>
 
 #include "frame/ov.h"
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "qvrscript/doctor_facts.h"
 
 namespace qvr::script_tool {

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "qvrscript/program.h"
 
 int main(int count, char** words) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "frame/value_convert.h"
 #include "services/automation/late_object.h"
 

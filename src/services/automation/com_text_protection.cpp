@@ -1,6 +1,6 @@
 #include "services/automation/com_text_protection.h"
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::automation {
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 #include "services/odbc/ado_session.h"
 
 namespace qvr::odbc {

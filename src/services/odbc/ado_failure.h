@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "services/ado.h"
 
 namespace qvr::odbc {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "frame/text.h"
-#include "frame/value.h"
+#include "base/text.h"
+#include "base/value.h"
 #include "services/ado.h"
 #include "services/odbc/odbc.h"
 #include "services/odbc/odbc_statement.h"

@@ -1,7 +1,7 @@
 // Connection strings as ADO takes them, and what becomes of them for ODBC.
 #pragma once
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::odbc {
 

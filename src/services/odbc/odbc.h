@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 #include "services/ado.h"
 
 namespace qvr::odbc {

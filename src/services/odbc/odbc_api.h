@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::odbc {
 

@@ -1,7 +1,7 @@
 // Dates between the automation form and ODBC's.
 #pragma once
 
-#include "frame/value.h"
+#include "base/value.h"
 #include "services/odbc/odbc_api.h"
 
 namespace qvr::odbc {

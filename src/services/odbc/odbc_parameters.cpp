@@ -3,7 +3,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "frame/number_text.h"
+#include "base/number_text.h"
 #include "services/odbc/ado_failure.h"
 #include "services/odbc/odbc_date.h"
 

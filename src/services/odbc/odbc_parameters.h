@@ -4,7 +4,7 @@
 #include <list>
 #include <vector>
 
-#include "frame/value.h"
+#include "base/value.h"
 #include "services/odbc/odbc.h"
 #include "services/odbc/odbc_api.h"
 

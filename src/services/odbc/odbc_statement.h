@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/value.h"
+#include "base/value.h"
 #include "services/odbc/odbc.h"
 
 namespace qvr::odbc {

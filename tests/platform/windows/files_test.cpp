@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "platform/platform.h"
 #include "support/temporary_folder.h"
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "frame/value_convert.h"
 #include "services/odbc/odbc_api.h"
 #include "support/temporary_folder.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <new>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::tests::com {
 namespace {

@@ -4,7 +4,7 @@
 #include <atomic>
 #include <new>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 #include "support/ado/com/classes.h"
 #include "support/ado/com/command.h"
 #include "support/ado/com/recordset.h"

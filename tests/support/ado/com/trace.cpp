@@ -6,7 +6,7 @@
 #include <mutex>
 #include <string>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 #include "support/ado/behaviour.h"
 
 namespace qvr::tests::com {

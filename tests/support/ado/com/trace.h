@@ -1,7 +1,7 @@
 // What a test can ask of this module through the environment: failures on purpose, and a record of the calls.
 #pragma once
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr::tests::com {
 

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr::tests::com {
 

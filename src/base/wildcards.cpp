@@ -1,4 +1,4 @@
-#include "frame/wildcards.h"
+#include "base/wildcards.h"
 
 #include <algorithm>
 

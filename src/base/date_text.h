@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

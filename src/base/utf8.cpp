@@ -1,4 +1,4 @@
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr {
 namespace {

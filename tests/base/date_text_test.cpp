@@ -1,11 +1,11 @@
-#include "frame/date_text.h"
+#include "base/date_text.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <random>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::tests {
 namespace {

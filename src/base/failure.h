@@ -7,7 +7,7 @@
 #include <new>
 #include <utility>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

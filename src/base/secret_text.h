@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

@@ -1,11 +1,11 @@
-#include "frame/date_text.h"
+#include "base/date_text.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <iterator>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "frame/failure.h"
-#include "frame/number_text.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {

@@ -1,7 +1,7 @@
 // File names and the patterns of directory searches.
 #pragma once
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

@@ -1,10 +1,10 @@
-#include "frame/text.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <charconv>
 #include <iterator>
 
-#include "frame/fold_table.h"
+#include "base/fold_table.h"
 
 namespace qvr {
 

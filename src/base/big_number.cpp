@@ -1,4 +1,4 @@
-#include "frame/big_number.h"
+#include "base/big_number.h"
 
 #include <algorithm>
 #include <bit>

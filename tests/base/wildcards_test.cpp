@@ -1,11 +1,11 @@
-#include "frame/wildcards.h"
+#include "base/wildcards.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
-#include "frame/utf8.h"
+#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

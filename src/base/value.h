@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "frame/text.h"
+#include "base/text.h"
 
 namespace qvr {
 

@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "frame/number_text.h"
+#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {

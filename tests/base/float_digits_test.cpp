@@ -1,4 +1,4 @@
-#include "frame/float_digits.h"
+#include "base/float_digits.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/float_digits.h"
+#include "base/float_digits.h"
 
 #include <algorithm>
 #include <bit>
@@ -7,7 +7,7 @@
 #include <limits>
 #include <string_view>
 
-#include "frame/big_number.h"
+#include "base/big_number.h"
 
 namespace qvr {
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/number_text.h"
+#include "base/number_text.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <limits>
 #include <random>
 
-#include "frame/failure.h"
+#include "base/failure.h"
 
 namespace qvr::tests {
 namespace {

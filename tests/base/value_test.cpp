@@ -1,4 +1,4 @@
-#include "frame/value.h"
+#include "base/value.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // be long in digits, and no leading blank.
 #pragma once
 
-#include "frame/value.h"
+#include "base/value.h"
 
 namespace qvr {
 

@@ -1,4 +1,4 @@
-#include "frame/number_text.h"
+#include "base/number_text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "frame/failure.h"
-#include "frame/float_digits.h"
+#include "base/failure.h"
+#include "base/float_digits.h"
 
 namespace qvr {
 namespace {
