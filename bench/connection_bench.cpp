@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "connection/qvrcfp.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "run.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include "connection/connection_string.h"
 #include "connection/typed_text.h"
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 

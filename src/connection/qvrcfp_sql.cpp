@@ -1,14 +1,14 @@
 // The members that write SQL: each names its failure policy and asks the dialect with this object's engine.
 #include "connection/qvrcfp.h"
 #include "dialect/clauses.h"
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
 #include "dialect/procedure_call.h"
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
 #include "base/failure.h"
-#include "services/failure_report.h"
+#include "session/failure_report.h"
 
 namespace qvr {
 namespace {

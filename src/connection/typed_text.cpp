@@ -3,7 +3,7 @@
 #include "base/date_text.h"
 #include "base/failure.h"
 #include "base/number_text.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr {
 namespace {

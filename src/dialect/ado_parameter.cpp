@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 
 namespace qvr::dialect {
 namespace {

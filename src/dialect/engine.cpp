@@ -1,6 +1,6 @@
 #include "dialect/engine.h"
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr::dialect {
 

@@ -5,8 +5,8 @@
 #include "base/date_text.h"
 #include "base/failure.h"
 #include "base/number_text.h"
-#include "frame/thread_state.h"
-#include "frame/value_convert.h"
+#include "session/thread_state.h"
+#include "session/value_convert.h"
 
 namespace qvr::dialect {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "dialect/lists.h"
 #include "base/failure.h"
-#include "frame/thread_state.h"
-#include "frame/value_convert.h"
+#include "session/thread_state.h"
+#include "session/value_convert.h"
 
 namespace qvr::dialect {
 namespace {

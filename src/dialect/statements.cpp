@@ -2,7 +2,7 @@
 
 #include "dialect/lists.h"
 #include "dialect/literals.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr::dialect {
 namespace {

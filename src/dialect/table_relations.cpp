@@ -4,7 +4,7 @@
 
 #include "dialect/lists.h"
 #include "base/failure.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr::dialect {
 namespace {

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
-#include "frame/value_convert.h"
+#include "session/global.h"
+#include "session/thread_state.h"
+#include "session/value_convert.h"
 
 namespace qvr {
 namespace {

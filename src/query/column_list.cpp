@@ -3,7 +3,7 @@
 #include "dialect/clauses.h"
 #include "dialect/lists.h"
 #include "base/failure.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr::query {
 namespace {

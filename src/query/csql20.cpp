@@ -1,11 +1,11 @@
 #include "query/csql20.h"
 
 #include "dialect/clauses.h"
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 #include "dialect/table_relations.h"
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 #include "query/joins.h"
 
 namespace qvr {

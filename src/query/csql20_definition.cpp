@@ -1,7 +1,7 @@
 // A query as text, whole or only what was added to it.
 #include <utility>
 
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 #include "base/failure.h"
 #include "query/csql20.h"
 #include "query/definition_text.h"

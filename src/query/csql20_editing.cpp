@@ -2,9 +2,9 @@
 #include <utility>
 
 #include "dialect/clauses.h"
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 #include "base/failure.h"
-#include "frame/global.h"
+#include "session/global.h"
 #include "query/csql20.h"
 #include "query/search_text.h"
 

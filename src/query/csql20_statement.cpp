@@ -1,6 +1,6 @@
 // The query's current and original texts, put together from the clauses that it holds.
 #include "dialect/clauses.h"
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 #include "base/failure.h"
 #include "query/csql20.h"
 

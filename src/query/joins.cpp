@@ -1,7 +1,7 @@
 #include "query/joins.h"
 
 #include "dialect/lists.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr::query {
 namespace {

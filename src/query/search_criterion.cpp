@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/global.h"
+#include "session/global.h"
 #include "query/search_operands.h"
 #include "query/search_split.h"
 

@@ -5,7 +5,7 @@
 
 #include "base/date_text.h"
 #include "base/failure.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr::query {
 namespace {

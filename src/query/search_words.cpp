@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "query/search_input.h"
 
 namespace qvr::query {

@@ -1,7 +1,7 @@
 #include "query/usql20.h"
 
 #include "base/failure.h"
-#include "frame/global.h"
+#include "session/global.h"
 
 namespace qvr {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "base/utf8.h"
 #include "base/wildcards.h"
 #include "qvrscript/engines.h"

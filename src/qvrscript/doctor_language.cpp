@@ -1,6 +1,6 @@
 // Asks the library's own core which language it would take.
-#include "frame/global.h"
-#include "frame/thread_state.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 #include "qvrscript/doctor_facts.h"
 
 namespace qvr::script_tool {

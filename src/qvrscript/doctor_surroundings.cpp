@@ -1,7 +1,7 @@
 // What the library works with: ADO, providers, the family's components, the language and the desktop.
 #include <algorithm>
 
-#include "frame/languages/catalogue.h"
+#include "session/catalogue.h"
 #include "qvrscript/doctor_subjects.h"
 
 namespace qvr::script_tool {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "qvrscript/engines.h"
 #include "qvrscript/json.h"
 #include "qvrscript/paths.h"

@@ -1,6 +1,6 @@
 #include "qvrscript/program.h"
 
-#include "frame/ov.h"
+#include "session/ov.h"
 #include "qvrscript/check.h"
 #include "qvrscript/doctor.h"
 #include "qvrscript/help.h"

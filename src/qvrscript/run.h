@@ -1,7 +1,7 @@
 // Runs a script file through the library's runner.
 #pragma once
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "qvrscript/arguments.h"
 #include "qvrscript/report.h"
 

@@ -1,9 +1,9 @@
 #include "script/qvrscr.h"
 
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
-#include "services/failure_report.h"
+#include "session/global.h"
+#include "session/thread_state.h"
+#include "session/failure_report.h"
 #include "script/script_run.h"
 
 namespace qvr {

@@ -1,6 +1,6 @@
 // The members that put scripts together.
 #include "base/failure.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "script/qvrscr.h"
 #include "script/script_files.h"
 #include "script/script_preparation.h"

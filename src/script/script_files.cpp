@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/global.h"
+#include "session/global.h"
 #include "base/number_text.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "base/wildcards.h"
 
 namespace qvr {

@@ -1,7 +1,7 @@
 #include "script/script_preparation.h"
 
 #include "base/date_text.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "script/word_search.h"
 
 namespace qvr {

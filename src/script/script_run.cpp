@@ -1,10 +1,10 @@
 #include "script/script_run.h"
 
 #include "base/failure.h"
-#include "frame/global.h"
-#include "frame/thread_state.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 #include "script/command_splitter.h"
-#include "services/failure_report.h"
+#include "session/failure_report.h"
 
 namespace qvr {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "connection/sample_parameters.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {

@@ -3,8 +3,8 @@
 
 #include "dialect/literals.h"
 #include "faults/fault_case.h"
-#include "frame/global.h"
-#include "frame/ov.h"
+#include "session/global.h"
+#include "session/ov.h"
 #include "support/temporary_folder.h"
 
 namespace qvr::tests {

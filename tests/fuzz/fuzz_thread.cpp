@@ -1,6 +1,6 @@
 #include "fuzz/fuzz_thread.h"
 
-#include "frame/global.h"
+#include "session/global.h"
 
 namespace qvr::tests {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
 

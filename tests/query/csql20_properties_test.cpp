@@ -1,5 +1,5 @@
 // Columns by their name, and the properties of a query.
-#include "frame/languages/idioma_simple.h"
+#include "session/idioma_simple.h"
 #include "query/query_fixture.h"
 
 namespace qvr::tests {

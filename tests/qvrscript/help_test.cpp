@@ -5,7 +5,7 @@
 #include <set>
 #include <sstream>
 
-#include "frame/ov.h"
+#include "session/ov.h"
 #include "base/utf8.h"
 #include "qvrscript/program.h"
 #include "tool_in_process.h"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/utf8.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 #include "json_reader.h"
 #include "services/odbc/odbc_ado.h"
 #include "services/odbc/odbc_statement.h"

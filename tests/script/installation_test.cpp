@@ -1,7 +1,7 @@
 // The example's scripts as an installer uses them: loaded from their folder, run into a database, brought up to date.
 #include <gtest/gtest.h>
 
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 #include "base/utf8.h"
 #include "script/command_splitter.h"
 #include "script/qvrscr.h"

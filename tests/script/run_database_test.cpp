@@ -1,7 +1,7 @@
 // The runner into a real database: what is committed, what is rolled back, what a refusal says.
 #include <gtest/gtest.h>
 
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 #include "script/qvrscr.h"
 #include "services/builtin_error_report.h"
 #include "services/odbc/odbc_ado.h"

@@ -1,6 +1,6 @@
 // What stands behind the library in this program where a test puts nothing else: the system and the built-in services.
 #include "base/failure.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "services/builtin_services.h"
 
 namespace qvr {

@@ -1,6 +1,6 @@
 #include "support/test_thread.h"
 
-#include "frame/global.h"
+#include "session/global.h"
 #include "services/builtin_script_reader.h"
 
 namespace qvr::tests {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
 #include "support/fake_platform.h"

@@ -6,7 +6,7 @@
 #include "frame/automation/class_object.h"
 #include "frame/automation/module.h"
 #include "frame/automation/registration.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace {
 

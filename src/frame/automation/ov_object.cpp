@@ -1,6 +1,6 @@
 #include "frame/automation/ov_object.h"
 
-#include "frame/ov.h"
+#include "session/ov.h"
 #include "platform/platform.h"
 
 namespace qvr::automation {

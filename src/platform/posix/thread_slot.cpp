@@ -1,6 +1,6 @@
 #include "platform/thread_slot.h"
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr::thread_slot {
 namespace {

@@ -1,7 +1,7 @@
 // Gathers what the doctor judges, where there is no Windows.
 #include <sys/utsname.h>
 
-#include "frame/ov.h"
+#include "session/ov.h"
 #include "base/utf8.h"
 #include "qvrscript/doctor_facts.h"
 

@@ -1,5 +1,5 @@
 // What stands behind the library in this program: the system, the built-in services and ADO over ODBC.
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "services/builtin_services.h"
 #include "services/odbc/odbc_ado.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 #include "services/automation/late_object.h"
 
 namespace qvr::automation {

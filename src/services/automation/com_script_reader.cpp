@@ -1,6 +1,6 @@
 #include "services/automation/com_script_reader.h"
 
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 namespace qvr::automation {
 

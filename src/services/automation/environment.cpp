@@ -1,7 +1,7 @@
 // Wires the library: the system it runs on, and for each outside service the application family's component where one
 // is registered, else the library's own.
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "services/automation/com_ado.h"
 #include "services/automation/com_error_report.h"
 #include "services/automation/com_script_reader.h"

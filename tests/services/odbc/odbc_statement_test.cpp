@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/utf8.h"
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 #include "services/odbc/odbc_api.h"
 #include "support/temporary_folder.h"
 

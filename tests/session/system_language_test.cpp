@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "frame/languages/idioma_simple.h"
+#include "session/idioma_simple.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {

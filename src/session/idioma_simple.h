@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "frame/languages/catalogue.h"
+#include "session/catalogue.h"
 #include "platform/platform.h"
 #include "base/value.h"
 

@@ -1,4 +1,4 @@
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <thread>
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr::tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "frame/languages/catalogue.h"
+#include "session/catalogue.h"
 #include "base/value.h"
 
 namespace qvr {

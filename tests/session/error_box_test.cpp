@@ -1,4 +1,4 @@
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 
 #include "dialect/dialect_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "frame/languages/idioma_simple.h"
+#include "session/idioma_simple.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "frame/ov.h"
+#include "session/ov.h"
 
 #include "base/date_text.h"
 #include "base/failure.h"
 #include "base/number_text.h"
-#include "frame/version.h"
+#include "session/version.h"
 
 namespace qvr {
 

@@ -1,4 +1,4 @@
-#include "frame/languages/catalogue.h"
+#include "session/catalogue.h"
 
 #include "base/failure.h"
 

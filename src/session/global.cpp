@@ -1,9 +1,9 @@
-#include "frame/global.h"
+#include "session/global.h"
 
 #include "base/failure.h"
 #include "base/number_text.h"
-#include "frame/thread_state.h"
-#include "frame/value_convert.h"
+#include "session/thread_state.h"
+#include "session/value_convert.h"
 
 namespace qvr {
 namespace {

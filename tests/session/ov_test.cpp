@@ -1,4 +1,4 @@
-#include "frame/ov.h"
+#include "session/ov.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/value_convert.h"
+#include "session/value_convert.h"
 
 #include <cmath>
 
@@ -6,7 +6,7 @@
 #include "base/failure.h"
 #include "base/number_text.h"
 #include "platform/platform.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

@@ -1,7 +1,7 @@
-#include "dialect/error_box.h"
+#include "session/error_box.h"
 
 #include "dialect/engine.h"
-#include "frame/global.h"
+#include "session/global.h"
 
 namespace qvr::dialect {
 

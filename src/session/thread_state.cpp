@@ -1,4 +1,4 @@
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 #include <new>
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "frame/languages/idioma_simple.h"
+#include "session/idioma_simple.h"
 #include "platform/platform.h"
 #include "services/ado.h"
 #include "services/error_report.h"

@@ -1,8 +1,8 @@
-#include "services/failure_report.h"
+#include "session/failure_report.h"
 
 #include <algorithm>
 
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

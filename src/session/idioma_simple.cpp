@@ -1,10 +1,10 @@
-#include "frame/languages/idioma_simple.h"
+#include "session/idioma_simple.h"
 
 #include <algorithm>
 
 #include "base/failure.h"
-#include "frame/languages/system_language.h"
-#include "frame/value_convert.h"
+#include "session/system_language.h"
+#include "session/value_convert.h"
 
 namespace qvr {
 namespace {

@@ -1,8 +1,8 @@
-#include "frame/languages/system_language.h"
+#include "session/system_language.h"
 
 #include <algorithm>
 
-#include "frame/languages/catalogue.h"
+#include "session/catalogue.h"
 
 namespace qvr {
 namespace {

@@ -1,11 +1,11 @@
-#include "frame/global.h"
+#include "session/global.h"
 
 #include <gtest/gtest.h>
 
 #include <thread>
 
 #include "connection/qvrcfp.h"
-#include "frame/thread_state.h"
+#include "session/thread_state.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 
