@@ -6,11 +6,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "frame/automation/com_ptr.h"
+#include "com/com_ptr.h"
 
 namespace qvr::bench {
 
-using automation::ComPtr;
+using com::ComPtr;
 
 [[noreturn]] inline void give_up(const char* what) {
   std::fprintf(stderr, "%s\n", what);

@@ -7,12 +7,12 @@
 #include "automation/library.h"
 #include "automation/stress/subjects.h"
 #include "automation/timing.h"
-#include "frame/automation/slot_call.h"
+#include "com/slot_call.h"
 
 namespace {
 
 using namespace qvr::tests;
-using qvr::automation::Word;
+using qvr::com::Word;
 using qvr::bench::Times;
 
 constexpr double kLongest = 20e-6, kRound = 1e-3;  // seconds
@@ -33,7 +33,7 @@ class MemberCalls {
 
   bool by_slot() {
     result_ = {};
-    const HRESULT called = qvr::automation::call_slot(&object_, static_cast<std::size_t>(member_.slot_offset),
+    const HRESULT called = qvr::com::call_slot(&object_, static_cast<std::size_t>(member_.slot_offset),
                                                       words_.data(), words_.size());
     if (member_.result_type == VT_BSTR) SysFreeString(result_.text);
     if (member_.result_type == VT_VARIANT) VariantClear(&result_.value);
@@ -66,7 +66,7 @@ class MemberCalls {
   }
   void add_words(VARIANT& passed, const MemberParameter& parameter) {
     const std::size_t count =
-        parameter.by_reference ? 1 : qvr::automation::words_by_value(parameter.type).value_or(0);
+        parameter.by_reference ? 1 : qvr::com::words_by_value(parameter.type).value_or(0);
     const bool whole = !parameter.by_reference && parameter.type == VT_VARIANT;
     if (whole && count == 1) return words_.push_back(reinterpret_cast<Word>(&passed));
     words_.resize(words_.size() + count);

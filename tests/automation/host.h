@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "automation/variant_list.h"
-#include "frame/automation/com_ptr.h"
+#include "com/com_ptr.h"
 
 namespace qvr::tests {
 
-using automation::ComPtr;
+using com::ComPtr;
 
 // All that a late-bound call answers.
 struct LateAnswer {

@@ -19,7 +19,7 @@ from index import contexts_ini, contexts_page, index_page
 from render import ClassPage
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-IDL = ROOT / "src/frame/automation/QVRlib21.idl"
+IDL = ROOT / "src/com/QVRlib21.idl"
 MANUAL = ROOT / "docs/manual"
 
 

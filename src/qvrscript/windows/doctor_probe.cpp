@@ -1,7 +1,7 @@
 // Gathers what the doctor judges, on Windows.
 #include "QVRlib21.h"
-#include "frame/automation/com.h"
-#include "frame/automation/text_bstr.h"
+#include "com/com.h"
+#include "com/text_bstr.h"
 #include "session/global.h"
 #include "session/ov.h"
 #include "session/value_convert.h"
@@ -9,15 +9,15 @@
 #include "qvrscript/doctor_facts.h"
 #include "qvrscript/windows/library_file.h"
 #include "qvrscript/windows/registered.h"
-#include "services/automation/com_error_report.h"
-#include "services/automation/com_script_reader.h"
-#include "services/automation/com_text_protection.h"
-#include "services/automation/late_object.h"
+#include "com/clients/com_error_report.h"
+#include "com/clients/com_script_reader.h"
+#include "com/clients/com_text_protection.h"
+#include "com/clients/late_object.h"
 
 namespace qvr::script_tool {
 namespace {
 
-using automation::ComPtr;
+using com::ComPtr;
 using qvr::windows::text_from;
 using qvr::windows::wide;
 
@@ -65,7 +65,7 @@ void look_at_type_library(Facts& facts) {
   const std::wstring file = registered.empty() ? wide(facts.beside.path) : registered;
   ComPtr<ITypeLib> library;
   TLIBATTR* attributes = nullptr;
-  automation::OwnedBstr name;
+  com::OwnedBstr name;
   if (FAILED(LoadTypeLibEx(file.c_str(), REGKIND_NONE, &library))) return;
   if (FAILED(library->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr))) return;
   if (FAILED(library->GetLibAttr(&attributes))) return;
@@ -79,8 +79,8 @@ void look_at_ado(Facts& facts) {
   facts.ado = windows::component(L"ADODB.Connection");
   if (!facts.ado.usable) return;
   try {
-    const auto id = automation::registered_class(L"ADODB.Connection");
-    facts.ado_version = to_text(automation::LateObject::create(*id).get(L"Version"));
+    const auto id = com::registered_class(L"ADODB.Connection");
+    facts.ado_version = to_text(com::LateObject::create(*id).get(L"Version"));
   } catch (const std::exception&) {
     facts.ado_version = u"unknown";
   }
@@ -92,8 +92,8 @@ void look_at_others(Facts& facts) {
         L"MSOLEDBSQL", L"MSOLEDBSQL19", L"SQLNCLI11", L"MSDAORA", L"OraOLEDB.Oracle", L"MSDASQL"}) {
     facts.providers.push_back(windows::provider(name));
   }
-  for (const wchar_t* name : {automation::ComTextProtection::kProgramId, automation::ComErrorReport::kProgramId,
-                              automation::ComScriptReader::kProgramId}) {
+  for (const wchar_t* name : {com::ComTextProtection::kProgramId, com::ComErrorReport::kProgramId,
+                              com::ComScriptReader::kProgramId}) {
     facts.components.push_back(windows::component(name));
   }
 }

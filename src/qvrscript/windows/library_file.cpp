@@ -3,15 +3,15 @@
 #include <vector>
 
 #include "QVRlib21.h"
-#include "frame/automation/com.h"
-#include "frame/automation/text_bstr.h"
+#include "com/com.h"
+#include "com/text_bstr.h"
 #include "platform/windows/parts.h"
 
 namespace qvr::script_tool::windows {
 namespace {
 
-using automation::ComPtr;
-using automation::OwnedBstr;
+using com::ComPtr;
+using com::OwnedBstr;
 
 class Handle {
  public:

@@ -5,7 +5,7 @@
 #include "QVRlib21.h"
 #include "platform/windows/parts.h"
 #include "qvrscript/windows/library_file.h"
-#include "services/automation/late_object.h"
+#include "com/clients/late_object.h"
 
 namespace qvr::script_tool::windows {
 namespace {
@@ -152,11 +152,11 @@ Component provider(const wchar_t* program_id) {
 
 Component component(const wchar_t* program_id) {
   Component found{qvr::windows::text_from(program_id), false, false};
-  const auto id = automation::registered_class(program_id);
+  const auto id = com::registered_class(program_id);
   if (!id) return found;
   found.registered = true;
   try {
-    const auto object = automation::LateObject::create(*id);
+    const auto object = com::LateObject::create(*id);
     found.usable = true;
   } catch (const std::exception&) {
   }

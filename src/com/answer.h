@@ -1,0 +1,96 @@
+// The way of every member from its automation signature to the core and back. The one place where an exception becomes
+// an HRESULT.
+#pragma once
+
+#include "com/com.h"
+#include "com/late_failure.h"
+#include "com/text_bstr.h"
+#include "com/variant.h"
+#include "base/secret_text.h"
+
+namespace qvr::com {
+
+// Arguments as the core takes them. Early-bound callers may pass null for a pointer and for a string.
+inline Text text_of(BSTR* argument) { return argument != nullptr ? text_from(*argument) : Text(); }
+inline SecretText secret_of(BSTR* argument) { return SecretText(text_of(argument)); }
+inline bool truth_of(const VARIANT_BOOL* argument) { return argument != nullptr && *argument != VARIANT_FALSE; }
+inline std::int16_t short_of(const SHORT* argument) { return argument != nullptr ? *argument : std::int16_t{0}; }
+template <class Number>
+std::int32_t number_of(const Number* argument) {
+  return argument != nullptr ? static_cast<std::int32_t>(*argument) : 0;
+}
+inline Value value_of(const VARIANT* argument) {
+  return argument != nullptr ? value_from(*argument) : Value(Missing{});
+}
+
+// An object of another library, whatever its interface is named: it is reached by name only.
+template <class Interface>
+IDispatch* object_of(Interface** argument) {
+  return argument != nullptr ? reinterpret_cast<IDispatch*>(*argument) : nullptr;
+}
+
+// Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
+// when the host wrote to the variable meanwhile; so does one for which there is no memory.
+inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
+  if (argument == nullptr || taken == left) return;
+  OwnedBstr changed(left);
+  if (changed.get() == nullptr) return;
+  std::swap(*argument, *changed.out());
+}
+
+// Results. The core's type chooses, since VARIANT_BOOL and a 16-bit number are one type here.
+inline void put_result(VARIANT_BOOL* out, bool result) { *out = result ? VARIANT_TRUE : VARIANT_FALSE; }
+inline void put_result(SHORT* out, std::int16_t result) { *out = result; }
+inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
+inline void put_result(BSTR* out, const SecretText& result) { *out = new_bstr(result); }
+inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
+template <class Number>
+  requires(std::is_enum_v<Number> || std::is_same_v<Number, LONG>)
+void put_result(Number* out, std::int32_t result) {
+  *out = static_cast<Number>(result);
+}
+
+// Runs the body, which gives an HRESULT. A run-time failure becomes its HRESULT with error info; anything else, which
+// is want of memory, `otherwise`.
+template <class Body>
+HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
+  try {
+    return std::forward<Body>(body)();
+  } catch (const RuntimeFailure& failure) {
+    set_error_info(failure.detail());
+    return result_of(failure.detail().number);
+  } catch (...) {
+    return otherwise;
+  }
+}
+
+// Runs the member's body and hands over its result. Want of memory for an argument's copy leaves the default result,
+// like any other failure that the contract does not let reach the caller.
+template <class Out, class Body>
+HRESULT answer(Out* out, Body&& body) noexcept {
+  if (out == nullptr) return E_POINTER;
+  *out = Out{};
+  return guarded(S_OK, [&] {
+    put_result(out, std::forward<Body>(body)());
+    return S_OK;
+  });
+}
+
+// For members that show a box or call out: the host may let go of its last reference to the object meanwhile.
+template <class Out, class Body>
+HRESULT answer_while_kept(IUnknown& object, Out* out, Body&& body) noexcept {
+  const ComPtr<IUnknown> kept(&object);
+  return answer(out, std::forward<Body>(body));
+}
+
+// The same for members without a result.
+template <class Body>
+HRESULT perform_while_kept(IUnknown& object, Body&& body) noexcept {
+  const ComPtr<IUnknown> kept(&object);
+  return guarded(S_OK, [&] {
+    std::forward<Body>(body)();
+    return S_OK;
+  });
+}
+
+}  // namespace qvr::com

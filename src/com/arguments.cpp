@@ -1,0 +1,172 @@
+#include "com/arguments.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+#include "com/argument_slot.h"
+
+namespace qvr::com {
+namespace {
+
+constexpr std::size_t kMost = Signatures::kMostParameters;
+
+// Where each parameter's argument is in rgvarg; -1 for one that was left out. As many as the member has parameters.
+using Positions = std::array<int, kMost>;
+
+// As many slots as the member has parameters: to make and end all that there is room for would cost more than the call.
+class Slots {
+ public:
+  explicit Slots(std::size_t count) noexcept : count_(count) {
+    std::uninitialized_default_construct_n(&slots_[0], count_);
+  }
+  ~Slots() { std::destroy_n(&slots_[0], count_); }
+  Slots(const Slots&) = delete;
+  Slots& operator=(const Slots&) = delete;
+  ArgumentSlot& operator[](std::size_t at) noexcept { return slots_[at]; }
+
+ private:
+  union {
+    ArgumentSlot slots_[kMost];
+  };
+  std::size_t count_;
+};
+
+HRESULT refuse(HRESULT result, UINT index, const LateCall& call) {
+  if (call.wrong_argument != nullptr) *call.wrong_argument = index;
+  return result;
+}
+
+bool writes_property(const Member& member) {
+  return (member.kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+}
+
+HRESULT place_named(const Member& member, const LateCall& call, Positions& positions) {
+  const DISPPARAMS& given = *call.arguments;
+  for (UINT i = 0; i < given.cNamedArgs; ++i) {
+    DISPID position = given.rgdispidNamedArgs[i];
+    if (position == DISPID_PROPERTYPUT && writes_property(member)) {
+      position = static_cast<DISPID>(member.parameters.size()) - 1;
+    }
+    if (position < 0 || static_cast<std::size_t>(position) >= member.parameters.size()) {
+      return refuse(DISP_E_PARAMNOTFOUND, i, call);
+    }
+    int& place = positions[static_cast<std::size_t>(position)];
+    if (place >= 0) return refuse(DISP_E_PARAMNOTFOUND, i, call);
+    place = static_cast<int>(i);
+  }
+  return S_OK;
+}
+
+// Named arguments come first in rgvarg, the others behind them, last one first.
+HRESULT place_arguments(const Member& member, const LateCall& call, Positions& positions) {
+  const DISPPARAMS& given = *call.arguments;
+  std::fill_n(positions.begin(), member.parameters.size(), -1);
+  if (given.cNamedArgs > given.cArgs || given.cArgs > member.parameters.size()) return DISP_E_BADPARAMCOUNT;
+  if (given.cArgs > 0 && given.rgvarg == nullptr) return E_INVALIDARG;
+  if (given.cNamedArgs > 0 && given.rgdispidNamedArgs == nullptr) return E_INVALIDARG;
+  const HRESULT named = place_named(member, call, positions);
+  if (FAILED(named)) return named;
+  const UINT unnamed = given.cArgs - given.cNamedArgs;
+  for (UINT i = 0; i < unnamed; ++i) {
+    if (positions[i] >= 0) return refuse(DISP_E_PARAMNOTFOUND, static_cast<UINT>(positions[i]), call);
+    positions[i] = static_cast<int>(given.cArgs - 1 - i);
+  }
+  return S_OK;
+}
+
+class Call {
+ public:
+  Call(const Member& member, const LateCall& late)
+      : member_(member), late_(late), slots_(member.parameters.size()) {}
+
+  HRESULT run(void* object) {
+    HRESULT result = place_arguments(member_, late_, positions_);
+    if (SUCCEEDED(result)) result = convert();
+    if (SUCCEEDED(result)) result = dispatch(object);
+    if (SUCCEEDED(result)) write_back();
+    return result;
+  }
+
+ private:
+  HRESULT convert() {
+    for (std::size_t i = 0; i < member_.parameters.size(); ++i) {
+      const int at = positions_[i];
+      const VARIANT* argument = at < 0 ? nullptr : &late_.arguments->rgvarg[at];
+      const HRESULT result = slots_[i].take(member_.parameters[i], argument, late_.locale);
+      if (FAILED(result)) return refuse(result, at < 0 ? 0 : static_cast<UINT>(at), late_);
+    }
+    return S_OK;
+  }
+
+  HRESULT dispatch(void* object) {
+    std::array<Word, kMostWords> words;
+    Word* end = words.data();
+    for (std::size_t i = 0; i < member_.parameters.size(); ++i) end = slots_[i].put_words(end);
+    OwnedVariant answer;
+    if (member_.result == VT_VARIANT) {
+      *end++ = reinterpret_cast<Word>(answer.get());
+    } else if (member_.result != VT_EMPTY) {
+      answer->vt = member_.result;
+      *end++ = reinterpret_cast<Word>(&answer->llVal);
+    }
+    const auto count = static_cast<std::size_t>(end - words.data());
+    const HRESULT result = call_slot(object, member_.slot_offset, words.data(), count);
+    if (FAILED(result)) return raise(result);
+    if (late_.result != nullptr) *late_.result = answer.release();
+    return S_OK;
+  }
+
+  // The member's own failure, as a host sees errors of a control.
+  HRESULT raise(HRESULT failed) const {
+    ComPtr<IErrorInfo> info;
+    const bool told = GetErrorInfo(0, &info) == S_OK;
+    if (late_.exception != nullptr) {
+      *late_.exception = EXCEPINFO{};
+      late_.exception->scode = failed;
+      if (told) {
+        info->GetDescription(&late_.exception->bstrDescription);
+        info->GetSource(&late_.exception->bstrSource);
+      }
+    }
+    return DISP_E_EXCEPTION;
+  }
+
+  void write_back() {
+    for (std::size_t i = 0; i < member_.parameters.size(); ++i) {
+      if (positions_[i] >= 0) slots_[i].give_back(late_.arguments->rgvarg[positions_[i]], late_.locale);
+    }
+  }
+
+  const Member& member_;
+  const LateCall& late_;
+  Positions positions_;
+  Slots slots_;
+};
+
+}  // namespace
+
+HRESULT invoke(const Signatures& signatures, void* object, const LateCall& call) {
+  if (call.arguments == nullptr) return E_INVALIDARG;
+  const Member* member = signatures.called(call.id, call.flags);
+  if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
+  if (call.result != nullptr) call.result->vt = VT_EMPTY;
+  return Call(*member, call).run(object);
+}
+
+HRESULT ids_of_names(const Signatures& signatures, LPOLESTR* names, UINT count, DISPID* ids) noexcept {
+  if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
+  std::fill_n(ids, count, DISPID_UNKNOWN);
+  const Member* member = names[0] != nullptr ? signatures.named(names[0]) : nullptr;
+  if (member == nullptr) return DISP_E_UNKNOWNNAME;
+  ids[0] = member->id;
+  bool all = true;
+  for (UINT i = 1; i < count; ++i) {
+    const auto position = names[i] != nullptr ? position_of(*member, names[i]) : std::nullopt;
+    ids[i] = position.value_or(DISPID_UNKNOWN);
+    all = all && position;
+  }
+  return all ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+}  // namespace qvr::com

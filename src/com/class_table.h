@@ -1,0 +1,18 @@
+// The creatable classes: one table for class objects, registration and unregistration.
+#pragma once
+
+#include <span>
+
+#include "com/com.h"
+
+namespace qvr::com {
+
+struct ClassRow {
+  const CLSID& id;
+  const wchar_t* name;                         // the program id is the library's name, ".", this
+  HRESULT (*create)(REFIID id, void** found);  // a new object's one reference, as this interface; throws
+};
+
+std::span<const ClassRow> class_table();
+
+}  // namespace qvr::com

@@ -1,0 +1,30 @@
+// The application family's error-reporting component.
+#pragma once
+
+#include <memory>
+
+#include "com/clients/late_object.h"
+#include "services/error_report.h"
+
+namespace qvr::com {
+
+class ComErrorReport final : public services::ErrorReport {
+ public:
+  static constexpr wchar_t kProgramId[] = L"QVRServicios.InformeErrores";
+
+  // Where the component does not take a notice, the other report shows it: no failure goes unseen.
+  ComErrorReport(LateObject component, std::unique_ptr<services::ErrorReport> otherwise)
+      : component_(std::move(component)), otherwise_(std::move(otherwise)) {}
+  // Runs when the thread leaves; see ComTextProtection.
+  ~ComErrorReport() override { component_.abandon(); }
+
+  void Informar(const services::ErrorNotice& notice) override;
+
+ private:
+  void hand_over(const services::ErrorNotice& notice);
+
+  LateObject component_;
+  std::unique_ptr<services::ErrorReport> otherwise_;
+};
+
+}  // namespace qvr::com

@@ -1,0 +1,24 @@
+// The application family's text-protection component.
+#pragma once
+
+#include "com/clients/late_object.h"
+#include "services/text_protection.h"
+
+namespace qvr::com {
+
+class ComTextProtection final : public services::TextProtection {
+ public:
+  static constexpr wchar_t kProgramId[] = L"QVRServicios.ProteccionTexto";
+
+  explicit ComTextProtection(LateObject component) : component_(std::move(component)) {}
+  // Runs when the thread leaves, under the loader's lock and maybe after COM has gone: no call may be made then.
+  ~ComTextProtection() override { component_.abandon(); }
+
+  Text Cifrar(TextView Clave, TextView Texto) override;
+  Text Descifrar(TextView Clave, TextView Texto) override;
+
+ private:
+  LateObject component_;
+};
+
+}  // namespace qvr::com

@@ -1,0 +1,145 @@
+#include "com/connection_point.h"
+
+#include <optional>
+
+#include "com/answer.h"
+#include "com/enumerator.h"
+
+namespace qvr::com {
+namespace {
+
+struct Connections {
+  using Interface = IEnumConnections;
+  using Item = CONNECTDATA;
+  using Stored = std::pair<ComPtr<IUnknown>, DWORD>;
+  static CONNECTDATA give(const Stored& sink) noexcept {
+    return {ComPtr<IUnknown>(sink.first).Detach(), sink.second};
+  }
+};
+
+struct Points {
+  using Interface = IEnumConnectionPoints;
+  using Item = IConnectionPoint*;
+  using Stored = ComPtr<IConnectionPoint>;
+  static IConnectionPoint* give(const Stored& point) noexcept {
+    return ComPtr<IConnectionPoint>(point).Detach();
+  }
+};
+
+template <class Traits>
+HRESULT new_enumerator(std::vector<typename Traits::Stored> items, typename Traits::Interface** out) {
+  *out = new Enumerator<Traits>(std::make_shared<const std::vector<typename Traits::Stored>>(std::move(items)));
+  return S_OK;
+}
+
+void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcept {
+  OwnedVariant copy;
+  if (FAILED(copy_content(*copy.get(), argument))) return;
+  VARIANT passed;
+  passed.vt = static_cast<VARTYPE>(VT_BYREF | copy->vt);
+  passed.byref = &copy->llVal;
+  DISPPARAMS arguments{&passed, nullptr, 1, 0};
+  OwnedVariant result;
+  EXCEPINFO exception{};
+  if (FAILED(sink.Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, result.get(), &exception,
+                         nullptr))) {
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+    SysFreeString(exception.bstrHelpFile);
+  }
+}
+
+}  // namespace
+
+void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
+  const auto connected = or_default(std::optional<std::vector<Sink>>(), [&] { return std::optional(sinks_); });
+  if (!connected) return fire_without_memory(event, argument);
+  for (const Sink& sink : *connected) invoke_sink(*sink.dispatch.Get(), event, argument);
+}
+
+// One by one by their cookies, which grow: the end of a run must be told also where there is no memory for a copy.
+void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument) noexcept {
+  const DWORD end = next_cookie_;
+  for (DWORD told = 0;;) {
+    const auto next = std::ranges::find_if(
+        sinks_, [=](const Sink& sink) { return sink.cookie > told && sink.cookie < end; });
+    if (next == sinks_.end()) return;
+    told = next->cookie;
+    const ComPtr<IDispatch> kept = next->dispatch;
+    invoke_sink(*kept.Get(), event, argument);
+  }
+}
+
+HRESULT ConnectionPoint::QueryInterface(REFIID id, void** found) noexcept {
+  if (found == nullptr) return E_POINTER;
+  *found = id == IID_IUnknown || id == IID_IConnectionPoint ? this : nullptr;
+  if (*found == nullptr) return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+HRESULT ConnectionPoint::GetConnectionInterface(IID* id) noexcept {
+  if (id == nullptr) return E_POINTER;
+  *id = events_;
+  return S_OK;
+}
+
+HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer** container) noexcept {
+  if (container == nullptr) return E_POINTER;
+  *container = &container_;
+  container_.AddRef();
+  return S_OK;
+}
+
+HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
+  if (sink == nullptr || cookie == nullptr) return E_POINTER;
+  *cookie = 0;
+  return guarded(E_OUTOFMEMORY, [&] {
+    ComPtr<IDispatch> dispatch;
+    void** const out = reinterpret_cast<void**>(&dispatch);
+    // Script hosts answer to the event interface's own id; some sinks know only IDispatch.
+    if (FAILED(sink->QueryInterface(events_, out)) && FAILED(sink->QueryInterface(IID_IDispatch, out))) {
+      return CONNECT_E_CANNOTCONNECT;
+    }
+    sinks_.push_back({next_cookie_, std::move(dispatch)});
+    *cookie = next_cookie_++;
+    return S_OK;
+  });
+}
+
+HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
+  const auto sink = std::ranges::find(sinks_, cookie, &Sink::cookie);
+  if (sink == sinks_.end()) return CONNECT_E_NOCONNECTION;
+  const Sink leaving = std::move(*sink);  // released last: its release may come back here
+  sinks_.erase(sink);
+  return S_OK;
+}
+
+HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) noexcept {
+  if (connections == nullptr) return E_POINTER;
+  *connections = nullptr;
+  return guarded(E_OUTOFMEMORY, [&] {
+    std::vector<Connections::Stored> items;
+    for (const Sink& sink : sinks_) items.emplace_back(ComPtr<IUnknown>(sink.dispatch.Get()), sink.cookie);
+    return new_enumerator<Connections>(std::move(items), connections);
+  });
+}
+
+HRESULT enumerate_points(IConnectionPoint& point, IEnumConnectionPoints** points) noexcept {
+  if (points == nullptr) return E_POINTER;
+  *points = nullptr;
+  return guarded(E_OUTOFMEMORY, [&] { return new_enumerator<Points>({Points::Stored(&point)}, points); });
+}
+
+HRESULT find_point(ConnectionPoint& point, REFIID id, IConnectionPoint** found) noexcept {
+  if (found == nullptr) return E_POINTER;
+  *found = nullptr;
+  IID events;
+  point.GetConnectionInterface(&events);
+  if (id != events) return CONNECT_E_NOCONNECTION;
+  *found = &point;
+  point.AddRef();
+  return S_OK;
+}
+
+}  // namespace qvr::com

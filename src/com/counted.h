@@ -1,0 +1,74 @@
+// What every COM object of the library has: a count, one identity, a visible list of interfaces.
+#pragma once
+
+#include "com/module.h"
+
+namespace qvr::com {
+
+// Under which ids an interface of the list is asked for; more than one where it stands for another, too.
+template <class I>
+struct AskedAs {
+  static bool any(REFIID id) { return id == __uuidof(I); }
+};
+template <>
+struct AskedAs<IProvideClassInfo2> {
+  static bool any(REFIID id) { return id == __uuidof(IProvideClassInfo2) || id == __uuidof(IProvideClassInfo); }
+};
+
+// The first interface is the identity; of several that answer to one id the first does.
+template <class First, class... Others>
+class Counted : public First, public Others... {
+ public:
+  Counted() = default;
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+
+  // Gives away the reference that the maker of the object has; without such an interface the object ends.
+  HRESULT hand_over(REFIID id, void** found) noexcept {
+    *found = as(id);
+    if (*found != nullptr) return S_OK;
+    Release();
+    return E_NOINTERFACE;
+  }
+
+  STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override {
+    if (found == nullptr) return E_POINTER;
+    *found = as(id);
+    if (*found == nullptr) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+
+  STDMETHODIMP_(ULONG) AddRef() noexcept override { return static_cast<ULONG>(InterlockedIncrement(&count_)); }
+
+  STDMETHODIMP_(ULONG) Release() noexcept override {
+    // Nobody else can be counting where the caller has the only reference; that saves waiting for other processors.
+    const LONG left = count_ == 1 ? 0 : InterlockedDecrement(&count_);
+    if (left == 0) {
+      count_ = 1;  // a reference taken and given back while the object goes must not end it a second time
+      delete this;
+    }
+    return static_cast<ULONG>(left);
+  }
+
+ protected:
+  virtual ~Counted() = default;
+
+ private:
+  // Without a reference for the caller.
+  void* as(REFIID id) noexcept {
+    void* found = id == IID_IUnknown || AskedAs<First>::any(id) ? static_cast<First*>(this) : nullptr;
+    (answer_as<Others>(id, found), ...);
+    return found;
+  }
+
+  template <class I>
+  void answer_as(REFIID id, void*& found) noexcept {
+    if (found == nullptr && AskedAs<I>::any(id)) found = static_cast<I*>(this);
+  }
+
+  volatile LONG count_ = 1;
+  ModuleLock lock_;
+};
+
+}  // namespace qvr::com

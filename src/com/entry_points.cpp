@@ -1,0 +1,41 @@
+// What the library exports.
+
+#include <memory>
+
+#include "com/answer.h"
+#include "com/class_object.h"
+#include "com/module.h"
+#include "com/registration.h"
+#include "session/thread_state.h"
+
+namespace {
+
+using namespace qvr;
+using namespace qvr::com;
+
+}  // namespace
+
+BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID process_ends) {
+  // At the end of the process the memory goes anyway, and what the state refers to may be gone already.
+  const bool unloading = reason == DLL_PROCESS_DETACH && process_ends == nullptr;
+  if (reason == DLL_THREAD_DETACH || unloading) exchange_thread_state(nullptr);
+  return TRUE;
+}
+
+STDAPI DllGetClassObject(REFCLSID id, REFIID interface_id, void** found) {
+  return class_object(id, interface_id, found);
+}
+
+STDAPI DllCanUnloadNow() { return ModuleLock::any() ? S_FALSE : S_OK; }
+
+STDAPI DllRegisterServer() { return register_library(Scope::Machine); }
+
+STDAPI DllUnregisterServer() { return unregister_library(Scope::Machine); }
+
+// regsvr32 /n /i:user registers for the current user; without text it means the machine.
+STDAPI DllInstall(BOOL install, LPCWSTR command) {
+  const bool user = command != nullptr && lstrcmpiW(command, L"user") == 0;
+  if (!user && command != nullptr && *command != L'\0') return E_INVALIDARG;
+  const Scope scope = user ? Scope::User : Scope::Machine;
+  return install ? register_library(scope) : unregister_library(scope);
+}

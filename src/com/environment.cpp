@@ -1,0 +1,56 @@
+// Wires the library: the system it runs on, and for each outside service the application family's component where one
+// is registered, else the library's own.
+
+#include "session/thread_state.h"
+#include "com/clients/com_ado.h"
+#include "com/clients/com_error_report.h"
+#include "com/clients/com_script_reader.h"
+#include "com/clients/com_text_protection.h"
+#include "services/builtin_error_report.h"
+#include "services/builtin_script_reader.h"
+#include "services/builtin_text_protection.h"
+
+namespace qvr {
+namespace {
+
+using namespace automation;
+
+std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
+  // A component that is registered but cannot be created must not be replaced: its files are not ours to read.
+  if (const auto id = registered_class(ComTextProtection::kProgramId)) {
+    return std::make_unique<ComTextProtection>(LateObject::create(*id));
+  }
+  return std::make_unique<services::BuiltinTextProtection>(platform.cryptography);
+}
+
+std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platform) {
+  auto builtin = std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
+  const auto id = registered_class(ComErrorReport::kProgramId);
+  if (!id) return builtin;
+  std::unique_ptr<services::ErrorReport> component = or_default(
+      std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
+        auto created = LateObject::create(*id);
+        return std::make_unique<ComErrorReport>(std::move(created), std::move(builtin));
+      });
+  return component ? std::move(component) : std::move(builtin);
+}
+
+std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<ComAdo>(); }
+
+std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
+  // As with text protection: protected scripts are not ours to read.
+  if (const auto id = registered_class(ComScriptReader::kProgramId)) {
+    return std::make_unique<ComScriptReader>(LateObject::create(*id));
+  }
+  return std::make_unique<services::BuiltinScriptReader>(platform.files);
+}
+
+}  // namespace
+
+const Environment& environment() {
+  static const Environment wired{system_platform(), make_text_protection, make_error_report, make_ado,
+                                 make_script_reader};
+  return wired;
+}
+
+}  // namespace qvr

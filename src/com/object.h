@@ -1,0 +1,53 @@
+// What every object of the library is besides its members and its count: its class information and its errors.
+#pragma once
+
+#include "com/counted.h"
+#include "com/dual.h"
+
+namespace qvr::com {
+
+template <class D>
+  requires requires { typename D::DualInterface; }
+struct AskedAs<D> {
+  static bool any(REFIID id) { return id == __uuidof(typename D::DualInterface) || id == IID_IDispatch; }
+};
+
+// `Coclass` names the class in the type library; `Default` is its default interface, which is also its identity and
+// its IDispatch; `Others` are the further interfaces that QueryInterface answers.
+template <class Coclass, class Default, class... Others>
+class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideClassInfo2> {
+ public:
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID id) noexcept override {
+    return AskedAs<Default>::any(id) || (AskedAs<Others>::any(id) || ...) ? S_OK : S_FALSE;
+  }
+
+  STDMETHODIMP GetClassInfo(ITypeInfo** info) noexcept override {
+    if (info == nullptr) return E_POINTER;
+    *info = nullptr;
+    return guarded(E_OUTOFMEMORY, [&] {
+      *info = own_type_info(__uuidof(Coclass)).Detach();
+      return S_OK;
+    });
+  }
+
+  STDMETHODIMP GetGUID(DWORD kind, GUID* id) noexcept override {
+    if (id == nullptr) return E_POINTER;
+    *id = events();
+    return kind == GUIDKIND_DEFAULT_SOURCE_DISP_IID && *id != GUID_NULL ? S_OK : E_INVALIDARG;
+  }
+
+ protected:
+  template <class Out, class Body>
+  HRESULT answer_while_kept(Out* out, Body&& body) noexcept {
+    return com::answer_while_kept(static_cast<Default&>(*this), out, std::forward<Body>(body));
+  }
+  template <class Body>
+  HRESULT perform_while_kept(Body&& body) noexcept {
+    return com::perform_while_kept(static_cast<Default&>(*this), std::forward<Body>(body));
+  }
+
+  // The default event interface; none for most classes.
+  virtual const GUID& events() const noexcept { return GUID_NULL; }
+};
+
+}  // namespace qvr::com

@@ -1,0 +1,29 @@
+#include "com/objects/ov_object.h"
+
+#include "session/ov.h"
+#include "platform/platform.h"
+
+namespace qvr::com {
+namespace {
+
+// No shared initialisation here: asking for the version must not need a catalogue.
+Text library_file() {
+  return or_default(Text(), [] { return system_platform().own_module.path(); });
+}
+
+}  // namespace
+
+HRESULT OvObject::Version(LONG* Resultado) noexcept {
+  return answer(Resultado, [] { return qvr::Ov::Version(own_version()); });
+}
+HRESULT OvObject::CadenaVersion(BSTR* Resultado) noexcept {
+  return answer(Resultado, [] { return qvr::Ov::CadenaVersion(own_version()); });
+}
+HRESULT OvObject::Path(BSTR* Resultado) noexcept {
+  return answer(Resultado, [] { return qvr::Ov::Path(library_file()); });
+}
+HRESULT OvObject::PathCompleto(BSTR* Resultado) noexcept {
+  return answer(Resultado, [] { return qvr::Ov::PathCompleto(library_file()); });
+}
+
+}  // namespace qvr::com

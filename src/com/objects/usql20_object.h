@@ -1,0 +1,22 @@
+#pragma once
+
+#include "com/object.h"
+#include "com/objects/contract.h"
+#include "com/objects/prefixed_contract.h"
+#include "query/usql20.h"
+
+namespace qvr::com {
+
+class uSQL20Object final : public Object<::uSQL20, PrefixedContract<_uSQL20>, Contract> {
+ public:
+  STDMETHODIMP get_Name(BSTR* Resultado) noexcept override {
+    return answer_while_kept(Resultado, [&] { return core_.Name(); });
+  }
+
+ private:
+  qvr::iSQL20& query() noexcept override { return core_; }
+
+  qvr::uSQL20 core_;
+};
+
+}  // namespace qvr::com

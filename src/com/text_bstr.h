@@ -1,0 +1,39 @@
+// Texts as BSTRs. A null BSTR is an empty text, as everywhere in automation.
+#pragma once
+
+#include <utility>
+
+#include "com/com.h"
+#include "base/text.h"
+
+namespace qvr::com {
+
+Text text_from(BSTR string);
+
+// A new BSTR, also for an empty text; null only when there is no memory.
+BSTR new_bstr(TextView text) noexcept;
+
+// Overwrites and frees the string: it may hold a password.
+void free_wiped(BSTR string) noexcept;
+
+class OwnedBstr {
+ public:
+  OwnedBstr() = default;
+  explicit OwnedBstr(TextView text) noexcept : string_(new_bstr(text)) {}
+  ~OwnedBstr() { free_wiped(string_); }
+  OwnedBstr(OwnedBstr&& other) noexcept : string_(std::exchange(other.string_, nullptr)) {}
+  OwnedBstr& operator=(OwnedBstr&& other) noexcept {
+    std::swap(string_, other.string_);
+    return *this;
+  }
+
+  BSTR get() const { return string_; }
+  BSTR* out() { return &string_; }
+  BSTR release() { return std::exchange(string_, nullptr); }
+  Text text() const { return text_from(string_); }
+
+ private:
+  BSTR string_ = nullptr;
+};
+
+}  // namespace qvr::com

@@ -1,0 +1,204 @@
+#include "com/variant.h"
+
+#include <new>
+
+#include "com/text_bstr.h"
+
+namespace qvr::com {
+namespace {
+
+Decimal decimal_from(const DECIMAL& number) {
+  return {number.Hi32, number.Mid32, number.Lo32, number.scale, (number.sign & DECIMAL_NEG) != 0};
+}
+
+constexpr int kDeepest = 16;  // far beyond what hosts nest
+
+// An array that is being read, inside others.
+struct Reading {
+  const SAFEARRAY* array;
+  const Reading* outer;
+  int depth;
+};
+
+// What holds itself would be read again and again.
+bool never_ends(const SAFEARRAY* array, const Reading* outer) {
+  if (outer != nullptr && outer->depth >= kDeepest) return true;
+  for (; outer != nullptr; outer = outer->outer) {
+    if (outer->array == array) return true;
+  }
+  return false;
+}
+
+// References of objects are counted, and values converted, by code of the host's: as long as this lives, that code can
+// neither destroy the array nor give it other bounds.
+class Locked {
+ public:
+  explicit Locked(SAFEARRAY* array) noexcept : array_(SUCCEEDED(SafeArrayLock(array)) ? array : nullptr) {}
+  ~Locked() {
+    if (array_ != nullptr) SafeArrayUnlock(array_);
+  }
+  Locked(const Locked&) = delete;
+  Locked& operator=(const Locked&) = delete;
+
+ private:
+  SAFEARRAY* array_;
+};
+
+Value value_inside(const VARIANT& variant, const Reading* outer);
+Value scalar_from(const VARIANT& v);
+
+// An element into a variant of its own type. Records have no value of ours, and without their description they could
+// not even be released.
+Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& reading) {
+  if (type == VT_RECORD) return ErrorValue{DISP_E_BADVARTYPE};
+  void* there = nullptr;
+  if (type == VT_VARIANT && SUCCEEDED(SafeArrayPtrOfIndex(array, &index, &there))) {
+    // Texts and numbers are read where they are: no code of the host's runs meanwhile that could change them.
+    const auto& variant = *static_cast<const VARIANT*>(there);
+    if (variant.vt == VT_BSTR || OwnedVariant::holds_nothing(variant.vt)) return scalar_from(variant);
+  }
+  OwnedVariant item;
+  void* target = &item->llVal;
+  if (type == VT_VARIANT) target = item.get();
+  if (type == VT_DECIMAL) target = &item->decVal;
+  if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
+  if (FAILED(SafeArrayGetElement(array, &index, target))) throw std::bad_alloc();
+  if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
+  return value_inside(*item, &reading);
+}
+
+// Null for an array without bounds, and bounds without elements are what is left of one that was destroyed.
+bool has_elements(SAFEARRAY* array) { return array != nullptr && array->pvData != nullptr; }
+
+// An array that was made without its type still tells what there is to free; of plain content the variant alone knows
+// what it is. VT_EMPTY where the two do not go together.
+VARTYPE type_of_elements(SAFEARRAY* array, VARTYPE told) {
+  VARTYPE type = VT_EMPTY;
+  if (SUCCEEDED(SafeArrayGetVartype(array, &type))) return type;
+  constexpr std::pair<USHORT, VARTYPE> kOwned[] = {
+      {FADF_BSTR, VT_BSTR}, {FADF_VARIANT, VT_VARIANT}, {FADF_DISPATCH, VT_DISPATCH}, {FADF_UNKNOWN, VT_UNKNOWN}};
+  bool plain = told != VT_RECORD;
+  for (const auto& [feature, owned] : kOwned) {
+    if ((array->fFeatures & feature) != 0) return owned;
+    plain = plain && told != owned;
+  }
+  return plain ? told : VARTYPE{VT_EMPTY};
+}
+
+Value array_from(SAFEARRAY* array, VARTYPE type, const Reading* outer) {
+  Array result;
+  LONG lower = 0, upper = -1;
+  result.dimensions = array == nullptr ? std::uint16_t{0} : static_cast<std::uint16_t>(SafeArrayGetDim(array));
+  if (result.dimensions != 1 || FAILED(SafeArrayGetLBound(array, 1, &lower)) ||
+      FAILED(SafeArrayGetUBound(array, 1, &upper))) {
+    return result;
+  }
+  result.lower = lower;
+  type = type_of_elements(array, type);
+  if (type == VT_EMPTY || (upper >= lower && !has_elements(array))) result.dimensions = 0;
+  if (result.dimensions == 0) return result;
+  const Locked locked(array);
+  const Reading reading{array, outer, outer != nullptr ? outer->depth + 1 : 1};
+  const auto count = static_cast<ULONGLONG>(LONGLONG{upper} - lower + 1);
+  if (count > result.items.max_size()) throw std::bad_alloc();
+  result.items.reserve(static_cast<std::size_t>(count));
+  for (LONGLONG index = lower; index <= upper; ++index) {
+    result.items.push_back(element_from(array, type, static_cast<LONG>(index), reading));
+  }
+  return result;
+}
+
+Value scalar_from(const VARIANT& v) {
+  switch (v.vt) {
+    case VT_EMPTY: return Empty{};
+    case VT_NULL: return Null{};
+    case VT_BOOL: return v.boolVal != VARIANT_FALSE;
+    case VT_UI1: return v.bVal;
+    case VT_I2: return v.iVal;
+    case VT_I4:
+    case VT_INT: return static_cast<std::int32_t>(v.lVal);
+    case VT_I1: return static_cast<std::int64_t>(v.cVal);
+    case VT_UI2: return static_cast<std::int64_t>(v.uiVal);
+    case VT_UI4:
+    case VT_UINT: return static_cast<std::int64_t>(v.ulVal);
+    case VT_I8: return static_cast<std::int64_t>(v.llVal);
+    case VT_UI8: return static_cast<std::uint64_t>(v.ullVal);
+    case VT_R4: return v.fltVal;
+    case VT_R8: return v.dblVal;
+    case VT_CY: return Currency{v.cyVal.int64};
+    case VT_DECIMAL: return decimal_from(v.decVal);
+    case VT_DATE: return Date{v.date};
+    case VT_BSTR: return text_from(v.bstrVal);
+    case VT_ERROR: return v.scode == DISP_E_PARAMNOTFOUND ? Value(Missing{}) : Value(ErrorValue{v.scode});
+    case VT_DISPATCH:
+    case VT_UNKNOWN: return v.punkVal == nullptr ? ObjectRef() : std::make_shared<DispatchObject>(v.punkVal);
+    default: return ErrorValue{DISP_E_BADVARTYPE};
+  }
+}
+
+SAFEARRAY* array_of(const VARIANT& variant) {
+  if (!(variant.vt & VT_BYREF)) return variant.parray;
+  return variant.pparray != nullptr ? *variant.pparray : nullptr;
+}
+
+// An element of a typed array is the content of a variant of that type.
+void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value) {
+  OwnedVariant element, converted;
+  put_value(*element.get(), value);
+  void* content = element.get();
+  if (type != VT_VARIANT) {
+    if (FAILED(VariantChangeType(converted.get(), element.get(), VARIANT_ALPHABOOL, type))) return;
+    // Texts and objects are handed over as the pointer, everything else by its address.
+    const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
+    content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
+    if (type == VT_DECIMAL) content = &converted->decVal;
+  }
+  if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
+}
+
+Value value_inside(const VARIANT& variant, const Reading* outer) {
+  const VARIANT* inner = innermost(variant);
+  if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
+  if (inner->vt & VT_ARRAY) {
+    SAFEARRAY* array = array_of(*inner);
+    if (never_ends(array, outer)) return ErrorValue{DISP_E_BADVARTYPE};
+    return array_from(array, inner->vt & VT_TYPEMASK, outer);
+  }
+  if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
+  OwnedVariant copy;
+  if (inner->byref == nullptr || FAILED(copy_content(*copy.get(), *inner))) return ErrorValue{DISP_E_BADVARTYPE};
+  return scalar_from(*copy);
+}
+
+}  // namespace
+
+const VARIANT* innermost(const VARIANT& variant) noexcept {
+  const VARIANT* at = &variant;
+  for (int depth = 0; at != nullptr && at->vt == (VT_BYREF | VT_VARIANT); ++depth) {
+    at = depth < kDeepest ? at->pvarVal : nullptr;
+  }
+  return at;
+}
+
+Value value_from(const VARIANT& variant) { return value_inside(variant, nullptr); }
+
+void put_elements(VARIANT& variant, const Value& value) {
+  const VARIANT* inner = innermost(variant);
+  const Array* list = value.as<Array>();
+  if (inner == nullptr || !(inner->vt & VT_ARRAY) || list == nullptr) return;
+  SAFEARRAY* array = array_of(*inner);
+  if (!has_elements(array) || SafeArrayGetDim(array) != 1) return;
+  const VARTYPE type = type_of_elements(array, inner->vt & VT_TYPEMASK);
+  if (type == VT_EMPTY) return;
+  if (array->rgsabound[0].lLbound != list->lower || array->rgsabound[0].cElements != list->items.size()) return;
+  const Locked locked(array);
+  LONG index = list->lower;
+  for (const Value& item : list->items) put_element(array, type, index++, item);
+}
+
+void OwnedVariant::let_go() noexcept {
+  if (held_.vt != VT_BSTR) VariantClear(&held_);
+  else free_wiped(held_.bstrVal);
+}
+
+}  // namespace qvr::com
