@@ -10,8 +10,8 @@
 
 #include "base/utf8.h"
 #include "script/qvrscr.h"
-#include "services/odbc/odbc.h"
-#include "services/odbc/odbc_api.h"
+#include "odbc/odbc.h"
+#include "odbc/odbc_api.h"
 #include "run.h"
 
 namespace {

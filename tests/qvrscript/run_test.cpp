@@ -4,8 +4,8 @@
 #include "base/utf8.h"
 #include "session/value_convert.h"
 #include "json_reader.h"
-#include "services/odbc/odbc_ado.h"
-#include "services/odbc/odbc_statement.h"
+#include "odbc/odbc_ado.h"
+#include "odbc/odbc_statement.h"
 #include "support/temporary_folder.h"
 #include "tool_in_process.h"
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/value.h"
-#include "services/odbc/odbc.h"
-#include "services/odbc/odbc_api.h"
+#include "odbc/odbc.h"
+#include "odbc/odbc_api.h"
 
 namespace qvr::odbc {
 

@@ -1,9 +1,9 @@
-#include "services/odbc/odbc.h"
+#include "odbc/odbc.h"
 
 #include <array>
 #include <string>
 
-#include "services/odbc/odbc_api.h"
+#include "odbc/odbc_api.h"
 
 namespace qvr::odbc {
 namespace {

@@ -1,4 +1,4 @@
-#include "services/odbc/ado_failure.h"
+#include "odbc/ado_failure.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/value.h"
-#include "services/odbc/odbc_api.h"
+#include "odbc/odbc_api.h"
 
 namespace qvr::odbc {
 

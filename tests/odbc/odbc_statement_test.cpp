@@ -1,11 +1,11 @@
 // One statement of a connection executes command after command; none may notice what came before it.
-#include "services/odbc/odbc_statement.h"
+#include "odbc/odbc_statement.h"
 
 #include <gtest/gtest.h>
 
 #include "base/utf8.h"
 #include "session/value_convert.h"
-#include "services/odbc/odbc_api.h"
+#include "odbc/odbc_api.h"
 #include "support/temporary_folder.h"
 
 namespace qvr::tests {

@@ -1,9 +1,9 @@
-#include "services/odbc/ado_session.h"
+#include "odbc/ado_session.h"
 
 #include <utility>
 
-#include "services/odbc/ado_failure.h"
-#include "services/odbc/connection_string.h"
+#include "odbc/ado_failure.h"
+#include "odbc/connection_string.h"
 
 namespace qvr::odbc {
 namespace {

@@ -1,10 +1,10 @@
-#include "services/odbc/odbc_ado.h"
+#include "odbc/odbc_ado.h"
 
 #include <vector>
 
-#include "services/odbc/ado_command_state.h"
-#include "services/odbc/ado_failure.h"
-#include "services/odbc/ado_session.h"
+#include "odbc/ado_command_state.h"
+#include "odbc/ado_failure.h"
+#include "odbc/ado_session.h"
 
 namespace qvr::odbc {
 namespace {

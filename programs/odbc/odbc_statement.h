@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/value.h"
-#include "services/odbc/odbc.h"
+#include "odbc/odbc.h"
 
 namespace qvr::odbc {
 

@@ -1,13 +1,13 @@
-#include "services/odbc/odbc_statement.h"
+#include "odbc/odbc_statement.h"
 
 #include <array>
 #include <limits>
 #include <memory>
 #include <utility>
 
-#include "services/odbc/odbc_api.h"
-#include "services/odbc/odbc_date.h"
-#include "services/odbc/odbc_parameters.h"
+#include "odbc/odbc_api.h"
+#include "odbc/odbc_date.h"
+#include "odbc/odbc_parameters.h"
 
 namespace qvr::odbc {
 namespace {

@@ -1,9 +1,9 @@
-#include "services/odbc/connection_string.h"
+#include "odbc/connection_string.h"
 
 #include <algorithm>
 #include <array>
 
-#include "services/odbc/ado_failure.h"
+#include "odbc/ado_failure.h"
 
 namespace qvr::odbc {
 namespace {

@@ -1,11 +1,11 @@
-#include "services/odbc/odbc_parameters.h"
+#include "odbc/odbc_parameters.h"
 
 #include <cstring>
 #include <type_traits>
 
 #include "base/number_text.h"
-#include "services/odbc/ado_failure.h"
-#include "services/odbc/odbc_date.h"
+#include "odbc/ado_failure.h"
+#include "odbc/odbc_date.h"
 
 namespace qvr::odbc {
 namespace {

@@ -1,4 +1,4 @@
-#include "services/odbc/odbc_date.h"
+#include "odbc/odbc_date.h"
 
 #include <chrono>
 #include <cmath>

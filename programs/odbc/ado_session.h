@@ -8,8 +8,8 @@
 #include "base/text.h"
 #include "base/value.h"
 #include "services/ado.h"
-#include "services/odbc/odbc.h"
-#include "services/odbc/odbc_statement.h"
+#include "odbc/odbc.h"
+#include "odbc/odbc_statement.h"
 
 namespace qvr::odbc {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "services/odbc/ado_session.h"
+#include "odbc/ado_session.h"
 
 namespace qvr::odbc {
 

@@ -1,10 +1,10 @@
-#include "services/odbc/ado_command_state.h"
+#include "odbc/ado_command_state.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "services/odbc/ado_failure.h"
+#include "odbc/ado_failure.h"
 
 namespace qvr::odbc {
 namespace {
