@@ -13,7 +13,7 @@
 namespace qvr {
 namespace {
 
-using namespace automation;
+using namespace com;
 
 std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
   // A component that is registered but cannot be created must not be replaced: its files are not ours to read.
