@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "connection/qvrcfp.h"
-#include "session/thread_state.h"
 #include "run.h"
+#include "session/thread_state.h"
 
 namespace {
 

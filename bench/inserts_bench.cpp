@@ -9,10 +9,10 @@
 #include <fstream>
 
 #include "base/utf8.h"
-#include "script/qvrscr.h"
 #include "odbc/odbc.h"
 #include "odbc/odbc_api.h"
 #include "run.h"
+#include "script/qvrscr.h"
 
 namespace {
 

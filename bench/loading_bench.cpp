@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "base/utf8.h"
+#include "run.h"
 #include "script/script_preparation.h"
 #include "support/peak_memory.h"
-#include "run.h"
 
 namespace {
 

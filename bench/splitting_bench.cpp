@@ -1,7 +1,7 @@
 // What walking over a script's commands costs beside a bare search for the separator in the same memory, for texts of
 // 1, 10, 100 and 1000 megabytes.
-#include "script/command_splitter.h"
 #include "run.h"
+#include "script/command_splitter.h"
 
 namespace {
 

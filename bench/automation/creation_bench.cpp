@@ -84,8 +84,10 @@ int main() {
     times.take("Create", each.name, [&] { create(each.factory); });
   }
   const Body first_nothing = [&] { create(&nothing); }, first = [&] { create(classes[1].factory); };
-  times.take("Nothing", "first on a thread", [&] { run_thread(first_nothing); }, 50);
-  times.take("Create", "first on a thread", [&] { run_thread(first); }, 50);
+  times.take(
+      "Nothing", "first on a thread", [&] { run_thread(first_nothing); }, 50);
+  times.take(
+      "Create", "first on a thread", [&] { run_thread(first); }, 50);
   times.print();
   return 0;
 }

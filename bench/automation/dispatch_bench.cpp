@@ -89,9 +89,14 @@ void compare_all(Times& times) {
       SysFreeString(result);
     };
   };
-  compare(times, ov.Get(), L"Version", "no arguments", DISPATCH_METHOD, {}, [&] { long v = 0; ov->Version(&v); });
-  compare(times, cfp.Get(), L"MotorBD", "a property", DISPATCH_PROPERTYGET, {},
-          [&] { MotoresBD given; cfp->get_MotorBD(&given); });
+  compare(times, ov.Get(), L"Version", "no arguments", DISPATCH_METHOD, {}, [&] {
+    long v = 0;
+    ov->Version(&v);
+  });
+  compare(times, cfp.Get(), L"MotorBD", "a property", DISPATCH_PROPERTYGET, {}, [&] {
+    MotoresBD given;
+    cfp->get_MotorBD(&given);
+  });
   compare(times, cfp.Get(), L"ComillasSQL", "a text", DISPATCH_METHOD, {reference(VT_BSTR, &text)},
           text_result([&](BSTR* result) { cfp->ComillasSQL(&text, result); }));
   compare(times, cfp.Get(), L"sqlTOP", "a number", DISPATCH_METHOD, {reference(VT_I4, &top)},
@@ -104,11 +109,12 @@ void compare_all(Times& times) {
           {reference(VT_VARIANT, &values), reference(VT_VARIANT, &fields), reference(VT_BSTR, &text)},
           text_result([&](BSTR* result) { cfp->SqlInsert2(&text, &fields, &values, result); }));
   compare(times, cfp.Get(), L"Asignar", "ten arguments", DISPATCH_METHOD,
-          {e, e, e, e, e, e, e, e, reference(VT_I4, &engine), reference(VT_BSTR, &id)}, [&] {
-            cfp->Asignar(&id, &engine, &empty, &empty, &empty, &empty, &empty, &empty, &empty, &empty, &done);
-          });
-  compare(times, list.Get(), L"NumPropiedades", "the count of a list", DISPATCH_PROPERTYGET, {},
-          [&] { long count = 0; list->get_NumPropiedades(&count); });
+          {e, e, e, e, e, e, e, e, reference(VT_I4, &engine), reference(VT_BSTR, &id)},
+          [&] { cfp->Asignar(&id, &engine, &empty, &empty, &empty, &empty, &empty, &empty, &empty, &empty, &done); });
+  compare(times, list.Get(), L"NumPropiedades", "the count of a list", DISPATCH_PROPERTYGET, {}, [&] {
+    long count = 0;
+    list->get_NumPropiedades(&count);
+  });
 }
 
 }  // namespace

@@ -12,8 +12,8 @@
 namespace {
 
 using namespace qvr::tests;
-using qvr::com::Word;
 using qvr::bench::Times;
+using qvr::com::Word;
 
 constexpr double kLongest = 20e-6, kRound = 1e-3;  // seconds
 
@@ -33,8 +33,8 @@ class MemberCalls {
 
   bool by_slot() {
     result_ = {};
-    const HRESULT called = qvr::com::call_slot(&object_, static_cast<std::size_t>(member_.slot_offset),
-                                                      words_.data(), words_.size());
+    const HRESULT called = qvr::com::call_slot(&object_, static_cast<std::size_t>(member_.slot_offset), words_.data(),
+                                               words_.size());
     if (member_.result_type == VT_BSTR) SysFreeString(result_.text);
     if (member_.result_type == VT_VARIANT) VariantClear(&result_.value);
     return SUCCEEDED(called);
@@ -48,8 +48,7 @@ class MemberCalls {
   }
   bool by_system() {
     VARIANT result{};
-    const HRESULT called =
-        info_->Invoke(&object_, member_.id, member_.kind, &parameters_, &result, nullptr, nullptr);
+    const HRESULT called = info_->Invoke(&object_, member_.id, member_.kind, &parameters_, &result, nullptr, nullptr);
     VariantClear(&result);
     return SUCCEEDED(called);
   }
@@ -65,8 +64,7 @@ class MemberCalls {
     return passed;
   }
   void add_words(VARIANT& passed, const MemberParameter& parameter) {
-    const std::size_t count =
-        parameter.by_reference ? 1 : qvr::com::words_by_value(parameter.type).value_or(0);
+    const std::size_t count = parameter.by_reference ? 1 : qvr::com::words_by_value(parameter.type).value_or(0);
     const bool whole = !parameter.by_reference && parameter.type == VT_VARIANT;
     if (whole && count == 1) return words_.push_back(reinterpret_cast<Word>(&passed));
     words_.resize(words_.size() + count);
@@ -102,9 +100,12 @@ void measure(Times& times, const DescribedInterface& described, const DescribedM
   const double once = Times::now() - start;
   if (once > kLongest) return;
   const int so_many = std::clamp(static_cast<int>(kRound / once), 50, 2000);
-  times.take("ITypeInfo::Invoke", name, [&] { calls.by_system(); }, so_many);
-  times.take("Invoke", name, [&] { calls.by_name(); }, so_many);
-  times.take("Early", name, [&] { calls.by_slot(); }, so_many);
+  times.take(
+      "ITypeInfo::Invoke", name, [&] { calls.by_system(); }, so_many);
+  times.take(
+      "Invoke", name, [&] { calls.by_name(); }, so_many);
+  times.take(
+      "Early", name, [&] { calls.by_slot(); }, so_many);
 }
 
 void measure_all() {

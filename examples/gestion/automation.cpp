@@ -91,8 +91,7 @@ Value Value::copy_of(const VARIANT& variant) {
 
 Value Value::as(VARTYPE type) const {
   Value converted;
-  require(VariantChangeTypeEx(converted.out(), read_only(variant_), LOCALE_INVARIANT, 0, type),
-          L"Converting a value");
+  require(VariantChangeTypeEx(converted.out(), read_only(variant_), LOCALE_INVARIANT, 0, type), L"Converting a value");
   return converted;
 }
 

@@ -59,10 +59,10 @@ void show_version_of(const std::wstring& connection_string, long expected) {
 
 void show_users(const Setting& setting, const std::wstring& connection_string) {
   const std::wstring administrator = accounts(setting)[1].text();
-  const std::wstring description =
-      Database(connection_string)
-          .first_value(L"SELECT [Descripción] FROM [Usuarios] WHERE [Nombre] = '" + administrator + L"'")
-          .text();
+  const std::wstring description = Database(connection_string)
+                                       .first_value(L"SELECT [Descripción] FROM [Usuarios] WHERE [Nombre] = '" +
+                                                    administrator + L"'")
+                                       .text();
   item(L"user " + administrator, description);
 }
 

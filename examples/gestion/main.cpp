@@ -17,8 +17,8 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov", L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr", L"QVRlib21.QVRprp",
-                                     L"QVRlib21.cSQL20", L"QVRlib21.uSQL20"};
+constexpr const wchar_t* kClasses[] = {L"QVRlib21.Ov",     L"QVRlib21.QVRcfp", L"QVRlib21.QVRScr",
+                                       L"QVRlib21.QVRprp", L"QVRlib21.cSQL20", L"QVRlib21.uSQL20"};
 
 Scope show_registration(const Setting& setting) {
   const Scope scope = register_library(setting.library, kClasses[0]);

@@ -11,8 +11,8 @@ constexpr std::size_t kWidths[] = {8, 26, 20, 12, 8};
 
 Object created_query() {
   const Object query = Object::create(L"QVRlib21.cSQL20");
-  const Value columns{L"P.[Número]", L"N>Número", L"C.Nombre", L"T+",        L"C.[Población]", L"T>Población",
-                      L"P.Fecha",    L"T+",       L"P.Portes", L"N+"};
+  const Value columns{L"P.[Número]",  L"N>Número", L"C.Nombre", L"T+",       L"C.[Población]",
+                      L"T>Población", L"P.Fecha",  L"T+",       L"P.Portes", L"N+"};
   const Value relations{L"P.Cliente", L"C.[Código]", L"I"};
   const bool created = query
                            .call(L"iSQL20_Crear", {kJet, L"Pedidos", false, columns, L"Pedidos P, Clientes C",

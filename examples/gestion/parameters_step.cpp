@@ -31,8 +31,8 @@ std::vector<Parameter> parameters_for(const Setting& setting) {
 }
 
 Value read(const Object& object, const Parameter& parameter) {
-  return object.call(parameter.name, parameter.asks_identification ? std::vector<Value>{kIdentification}
-                                                                   : std::vector<Value>{});
+  return object.call(parameter.name,
+                     parameter.asks_identification ? std::vector<Value>{kIdentification} : std::vector<Value>{});
 }
 
 void create_file(const Setting& setting) {

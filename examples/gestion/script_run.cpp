@@ -52,8 +52,9 @@ Outcome call_runner(const wchar_t* member, std::vector<Value> arguments) {
   Outcome outcome;
   const Object runner = Object::create(L"QVRlib21.QVRScr");
   Listener listener(outcome);
-  const Subscription subscription(
-      runner, [&listener](const std::wstring& event, const Value& argument) { listener.hear(event, argument); });
+  const Subscription subscription(runner, [&listener](const std::wstring& event, const Value& argument) {
+    listener.hear(event, argument);
+  });
   outcome.result = runner.call(member, std::move(arguments));
   expect(outcome.ends == 1, L"The end of the call was told " + std::to_wstring(outcome.ends) + L" times");
   return outcome;

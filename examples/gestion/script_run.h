@@ -9,11 +9,11 @@
 namespace gestion {
 
 struct Outcome {
-  Value result;               // what the call answered
-  bool success = false;       // what the event of the end said
-  int ends = 0;               // how often the end was told
+  Value result;          // what the call answered
+  bool success = false;  // what the event of the end said
+  int ends = 0;          // how often the end was told
   int progress_texts = 0;
-  long done = -1, total = -1; // of the last progress text that counts commands
+  long done = -1, total = -1;  // of the last progress text that counts commands
 };
 
 // Calls a member of a runner of its own and shows what the runner tells.

@@ -15,16 +15,16 @@ struct Search {
 Search read_search(const std::wstring& typed);
 
 struct Setting {
-  std::wstring library;         // the DLL
-  std::wstring folder;          // for the program's own files
-  std::wstring scripts;         // folder of the script files
+  std::wstring library;  // the DLL
+  std::wstring folder;   // for the program's own files
+  std::wstring scripts;  // folder of the script files
   std::wstring driver = L"SQLite3";
-  bool answer_boxes = false;    // start the program that answers the library's boxes
-  std::vector<Search> searches; // for the list of orders
-  bool ask = false;             // and as many more as somebody types
-  bool unregister = false;      // leave the machine as it was
-  std::wstring database;        // the database file, for this program
-  std::wstring driver_database; // and for the driver, which may live on another system
+  bool answer_boxes = false;     // start the program that answers the library's boxes
+  std::vector<Search> searches;  // for the list of orders
+  bool ask = false;              // and as many more as somebody types
+  bool unregister = false;       // leave the machine as it was
+  std::wstring database;         // the database file, for this program
+  std::wstring driver_database;  // and for the driver, which may live on another system
 };
 
 inline constexpr const wchar_t* kIdentification = L"Gestión 1.0";

@@ -81,7 +81,8 @@ Value LateObject::call(const wchar_t* member, std::vector<Value> arguments) cons
   DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
   Value result;
   require(object_->Invoke(id, IID_NULL, 0x409, DISPATCH_METHOD | DISPATCH_PROPERTYGET, &parameters, result.out(),
-                          nullptr, nullptr), member);
+                          nullptr, nullptr),
+          member);
   return result;
 }
 

@@ -30,8 +30,8 @@ void late_bound() {
   item(L"QVRcfp.Asignar", assigned.text());
   item(L"QVRcfp.ComillasSQL", parameters.call(L"ComillasSQL", {L"Casa d'Ana"}).text());
   const LateObject query(L"QVRlib21.cSQL20");
-  const Value created = query.call(L"iSQL20_Crear", {2L, L"Clientes", false, Value::list({L"C.Nombre", L"T+"}),
-                                                     L"Clientes C"});
+  const Value created = query.call(L"iSQL20_Crear",
+                                   {2L, L"Clientes", false, Value::list({L"C.Nombre", L"T+"}), L"Clientes C"});
   item(L"cSQL20.iSQL20_Crear", created.text());
   query.call(L"iSQL20_InterpretarBusqueda", {L"Nombre", L"ana"});
   item(L"cSQL20.iSQL20_SQL", query.call(L"iSQL20_SQL", {}).text());
@@ -41,7 +41,8 @@ template <class Interface>
 ComPtr<Interface> create(REFCLSID id, const wchar_t* name) {
   ComPtr<Interface> object;
   require(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
-                           reinterpret_cast<void**>(object.GetAddressOf())), name);
+                           reinterpret_cast<void**>(object.GetAddressOf())),
+          name);
   return object;
 }
 

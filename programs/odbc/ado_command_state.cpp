@@ -44,9 +44,7 @@ AdoSession& AdoCommandState::open_session() const {
   return *session_;
 }
 
-ResultSet AdoCommandState::execute(const std::vector<Value>& parameters) {
-  return execute_as(type_, parameters);
-}
+ResultSet AdoCommandState::execute(const std::vector<Value>& parameters) { return execute_as(type_, parameters); }
 
 ResultSet AdoCommandState::execute_as(std::int32_t type, const std::vector<Value>& parameters) {
   AdoSession& session = open_session();

@@ -33,16 +33,11 @@ struct StateResult {
 
 // The first entry that the state begins with counts.
 constexpr std::array kStateResults = {
-    StateResult{u"22001", hresult::kOverflow},
-    StateResult{u"22003", hresult::kOverflow},
-    StateResult{u"22", hresult::kCannotConvert},
-    StateResult{u"23", hresult::kIntegrity},
-    StateResult{u"28", hresult::kLoginFailed},
-    StateResult{u"37", hresult::kErrorsInCommand},
-    StateResult{u"42S01", hresult::kTableExists},
-    StateResult{u"42S02", hresult::kNoTable},
-    StateResult{u"42", hresult::kErrorsInCommand},
-    StateResult{u"HYT00", hresult::kTimeout},
+    StateResult{u"22001", hresult::kOverflow},     StateResult{u"22003", hresult::kOverflow},
+    StateResult{u"22", hresult::kCannotConvert},   StateResult{u"23", hresult::kIntegrity},
+    StateResult{u"28", hresult::kLoginFailed},     StateResult{u"37", hresult::kErrorsInCommand},
+    StateResult{u"42S01", hresult::kTableExists},  StateResult{u"42S02", hresult::kNoTable},
+    StateResult{u"42", hresult::kErrorsInCommand}, StateResult{u"HYT00", hresult::kTimeout},
 };
 
 }  // namespace

@@ -7,9 +7,9 @@
 
 #include "base/text.h"
 #include "base/value.h"
-#include "services/ado.h"
 #include "odbc/odbc.h"
 #include "odbc/odbc_statement.h"
+#include "services/ado.h"
 
 namespace qvr::odbc {
 

@@ -6,9 +6,9 @@
 namespace qvr::odbc {
 
 struct ConnectionString {
-  Text provider;      // empty: ADO's default, ODBC
-  Text data_source;   // an ODBC data source name
-  Text extended;      // "Extended Properties": an ODBC string, passed on as it stands
+  Text provider;     // empty: ADO's default, ODBC
+  Text data_source;  // an ODBC data source name
+  Text extended;     // "Extended Properties": an ODBC string, passed on as it stands
   Text user;
   Text password;
   Text catalog;

@@ -21,9 +21,7 @@ namespace qvr::odbc {
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t), "the wide functions take UTF-16");
 
 // ODBC does not write to its input texts, but does not say so in its types.
-inline SQLWCHAR* wide(TextView text) {
-  return reinterpret_cast<SQLWCHAR*>(const_cast<char16_t*>(text.data()));
-}
+inline SQLWCHAR* wide(TextView text) { return reinterpret_cast<SQLWCHAR*>(const_cast<char16_t*>(text.data())); }
 
 inline SQLWCHAR* wide(char16_t* buffer) { return reinterpret_cast<SQLWCHAR*>(buffer); }
 

@@ -53,8 +53,7 @@ Value read_text(const Handle& statement, SQLUSMALLINT column) {
   std::array<char16_t, 2048> piece{};
   for (;;) {
     SQLLEN rest = 0;
-    const SQLRETURN result =
-        SQLGetData(statement.get(), column, SQL_C_WCHAR, piece.data(), sizeof(piece), &rest);
+    const SQLRETURN result = SQLGetData(statement.get(), column, SQL_C_WCHAR, piece.data(), sizeof(piece), &rest);
     statement.check(result);
     if (result == SQL_NO_DATA) return text;
     if (rest == SQL_NULL_DATA) return Null{};
@@ -70,22 +69,17 @@ ReadColumn reader_for(SQLSMALLINT sql_type) {
     case SQL_TINYINT:
     case SQL_SMALLINT:
     case SQL_INTEGER:
-    case SQL_BIGINT:
-      return read_integer;
+    case SQL_BIGINT: return read_integer;
     case SQL_REAL:
     case SQL_FLOAT:
     case SQL_DOUBLE:
     case SQL_DECIMAL:
-    case SQL_NUMERIC:
-      return read_number;
-    case SQL_BIT:
-      return read_truth;
+    case SQL_NUMERIC: return read_number;
+    case SQL_BIT: return read_truth;
     case SQL_TYPE_DATE:
     case SQL_TYPE_TIME:
-    case SQL_TYPE_TIMESTAMP:
-      return read_date;
-    default:
-      return read_text;
+    case SQL_TYPE_TIMESTAMP: return read_date;
+    default: return read_text;
   }
 }
 

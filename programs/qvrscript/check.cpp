@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "session/thread_state.h"
 #include "base/utf8.h"
 #include "base/wildcards.h"
 #include "qvrscript/engines.h"
@@ -12,6 +11,7 @@
 #include "qvrscript/rules.h"
 #include "qvrscript/version_rules.h"
 #include "services/builtin_script_reader.h"
+#include "session/thread_state.h"
 
 namespace qvr::script_tool {
 namespace {
@@ -77,16 +77,15 @@ void write_lines(const Outcome& outcome, const Console& console) {
 void write_json(const Outcome& outcome, const Console& console) {
   std::vector<Text> findings, unreadable;
   for (const Finding& finding : outcome.findings) {
-    findings.push_back(json_object({json_member(u"file", json_text(finding.file)),
-                                    json_member(u"line", json_number(finding.line)),
-                                    json_member(u"rule", json_text(rule_text(finding))),
-                                    json_member(u"message", json_text(finding.message))}));
+    findings.push_back(json_object(
+        {json_member(u"file", json_text(finding.file)), json_member(u"line", json_number(finding.line)),
+         json_member(u"rule", json_text(rule_text(finding))), json_member(u"message", json_text(finding.message))}));
   }
   for (const Text& path : outcome.unreadable) unreadable.push_back(json_text(path));
-  say(console.out, {json_object({json_member(u"command", json_text(u"check")),
-                                 json_member(u"files", json_number(outcome.files)),
-                                 json_member(u"findings", json_array(findings)),
-                                 json_member(u"unreadable", json_array(unreadable))})});
+  say(console.out,
+      {json_object({json_member(u"command", json_text(u"check")), json_member(u"files", json_number(outcome.files)),
+                    json_member(u"findings", json_array(findings)),
+                    json_member(u"unreadable", json_array(unreadable))})});
 }
 
 }  // namespace

@@ -37,8 +37,7 @@ Text subject_text(const Diagnosis& each) { return Text(each.subject.begin(), eac
 
 void write_lines(const std::vector<Diagnosis>& found, std::size_t errors, const Console& console) {
   for (const Diagnosis& each : found) {
-    say(console.out,
-        {padded_to(level_word(each.level), 7), padded_to(subject_text(each), 15), each.message});
+    say(console.out, {padded_to(level_word(each.level), 7), padded_to(subject_text(each), 15), each.message});
     if (!each.advice.empty()) say(console.out, {Text(22, u' '), u"-> ", each.advice});
   }
   const Text count = json_number(errors);
@@ -53,9 +52,9 @@ void write_json(const std::vector<Diagnosis>& found, std::size_t errors, const C
                                     json_member(u"message", json_text(each.message)),
                                     json_member(u"advice", json_text(each.advice))}));
   }
-  say(console.out, {json_object({json_member(u"command", json_text(u"doctor")),
-                                 json_member(u"errors", json_number(errors)),
-                                 json_member(u"findings", json_array(findings))})});
+  say(console.out,
+      {json_object({json_member(u"command", json_text(u"doctor")), json_member(u"errors", json_number(errors)),
+                    json_member(u"findings", json_array(findings))})});
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace qvr::script_tool {
 
 // A library file, looked at from outside.
 struct LibraryFile {
-  Text path;           // empty: none
+  Text path;  // empty: none
   bool exists = false;
   unsigned width = 0;  // 32 or 64; 0 where it is no library
   Text version;        // of its version resource, as "2.10.24"
@@ -36,7 +36,7 @@ struct Registration {
 };
 
 struct TypeLibraryFacts {
-  Text registered;                 // the file for this width; empty: none
+  Text registered;  // the file for this width; empty: none
   bool registered_exists = false;
   Text loaded_from, name, version;  // empty where none could be loaded
 };
@@ -50,20 +50,20 @@ struct Component {
 
 // The languages by their numbers.
 struct LanguageFacts {
-  Text setting;                // empty: none
-  std::uint16_t of_user = 0;   // Windows' identifier
+  Text setting;               // empty: none
+  std::uint16_t of_user = 0;  // Windows' identifier
   std::int32_t asked = 0, shown = 0;
 };
 
 struct Facts {
   bool windows = true;
   bool wine = false;
-  Text system;              // its name and version
-  unsigned width = 0;       // of this program
+  Text system;         // its name and version
+  unsigned width = 0;  // of this program
   unsigned system_width = 0;
   Text own_version;
-  Text folder;              // of this program
-  LibraryFile beside;       // the library there
+  Text folder;         // of this program
+  LibraryFile beside;  // the library there
   bool manifest_beside = false;
   OvMembers ov;
   std::size_t class_count = 0;  // that a whole registration has

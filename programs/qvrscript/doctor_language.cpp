@@ -1,7 +1,7 @@
 // Asks the library's own core which language it would take.
+#include "qvrscript/doctor_facts.h"
 #include "session/global.h"
 #include "session/thread_state.h"
-#include "qvrscript/doctor_facts.h"
 
 namespace qvr::script_tool {
 

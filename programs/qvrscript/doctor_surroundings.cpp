@@ -1,8 +1,8 @@
 // What the library works with: ADO, providers, the family's components, the language and the desktop.
 #include <algorithm>
 
-#include "session/catalogue.h"
 #include "qvrscript/doctor_subjects.h"
+#include "session/catalogue.h"
 
 namespace qvr::script_tool {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "qvrscript/rules.h"
-#include "qvrscript/sql_words.h"
 #include "qvrscript/silence.h"
+#include "qvrscript/sql_words.h"
 #include "script/script_preparation.h"
 
 namespace qvr::script_tool {

@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "session/thread_state.h"
 #include "qvrscript/engines.h"
 #include "qvrscript/json.h"
 #include "qvrscript/paths.h"
 #include "script/command_splitter.h"
 #include "script/script_files.h"
+#include "session/thread_state.h"
 
 namespace qvr::script_tool {
 namespace {
@@ -102,8 +102,7 @@ void write_lines(const Arguments& arguments, const std::vector<Listing>& all, co
 }
 
 Text json_of(const ListedFile& file) {
-  return json_object({json_member(u"name", json_text(file.name)),
-                      json_member(u"commands", json_number(file.commands)),
+  return json_object({json_member(u"name", json_text(file.name)), json_member(u"commands", json_number(file.commands)),
                       json_member(u"readable", json_truth(file.readable))});
 }
 
@@ -119,10 +118,10 @@ Text json_of(const Listing& listing) {
 void write_json(const Arguments& arguments, const std::vector<Listing>& all, const Console& console) {
   std::vector<Text> engines;
   for (const Listing& listing : all) engines.push_back(json_of(listing));
-  say(console.out, {json_object({json_member(u"command", json_text(u"list")),
-                                 json_member(u"name", json_text(arguments.operands[1])),
-                                 json_member(u"from", arguments.from ? decimal(*arguments.from) : Text(u"null")),
-                                 json_member(u"engines", json_array(engines))})});
+  say(console.out,
+      {json_object({json_member(u"command", json_text(u"list")), json_member(u"name", json_text(arguments.operands[1])),
+                    json_member(u"from", arguments.from ? decimal(*arguments.from) : Text(u"null")),
+                    json_member(u"engines", json_array(engines))})});
 }
 
 }  // namespace

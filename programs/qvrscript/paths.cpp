@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "session/thread_state.h"
 #include "base/wildcards.h"
+#include "session/thread_state.h"
 
 namespace qvr::script_tool {
 

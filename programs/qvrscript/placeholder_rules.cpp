@@ -9,8 +9,8 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr std::array<TextView, 6> kWords = {u"NombreBD",      u"LogFile",       u"UsuarioQVRAdm", u"ClaveUsuarioQVRAdm",
-                                            u"UsuarioQVRCli", u"ClaveUsuarioQVRCli"};
+constexpr std::array<TextView, 6> kWords = {u"NombreBD",           u"LogFile",       u"UsuarioQVRAdm",
+                                            u"ClaveUsuarioQVRAdm", u"UsuarioQVRCli", u"ClaveUsuarioQVRCli"};
 constexpr std::size_t kLongest = 64;
 
 // Asks the preparation itself.

@@ -1,10 +1,10 @@
 #include "qvrscript/program.h"
 
-#include "session/ov.h"
 #include "qvrscript/check.h"
 #include "qvrscript/doctor.h"
 #include "qvrscript/help.h"
 #include "qvrscript/list.h"
+#include "session/ov.h"
 
 namespace qvr::script_tool {
 namespace {

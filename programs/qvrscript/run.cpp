@@ -14,17 +14,17 @@ class RunThread {
  public:
   RunThread(MessageBoxes& boxes, MakeAdo make_ado)
       : platform_(with_boxes(thread_state().platform(), boxes)),
-        former_(exchange_thread_state(std::make_unique<ThreadState>(
-            Environment{platform_, environment().make_text_protection, make_report, make_ado,
-                        environment().make_script_reader}))) {}
+        former_(exchange_thread_state(std::make_unique<ThreadState>(Environment{
+            platform_, environment().make_text_protection, make_report, make_ado, environment().make_script_reader}))) {
+  }
   ~RunThread() { exchange_thread_state(std::move(former_)); }
   RunThread(const RunThread&) = delete;
   RunThread& operator=(const RunThread&) = delete;
 
  private:
   static Platform with_boxes(const Platform& system, MessageBoxes& boxes) {
-    return {system.settings, system.user_language, system.files,        boxes,            system.host_events,
-            system.locale,   system.clock,         system.cryptography, system.own_module};
+    return {system.settings, system.user_language, system.files,     boxes, system.host_events, system.locale,
+            system.clock,    system.cryptography,  system.own_module};
   }
   static std::unique_ptr<services::ErrorReport> make_report(const Platform& platform) {
     return std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
@@ -50,13 +50,13 @@ void write_json(const Arguments& arguments, const Result& result, const std::vec
                 const Console& console) {
   std::vector<Text> texts;
   for (const Text& failure : failures) texts.push_back(json_text(failure));
-  say(console.out, {json_object({json_member(u"command", json_text(u"run")),
-                                 json_member(u"file", json_text(arguments.operands[0])),
-                                 json_member(u"success", json_truth(result.success)),
-                                 json_member(u"executed", json_number(result.executed)),
-                                 json_member(u"total", json_number(result.total)),
-                                 json_member(u"transaction", json_truth(arguments.use_transaction)),
-                                 json_member(u"failures", json_array(texts))})});
+  say(console.out,
+      {json_object({json_member(u"command", json_text(u"run")), json_member(u"file", json_text(arguments.operands[0])),
+                    json_member(u"success", json_truth(result.success)),
+                    json_member(u"executed", json_number(result.executed)),
+                    json_member(u"total", json_number(result.total)),
+                    json_member(u"transaction", json_truth(arguments.use_transaction)),
+                    json_member(u"failures", json_array(texts))})});
 }
 
 void write_lines(const Arguments& arguments, const Result& result, const Console& console) {

@@ -1,9 +1,9 @@
 // Runs a script file through the library's runner.
 #pragma once
 
-#include "session/thread_state.h"
 #include "qvrscript/arguments.h"
 #include "qvrscript/report.h"
+#include "session/thread_state.h"
 
 namespace qvr::script_tool {
 

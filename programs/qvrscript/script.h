@@ -37,7 +37,7 @@ class Script {
   std::size_t lines() const { return line_starts_.size(); }
   std::size_t line_of(std::size_t position) const;  // from 1
   std::size_t line_start(std::size_t line) const { return line_starts_[line - 1]; }
-  TextView line(std::size_t number) const;          // without its end
+  TextView line(std::size_t number) const;  // without its end
 
   const std::vector<ScriptCommand>& commands() const { return commands_; }
   ScriptCommand rest() const { return rest_; }  // behind the last separator, and its blank lines

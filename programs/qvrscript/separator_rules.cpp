@@ -62,8 +62,9 @@ const Lookalike* lookalike(TextView line) {
   static constexpr Lookalike kSemicolon{"go-semicolon", u"\"GO;\" separates nothing: the line must hold only GO"};
   static constexpr Lookalike kComment{"go-comment", u"GO with a comment separates nothing: the line must hold only GO"};
   static constexpr Lookalike kCount{"go-count", u"GO with a count separates nothing, and nothing is repeated"};
-  static constexpr Lookalike kBlank{"go-blanks", u"GO with blanks, or characters that do not show, separates nothing: "
-                                                 u"the line must hold only GO"};
+  static constexpr Lookalike kBlank{"go-blanks",
+                                    u"GO with blanks, or characters that do not show, separates nothing: "
+                                    u"the line must hold only GO"};
   const TextView bare = without_blanks(line);
   if (!starts_with_no_case(bare, kGo)) return nullptr;
   const TextView rest = without_blanks(bare.substr(kGo.size()));

@@ -13,8 +13,11 @@ std::size_t end_of_line(TextView text, std::size_t from) { return std::min(text.
 class Scanner {
  public:
   Scanner(TextView text, std::int32_t engine)
-      : text_(text), comments_(engine != kJet), nested_(engine != kJet && engine != kOracle),
-        brackets_(engine != kOracle), q_strings_(engine == kOracle) {}
+      : text_(text),
+        comments_(engine != kJet),
+        nested_(engine != kJet && engine != kOracle),
+        brackets_(engine != kOracle),
+        q_strings_(engine == kOracle) {}
 
   std::vector<Region> scan() {
     std::vector<Region> found;

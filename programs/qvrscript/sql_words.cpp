@@ -44,8 +44,8 @@ bool holds_code(const Script& script, const ScriptCommand& piece) {
   const std::size_t end = piece.begin + piece.text.size();
   for (std::size_t at = piece.begin; at < end;) {
     const Region* region = region_at(script.regions(), at);
-    const bool comment = region != nullptr && (region->kind == RegionKind::LineComment ||
-                                               region->kind == RegionKind::BlockComment);
+    const bool comment = region != nullptr &&
+                         (region->kind == RegionKind::LineComment || region->kind == RegionKind::BlockComment);
     if (!comment && !is_blank(script.text()[at])) return true;
     at = comment ? region->end : at + 1;
   }

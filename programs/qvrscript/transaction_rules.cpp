@@ -12,11 +12,11 @@ struct Statement {
 };
 
 constexpr Statement kRefused[] = {
-    {u"CREATE", u"DATABASE"},   {u"DROP", u"DATABASE"},    {u"ALTER", u"DATABASE"},  {u"BACKUP", u"DATABASE"},
-    {u"BACKUP", u"LOG"},        {u"BACKUP", u"TRANSACTION"}, {u"BACKUP", u"TRAN"},   {u"DUMP", u"DATABASE"},
-    {u"DUMP", u"TRANSACTION"},  {u"RESTORE", u"DATABASE"}, {u"RESTORE", u"LOG"},     {u"RESTORE", u"FILELISTONLY"},
-    {u"RESTORE", u"HEADERONLY"}, {u"RESTORE", u"VERIFYONLY"}, {u"LOAD", u"DATABASE"}, {u"LOAD", u"TRANSACTION"},
-    {u"RECONFIGURE", u""},      {u"CREATE", u"FULLTEXT"},  {u"ALTER", u"FULLTEXT"},  {u"DROP", u"FULLTEXT"},
+    {u"CREATE", u"DATABASE"},    {u"DROP", u"DATABASE"},      {u"ALTER", u"DATABASE"}, {u"BACKUP", u"DATABASE"},
+    {u"BACKUP", u"LOG"},         {u"BACKUP", u"TRANSACTION"}, {u"BACKUP", u"TRAN"},    {u"DUMP", u"DATABASE"},
+    {u"DUMP", u"TRANSACTION"},   {u"RESTORE", u"DATABASE"},   {u"RESTORE", u"LOG"},    {u"RESTORE", u"FILELISTONLY"},
+    {u"RESTORE", u"HEADERONLY"}, {u"RESTORE", u"VERIFYONLY"}, {u"LOAD", u"DATABASE"},  {u"LOAD", u"TRANSACTION"},
+    {u"RECONFIGURE", u""},       {u"CREATE", u"FULLTEXT"},    {u"ALTER", u"FULLTEXT"}, {u"DROP", u"FULLTEXT"},
 };
 
 // Behind DATABASE: what belongs to a database and is no database.
@@ -51,8 +51,9 @@ void check_command(const Script& script, const ScriptCommand& command, Findings&
     const bool alone = equal_no_case(words[at].text, u"RECONFIGURE");
     const Text statement = alone ? Text(words[at].text) : join({words[at].text, u" ", words[at + 1].text});
     findings.add(script.line_of(words[at].begin), "no-transaction",
-                 {statement, u" cannot run in a transaction: run this script with an identification that "
-                             u"begins with EvitarTransaccion"});
+                 {statement,
+                  u" cannot run in a transaction: run this script with an identification that "
+                  u"begins with EvitarTransaccion"});
   }
 }
 

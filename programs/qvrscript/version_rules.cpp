@@ -76,7 +76,8 @@ void check_versions(const Update& update, Findings& findings) {
                  {u"the versions ", update.from, u" and ", update.to, u" are not five digits each"});
   } else if (update.from.starts_with(u'0')) {
     findings.add(0, "version-zero",
-                 {u"an update from ", update.from, u" cannot begin: the current version is looked for without zeros in "
+                 {u"an update from ", update.from,
+                  u" cannot begin: the current version is looked for without zeros in "
                   u"front"});
   } else if (update.to <= update.from) {
     findings.add(0, "version-backwards", {u"this updates from ", update.from, u" to ", update.to});

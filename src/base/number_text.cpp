@@ -179,9 +179,9 @@ double number_prefix(TextView text) {
 double number_of(Currency amount) { return static_cast<double>(amount.scaled) / 10000; }
 
 double number_of(const Decimal& number) {
-  const double magnitude =
-      (static_cast<double>(number.high) * 4294967296.0 + static_cast<double>(number.mid)) * 4294967296.0 +
-      static_cast<double>(number.low);
+  const double magnitude = (static_cast<double>(number.high) * 4294967296.0 + static_cast<double>(number.mid)) *
+                               4294967296.0 +
+                           static_cast<double>(number.low);
   return (number.negative ? -magnitude : magnitude) / std::pow(10.0, number.scale);
 }
 

@@ -2,11 +2,11 @@
 // an HRESULT.
 #pragma once
 
+#include "base/secret_text.h"
 #include "com/com.h"
 #include "com/late_failure.h"
 #include "com/text_bstr.h"
 #include "com/variant.h"
-#include "base/secret_text.h"
 
 namespace qvr::com {
 
@@ -46,9 +46,7 @@ inline void put_result(BSTR* out, const SecretText& result) { *out = new_bstr(re
 inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
 template <class Number>
   requires(std::is_enum_v<Number> || std::is_same_v<Number, LONG>)
-void put_result(Number* out, std::int32_t result) {
-  *out = static_cast<Number>(result);
-}
+void put_result(Number* out, std::int32_t result) { *out = static_cast<Number>(result); }
 
 // Runs the body, which gives an HRESULT. A run-time failure becomes its HRESULT with error info; anything else, which
 // is want of memory, `otherwise`.

@@ -69,8 +69,7 @@ HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
 HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
   const auto given = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
   if (given == type && passes_on(type)) return take_same(target, source, type);
-  const HRESULT result =
-      VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  const HRESULT result = VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
   return SUCCEEDED(result) ? S_OK : refusal(result);
 }
 

@@ -77,8 +77,7 @@ HRESULT place_arguments(const Member& member, const LateCall& call, Positions& p
 
 class Call {
  public:
-  Call(const Member& member, const LateCall& late)
-      : member_(member), late_(late), slots_(member.parameters.size()) {}
+  Call(const Member& member, const LateCall& late) : member_(member), late_(late), slots_(member.parameters.size()) {}
 
   HRESULT run(void* object) {
     HRESULT result = place_arguments(member_, late_, positions_);

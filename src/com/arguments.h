@@ -12,9 +12,9 @@ struct LateCall {
   LCID locale;  // converts numbers and dates given as text
   WORD flags;
   DISPPARAMS* arguments;
-  VARIANT* result;      // may be null
-  EXCEPINFO* exception; // may be null
-  UINT* wrong_argument; // may be null; index into rgvarg of the argument that was refused
+  VARIANT* result;       // may be null
+  EXCEPINFO* exception;  // may be null
+  UINT* wrong_argument;  // may be null; index into rgvarg of the argument that was refused
 };
 
 // Calls the member of `object`, an interface of the type that the signatures describe. Arguments may be of any type

@@ -12,18 +12,14 @@ struct Connections {
   using Interface = IEnumConnections;
   using Item = CONNECTDATA;
   using Stored = std::pair<ComPtr<IUnknown>, DWORD>;
-  static CONNECTDATA give(const Stored& sink) noexcept {
-    return {ComPtr<IUnknown>(sink.first).Detach(), sink.second};
-  }
+  static CONNECTDATA give(const Stored& sink) noexcept { return {ComPtr<IUnknown>(sink.first).Detach(), sink.second}; }
 };
 
 struct Points {
   using Interface = IEnumConnectionPoints;
   using Item = IConnectionPoint*;
   using Stored = ComPtr<IConnectionPoint>;
-  static IConnectionPoint* give(const Stored& point) noexcept {
-    return ComPtr<IConnectionPoint>(point).Detach();
-  }
+  static IConnectionPoint* give(const Stored& point) noexcept { return ComPtr<IConnectionPoint>(point).Detach(); }
 };
 
 template <class Traits>
@@ -61,8 +57,8 @@ void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
 void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument) noexcept {
   const DWORD end = next_cookie_;
   for (DWORD told = 0;;) {
-    const auto next = std::ranges::find_if(
-        sinks_, [=](const Sink& sink) { return sink.cookie > told && sink.cookie < end; });
+    const auto next = std::ranges::find_if(sinks_,
+                                           [=](const Sink& sink) { return sink.cookie > told && sink.cookie < end; });
     if (next == sinks_.end()) return;
     told = next->cookie;
     const ComPtr<IDispatch> kept = next->dispatch;

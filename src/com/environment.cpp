@@ -1,7 +1,6 @@
 // Wires the library: the system it runs on, and for each outside service the application family's component where one
 // is registered, else the library's own.
 
-#include "session/thread_state.h"
 #include "com/clients/com_ado.h"
 #include "com/clients/com_error_report.h"
 #include "com/clients/com_script_reader.h"
@@ -9,6 +8,7 @@
 #include "services/builtin_error_report.h"
 #include "services/builtin_script_reader.h"
 #include "services/builtin_text_protection.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

@@ -1,8 +1,8 @@
 // HRESULTs as failures and failures as HRESULTs.
 #pragma once
 
-#include "com/com.h"
 #include "base/failure.h"
+#include "com/com.h"
 
 namespace qvr::com {
 

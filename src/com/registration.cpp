@@ -31,8 +31,8 @@ LSTATUS open_classes(Scope scope, REGSAM access, RegistryKey& classes) {
 
 LSTATUS write_value(HKEY classes, const RegistryValue& value) {
   RegistryKey key;
-  const LSTATUS status =
-      RegCreateKeyExW(classes, value.key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.out(), nullptr);
+  const LSTATUS status = RegCreateKeyExW(classes, value.key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.out(),
+                                         nullptr);
   if (status != ERROR_SUCCESS) return status;
   const auto size = static_cast<DWORD>((value.data.size() + 1) * sizeof(wchar_t));
   return RegSetValueExW(key.get(), value.name.empty() ? nullptr : value.name.c_str(), 0, REG_SZ,

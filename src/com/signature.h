@@ -24,9 +24,9 @@ struct Member {
   DISPID id = DISPID_UNKNOWN;
   WORD kind = 0;  // DISPATCH_METHOD, DISPATCH_PROPERTYGET...
   std::size_t slot_offset = 0;
-  std::vector<Parameter> parameters;   // without the result
-  VARTYPE result = VT_EMPTY;           // VT_EMPTY for none
-  const Member* next = nullptr;        // at the same position: the other accessor of a property
+  std::vector<Parameter> parameters;  // without the result
+  VARTYPE result = VT_EMPTY;          // VT_EMPTY for none
+  const Member* next = nullptr;       // at the same position: the other accessor of a property
 };
 
 class Signatures {

@@ -3,8 +3,8 @@
 
 #include <utility>
 
-#include "com/com.h"
 #include "base/text.h"
+#include "com/com.h"
 
 namespace qvr::com {
 

@@ -1,8 +1,8 @@
 // Values as VARIANTs.
 #pragma once
 
-#include "com/com.h"
 #include "base/value.h"
+#include "com/com.h"
 
 namespace qvr::com {
 

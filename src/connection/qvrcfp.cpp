@@ -1,9 +1,9 @@
 #include "connection/qvrcfp.h"
 
+#include "base/failure.h"
 #include "connection/cfp_file.h"
 #include "connection/connection_string.h"
 #include "connection/typed_text.h"
-#include "base/failure.h"
 #include "session/global.h"
 #include "session/thread_state.h"
 

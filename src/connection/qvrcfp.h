@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-#include "dialect/ado_parameter.h"
 #include "base/text.h"
 #include "base/value.h"
+#include "dialect/ado_parameter.h"
 
 namespace qvr {
 

@@ -1,13 +1,13 @@
 // The members that write SQL: each names its failure policy and asks the dialect with this object's engine.
+#include "base/failure.h"
 #include "connection/qvrcfp.h"
 #include "dialect/clauses.h"
-#include "session/error_box.h"
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
 #include "dialect/procedure_call.h"
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
-#include "base/failure.h"
+#include "session/error_box.h"
 #include "session/failure_report.h"
 
 namespace qvr {
@@ -92,9 +92,8 @@ Text QVRcfp::SqlINSERT(TextView NombreTabla, const Value& MValores) const noexce
 }
 Text QVRcfp::SqlUPDATE(TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd, const Value& MCampos,
                        const Value& MValores) const noexcept {
-  return or_no_text([&] {
-    return dialect::SqlUPDATE(fields_.MotorBD, NombreTabla, NombreCampoClave, Clave_cd, MCampos, MValores);
-  });
+  return or_no_text(
+      [&] { return dialect::SqlUPDATE(fields_.MotorBD, NombreTabla, NombreCampoClave, Clave_cd, MCampos, MValores); });
 }
 Text QVRcfp::SqlInsert2(TextView NombreTabla, const Value& MCampos, const Value& MValores) const noexcept {
   return or_no_text([&] { return dialect::SqlInsert2(fields_.MotorBD, NombreTabla, MCampos, MValores); });
@@ -107,8 +106,7 @@ Text QVRcfp::SqlUpdate2(TextView NombreTabla, const Value& MCampos, const Value&
 bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc,
                               Value& Parametros) const noexcept {
   return or_reported(
-      false,
-      [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
+      false, [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
       [&](const FailureDetail& failure) {
         report_failure(failure, {u"EjecutarProc", Text(NombreProc)}, fields_.MotorBD, Conexion);
       });
@@ -117,8 +115,7 @@ bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView Nombre
 bool QVRcfp::AgregarParametroADO(services::AdoCommand* Comando,
                                  const dialect::ParameterRequest& request) const noexcept {
   return or_reported(
-      false,
-      [&] { return created_ && dialect::AgregarParametroADO(fields_.MotorBD, Comando, request); },
+      false, [&] { return created_ && dialect::AgregarParametroADO(fields_.MotorBD, Comando, request); },
       [&](const FailureDetail& failure) {
         if (failure.number != kParameterImproperlyDefined) return;
         const Text detail = join({u"AgregarParametroADO: ", request.Nombre, u"(", request.TipoSQLServer, u")"});

@@ -14,8 +14,8 @@ using services::DataType;
 
 struct Setting {
   DataType type;
-  std::uint8_t precision = 0;         // 0: not set
-  bool whole = false;                 // sets a scale of 0
+  std::uint8_t precision = 0;           // 0: not set
+  bool whole = false;                   // sets a scale of 0
   std::int32_t size_per_character = 0;  // 0: not set
 };
 

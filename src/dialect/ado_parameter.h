@@ -1,8 +1,8 @@
 // Parameters for commands that the caller builds.
 #pragma once
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 #include "services/ado.h"
 
 namespace qvr::dialect {

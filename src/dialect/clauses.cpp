@@ -1,7 +1,7 @@
 #include "dialect/clauses.h"
 
-#include "dialect/lists.h"
 #include "base/failure.h"
+#include "dialect/lists.h"
 #include "session/value_convert.h"
 
 namespace qvr::dialect {

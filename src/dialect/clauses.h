@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 
 namespace qvr::dialect {
 

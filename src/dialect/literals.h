@@ -1,8 +1,8 @@
 // Single values as SQL literals of an engine.
 #pragma once
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 
 namespace qvr::dialect {
 

@@ -1,7 +1,7 @@
 #include "dialect/procedure_call.h"
 
-#include "dialect/lists.h"
 #include "base/failure.h"
+#include "dialect/lists.h"
 #include "session/thread_state.h"
 #include "session/value_convert.h"
 

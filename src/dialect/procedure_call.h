@@ -1,8 +1,8 @@
 // Calls of stored procedures.
 #pragma once
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 #include "services/ado.h"
 
 namespace qvr::dialect {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "dialect/lists.h"
 #include "base/failure.h"
+#include "dialect/lists.h"
 #include "session/value_convert.h"
 
 namespace qvr::dialect {
@@ -11,7 +11,7 @@ namespace {
 
 struct Relation {
   TextView code;
-  TextView sql_server;                // between the columns; empty where the engine rejects the code
+  TextView sql_server;  // between the columns; empty where the engine rejects the code
   TextView oracle, oracle_at_the_end;
 };
 

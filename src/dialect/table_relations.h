@@ -1,8 +1,8 @@
 // Joins written as conditions of the WHERE clause.
 #pragma once
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 
 namespace qvr::dialect {
 

@@ -48,8 +48,8 @@ struct OutputFile {
 struct Files {
   // Whether a directory search for the path (wildcards allowed) with this mask of file attributes finds anything.
   virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
-  virtual std::vector<Text> names(TextView folder) = 0;           // of its plain files; throws when it cannot be read
-  virtual std::unique_ptr<InputFile> open(TextView path) = 0;     // throws when it cannot be read
+  virtual std::vector<Text> names(TextView folder) = 0;        // of its plain files; throws when it cannot be read
+  virtual std::unique_ptr<InputFile> open(TextView path) = 0;  // throws when it cannot be read
   // A file that is there stays as it is until the new one is closed and takes its place. What is written until then
   // stands beside it, its name with ".tmp" behind, and stays there when it comes to no end. Where nothing can stand
   // beside it, or cannot take its place, it is written over, from the first byte that is written. Throws.

@@ -1,8 +1,8 @@
 #include "query/column_list.h"
 
+#include "base/failure.h"
 #include "dialect/clauses.h"
 #include "dialect/lists.h"
-#include "base/failure.h"
 #include "session/value_convert.h"
 
 namespace qvr::query {

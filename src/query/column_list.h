@@ -4,16 +4,16 @@
 #include <cstdint>
 #include <vector>
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 
 namespace qvr::query {
 
 // One column; its texts are the list's and stand until the list changes.
 struct Column {
   TextView expression;
-  TextView type;   // one letter, or none
-  TextView field;  // its name in a record set
+  TextView type;       // one letter, or none
+  TextView field;      // its name in a record set
   bool named = false;  // the statement gives it that name
 };
 

@@ -1,12 +1,12 @@
 #include "query/csql20.h"
 
-#include "dialect/clauses.h"
-#include "session/error_box.h"
-#include "dialect/table_relations.h"
 #include "base/failure.h"
+#include "dialect/clauses.h"
+#include "dialect/table_relations.h"
+#include "query/joins.h"
+#include "session/error_box.h"
 #include "session/global.h"
 #include "session/thread_state.h"
-#include "query/joins.h"
 
 namespace qvr {
 namespace {

@@ -56,21 +56,21 @@ class cSQL20 final : public iSQL20 {
   dialect::Engine MotorBD() const noexcept override { return fields_.engine; }
 
   // The texts of the members that are named behind them, for a union: it has to know when one could not be made. Throw.
-  Text current_statement() const;   // SQLSinOrden
-  Text original_statement() const;  // SQLOriginalSinOrden
+  Text current_statement() const;                                     // SQLSinOrden
+  Text original_statement() const;                                    // SQLOriginalSinOrden
   Text current_order_clause() const { return current_order(false); }  // ParteOrder
-  Text definition() const;          // TextoDefinicion
-  Text complete_criterion() const;  // CriterioActualCompleto
+  Text definition() const;                                            // TextoDefinicion
+  Text complete_criterion() const;                                    // CriterioActualCompleto
 
  private:
   struct Fields {
     Text name;
-    Text select;             // with keyword
+    Text select;                 // with keyword
     std::size_t columns_at = 0;  // where the columns begin in it
     query::ColumnList columns;
-    Text from;               // with keyword and a blank at both ends
-    Text where;              // without keyword, as the others
-    Text group_by;           // with keyword
+    Text from;      // with keyword and a blank at both ends
+    Text where;     // without keyword, as the others
+    Text group_by;  // with keyword
     std::int16_t grouped = 0;
     Text having;
     Text order;

@@ -1,10 +1,10 @@
 // A query as text, whole or only what was added to it.
 #include <utility>
 
-#include "session/error_box.h"
 #include "base/failure.h"
 #include "query/csql20.h"
 #include "query/definition_text.h"
+#include "session/error_box.h"
 
 namespace qvr {
 namespace {
@@ -13,9 +13,9 @@ constexpr TextView kVersion = u"cSQL20 1";
 constexpr TextView kCriterionMark = u"<*cSQL_CRI*>";
 
 constexpr TextView kEngine = u"MotorBD", kName = u"NombreObjeto", kDistinct = u"UsarDistinct", kTop = u"TOP",
-                   kHead = u"Cabecera", kExpression = u"Columna", kType = u"Tipo", kField = u"Campo",
-                   kFrom = u"FROM", kWhere = u"WHERE", kGrouped = u"NumColumnasGROUPBY", kHaving = u"HAVING",
-                   kOrder = u"ORDERBY", kAddedWhere = u"WHERE+", kAddedHaving = u"HAVING+", kAddedOrder = u"ORDERBY+",
+                   kHead = u"Cabecera", kExpression = u"Columna", kType = u"Tipo", kField = u"Campo", kFrom = u"FROM",
+                   kWhere = u"WHERE", kGrouped = u"NumColumnasGROUPBY", kHaving = u"HAVING", kOrder = u"ORDERBY",
+                   kAddedWhere = u"WHERE+", kAddedHaving = u"HAVING+", kAddedOrder = u"ORDERBY+",
                    kCriterion = u"Criterio";
 
 [[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kTypeMismatch); }
@@ -115,9 +115,8 @@ Text cSQL20::CriterioActualCompleto() const noexcept {
 
 Text cSQL20::complete_criterion() const {
   const Fields& f = fields_;
-  return join({query::escaped_marks(f.added_where.text()), kCriterionMark,
-               query::escaped_marks(f.added_having.text()), kCriterionMark, f.added_order.clicks(), kCriterionMark,
-               query::escaped_marks(f.criterion)});
+  return join({query::escaped_marks(f.added_where.text()), kCriterionMark, query::escaped_marks(f.added_having.text()),
+               kCriterionMark, f.added_order.clicks(), kCriterionMark, query::escaped_marks(f.criterion)});
 }
 
 void cSQL20::CriterioActualCompleto(TextView value) noexcept {

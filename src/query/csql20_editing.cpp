@@ -1,12 +1,12 @@
 // What is added to a query after its creation, taken away again or made part of it.
 #include <utility>
 
-#include "dialect/clauses.h"
-#include "session/error_box.h"
 #include "base/failure.h"
-#include "session/global.h"
+#include "dialect/clauses.h"
 #include "query/csql20.h"
 #include "query/search_text.h"
+#include "session/error_box.h"
+#include "session/global.h"
 
 namespace qvr {
 namespace {

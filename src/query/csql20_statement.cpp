@@ -1,8 +1,8 @@
 // The query's current and original texts, put together from the clauses that it holds.
-#include "dialect/clauses.h"
-#include "session/error_box.h"
 #include "base/failure.h"
+#include "dialect/clauses.h"
 #include "query/csql20.h"
+#include "session/error_box.h"
 
 namespace qvr {
 namespace {
@@ -18,8 +18,8 @@ void cSQL20::append_where(Text& statement, bool condition_only) const {
   const TextView original = fields_.where, added = fields_.added_where.text();
   const bool any_original = !is_blank(original), any_added = !is_blank(added);
   const bool limited = fields_.top > 0;
-  const Text limit =
-      limited ? dialect::CondicionRowNum(fields_.engine, fields_.top, any_original || any_added) : Text();
+  const Text limit = limited ? dialect::CondicionRowNum(fields_.engine, fields_.top, any_original || any_added)
+                             : Text();
   if (!any_original && !any_added && limit.empty()) return;
   if (!condition_only) statement += u"WHERE ";
   if (any_original) statement += original;

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "dialect/engine.h"
 #include "base/value.h"
+#include "dialect/engine.h"
 
 namespace qvr {
 

@@ -80,9 +80,7 @@ AtomParser::Found AtomParser::compared(Comparison comparison, TextView operand) 
 }
 
 // Long texts of these engines know nothing but LIKE.
-bool AtomParser::can_be_compared() const {
-  return type_ != SearchType::Memo || engine_ == dialect::kJet;
-}
+bool AtomParser::can_be_compared() const { return type_ != SearchType::Memo || engine_ == dialect::kJet; }
 
 AtomParser::Found AtomParser::compared_text(Comparison comparison, TextView operand) const {
   if (is_equality(comparison)) {
@@ -122,9 +120,7 @@ AtomParser::Found AtomParser::compared_date(Comparison comparison, TextView oper
   if (!period->whole_days || is_one_day(*period)) {
     return one(CompareDate{comparison, period->from, period->to, period->whole_days, period->with_seconds});
   }
-  const auto day = [](Comparison how, Moment moment) {
-    return CompareDate{how, moment, {moment.day + 1, 0}, true};
-  };
+  const auto day = [](Comparison how, Moment moment) { return CompareDate{how, moment, {moment.day + 1, 0}, true}; };
   const Moment first = period->from, last = day_before(period->to);
   switch (comparison) {
     case Comparison::Equal:

@@ -25,7 +25,7 @@ struct IsEmpty {  // an empty text, or none
 };
 struct CompareText {
   Comparison comparison;
-  Operand operand;        // without wildcards
+  Operand operand;                  // without wildcards
   bool and_what_begins_so = false;  // an upper bound that includes all that begins with it
 };
 struct Like {

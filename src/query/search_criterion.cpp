@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "session/global.h"
 #include "query/search_operands.h"
 #include "query/search_split.h"
+#include "session/global.h"
 
 namespace qvr::query {
 namespace {

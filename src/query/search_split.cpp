@@ -153,10 +153,10 @@ class Splitter {
   SearchType type_;
   std::vector<SearchPiece> pieces_;
   std::size_t at_ = 0, begin_ = 0, operand_ = 0;
-  std::size_t text_ = 0;           // where the piece begins, its leading blanks left out
-  bool open_ended_ = false;        // a double quote that is never closed was seen
-  bool range_and_ahead_ = false;   // the next "and" joins the ends of a range
-  bool dots_ahead_ = false;        // and so would the next two points
+  std::size_t text_ = 0;          // where the piece begins, its leading blanks left out
+  bool open_ended_ = false;       // a double quote that is never closed was seen
+  bool range_and_ahead_ = false;  // the next "and" joins the ends of a range
+  bool dots_ahead_ = false;       // and so would the next two points
 };
 
 }  // namespace

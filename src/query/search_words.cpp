@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "session/thread_state.h"
 #include "query/search_input.h"
+#include "session/thread_state.h"
 
 namespace qvr::query {
 namespace {
@@ -25,7 +25,7 @@ constexpr TextView kFalse[] = {u"no", u"n", u"non", u"falso", u"false", u"faux",
 constexpr struct {
   TextView word;
   int days;
-} kDays[] = {{u"hoy", 0},   {u"ayer", -1},      {u"ma\u00f1ana", 1},      {u"today", 0}, {u"yesterday", -1},
+} kDays[] = {{u"hoy", 0},      {u"ayer", -1},       {u"ma\u00f1ana", 1},      {u"today", 0}, {u"yesterday", -1},
              {u"tomorrow", 1}, {u"aujourd'hui", 0}, {u"aujourd\u2019hui", 0}, {u"hier", -1}, {u"demain", 1}};
 
 bool any_equal(std::span<const TextView> words, TextView text) {

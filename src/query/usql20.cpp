@@ -141,9 +141,7 @@ Text uSQL20::ParteOrder(bool SinClausula) const noexcept {
   return members_.empty() ? Text() : members_.front()->ParteOrder(SinClausula);
 }
 
-Text uSQL20::CriterioActual() const noexcept {
-  return members_.empty() ? Text() : members_.front()->CriterioActual();
-}
+Text uSQL20::CriterioActual() const noexcept { return members_.empty() ? Text() : members_.front()->CriterioActual(); }
 
 std::int16_t uSQL20::NumColumna(TextView NombreCampoRS) const noexcept {
   return members_.empty() ? std::int16_t{0} : members_.front()->NumColumna(NombreCampoRS);

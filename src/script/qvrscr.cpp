@@ -1,10 +1,10 @@
 #include "script/qvrscr.h"
 
 #include "base/failure.h"
+#include "script/script_run.h"
+#include "session/failure_report.h"
 #include "session/global.h"
 #include "session/thread_state.h"
-#include "session/failure_report.h"
-#include "script/script_run.h"
 
 namespace qvr {
 namespace {

@@ -1,9 +1,9 @@
 // The members that put scripts together.
 #include "base/failure.h"
-#include "session/thread_state.h"
 #include "script/qvrscr.h"
 #include "script/script_files.h"
 #include "script/script_preparation.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

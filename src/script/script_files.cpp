@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "session/global.h"
 #include "base/number_text.h"
-#include "session/thread_state.h"
 #include "base/wildcards.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

@@ -1,8 +1,8 @@
 #include "script/script_preparation.h"
 
 #include "base/date_text.h"
-#include "session/thread_state.h"
 #include "script/word_search.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {
@@ -23,8 +23,8 @@ constexpr Rewrite kEncryption[] = {
 };
 
 void tell_step(ScriptEvents& events, std::size_t step, std::size_t of) {
-  events.Progreso(join({u"Procesando ", decimal(static_cast<std::int64_t>(step)), u"/",
-                        decimal(static_cast<std::int64_t>(of))}));
+  events.Progreso(
+      join({u"Procesando ", decimal(static_cast<std::int64_t>(step)), u"/", decimal(static_cast<std::int64_t>(of))}));
 }
 
 // Counted first, so that there is room for the new text and no more: with the old one that makes two texts at one time,

@@ -1,10 +1,10 @@
 #include "script/script_run.h"
 
 #include "base/failure.h"
-#include "session/global.h"
-#include "session/thread_state.h"
 #include "script/command_splitter.h"
 #include "session/failure_report.h"
+#include "session/global.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {
@@ -72,11 +72,13 @@ void ScriptRun::complete() {
 void ScriptRun::abandon() noexcept {
   const auto reporting = [this](const FailureDetail& failure) { report(failure); };
   if (transaction_open_) {
-    or_reported(false, [this] { return connection_->rollback_trans(), true; }, reporting);
+    or_reported(
+        false, [this] { return connection_->rollback_trans(), true; }, reporting);
     transaction_open_ = false;
   }
   if (connection_open_) {
-    or_reported(false, [this] { return connection_->close(), true; }, reporting);
+    or_reported(
+        false, [this] { return connection_->close(), true; }, reporting);
     connection_open_ = false;
   }
   connection_.reset();

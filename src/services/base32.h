@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
-#include "platform/platform.h"
 #include "base/text.h"
+#include "platform/platform.h"
 
 namespace qvr::services {
 

@@ -18,12 +18,12 @@ struct NativeError {
 };
 
 constexpr NativeError kNativeErrors[] = {
-    {kJet, -1605, Kind::DuplicateRecord},       {kJet, -105121349, Kind::DuplicateRecord},
-    {kJet, -1811, Kind::ServerNotFound},        {kSqlServer, 2601, Kind::DuplicateRecord},
-    {kSqlServer, 2627, Kind::DuplicateRecord},  {kSqlServer, 17, Kind::ServerNotFound},
-    {kSqlServer, 53, Kind::ServerNotFound},     {kOracle, 1, Kind::DuplicateRecord},
-    {kOracle, 12154, Kind::ServerNotFound},     {kOracle, 12170, Kind::ServerNotFound},
-    {kOracle, 12514, Kind::ServerNotFound},     {kOracle, 12535, Kind::ServerNotFound},
+    {kJet, -1605, Kind::DuplicateRecord},      {kJet, -105121349, Kind::DuplicateRecord},
+    {kJet, -1811, Kind::ServerNotFound},       {kSqlServer, 2601, Kind::DuplicateRecord},
+    {kSqlServer, 2627, Kind::DuplicateRecord}, {kSqlServer, 17, Kind::ServerNotFound},
+    {kSqlServer, 53, Kind::ServerNotFound},    {kOracle, 1, Kind::DuplicateRecord},
+    {kOracle, 12154, Kind::ServerNotFound},    {kOracle, 12170, Kind::ServerNotFound},
+    {kOracle, 12514, Kind::ServerNotFound},    {kOracle, 12535, Kind::ServerNotFound},
     {kOracle, 12541, Kind::ServerNotFound},
 };
 
@@ -33,8 +33,8 @@ struct State {
 };
 
 constexpr State kStates[] = {
-    {u"23505", Kind::DuplicateRecord}, {u"3022", Kind::DuplicateRecord},  {u"08001", Kind::ServerNotFound},
-    {u"08004", Kind::ServerNotFound},  {u"08S01", Kind::ServerNotFound},  {u"IM002", Kind::ServerNotFound},
+    {u"23505", Kind::DuplicateRecord}, {u"3022", Kind::DuplicateRecord}, {u"08001", Kind::ServerNotFound},
+    {u"08004", Kind::ServerNotFound},  {u"08S01", Kind::ServerNotFound}, {u"IM002", Kind::ServerNotFound},
 };
 
 const Text& caption_for(const AdoError& error, std::int32_t motor, const Captions& captions) {

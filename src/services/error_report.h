@@ -20,11 +20,11 @@ struct Captions {
 
 struct ErrorNotice {
   FailureDetail failure;
-  std::int32_t motor = 0;         // engine selector, as the caller gave it
-  Text label;                     // the operation that failed
-  Text object;                    // what it worked on; empty where the label says it
+  std::int32_t motor = 0;  // engine selector, as the caller gave it
+  Text label;              // the operation that failed
+  Text object;             // what it worked on; empty where the label says it
   Captions captions;
-  std::vector<AdoError> errors;   // of the ADO connection, in order
+  std::vector<AdoError> errors;  // of the ADO connection, in order
 };
 
 class ErrorReport {

@@ -11,8 +11,9 @@ namespace {
 // a failure of ADO's own, or of the library, they are those of some former call: then none has the failure's number.
 std::vector<services::AdoError> errors_behind(const FailureDetail& failure, services::AdoConnection& connection) {
   auto errors = connection.errors();
-  const bool of_this_call = std::ranges::any_of(
-      errors, [&](const services::AdoError& error) { return error.number == failure.number; });
+  const bool of_this_call = std::ranges::any_of(errors, [&](const services::AdoError& error) {
+    return error.number == failure.number;
+  });
   if (!of_this_call) errors.clear();
   return errors;
 }

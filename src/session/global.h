@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <span>
 
-#include "session/catalogue.h"
 #include "base/value.h"
+#include "session/catalogue.h"
 
 namespace qvr {
 

@@ -31,8 +31,8 @@ bool IdiomaSimple::load(std::int32_t idioma, std::vector<Value> idiomas, const T
   message_count_ = mensajes.rows();
   current_ = nearest_available(idioma);
   catalogue_ = mensajes;
-  const auto column = std::ranges::find_if(
-      available_, [this](const Value& number) { return to_number(number) == current_; });
+  const auto column = std::ranges::find_if(available_,
+                                           [this](const Value& number) { return to_number(number) == current_; });
   if (column == available_.end()) return false;
   std::vector<Text> texts;
   texts.reserve(static_cast<std::size_t>(message_count_));
@@ -62,8 +62,8 @@ std::int32_t IdiomaSimple::nearest_available(std::int32_t idioma) const noexcept
     for (const Value& number : available_) {
       if (to_number(number) == idioma) return idioma;
     }
-    const bool reads_spanish =
-        idioma == language::kItalian || (idioma >= language::kCatalan && idioma <= language::kPortuguese);
+    const bool reads_spanish = idioma == language::kItalian ||
+                               (idioma >= language::kCatalan && idioma <= language::kPortuguese);
     return reads_spanish ? language::kSpanish : language::kEnglish;
   });
 }

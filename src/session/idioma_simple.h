@@ -7,9 +7,9 @@
 #include <span>
 #include <vector>
 
-#include "session/catalogue.h"
-#include "platform/platform.h"
 #include "base/value.h"
+#include "platform/platform.h"
+#include "session/catalogue.h"
 
 namespace qvr {
 

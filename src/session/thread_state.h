@@ -5,12 +5,12 @@
 #include <memory>
 #include <optional>
 
-#include "session/idioma_simple.h"
 #include "platform/platform.h"
 #include "services/ado.h"
 #include "services/error_report.h"
 #include "services/script_reader.h"
 #include "services/text_protection.h"
+#include "session/idioma_simple.h"
 
 namespace qvr {
 

@@ -46,8 +46,11 @@ TEST_P(AdoFailures, EndTheRunInOrder) {
     EXPECT_EQ(calls, row.calls) << faulty.calls();
     EXPECT_EQ(test_ado().can_unload(), S_OK) << "an ADO object was left behind";
   }
-  EXPECT_EQ(describe(runner.call(L"EjecutarComandos", {L"", 2, L"create table Later(N int)\r\nGO\r\n",
-                                                       database.connection_string()}).value.raw()), "BOOL true");
+  EXPECT_EQ(describe(runner
+                         .call(L"EjecutarComandos",
+                               {L"", 2, L"create table Later(N int)\r\nGO\r\n", database.connection_string()})
+                         .value.raw()),
+            "BOOL true");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -65,7 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Failing{L"", "Open BeginTrans CommitTrans Close ", 0, true}),
     [](const auto& row) {
       std::string name = narrow(row.param.where);
-      std::ranges::replace_if(name, [](char c) { return c == ':' || c == ','; }, '_');
+      std::ranges::replace_if(
+          name, [](char c) { return c == ':' || c == ','; }, '_');
       return name.empty() ? "Nowhere" : name;
     });
 

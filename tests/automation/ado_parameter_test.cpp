@@ -21,8 +21,7 @@ TEST_F(AdoParameter, CanBeMadeOnItsOwn) {
   EXPECT_EQ(made.put(L"Name", L"@p").result, S_OK);
   const LateObject all{ComPtr<IDispatch>(command.get(L"Parameters").value.raw().pdispVal)};
   EXPECT_EQ(all.call(L"Append", {made.get()}).result, S_OK);
-  EXPECT_EQ(described_parameter(command, 0),
-            "@p: type 3, size 0, precision 0, scale 0, direction 1, Empty");
+  EXPECT_EQ(described_parameter(command, 0), "@p: type 3, size 0, precision 0, scale 0, direction 1, Empty");
 }
 
 TEST_F(AdoParameter, HasTheTypeThatFitsTheEngine) {
@@ -30,18 +29,19 @@ TEST_F(AdoParameter, HasTheTypeThatFitsTheEngine) {
        {TypeRow{2, {L"INT"}, "@p: type 3, size 0, precision 10, scale 0, direction 1, I4 5"},
         TypeRow{2, {L"bit", L"@b", true}, "@b: type 11, size 0, precision 0, scale 0, direction 1, BOOL true"},
         TypeRow{2, {L"Real", L"@r", 0.5}, "@r: type 4, size 0, precision 0, scale 0, direction 1, R4 0.5"},
-        TypeRow{2, {L"nvarchar", L"@n", L"Ana", 50},
-                "@n: type 202, size 50, precision 0, scale 0, direction 1, BSTR Ana"},
-        TypeRow{2, {L"DateTime", L"@d", Var::date(40548.5), 0, 3},
+        TypeRow{
+            2, {L"nvarchar", L"@n", L"Ana", 50}, "@n: type 202, size 50, precision 0, scale 0, direction 1, BSTR Ana"},
+        TypeRow{2,
+                {L"DateTime", L"@d", Var::date(40548.5), 0, 3},
                 "@d: type 135, size 0, precision 0, scale 0, direction 3, DATE 40548.500000"},
-        TypeRow{2, {L"INT", L"", Var::null(), 0, 4},
-                ": type 3, size 0, precision 10, scale 0, direction 4, Null"},
+        TypeRow{2, {L"INT", L"", Var::null(), 0, 4}, ": type 3, size 0, precision 10, scale 0, direction 4, Null"},
         TypeRow{3, {L"int"}, "@p: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 5"},
         TypeRow{3, {L"BIT", L"@b", 1}, "@b: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 1"},
         TypeRow{3, {L"REAL", L"@r", 0.5}, "@r: type 5, size 0, precision 15, scale 0, direction 1, R8 0.500000"},
-        TypeRow{3, {L"nvarchar", L"@n", L"Ana", 50},
-                "@n: type 200, size 100, precision 0, scale 0, direction 1, BSTR Ana"},
-        TypeRow{3, {L"DATETIME", L"@d", Var::date(40548), 0, 2},
+        TypeRow{
+            3, {L"nvarchar", L"@n", L"Ana", 50}, "@n: type 200, size 100, precision 0, scale 0, direction 1, BSTR Ana"},
+        TypeRow{3,
+                {L"DATETIME", L"@d", Var::date(40548), 0, 2},
                 "@d: type 135, size 0, precision 0, scale 0, direction 2, DATE 40548.000000"}}) {
     SCOPED_TRACE(std::to_string(row.engine) + " " + narrow(row.request.type.text()));
     host.use(row.engine);
@@ -68,12 +68,11 @@ TEST_F(AdoParameter, ArgumentsMayBeLeftOut) {
   VARIANT_BOOL done = 0;
   EXPECT_EQ(host.slots()->AgregarParametroADO(&raw, &type, &name, nullptr, nullptr, nullptr, &done), S_OK);
   EXPECT_EQ(done, VARIANT_TRUE);
-  const char* const expected[] = {
-      "@a: type 3, size 0, precision 10, scale 0, direction 1, Empty",
-      "@b: type 202, size 7, precision 0, scale 0, direction 1, Empty",
-      "@c: type 3, size 0, precision 10, scale 0, direction 3, I4 5",
-      "@d: type 202, size 9, precision 0, scale 0, direction 2, Empty",
-      "@e: type 3, size 0, precision 10, scale 0, direction 1, Empty"};
+  const char* const expected[] = {"@a: type 3, size 0, precision 10, scale 0, direction 1, Empty",
+                                  "@b: type 202, size 7, precision 0, scale 0, direction 1, Empty",
+                                  "@c: type 3, size 0, precision 10, scale 0, direction 3, I4 5",
+                                  "@d: type 202, size 9, precision 0, scale 0, direction 2, Empty",
+                                  "@e: type 3, size 0, precision 10, scale 0, direction 1, Empty"};
   ASSERT_EQ(count_of_parameters(command), 5);
   for (int i = 0; i < 5; ++i) EXPECT_EQ(described_parameter(command, i), expected[i]);
   EXPECT_EQ(host.object().call(L"AgregarParametroADO", {target, L"INT"}).result, DISP_E_PARAMNOTOPTIONAL);
@@ -89,10 +88,10 @@ TEST_F(AdoParameter, AScriptsVariables) {
   }
   const LateAnswer answer = host.object().call(L"AgregarParametroADO", passed);
   EXPECT_EQ(describe(answer.value.raw()), "BOOL true");
-  EXPECT_EQ(described_parameter(command, 0),
-            "@p: type 3, size 0, precision 10, scale 0, direction 2, I4 7");
+  EXPECT_EQ(described_parameter(command, 0), "@p: type 3, size 0, precision 10, scale 0, direction 2, I4 7");
   EXPECT_EQ(describe(value.raw()) + ", " + describe(width.raw()) + ", " + describe(direction.raw()),
-            "BSTR 7, Empty, BSTR 2") << "no variable is changed";
+            "BSTR 7, Empty, BSTR 2")
+      << "no variable is changed";
 }
 
 TEST_F(AdoParameter, AHostsOwnProcedureCall) {

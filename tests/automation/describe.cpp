@@ -12,11 +12,29 @@ struct TypeName {
 };
 
 constexpr TypeName kTypeNames[] = {
-    {VT_EMPTY, "Empty"},       {VT_NULL, "Null"},   {VT_I2, "I2"},     {VT_I4, "I4"},           {VT_R4, "R4"},
-    {VT_R8, "R8"},             {VT_CY, "CY"},       {VT_DATE, "DATE"}, {VT_BSTR, "BSTR"},       {VT_ERROR, "ERROR"},
-    {VT_DISPATCH, "DISPATCH"}, {VT_BOOL, "BOOL"},   {VT_I1, "I1"},     {VT_VARIANT, "VARIANT"}, {VT_UI1, "UI1"},
-    {VT_UNKNOWN, "UNKNOWN"},   {VT_UI2, "UI2"},     {VT_UI4, "UI4"},   {VT_DECIMAL, "DECIMAL"}, {VT_I8, "I8"},
-    {VT_UI8, "UI8"},           {VT_INT, "INT"},     {VT_UINT, "UINT"},
+    {VT_EMPTY, "Empty"},
+    {VT_NULL, "Null"},
+    {VT_I2, "I2"},
+    {VT_I4, "I4"},
+    {VT_R4, "R4"},
+    {VT_R8, "R8"},
+    {VT_CY, "CY"},
+    {VT_DATE, "DATE"},
+    {VT_BSTR, "BSTR"},
+    {VT_ERROR, "ERROR"},
+    {VT_DISPATCH, "DISPATCH"},
+    {VT_BOOL, "BOOL"},
+    {VT_I1, "I1"},
+    {VT_VARIANT, "VARIANT"},
+    {VT_UI1, "UI1"},
+    {VT_UNKNOWN, "UNKNOWN"},
+    {VT_UI2, "UI2"},
+    {VT_UI4, "UI4"},
+    {VT_DECIMAL, "DECIMAL"},
+    {VT_I8, "I8"},
+    {VT_UI8, "UI8"},
+    {VT_INT, "INT"},
+    {VT_UINT, "UINT"},
 };
 
 std::string name_of(VARTYPE type) {

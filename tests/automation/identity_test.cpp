@@ -88,15 +88,15 @@ TEST_P(EveryClass, KeepsTheLibraryLoadedWhileItLives) {
   EXPECT_EQ(library().can_unload(), S_OK);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Library, EveryClass,
-    testing::Values(ClassUnderTest{"Ov", L"QVRlib21.Ov", CLSID_Ov, IID__Ov, false},
-                    ClassUnderTest{"QVRcfp", L"QVRlib21.QVRcfp", CLSID_QVRcfp, IID__QVRcfp, false},
-                    ClassUnderTest{"QVRScr", L"QVRlib21.QVRScr", CLSID_QVRScr, IID__QVRScr, true},
-                    ClassUnderTest{"cSQL20", L"QVRlib21.cSQL20", CLSID_cSQL20, IID__cSQL20, false},
-                    ClassUnderTest{"uSQL20", L"QVRlib21.uSQL20", CLSID_uSQL20, IID__uSQL20, false},
-                    ClassUnderTest{"QVRprp", L"QVRlib21.QVRprp", CLSID_QVRprp, IID__QVRprp, false}),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Library, EveryClass,
+                         testing::Values(ClassUnderTest{"Ov", L"QVRlib21.Ov", CLSID_Ov, IID__Ov, false},
+                                         ClassUnderTest{"QVRcfp", L"QVRlib21.QVRcfp", CLSID_QVRcfp, IID__QVRcfp, false},
+                                         ClassUnderTest{"QVRScr", L"QVRlib21.QVRScr", CLSID_QVRScr, IID__QVRScr, true},
+                                         ClassUnderTest{"cSQL20", L"QVRlib21.cSQL20", CLSID_cSQL20, IID__cSQL20, false},
+                                         ClassUnderTest{"uSQL20", L"QVRlib21.uSQL20", CLSID_uSQL20, IID__uSQL20, false},
+                                         ClassUnderTest{"QVRprp", L"QVRlib21.QVRprp", CLSID_QVRprp, IID__QVRprp,
+                                                        false}),
+                         [](const auto& row) { return row.param.name; });
 
 TEST(ClassObjects, OfUnknownClassesDoNotExist) {
   void* none = &none;

@@ -209,11 +209,11 @@ TEST(Leaks, ScriptsLoadedAndRefused) {
   expect_no_leak([&] {
     const LateObject runner(L"QVRlib21.QVRScr");
     Connected connected(runner);
-    const LateAnswer loaded = runner.call(
-        L"CargarDefinicion", {L"id", 2, folder.path(), L"Gestion", L"BD", L"a", L"b", L"c", L"d", true});
+    const LateAnswer loaded = runner.call(L"CargarDefinicion",
+                                          {L"id", 2, folder.path(), L"Gestion", L"BD", L"a", L"b", L"c", L"d", true});
     EXPECT_NE(describe(loaded.value.raw()), "BSTR ");
-    const LateAnswer refused = runner.call(
-        L"CargarActualizacion", {L"id", 2, folder.path(), L"Gestion", 1, L"BD", L"a", L"b", L"c", L"d", true});
+    const LateAnswer refused = runner.call(L"CargarActualizacion", {L"id", 2, folder.path(), L"Gestion", 1, L"BD", L"a",
+                                                                    L"b", L"c", L"d", true});
     EXPECT_EQ(describe(refused.value.raw()), "BSTR ");
   });
 }

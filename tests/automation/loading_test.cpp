@@ -30,9 +30,9 @@ struct Loading : testing::Test {
     VARIANT_BOOL encrypt = VARIANT_FALSE;
     const HRESULT status = early->CargarActualizacion(&id, &engine, &path, &name, &version, &database, &admin,
                                                       &admin_key, &client, &client_key, &encrypt, &result);
-    const LateAnswer answer =
-        late.call(L"CargarActualizacion", {id.get(), 2, folder, L"Gestion", static_cast<int>(version), database.get(),
-                                           admin.get(), admin_key.get(), client.get(), client_key.get(), false});
+    const LateAnswer answer = late.call(L"CargarActualizacion",
+                                        {id.get(), 2, folder, L"Gestion", static_cast<int>(version), database.get(),
+                                         admin.get(), admin_key.get(), client.get(), client_key.get(), false});
     expect_same(answer, status, early_result(result), expected);
   }
 };
@@ -40,14 +40,20 @@ struct Loading : testing::Test {
 TEST_F(Loading, ADefinitionInTheOrderOfItsNames) {
   ScriptFolder folder(L"definition");
   folder.write(L"GestionSQL2.cfc", "USE [nombrebd]\r\nGO\r\n");
-  folder.write(L"GestionSQL1.cfc", "\xEF\xBB\xBF-- ma\xC3\xB1""ana\nGO\n");
+  folder.write(L"GestionSQL1.cfc",
+               "\xEF\xBB\xBF-- ma\xC3\xB1"
+               "ana\nGO\n");
   folder.write(L"GestionSQL10.cfc", "never\r\nGO\r\n");
   Connected connected(late);
   expect_definition(folder.path(), 2, false, "BSTR -- ma\u00f1ana\r\nGO\r\n\r\nUSE Gesti\u00f3n\r\nGO\r\n\r\n");
-  const std::vector<std::string> expected{
-      "Progreso BSTR* Procesando GestionSQL1.cfc", "Progreso BSTR* Procesando GestionSQL2.cfc",
-      "Progreso BSTR* Procesando 1/6", "Progreso BSTR* Procesando 3/6", "Progreso BSTR* Procesando 4/6",
-      "Progreso BSTR* Procesando 5/6", "Progreso BSTR* Procesando 6/6", "Terminado BOOL* true"};
+  const std::vector<std::string> expected{"Progreso BSTR* Procesando GestionSQL1.cfc",
+                                          "Progreso BSTR* Procesando GestionSQL2.cfc",
+                                          "Progreso BSTR* Procesando 1/6",
+                                          "Progreso BSTR* Procesando 3/6",
+                                          "Progreso BSTR* Procesando 4/6",
+                                          "Progreso BSTR* Procesando 5/6",
+                                          "Progreso BSTR* Procesando 6/6",
+                                          "Terminado BOOL* true"};
   EXPECT_EQ(connected.events(), expected);
 }
 

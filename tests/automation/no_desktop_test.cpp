@@ -86,8 +86,8 @@ TEST_F(NoDesktop, AFailedRunEndsAsIfSomebodyHadSaidNo) {
     Database database;
     const LateObject runner(L"QVRlib21.QVRScr");
     Connected connected(runner);
-    const LateAnswer answer = runner.call(
-        L"EjecutarComandos", {L"id", 2, L"nonsense\r\nGO\r\nselect 1\r\nGO\r\n", database.connection_string()});
+    const LateAnswer answer = runner.call(L"EjecutarComandos", {L"id", 2, L"nonsense\r\nGO\r\nselect 1\r\nGO\r\n",
+                                                                database.connection_string()});
     EXPECT_EQ(describe(answer.value.raw()), "BOOL false");
     EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   });

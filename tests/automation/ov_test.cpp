@@ -41,8 +41,8 @@ TEST_F(OvTest, VersionResourceCarriesTheSameNumbers) {
   VS_FIXEDFILEINFO* info = nullptr;
   UINT size = 0;
   ASSERT_TRUE(VerQueryValueW(data.data(), L"\\", reinterpret_cast<void**>(&info), &size));
-  const DWORD version =
-      HIWORD(info->dwFileVersionMS) * 10000u + LOWORD(info->dwFileVersionMS) * 100u + HIWORD(info->dwFileVersionLS);
+  const DWORD version = HIWORD(info->dwFileVersionMS) * 10000u + LOWORD(info->dwFileVersionMS) * 100u +
+                        HIWORD(info->dwFileVersionLS);
   long result = 0;
   early->Version(&result);
   EXPECT_EQ(static_cast<long>(version), result);

@@ -19,9 +19,7 @@ std::string described_parameter(const LateObject& command, int index) {
          number(L"Direction") + ", " + describe(one.get(L"Value").value.raw());
 }
 
-long count_of_parameters(const LateObject& command) {
-  return parameters_of(command).get(L"Count").value.raw().lVal;
-}
+long count_of_parameters(const LateObject& command) { return parameters_of(command).get(L"Count").value.raw().lVal; }
 
 void ParameterHost::use(int engine) const {
   const LateAnswer done = cfp_.call(L"Asignar", {L"id", engine, L"", L"", L"", L"", L"", L"", L"", L""});
@@ -39,7 +37,8 @@ std::string ParameterHost::append_early(IDispatch* command, ParameterRequest r) 
   auto direction = static_cast<ParameterDirectionEnum>(r.direction.raw().lVal);
   VARIANT_BOOL done = 2;  // neither of the two
   EXPECT_EQ(slots()->AgregarParametroADO(&raw, &r.type.raw().bstrVal, &r.name.raw().bstrVal, &r.value.raw(),
-                                         &r.width.raw().lVal, &direction, &done), S_OK);
+                                         &r.width.raw().lVal, &direction, &done),
+            S_OK);
   return describe(early_result(done).raw());
 }
 

@@ -13,8 +13,7 @@ class ProcedureCall : public ProcedureCalls {
     database.define(L"Alta", {{L"@Nombre", ado::kVarWChar, ado::kInput, 50}, {L"@Id", ado::kInteger, ado::kOutput}},
                     {{L"insert into Clientes(Nombre) values(@Nombre)"},
                      {L"select max(Id) from Clientes where Nombre = @Nombre", 2}});
-    database.define(L"Rechazo", {{L"@Dato", ado::kInteger, ado::kInputOutput}},
-                    {{L"select 99", 1}, {L"select -4", 0}});
+    database.define(L"Rechazo", {{L"@Dato", ado::kInteger, ado::kInputOutput}}, {{L"select 99", 1}, {L"select -4", 0}});
   }
 
   // False both early and late, with one box each; the texts of the boxes.
@@ -74,8 +73,9 @@ TEST_F(ProcedureCall, AsksAdoForNoMoreThanItNeeds) {
   const FaultyAdo log(L"");
   Var parameters = array_of({L"Ana", 0});
   EXPECT_TRUE(call_early(connection.get(), L"Alta", &parameters.raw()));
-  EXPECT_EQ(log.calls(), "CreateCommand\nActiveConnection\nCommandText\nCommandType\nParameters.Refresh\n"
-                         "Parameter.Value\nParameter.Value\nExecute Alta\n");
+  EXPECT_EQ(log.calls(),
+            "CreateCommand\nActiveConnection\nCommandText\nCommandType\nParameters.Refresh\n"
+            "Parameter.Value\nParameter.Value\nExecute Alta\n");
 }
 
 TEST_F(ProcedureCall, OtherEnginesTouchNothing) {
@@ -96,7 +96,8 @@ TEST_F(ProcedureCall, OtherEnginesTouchNothing) {
 TEST_F(ProcedureCall, AnUnknownProcedureIsReported) {
   EXPECT_EQ(narrow(failed(connection.get(), L"NoExiste", array_of({1}))),
             narrow(report(L"Error -2147217839: The provider cannot tell the command's parameters. "
-                          L"(Microsoft OLE DB Provider for ODBC Drivers)", L"NoExiste")));
+                          L"(Microsoft OLE DB Provider for ODBC Drivers)",
+                          L"NoExiste")));
 }
 
 TEST_F(ProcedureCall, NothingOrAClosedConnectionIsReported) {
@@ -117,11 +118,11 @@ TEST_F(ProcedureCall, AFailureInsideTheProcedureIsReportedWithWhatTheProviderSay
 }
 
 TEST_F(ProcedureCall, ValuesThatDoNotFitAreReported) {
-  const std::wstring conversion =
-      report(L"Error 3421: The value does not fit the type it is meant for. (ADODB.Parameter)", L"Rechazo");
+  const std::wstring conversion = report(
+      L"Error 3421: The value does not fit the type it is meant for. (ADODB.Parameter)", L"Rechazo");
   EXPECT_EQ(failed(connection.get(), L"Rechazo", array_of({L"abc"})), conversion);
-  const std::wstring position =
-      report(L"Error 3265: The collection has no item of this name or position. (ADODB.Parameters)", L"Rechazo");
+  const std::wstring position = report(
+      L"Error 3265: The collection has no item of this name or position. (ADODB.Parameters)", L"Rechazo");
   EXPECT_EQ(failed(connection.get(), L"Rechazo", array_of({1, 2})), position);
   EXPECT_EQ(failed(connection.get(), L"Rechazo", array_of({1}, -3)), position);
 }

@@ -79,9 +79,21 @@ TEST_F(ProcedureObjects, BinaryDataGoesInAndComesOutAsBytes) {
 
 TEST_F(ProcedureObjects, ValuesGoInAsTheElementsAre) {
   const LateObject object(L"QVRlib21.Ov");
-  const std::vector<Var> values{Var(200).as(VT_UI1), short{-7}, 12, Var(0.5).as(VT_R4), -2.5, Var(L"1.5").as(VT_CY),
-                                Var(L"2.25").as(VT_DECIMAL), Var::date(40548.5), L"Ana", true, Var::null(), Var(),
-                                Var(5).as(VT_I8), object.get(), Var::error(7)};
+  const std::vector<Var> values{Var(200).as(VT_UI1),
+                                short{-7},
+                                12,
+                                Var(0.5).as(VT_R4),
+                                -2.5,
+                                Var(L"1.5").as(VT_CY),
+                                Var(L"2.25").as(VT_DECIMAL),
+                                Var::date(40548.5),
+                                L"Ana",
+                                true,
+                                Var::null(),
+                                Var(),
+                                Var(5).as(VT_I8),
+                                object.get(),
+                                Var::error(7)};
   std::vector<std::string> expected;
   for (const Var& value : values) expected.push_back(describe(value.raw()));
   const ScriptedCommand command({1});
@@ -108,10 +120,10 @@ TEST_F(ProcedureObjects, AVariableThatTheHostChangesMeanwhileKeepsTheHostsValue)
     Var during;
     const char* after;
   };
-  for (const Row& row : {Row{Var(L"text"), "BSTR text"}, Row{Var(), "Empty"}, Row{array_of({1}), "VARIANT(0) {I4 1}"},
-                         Row{array_of({1, 2}, 1), "VARIANT(1) {I4 1; I4 2}"},
-                         Row{square_array(), "VARIANT() of 2 dimensions"},
-                         Row{no_array(VT_I4), "I4() none"}, Row{array_of({1, 2}, 0, VT_I4), "I4(0) {I4 5; I4 6}"}}) {
+  for (const Row& row :
+       {Row{Var(L"text"), "BSTR text"}, Row{Var(), "Empty"}, Row{array_of({1}), "VARIANT(0) {I4 1}"},
+        Row{array_of({1, 2}, 1), "VARIANT(1) {I4 1; I4 2}"}, Row{square_array(), "VARIANT() of 2 dimensions"},
+        Row{no_array(VT_I4), "I4() none"}, Row{array_of({1, 2}, 0, VT_I4), "I4(0) {I4 5; I4 6}"}}) {
     SCOPED_TRACE(row.after);
     command.on_execute = [&] { variable = row.during; };
     variable = array_of({1, 2});

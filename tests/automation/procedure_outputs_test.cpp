@@ -63,13 +63,20 @@ TEST_F(ProcedureOutputs, AreConvertedForAnArrayOfOneType) {
   };
   constexpr ado::Type kWhole = ado::kInteger, kText = ado::kVarWChar, kTruth = ado::kBoolean;
   const Row kRows[] = {
-      {kWhole, L"7", VT_I4, 1, "I4(0) {I4 7}"},           {kWhole, L"7", VT_I2, 1, "I2(0) {I2 7}"},
-      {kWhole, L"7", VT_UI1, 1, "UI1(0) {UI1 7}"},        {kWhole, L"7", VT_R8, 1, "R8(0) {R8 7.000000}"},
-      {kWhole, L"7", VT_R4, 1, "R4(0) {R4 7}"},           {kWhole, L"7", VT_CY, 1, "CY(0) {CY 7}"},
-      {kWhole, L"7", VT_I8, 1, "I8(0) {I8 7}"},           {kWhole, L"7", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 7}"},
-      {kWhole, L"7", VT_BSTR, 1, "BSTR(0) {BSTR 7}"},     {kWhole, L"1", VT_BOOL, 0, "BOOL(0) {BOOL true}"},
-      {kText, L"'8'", VT_I4, 1, "I4(0) {I4 8}"},          {kText, L"'a'", VT_BSTR, 1, "BSTR(0) {BSTR a}"},
-      {kTruth, L"1", VT_BSTR, 1, "BSTR(0) {BSTR True}"},  {kTruth, L"1", VT_I4, 5, "I4(0) {I4 -1}"},
+      {kWhole, L"7", VT_I4, 1, "I4(0) {I4 7}"},
+      {kWhole, L"7", VT_I2, 1, "I2(0) {I2 7}"},
+      {kWhole, L"7", VT_UI1, 1, "UI1(0) {UI1 7}"},
+      {kWhole, L"7", VT_R8, 1, "R8(0) {R8 7.000000}"},
+      {kWhole, L"7", VT_R4, 1, "R4(0) {R4 7}"},
+      {kWhole, L"7", VT_CY, 1, "CY(0) {CY 7}"},
+      {kWhole, L"7", VT_I8, 1, "I8(0) {I8 7}"},
+      {kWhole, L"7", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 7}"},
+      {kWhole, L"7", VT_BSTR, 1, "BSTR(0) {BSTR 7}"},
+      {kWhole, L"1", VT_BOOL, 0, "BOOL(0) {BOOL true}"},
+      {kText, L"'8'", VT_I4, 1, "I4(0) {I4 8}"},
+      {kText, L"'a'", VT_BSTR, 1, "BSTR(0) {BSTR a}"},
+      {kTruth, L"1", VT_BSTR, 1, "BSTR(0) {BSTR True}"},
+      {kTruth, L"1", VT_I4, 5, "I4(0) {I4 -1}"},
       {ado::kNumeric, L"'2.25'", VT_R8, 1, "R8(0) {R8 2.250000}"},
       {ado::kNumeric, L"'2.25'", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 2.25}"},
       {ado::kDate, L"'2011-01-05'", VT_DATE, 0, "DATE(0) {DATE 40548.000000}"},
@@ -83,8 +90,10 @@ TEST_F(ProcedureOutputs, AreConvertedForAnArrayOfOneType) {
 
 TEST_F(ProcedureOutputs, ThatAnArrayCannotHoldLeaveItsElement) {
   database.define(L"Mezcla",
-                  {{L"@a", ado::kVarWChar, ado::kOutput, 20}, {L"@b", ado::kInteger, ado::kOutput},
-                   {L"@c", ado::kInteger, ado::kOutput}, {L"@d", ado::kDouble, ado::kOutput}},
+                  {{L"@a", ado::kVarWChar, ado::kOutput, 20},
+                   {L"@b", ado::kInteger, ado::kOutput},
+                   {L"@c", ado::kInteger, ado::kOutput},
+                   {L"@d", ado::kDouble, ado::kOutput}},
                   {{L"select 'abc'", 1}, {L"select 7", 2}, {L"select null", 3}, {L"select '3000000000'", 4}});
   expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_I4), true, "I4(0) {I4 1; I4 7; I4 3; I4 4}");
   expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_BSTR), true,
@@ -96,9 +105,10 @@ TEST_F(ProcedureOutputs, AnArrayFromOneOnBeginsWithTheSecondParameter) {
                   {{L"select @a + @b", 2}});
   expect_call(L"Dos", array_of({5, 6}), true, "VARIANT(0) {I4 5; I4 11}");
   expect_call(L"Dos", array_of({6}, 1, VT_I4), true, "I4(1) {I4 6}");  // the first parameter is Null
-  database.define(L"Tres", {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kInputOutput},
-                            {L"@c", ado::kInteger, ado::kOutput}},
-                  {{L"select @b * 2", 2}, {L"select 3", 3}});
+  database.define(
+      L"Tres",
+      {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kInputOutput}, {L"@c", ado::kInteger, ado::kOutput}},
+      {{L"select @b * 2", 2}, {L"select 3", 3}});
   expect_call(L"Tres", array_of({6, 0}, 1), true, "VARIANT(1) {I4 12; I4 3}");
   expect_call(L"Tres", array_of({6, 0}, 1, VT_R8), true, "R8(1) {R8 12.000000; R8 3.000000}");
 }

@@ -76,19 +76,20 @@ void ProcedureCalls::expect_call(const wchar_t* procedure, const Var& parameters
   const auto by_value = [](Var& variable) { return variable; };
   const auto by_variable = [](Var& variable) { return Var::by_reference(variable); };
   const auto by_content = [](Var& variable) { return Var::by_content(variable); };
-  for (const Way& way : {Way{"early, a variant's array", false, true, nullptr},
-                         Way{"early, a script's variable", false, true, by_variable},
-                         Way{"early, an array variable", false, true, by_content},
-                         Way{"late, by value", true, false, by_value},
-                         Way{"late, a script's variable", true, true, by_variable},
-                         Way{"late, an array variable", true, true, by_content}}) {
+  for (const Way& way :
+       {Way{"early, a variant's array", false, true, nullptr},
+        Way{"early, a script's variable", false, true, by_variable},
+        Way{"early, an array variable", false, true, by_content}, Way{"late, by value", true, false, by_value},
+        Way{"late, a script's variable", true, true, by_variable},
+        Way{"late, an array variable", true, true, by_content}}) {
     SCOPED_TRACE(std::string(narrow(procedure)) + ", " + way.name);
     Var variable = parameters;
     const SAFEARRAY* const before = variable.raw().parray;
     Var argument = way.passed ? way.passed(variable) : Var();
     VARIANT* passed = way.passed ? &argument.raw() : &variable.raw();
     EXPECT_EQ(way.late ? call_late(connection.get(), procedure, argument)
-                       : call_early(connection.get(), procedure, passed), answer);
+                       : call_early(connection.get(), procedure, passed),
+              answer);
     EXPECT_EQ(describe(variable.raw()), way.given_back ? after : describe(parameters.raw()));
     EXPECT_EQ(variable.raw().parray, before) << "the array is the caller's own";
   }

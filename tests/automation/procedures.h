@@ -13,8 +13,19 @@ namespace qvr::tests {
 // ADO's numbers.
 namespace ado {
 enum Type {
-  kSmallInt = 2, kInteger = 3, kSingle = 4, kDouble = 5, kCurrency = 6, kDate = 7, kBoolean = 11, kUnsignedTinyInt = 17,
-  kBigInt = 20, kNumeric = 131, kDbTimeStamp = 135, kVarChar = 200, kVarWChar = 202
+  kSmallInt = 2,
+  kInteger = 3,
+  kSingle = 4,
+  kDouble = 5,
+  kCurrency = 6,
+  kDate = 7,
+  kBoolean = 11,
+  kUnsignedTinyInt = 17,
+  kBigInt = 20,
+  kNumeric = 131,
+  kDbTimeStamp = 135,
+  kVarChar = 200,
+  kVarWChar = 202
 };
 enum Direction { kInput = 1, kOutput = 2, kInputOutput = 3, kReturnValue = 4 };
 }  // namespace ado

@@ -21,9 +21,8 @@ TEST(QueryHost, OptionalArgumentsMayBeLeftOut) {
 
 TEST(QueryHost, NamedArguments) {
   const LateObject query(L"QVRlib21.cSQL20");
-  const LateAnswer made =
-      query.call_named(L"iSQL20_Crear", {L"TOP", L"CondicionWHEREInicial"},
-                       {5, L"a=1", 2, L"x", false, list_of({L"Nombre", L"T"}), L"Clientes"});
+  const LateAnswer made = query.call_named(L"iSQL20_Crear", {L"TOP", L"CondicionWHEREInicial"},
+                                           {5, L"a=1", 2, L"x", false, list_of({L"Nombre", L"T"}), L"Clientes"});
   EXPECT_EQ(made.result, S_OK);
   EXPECT_EQ(describe(query.get(L"iSQL20_SQL").value.raw()), "BSTR SELECT  TOP 5 Nombre  FROM Clientes  WHERE a=1   ");
 }
@@ -54,7 +53,8 @@ TEST(QueryHost, NullPointersCountAsNothing) {
   const ComPtr<_iSQL20> contract = query.as<_iSQL20>();
   VARIANT_BOOL done = VARIANT_TRUE;
   EXPECT_EQ(contract->Crear(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                            nullptr, nullptr, &done), S_OK);
+                            nullptr, nullptr, &done),
+            S_OK);
   EXPECT_EQ(done, VARIANT_FALSE);
   EXPECT_EQ(contract->AmpliarCondicionWhere(nullptr, nullptr, &done), S_OK);
   EXPECT_EQ(done, VARIANT_FALSE);

@@ -47,7 +47,8 @@ SlotCall<I> slot(HRESULT (STDMETHODCALLTYPE I::*member)(P...)) {
     }
     outcome.status = [&]<std::size_t... At>(std::index_sequence<At...>) {
       return (object.*member)(slot_argument<P>(*all.at(At))...);
-    }(std::index_sequence_for<P...>());
+    }
+    (std::index_sequence_for<P...>());
     return outcome;
   };
 }

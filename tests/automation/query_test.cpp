@@ -10,8 +10,18 @@ constexpr wchar_t kUnknown[] = L"Nada";
 
 // All twelve arguments: late-bound ones may be left out, slots take them all.
 std::vector<Var> request(Var columns, int engine = 2) {
-  return {engine, L"Clientes", false, std::move(columns), L"Clientes C, Pedidos P",
-          list_of({L"C.Id", L"P.Cliente", L"I"}), L"C.Baja=0", short{0}, L"", L"C.Nombre", 0, 0};
+  return {engine,
+          L"Clientes",
+          false,
+          std::move(columns),
+          L"Clientes C, Pedidos P",
+          list_of({L"C.Id", L"P.Cliente", L"I"}),
+          L"C.Baja=0",
+          short{0},
+          L"",
+          L"C.Nombre",
+          0,
+          0};
 }
 
 Var columns() {
@@ -44,8 +54,9 @@ TEST_P(Query, BeforeCrear) {
 
 TEST_P(Query, Statements) {
   create();
-  const std::string start = "BSTR SELECT C.Nombre, P.Total As [Importe], P.Fecha, C.Notas  FROM Clientes C INNER JOIN "
-                            "Pedidos P ON C.Id=P.Cliente  WHERE C.Baja=0  ";
+  const std::string start =
+      "BSTR SELECT C.Nombre, P.Total As [Importe], P.Fecha, C.Notas  FROM Clientes C INNER JOIN "
+      "Pedidos P ON C.Id=P.Cliente  WHERE C.Baja=0  ";
   EXPECT_EQ(views.read(L"Creado"), "BOOL true");
   EXPECT_EQ(views.read(L"SQLSinOrden"), start);
   EXPECT_EQ(views.read(L"SQLOriginalSinOrden"), start);

@@ -6,8 +6,8 @@ namespace qvr::tests {
 namespace {
 
 bool is_own(const std::wstring& member) {
-  for (const wchar_t* name : {L"Name", L"AmpliarCondicionHaving", L"CambiaCondicion", L"ParteWhere", L"ParteHaving",
-                              L"ExpresionOriginal"}) {
+  for (const wchar_t* name :
+       {L"Name", L"AmpliarCondicionHaving", L"CambiaCondicion", L"ParteWhere", L"ParteHaving", L"ExpresionOriginal"}) {
     if (member == name) return true;
   }
   return false;

@@ -22,12 +22,21 @@ TEST_F(AnyValue, NumbersHaveABlankOrASign) {
     Var value;
     const wchar_t* literal;
   };
-  for (const Row& row : {Row{Var(200).as(VT_UI1), L" 200"}, {Var(0).as(VT_UI1), L" 0"}, {Var(-7).as(VT_I2), L"-7"},
-                         {Var(12), L" 12"}, {Var(-2147483647 - 1), L"-2147483648"}, {Var(5).as(VT_INT), L" 5"},
-                         {Var(0.1).as(VT_R4), L" 0.1"}, {Var(-3.5).as(VT_R4), L"-3.5"}, {Var(0.25), L" 0.25"},
-                         {Var(-3.5), L"-3.5"}, {Var(0.0), L" 0"}, {Var(L"-1.2345").as(VT_CY), L"-1.2345"},
+  for (const Row& row : {Row{Var(200).as(VT_UI1), L" 200"},
+                         {Var(0).as(VT_UI1), L" 0"},
+                         {Var(-7).as(VT_I2), L"-7"},
+                         {Var(12), L" 12"},
+                         {Var(-2147483647 - 1), L"-2147483648"},
+                         {Var(5).as(VT_INT), L" 5"},
+                         {Var(0.1).as(VT_R4), L" 0.1"},
+                         {Var(-3.5).as(VT_R4), L"-3.5"},
+                         {Var(0.25), L" 0.25"},
+                         {Var(-3.5), L"-3.5"},
+                         {Var(0.0), L" 0"},
+                         {Var(L"-1.2345").as(VT_CY), L"-1.2345"},
                          {most, L" 922337203685477.5807"},
-                         {Var(L"12.345").as(VT_DECIMAL), L" 12.345"}, {Var(L"-7").as(VT_DECIMAL), L"-7"},
+                         {Var(L"12.345").as(VT_DECIMAL), L" 12.345"},
+                         {Var(L"-7").as(VT_DECIMAL), L"-7"},
                          {Var(L"79228162514264337593543950335").as(VT_DECIMAL), L" 79228162514264337593543950335"}}) {
     expect_literal(row.value, all_engines(row.literal));
   }

@@ -93,11 +93,10 @@ TEST_F(Errors, RelationsAreWholeTriples) {
   for (const int engine : {2, 3}) {
     SCOPED_TRACE(engine);
     use(engine);
-    for (const Row& row :
-         {Row{array_of({}), kInvalidArgument}, Row{array_of({}, 1, VT_BSTR), kInvalidArgument},
-          Row{array_of({L"a"}), kSubscript}, Row{array_of({L"a", L"b"}), kSubscript},
-          Row{array_of({L"a", L"b", L"I", L"c"}), kSubscript},
-          Row{array_of({L"a", L"b", L"I", L"c", L"d"}, -3, VT_BSTR), kSubscript}}) {
+    for (const Row& row : {Row{array_of({}), kInvalidArgument}, Row{array_of({}, 1, VT_BSTR), kInvalidArgument},
+                           Row{array_of({L"a"}), kSubscript}, Row{array_of({L"a", L"b"}), kSubscript},
+                           Row{array_of({L"a", L"b", L"I", L"c"}), kSubscript},
+                           Row{array_of({L"a", L"b", L"I", L"c", L"d"}, -3, VT_BSTR), kSubscript}}) {
       expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, row.list, row.error);
     }
   }

@@ -106,9 +106,13 @@ TEST_F(QVRcfpTest, TextoAValor) {
     const wchar_t *code, *text;
     const char* expected;
   };
-  for (const Row& row : {Row{L"T", L"abc", "BSTR abc"}, {L"n", L"2.5kg", "R8 2.500000"}, {L"L", L"0", "BOOL false"},
-                         {L"L", L"1", "BOOL true"}, {L"F", L"2011-01-05", "DATE 40548.000000"},
-                         {L"F", L"ma\u00f1ana", "Empty"}, {L"X", L"abc", "Empty"}}) {
+  for (const Row& row : {Row{L"T", L"abc", "BSTR abc"},
+                         {L"n", L"2.5kg", "R8 2.500000"},
+                         {L"L", L"0", "BOOL false"},
+                         {L"L", L"1", "BOOL true"},
+                         {L"F", L"2011-01-05", "DATE 40548.000000"},
+                         {L"F", L"ma\u00f1ana", "Empty"},
+                         {L"X", L"abc", "Empty"}}) {
     SCOPED_TRACE(narrow(std::wstring(row.code) + L" " + row.text));
     Bstr code(row.code), text(row.text);
     Var result;
@@ -123,9 +127,13 @@ TEST_F(QVRcfpTest, ValorATexto) {
     Var value;
     const char* expected;
   };
-  for (const Row& row : {Row{L"L", true, "BSTR 1"}, {L"n", 2.5, "BSTR 2.5"}, {L"N", -3, "BSTR -3"},
-                         {L"F", Var::date(40548.75), "BSTR 2011/01/05"}, {L"T", L"\u00f1", "BSTR \u00f1"},
-                         {L"T", Var::null(), "BSTR "}, {L"X", 1, "BSTR "}}) {
+  for (const Row& row : {Row{L"L", true, "BSTR 1"},
+                         {L"n", 2.5, "BSTR 2.5"},
+                         {L"N", -3, "BSTR -3"},
+                         {L"F", Var::date(40548.75), "BSTR 2011/01/05"},
+                         {L"T", L"\u00f1", "BSTR \u00f1"},
+                         {L"T", Var::null(), "BSTR "},
+                         {L"X", 1, "BSTR "}}) {
     SCOPED_TRACE(std::string(row.expected));
     Bstr code(row.code), result;
     Var value = row.value;
@@ -138,7 +146,8 @@ TEST_F(QVRcfpTest, NullPointersAndNullStringsCountAsEmpty) {
   VARIANT_BOOL done = 0;
   BSTR null_text = nullptr;
   EXPECT_EQ(early->Asignar(nullptr, nullptr, nullptr, &null_text, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                           &done), S_OK);
+                           &done),
+            S_OK);
   EXPECT_EQ(done, VARIANT_TRUE);
   Bstr result;
   EXPECT_EQ(early->CadenaADO(nullptr, nullptr, &result), S_OK);
@@ -149,7 +158,8 @@ TEST_F(QVRcfpTest, NullPointersAndNullStringsCountAsEmpty) {
   EXPECT_EQ(early->Crear(&null_text, &folder, &null_text, &done), S_OK);
   EXPECT_EQ(done, VARIANT_TRUE);
   EXPECT_EQ(early->Asignar(&id, &engine, &provider, &source, &catalogue, &adm, &adm_key, &cli, &cli_key, &others,
-                           nullptr), E_POINTER);
+                           nullptr),
+            E_POINTER);
 }
 
 TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {

@@ -185,7 +185,8 @@ TEST_F(QVRScrTest, ChangedArgumentsComeBackToTheCallersVariables) {
   EXPECT_EQ(describe(answer.value.raw()), "BOOL true");
   EXPECT_EQ(id.text(), L"App");
   EXPECT_TRUE(shown.text() == L"Comandos ejecutados: " || shown.text() == L"Commands executed: " ||
-              shown.text() == L"Commandes ex\u00e9cut\u00e9es: ") << narrow(shown.text());
+              shown.text() == L"Commandes ex\u00e9cut\u00e9es: ")
+      << narrow(shown.text());
   Bstr typed(L"EvitarTransaccion");
   late.call(L"EjecutarComandos", {Var::by_reference(*&typed), 2, L"", database.connection_string(), L"x"});
   EXPECT_EQ(typed.text(), L"");

@@ -122,7 +122,8 @@ TEST_F(RegistrationTest, KeysSharedWithTheOtherWidthStayWhileThatOneIsRegistered
   const std::wstring other = std::wstring(L"Software\\Classes\\CLSID\\") + id_text;
   HKEY key = nullptr;
   ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (other + L"\\InprocServer32").c_str(), 0, nullptr, 0,
-                            KEY_ALL_ACCESS | kOther, nullptr, &key, nullptr), ERROR_SUCCESS);
+                            KEY_ALL_ACCESS | kOther, nullptr, &key, nullptr),
+            ERROR_SUCCESS);
   RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(L"other.dll"), 20);
   RegCloseKey(key);
   ASSERT_EQ(library().unregister_it(), S_OK);

@@ -107,10 +107,13 @@ TEST(OrReported, ReportsOnlyWhatWasThrown) {
     ++reports;
     EXPECT_EQ(detail.number, 13);
   };
-  EXPECT_TRUE(or_reported(false, [] { return true; }, report));
-  EXPECT_FALSE(or_reported(false, [] { return false; }, report));
+  EXPECT_TRUE(or_reported(
+      false, [] { return true; }, report));
+  EXPECT_FALSE(or_reported(
+      false, [] { return false; }, report));
   EXPECT_EQ(reports, 0);
-  EXPECT_FALSE(or_reported(false, []() -> bool { throw RuntimeFailure(13); }, report));
+  EXPECT_FALSE(or_reported(
+      false, []() -> bool { throw RuntimeFailure(13); }, report));
   EXPECT_EQ(reports, 1);
 }
 
@@ -120,7 +123,8 @@ TEST(OrReported, DropsAFailingReport) {
     asked = true;
     throw RuntimeFailure(429);
   };
-  EXPECT_FALSE(or_reported(false, []() -> bool { throw std::bad_alloc(); }, failing));
+  EXPECT_FALSE(or_reported(
+      false, []() -> bool { throw std::bad_alloc(); }, failing));
   EXPECT_TRUE(asked);
 }
 

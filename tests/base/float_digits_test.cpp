@@ -29,8 +29,7 @@ DecimalDigits taken_apart(const char* first, const char* last) {
 template <class Float, class... Precision>
 DecimalDigits expected_digits(Float number, Precision... precision) {
   char buffer[1200];
-  const auto end =
-      std::to_chars(buffer, std::end(buffer), number, std::chars_format::scientific, precision...).ptr;
+  const auto end = std::to_chars(buffer, std::end(buffer), number, std::chars_format::scientific, precision...).ptr;
   return taken_apart(buffer, end);
 }
 
@@ -85,9 +84,7 @@ TEST(ShortestDigits, AreThoseOfTheStandardLibraryAtTheEdges) {
   expect_shortest(edges<float>());
 }
 
-TEST(ShortestDigits, AreThoseOfTheStandardLibraryForRandomNumbers) {
-  expect_shortest(random_doubles(21, 20000));
-}
+TEST(ShortestDigits, AreThoseOfTheStandardLibraryForRandomNumbers) { expect_shortest(random_doubles(21, 20000)); }
 
 TEST(RoundedDigits, AreThoseOfTheStandardLibrary) {
   std::vector<double> numbers = random_doubles(22, 2000);

@@ -90,8 +90,8 @@ TEST(NumberLength, CountsTheUnitsOfTheNumber) {
     std::size_t units;
   };
   constexpr Length kLengths[] = {
-      {u"", 0},    {u"x", 0},     {u"-", 0},    {u".", 0},     {u"-.", 0},      {u".e5", 0},   {u" 1", 0},
-      {u"12", 2},  {u"-1.5x", 4}, {u"+.5", 3},  {u"5.", 2},    {u"1e5", 3},     {u"1e", 1},    {u"1e-", 1},
+      {u"", 0},      {u"x", 0},     {u"-", 0},   {u".", 0},     {u"-.", 0},  {u".e5", 0}, {u" 1", 0},
+      {u"12", 2},    {u"-1.5x", 4}, {u"+.5", 3}, {u"5.", 2},    {u"1e5", 3}, {u"1e", 1},  {u"1e-", 1},
       {u"1e-5z", 4}, {u"1.2.3", 3}, {u"1,5", 1}, {u"1E+05", 5}, {u"0x1", 1},
   };
   for (const Length& row : kLengths) {

@@ -11,13 +11,24 @@ TEST(Fold, FollowsSimpleUpperCaseMapping) {
     char16_t unit, folded;
   };
   constexpr Row kRows[] = {
-      {"lower ascii", u'a', u'A'},        {"last lower ascii", u'z', u'Z'},   {"upper ascii", u'A', u'A'},
-      {"before a", u'`', u'`'},           {"behind z", u'{', u'{'},           {"digit", u'7', u'7'},
-      {"a acute", u'\u00e1', u'\u00c1'},  {"n tilde", u'\u00f1', u'\u00d1'},  {"u diaeresis", u'\u00fc', u'\u00dc'},
-      {"division sign", u'\u00f7', u'\u00f7'},                                {"y diaeresis", u'\u00ff', u'\u0178'},
-      {"sharp s has none of one unit", u'\u00df', u'\u00df'},                 {"s caron", u'\u0161', u'\u0160'},
-      {"greek alpha", u'\u03b1', u'\u0391'}, {"final sigma", u'\u03c2', u'\u03a3'},
-      {"cyrillic ya", u'\u044f', u'\u042f'}, {"surrogate", u'\xd801', u'\xd801'}, {"last unit", u'\xffff', u'\xffff'},
+      {"lower ascii", u'a', u'A'},
+      {"last lower ascii", u'z', u'Z'},
+      {"upper ascii", u'A', u'A'},
+      {"before a", u'`', u'`'},
+      {"behind z", u'{', u'{'},
+      {"digit", u'7', u'7'},
+      {"a acute", u'\u00e1', u'\u00c1'},
+      {"n tilde", u'\u00f1', u'\u00d1'},
+      {"u diaeresis", u'\u00fc', u'\u00dc'},
+      {"division sign", u'\u00f7', u'\u00f7'},
+      {"y diaeresis", u'\u00ff', u'\u0178'},
+      {"sharp s has none of one unit", u'\u00df', u'\u00df'},
+      {"s caron", u'\u0161', u'\u0160'},
+      {"greek alpha", u'\u03b1', u'\u0391'},
+      {"final sigma", u'\u03c2', u'\u03a3'},
+      {"cyrillic ya", u'\u044f', u'\u042f'},
+      {"surrogate", u'\xd801', u'\xd801'},
+      {"last unit", u'\xffff', u'\xffff'},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
@@ -72,16 +83,11 @@ TEST(ReplaceAll, GoesLeftToRightOverTheOriginal) {
     TextView text, what, by, result;
   };
   constexpr Row kRows[] = {
-      {"none", u"abc", u"x", u"y", u"abc"},
-      {"every one", u"a||b||", u"||", u"\r\n", u"a\r\nb\r\n"},
-      {"three bars", u"|||", u"||", u"-", u"-|"},
-      {"not what it wrote", u"aa", u"a", u"aa", u"aaaa"},
-      {"overlapping", u"aaa", u"aa", u"b", u"ba"},
-      {"exact in case", u"aA", u"a", u"b", u"bA"},
-      {"by nothing", u"axbx", u"x", u"", u"ab"},
-      {"empty what", u"abc", u"", u"x", u"abc"},
-      {"empty text", u"", u"a", u"b", u""},
-      {"whole text", u"ab", u"ab", u"", u""},
+      {"none", u"abc", u"x", u"y", u"abc"},        {"every one", u"a||b||", u"||", u"\r\n", u"a\r\nb\r\n"},
+      {"three bars", u"|||", u"||", u"-", u"-|"},  {"not what it wrote", u"aa", u"a", u"aa", u"aaaa"},
+      {"overlapping", u"aaa", u"aa", u"b", u"ba"}, {"exact in case", u"aA", u"a", u"b", u"bA"},
+      {"by nothing", u"axbx", u"x", u"", u"ab"},   {"empty what", u"abc", u"", u"x", u"abc"},
+      {"empty text", u"", u"a", u"b", u""},        {"whole text", u"ab", u"ab", u"", u""},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
@@ -116,8 +122,7 @@ TEST(AbbreviateForDisplay, KeepsBothEndsOfALongerText) {
 
 TEST(AbbreviateForDisplay, WritesLineBreaksAsBlanksBeforeItCuts) {
   const Text text = u"one\r\ntwo" + Text(600, u'-') + u"three\r\nfour";
-  const Text expected =
-      u"one two" + Text(243, u'-') + u"\r\n\r\n...\r\n\r\n" + Text(240, u'-') + u"three four";
+  const Text expected = u"one two" + Text(243, u'-') + u"\r\n\r\n...\r\n\r\n" + Text(240, u'-') + u"three four";
   EXPECT_EQ(abbreviate_for_display(text), expected);
 }
 
@@ -128,8 +133,7 @@ TEST(AbbreviateForDisplay, RepeatsTheMiddleWhenOneLineIsShorterThanBothEnds) {
   Text more;
   for (int i = 0; i < 260; ++i) more += kLineBreak;
   more.replace(0, 2, u"\n\r");
-  EXPECT_EQ(abbreviate_for_display(more),
-            u"\n\r" + Text(248, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(250, u' '));
+  EXPECT_EQ(abbreviate_for_display(more), u"\n\r" + Text(248, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(250, u' '));
 }
 
 TEST(AbbreviateForDisplay, TakesWholeShortLineTwice) {

@@ -32,7 +32,9 @@ constexpr Row kRows[] = {
     {"last of three bytes", u"\xffff", "\xef\xbf\xbf"},
     {"least of four bytes", u"\U00010000", "\xf0\x90\x80\x80"},
     {"last of four bytes", u"\U0010ffff", "\xf4\x8f\xbf\xbf"},
-    {"lone high half", kLoneHigh, "a\xed\xa0\x80" "b"},
+    {"lone high half", kLoneHigh,
+     "a\xed\xa0\x80"
+     "b"},
     {"lone low half", kLoneLow, "\xed\xb0\x80"},
     {"halves in the wrong order", kSwapped, "\xed\xb0\x80\xed\xa0\x80"},
     {"a half before a pair", kHighThenPair, "\xed\xa0\xbd\xf0\x9f\x98\x80"},

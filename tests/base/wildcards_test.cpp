@@ -125,8 +125,8 @@ TEST(MatchesWildcards, ManyAsterisksDoNotMultiply) {
 }
 
 TEST(LessNoCase, OrdersByTheUnitsInCapitals) {
-  constexpr TextView kAscending[] = {u"", u" ", u"-", u"1", u"10", u"2", u"A", u"Ab", u"ABC", u"b", u"C", u"_",
-                                     u"\u00d1", u"\u65e5"};
+  constexpr TextView kAscending[] = {u"",   u" ",   u"-", u"1", u"10", u"2",      u"A",
+                                     u"Ab", u"ABC", u"b", u"C", u"_",  u"\u00d1", u"\u65e5"};
   for (std::size_t i = 0; i < std::size(kAscending); ++i) {
     for (std::size_t k = 0; k < std::size(kAscending); ++k) {
       SCOPED_TRACE(to_utf8(join({kAscending[i], u" / ", kAscending[k]})));

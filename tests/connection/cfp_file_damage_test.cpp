@@ -39,9 +39,7 @@ class CfpFileDamageTest : public ::testing::Test {
     return bytes;
   }
 
-  std::string protected_line(TextView text) {
-    return to_utf8(CheapProtection().Cifrar(u"id", text));
-  }
+  std::string protected_line(TextView text) { return to_utf8(CheapProtection().Cifrar(u"id", text)); }
 
   void expect_refused(const std::string& bytes, TextView id = u"id") {
     thread.files.memory[u"F\\a.cfp"] = bytes;
@@ -151,9 +149,11 @@ TEST_F(CfpFileDamageTest, FilesOfAnotherKindAreRefused) {
   std::mt19937 random(3);
   std::string binary;
   for (int i = 0; i < 100000; ++i) binary.push_back(static_cast<char>(random()));
-  for (const std::string& bytes : {std::string(), std::string("\r\n"), std::string(50, '\0'), binary,
-                                   of(Lines(10, "")), of(Lines(10, "hello")), of(Lines(10, "x")),
-                                   std::string("\xff\xfe" "a\0\r\0\n\0", 8)}) {
+  for (const std::string& bytes : {std::string(), std::string("\r\n"), std::string(50, '\0'), binary, of(Lines(10, "")),
+                                   of(Lines(10, "hello")), of(Lines(10, "x")),
+                                   std::string("\xff\xfe"
+                                               "a\0\r\0\n\0",
+                                               8)}) {
     SCOPED_TRACE(bytes.size());
     expect_refused(bytes);
   }

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "connection/sample_parameters.h"
 #include "base/utf8.h"
+#include "connection/sample_parameters.h"
 #include "services/builtin_text_protection.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"

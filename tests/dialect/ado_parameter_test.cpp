@@ -39,7 +39,8 @@ TEST_F(AdoParameterTest, HasTheTypeThatFitsTheEngine) {
     Lines sql_server, oracle;
   };
   const Row kRows[] = {
-      {u"INT", {"Parameter.Type: 3", "Parameter.Precision: 10"},
+      {u"INT",
+       {"Parameter.Type: 3", "Parameter.Precision: 10"},
        {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
       {u"BIT", {"Parameter.Type: 11"}, {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
       {u"REAL", {"Parameter.Type: 4"}, {"Parameter.Type: 5", "Parameter.Precision: 15"}},
@@ -47,7 +48,8 @@ TEST_F(AdoParameterTest, HasTheTypeThatFitsTheEngine) {
       {u"nvarchar", {"Parameter.Type: 202", "Parameter.Size: 50"}, {"Parameter.Type: 200", "Parameter.Size: 100"}},
       {u"DATETIME", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
       {u"DateTime", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
-      {u"int", {"Parameter.Type: 3", "Parameter.Precision: 10"},
+      {u"int",
+       {"Parameter.Type: 3", "Parameter.Precision: 10"},
        {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
   };
   for (const Row& row : kRows) {
@@ -69,8 +71,12 @@ TEST_F(AdoParameterTest, HasTheWidthThatTheEngineCounts) {
     std::string sql_server, oracle;
   };
   constexpr std::int32_t kHalf = INT32_MAX / 2;
-  const Row kRows[] = {{0, "0", "0"}, {1, "1", "2"}, {-1, "-1", "-2"}, {4000, "4000", "8000"},
-                       {kHalf, "1073741823", "2147483646"}, {-kHalf - 1, "-1073741824", "-2147483648"}};
+  const Row kRows[] = {{0, "0", "0"},
+                       {1, "1", "2"},
+                       {-1, "-1", "-2"},
+                       {4000, "4000", "8000"},
+                       {kHalf, "1073741823", "2147483646"},
+                       {-kHalf - 1, "-1073741824", "-2147483648"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.width);
     EXPECT_TRUE(append(kSqlServer, request_for(u"NVARCHAR", row.width)));

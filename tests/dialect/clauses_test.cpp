@@ -13,7 +13,7 @@ TEST_F(ClausesTest, ClausulaTopStandsBeforeTheSelectList) {
     std::int32_t count;
     TextView top;  // of Jet and SQL Server
   };
-  constexpr Row kRows[] = {{0, u""},     {1, u" TOP 1 "}, {5, u" TOP 5 "},   {INT32_MAX, u" TOP 2147483647 "},
+  constexpr Row kRows[] = {{0, u""},  {1, u" TOP 1 "},  {5, u" TOP 5 "},      {INT32_MAX, u" TOP 2147483647 "},
                            {-1, u""}, {INT32_MIN, u""}, {1000, u" TOP 1000 "}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.count);
@@ -71,15 +71,18 @@ TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
   const Row kRows[] = {
       {"two", list({u"a", u"b"}), {u" a & b ", u" a + b ", u" a || b ", u" ab "}},
       {"one", list({u"a"}), all_engines(u" a ")},
-      {"three, lower bound 1", list({u"a", u"b", u"c"}, 1),
+      {"three, lower bound 1",
+       list({u"a", u"b", u"c"}, 1),
        {u" a & b & c ", u" a + b + c ", u" a || b || c ", u" abc "}},
       {"negative lower bound", list({u"a", u"b"}, -5), {u" a & b ", u" a + b ", u" a || b ", u" ab "}},
       {"an empty text", list({u"a", u"", u"b"}), {u" a &  & b ", u" a +  + b ", u" a ||  || b ", u" ab "}},
       {"an empty text last", list({u"a", u""}), {u" a &  ", u" a +  ", u" a ||  ", u" a "}},
       {"Empty", list({Empty{}, u"b"}), {u"  & b ", u"  + b ", u"  || b ", u" b "}},
-      {"numbers and truth", list({1, 2.5, true}), {u" 1 & 2.5 & True ", u" 1 + 2.5 + True ",
-                                                   u" 1 || 2.5 || True ", u" 12.5True "}},
-      {"elements that end like an operator", list({u"a & ", u"b || "}),
+      {"numbers and truth",
+       list({1, 2.5, true}),
+       {u" 1 & 2.5 & True ", u" 1 + 2.5 + True ", u" 1 || 2.5 || True ", u" 12.5True "}},
+      {"elements that end like an operator",
+       list({u"a & ", u"b || "}),
        {u" a &  & b ||  ", u" a &  + b ||  ", u" a &  || b ||  ", u" a & b ||  "}},
   };
   for (const Row& row : kRows) {

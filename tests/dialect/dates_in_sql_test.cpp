@@ -8,8 +8,8 @@ namespace qvr::tests {
 namespace {
 
 constexpr double kSecond = 1.0 / 86400;
-constexpr double kFifthOfJanuary = 40548;                                // 5 January 2011
-constexpr double kClock = (14 * 3600 + 7 * 60 + 9) * kSecond;            // 14:07:09
+constexpr double kFifthOfJanuary = 40548;                      // 5 January 2011
+constexpr double kClock = (14 * 3600 + 7 * 60 + 9) * kSecond;  // 14:07:09
 constexpr double kNearlyMidnight = (23 * 3600 + 59 * 60 + 59.6) * kSecond;
 constexpr double kFirstDay = -657434, kLastDay = 2958465;
 
@@ -106,13 +106,26 @@ TEST_F(DatesInSqlTest, AreNullForWhatIsNoDate) {
     Value value;
   };
   const Row kRows[] = {
-      {"text", u"x"}, {"empty text", u""}, {"text ma\u00f1ana", u"ma\u00f1ana"}, {"31 February", u"31/02/2011"},
-      {"number", 40548}, {"Double", 40548.5}, {"true", true}, {"Empty", Empty{}}, {"Null", Null{}},
-      {"missing", Missing{}}, {"error", ErrorValue{448}}, {"object", object()}, {"Nothing", ObjectRef()},
-      {"array with a date", list({Date{kFifthOfJanuary}})}, {"array of two dimensions", square({Date{1}, Date{2}})},
+      {"text", u"x"},
+      {"empty text", u""},
+      {"text ma\u00f1ana", u"ma\u00f1ana"},
+      {"31 February", u"31/02/2011"},
+      {"number", 40548},
+      {"Double", 40548.5},
+      {"true", true},
+      {"Empty", Empty{}},
+      {"Null", Null{}},
+      {"missing", Missing{}},
+      {"error", ErrorValue{448}},
+      {"object", object()},
+      {"Nothing", ObjectRef()},
+      {"array with a date", list({Date{kFifthOfJanuary}})},
+      {"array of two dimensions", square({Date{1}, Date{2}})},
       {"array without bounds", shapeless()},
-      {"year 99", Date{kFirstDay - 1}}, {"year 10000", Date{kLastDay + 1}},
-      {"rounded up to the year 10000", Date{kLastDay + kNearlyMidnight}}, {"far away", Date{1e300}},
+      {"year 99", Date{kFirstDay - 1}},
+      {"year 10000", Date{kLastDay + 1}},
+      {"rounded up to the year 10000", Date{kLastDay + kNearlyMidnight}},
+      {"far away", Date{1e300}},
       {"infinite", Date{std::numeric_limits<double>::infinity()}},
       {"no number", Date{std::numeric_limits<double>::quiet_NaN()}},
   };
@@ -192,8 +205,9 @@ TEST_F(DatesInSqlTest, LiteralFechaMotorTakesItsMasksFromTheCaller) {
   const auto call = [&](const Engine& engine) {
     return dialect::LiteralFechaMotor(engine, moment, u"dd/mm/yyyy hh.nn", u"DD/MM/YYYY HH24.MI");
   };
-  expect_each({u"#05/01/2011 14.07#", u"{ d '05/01/2011 14.07'}",
-               u" TO_DATE('05/01/2011 14.07','DD/MM/YYYY HH24.MI') ", undefined()}, call);
+  expect_each({u"#05/01/2011 14.07#", u"{ d '05/01/2011 14.07'}", u" TO_DATE('05/01/2011 14.07','DD/MM/YYYY HH24.MI') ",
+               undefined()},
+              call);
   expect_each(all_engines(u"Null"),
               [](const Engine& engine) { return dialect::LiteralFechaMotor(engine, Null{}, u"dd", u"DD"); });
 }

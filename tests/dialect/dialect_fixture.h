@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "dialect/engine.h"
 #include "base/failure.h"
+#include "dialect/engine.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {

@@ -39,8 +39,8 @@ TEST_F(EngineTest, TheBoxHasTheNumberInDecimal) {
     Engine engine;
     TextView digits;
   };
-  constexpr Row kRows[] = {{0, u"0"},   {-1, u"-1"},   {4, u"4"},
-                           {99, u"99"}, {INT32_MAX, u"2147483647"}, {INT32_MIN, u"-2147483648"}};
+  constexpr Row kRows[] = {
+      {0, u"0"}, {-1, u"-1"}, {4, u"4"}, {99, u"99"}, {INT32_MAX, u"2147483647"}, {INT32_MIN, u"-2147483648"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.engine);
     const Outcome expected = told(join({u"Motor de Base de Datos no definido: ", row.digits}));

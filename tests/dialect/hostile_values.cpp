@@ -25,11 +25,58 @@ Sample clock_sample(Value word) {
 
 // Pieces that end a literal, a statement or a line somewhere, and some that look like what the library writes.
 const Text kPieces[] = {
-    u"'", u"'", u"''", u"\"", u"%", u"_", u"*", u"?", u"[", u"]", u"#", u"{", u"}", u";", u"--", u"/*", u"*/", u"\\",
-    u"\\'", u"\r\n", u"\n", u"\t", u" ", Text(1, u'\0'), u",", u"(", u")", u"!", u"&", u"||", u"=", u"a", u"Z", u"0",
-    u"1", u"N'", u"' OR 1=1 --", u"'); DROP TABLE t; --", u"{ d '2011-01-05'}", u"#2011-01-05#", u"TO_DATE('",
-    u"AhoraSQL", u"Null", u"\u00f1", u"\u20ac", u"\u2019", u"\u02bc", u"\uff07", u"\U0001f600",
-    Text(1, char16_t{0xD83D}), Text(1, char16_t{0xDE00}), u"\u2028",
+    u"'",
+    u"'",
+    u"''",
+    u"\"",
+    u"%",
+    u"_",
+    u"*",
+    u"?",
+    u"[",
+    u"]",
+    u"#",
+    u"{",
+    u"}",
+    u";",
+    u"--",
+    u"/*",
+    u"*/",
+    u"\\",
+    u"\\'",
+    u"\r\n",
+    u"\n",
+    u"\t",
+    u" ",
+    Text(1, u'\0'),
+    u",",
+    u"(",
+    u")",
+    u"!",
+    u"&",
+    u"||",
+    u"=",
+    u"a",
+    u"Z",
+    u"0",
+    u"1",
+    u"N'",
+    u"' OR 1=1 --",
+    u"'); DROP TABLE t; --",
+    u"{ d '2011-01-05'}",
+    u"#2011-01-05#",
+    u"TO_DATE('",
+    u"AhoraSQL",
+    u"Null",
+    u"\u00f1",
+    u"\u20ac",
+    u"\u2019",
+    u"\u02bc",
+    u"\uff07",
+    u"\U0001f600",
+    Text(1, char16_t{0xD83D}),
+    Text(1, char16_t{0xDE00}),
+    u"\u2028",
 };
 
 }  // namespace
@@ -81,7 +128,8 @@ Sample HostileValues::next() {
     case 12: return null_sample(Array{{Value(text())}, 0, 1});
     case 13: return null_sample(std::int64_t{number});
     case 14: return clock_sample(u"aHORAsql");
-    case 15: case 16: return date_sample();
+    case 15:
+    case 16: return date_sample();
     default: return text_sample();
   }
 }

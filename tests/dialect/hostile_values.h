@@ -4,8 +4,8 @@
 #include <array>
 #include <random>
 
-#include "dialect/sql_tokens.h"
 #include "base/value.h"
+#include "dialect/sql_tokens.h"
 
 namespace qvr::tests {
 

@@ -120,9 +120,8 @@ TEST_P(InjectionTest, PatronLikeMotorIsOneLiteralAndPerhapsItsEscape) {
 }
 
 constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
-INSTANTIATE_TEST_SUITE_P(Engines, InjectionTest, ::testing::ValuesIn(kEngines), [](const auto& engine) {
-  return std::string(kEngineNames[engine.param - 1]);
-});
+INSTANTIATE_TEST_SUITE_P(Engines, InjectionTest, ::testing::ValuesIn(kEngines),
+                         [](const auto& engine) { return std::string(kEngineNames[engine.param - 1]); });
 
 TEST(SqlTokens, SeeWhereALiteralEndsTooEarly) {
   struct Row {

@@ -79,10 +79,9 @@ TEST_F(LikePatternTest, TheFreeEscapeCharacterIsTheFirstOfNine) {
     Text free;
   };
   const Case kCases[] = {
-      {u"", u"!"},          {u"abc%_", u"!"},      {u"&/()$#=|", u"!"},  {u"!", u"&"},
-      {u"!&", u"/"},        {u"!&/", u"("},        {u"!&/(", u")"},      {u"!&/()", u"$"},
-      {u"!&/()$", u"#"},    {u"!&/()$#", u"="},    {u"!&/()$#=", u"|"},  {u"!&/()$#=|", u""},
-      {u"|=#$)(/&!", u""},  {u"!a/b(c", u"&"},
+      {u"", u"!"},         {u"abc%_", u"!"},    {u"&/()$#=|", u"!"}, {u"!", u"&"},      {u"!&", u"/"},
+      {u"!&/", u"("},      {u"!&/(", u")"},     {u"!&/()", u"$"},    {u"!&/()$", u"#"}, {u"!&/()$#", u"="},
+      {u"!&/()$#=", u"|"}, {u"!&/()$#=|", u""}, {u"|=#$)(/&!", u""}, {u"!a/b(c", u"&"},
   };
   for (const Case& each : kCases) {
     SCOPED_TRACE(to_utf8(each.text));

@@ -137,11 +137,21 @@ TEST_F(LiteralsTest, NumeroDesdeTextoReadsAsTheLocaleDoes) {
     float number;
   };
   constexpr Row kRows[] = {
-      {u"2.5", u'.', 2.5f},   {u"2,5", u'.', 0},    {u"2,5", u',', 2.5f}, {u"2.5", u',', 0},
-      {u"-0,1", u',', -0.1f}, {u"", u'.', 0},       {u"abc", u'.', 0},    {u"5x", u'.', 0},
-      {u"16777217", u'.', 16777216.0f},             {u"0.1", u'.', 0.1f},
+      {u"2.5", u'.', 2.5f},
+      {u"2,5", u'.', 0},
+      {u"2,5", u',', 2.5f},
+      {u"2.5", u',', 0},
+      {u"-0,1", u',', -0.1f},
+      {u"", u'.', 0},
+      {u"abc", u'.', 0},
+      {u"5x", u'.', 0},
+      {u"16777217", u'.', 16777216.0f},
+      {u"0.1", u'.', 0.1f},
       {u"3.4028235E+38", u'.', std::numeric_limits<float>::max()},
-      {u"1E+39", u'.', 0},    {u"-1E+39", u'.', 0}, {u"1E+400", u'.', 0}, {u"1E-50", u'.', 0},
+      {u"1E+39", u'.', 0},
+      {u"-1E+39", u'.', 0},
+      {u"1E+400", u'.', 0},
+      {u"1E-50", u'.', 0},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(row.text));

@@ -62,8 +62,8 @@ ManualPage clauses() {
   const Value pairs = list({text(u"1"), text(u"'Alta'"), text(u"2"), text(u"'Baja'"), text(u"'Otra'")});
   const Value even = list({text(u"1"), text(u"'Alta'")});
   const Value inner = list({text(u"C.Id"), text(u"P.IdCliente"), text(u"I")});
-  const Value outer = list({text(u"C.Id"), text(u"P.IdCliente"), text(u"L"), text(u"P.IdArt"), text(u"A.Id"),
-                            text(u"R")});
+  const Value outer = list(
+      {text(u"C.Id"), text(u"P.IdCliente"), text(u"L"), text(u"P.IdArt"), text(u"A.Id"), text(u"R")});
   return {"clauses",
           {
               {"sqlTOP(10)", [](const Engine& e) { return dialect::ClausulaTop(e, 10); }},

@@ -5,9 +5,9 @@
 #include <limits>
 #include <random>
 
+#include "base/number_text.h"
 #include "dialect/dialect_fixture.h"
 #include "dialect/literals.h"
-#include "base/number_text.h"
 
 namespace qvr::tests {
 namespace {
@@ -117,7 +117,8 @@ std::size_t significant_digits(const Text& literal) {
 float read_with(std::size_t digits, float number) {
   char buffer[64];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::scientific,
-                                 static_cast<int>(digits) - 1).ptr;
+                                 static_cast<int>(digits) - 1)
+                       .ptr;
   float shorter = Limits<float>::quiet_NaN();
   std::from_chars(buffer, end, shorter);
   return shorter;

@@ -35,10 +35,11 @@ TEST_F(ProcedureCallTest, PassesTheElementsAndGivesTheParametersBack) {
   Value parameters = list({5, u"Ana", Null{}});
   thread.ado.procedure_outputs = {{0, 0}, {1, 7}, {2, u"Eva"}, {3, Date{1}}};
   EXPECT_TRUE(call(parameters));
-  EXPECT_EQ(thread.log.take(), then(kPrepared, {
-      "Parameters.Item.Value: 1=Long 5", "Parameters.Item.Value: 2=String Ana", "Parameters.Item.Value: 3=Null",
-      "Command.Execute: dbo.Alta", "Parameters.Item.Value read: 0", "Parameters.Item.Value read: 1",
-      "Parameters.Item.Value read: 2", "Parameters.Item.Value read: 3", "Command released"}));
+  EXPECT_EQ(thread.log.take(),
+            then(kPrepared, {"Parameters.Item.Value: 1=Long 5", "Parameters.Item.Value: 2=String Ana",
+                             "Parameters.Item.Value: 3=Null", "Command.Execute: dbo.Alta",
+                             "Parameters.Item.Value read: 0", "Parameters.Item.Value read: 1",
+                             "Parameters.Item.Value read: 2", "Parameters.Item.Value read: 3", "Command released"}));
   EXPECT_EQ(elements(parameters), (Lines{"Long 7", "String Eva", "Date 1"}));
 }
 
@@ -65,10 +66,11 @@ TEST_F(ProcedureCallTest, TheIndexOfAnElementTellsItsParameter) {
     Value parameters = list({5, 6}, row.lower);
     thread.ado.procedure_outputs = {{0, 0}};
     EXPECT_TRUE(call(parameters));
-    EXPECT_EQ(thread.log.take(), then(kPrepared, {
-        "Parameters.Item.Value: " + row.first + "=Long 5", "Parameters.Item.Value: " + row.second + "=Long 6",
-        "Command.Execute: dbo.Alta", "Parameters.Item.Value read: 0", "Parameters.Item.Value read: " + row.first,
-        "Parameters.Item.Value read: " + row.second, "Command released"}));
+    EXPECT_EQ(thread.log.take(),
+              then(kPrepared, {"Parameters.Item.Value: " + row.first + "=Long 5",
+                               "Parameters.Item.Value: " + row.second + "=Long 6", "Command.Execute: dbo.Alta",
+                               "Parameters.Item.Value read: 0", "Parameters.Item.Value read: " + row.first,
+                               "Parameters.Item.Value read: " + row.second, "Command released"}));
     EXPECT_EQ(parameters.as<Array>()->lower, row.lower);
   }
 }
@@ -87,10 +89,19 @@ TEST_F(ProcedureCallTest, OnlyAReturnValueOfZeroGivesAnythingBack) {
     bool succeeds;
   };
   const Row kRows[] = {
-      {"0", 0, true}, {"0 as a Double", 0.0, true}, {"Empty", Empty{}, true}, {"text 0", u"0", true},
-      {"false", false, true}, {"Currency 0", Currency{0}, true},
-      {"1", 1, false}, {"-1", -1, false}, {"0.5", 0.5, false}, {"text 3", u"3", false}, {"true", true, false},
-      {"Null", Null{}, false}, {"last digit of Currency", Currency{1}, false},
+      {"0", 0, true},
+      {"0 as a Double", 0.0, true},
+      {"Empty", Empty{}, true},
+      {"text 0", u"0", true},
+      {"false", false, true},
+      {"Currency 0", Currency{0}, true},
+      {"1", 1, false},
+      {"-1", -1, false},
+      {"0.5", 0.5, false},
+      {"text 3", u"3", false},
+      {"true", true, false},
+      {"Null", Null{}, false},
+      {"last digit of Currency", Currency{1}, false},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);

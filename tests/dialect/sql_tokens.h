@@ -9,13 +9,13 @@
 namespace qvr::tests {
 
 enum class TokenKind {
-  Word,         // a key word or a name
-  String,       // what a literal in quotes says, its doubled quotes taken for one
-  Unicode,      // the same with SQL Server's N in front
+  Word,     // a key word or a name
+  String,   // what a literal in quotes says, its doubled quotes taken for one
+  Unicode,  // the same with SQL Server's N in front
   Number,
-  Date,         // "2011-01-05" of Jet, "d 2011-01-05" of SQL Server, "2011-01-05|YYYY-MM-DD" of Oracle
+  Date,  // "2011-01-05" of Jet, "d 2011-01-05" of SQL Server, "2011-01-05|YYYY-MM-DD" of Oracle
   Punctuation,
-  Bad           // a comment, a literal without an end, a character that has no business here; nothing comes behind
+  Bad  // a comment, a literal without an end, a character that has no business here; nothing comes behind
 };
 
 struct Token {

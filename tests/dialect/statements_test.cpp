@@ -28,7 +28,8 @@ TEST_F(StatementsTest, SqlINSERTWritesEveryValue) {
       {"one value", list({-1}), all_engines(u"INSERT INTO Clientes VALUES (-1)")},
       {"lower bound 1", ana(1), all_engines(u"INSERT INTO Clientes VALUES ( 5, 'Ana')")},
       {"negative lower bound", ana(-9), all_engines(u"INSERT INTO Clientes VALUES ( 5, 'Ana')")},
-      {"one of each kind", one_of_each(),
+      {"one of each kind",
+       one_of_each(),
        {u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', True, #2011-01-05#, Null, -2.5, Now())",
         u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', 1, { d '2011-01-05'}, Null, -2.5, GetDate())",
         u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', 1,  TO_DATE('2011-01-05','YYYY-MM-DD') , Null, -2.5, SYSDATE)",
@@ -81,7 +82,11 @@ TEST_F(StatementsTest, SqlUPDATELeavesTheKeyOut) {
       {"the key twice", u"id", 7, list({u"id", u"a", u"ID"}), list({1, 2, 3}),
        all_engines(u"UPDATE T SET a= 2 WHERE id=7")},
       {"a number as a field's name", u"k", 1, list({5}), list({6}), all_engines(u"UPDATE T SET 5= 6 WHERE k=1")},
-      {"one of each kind", u"k", 1, seven_fields(), one_of_each(),
+      {"one of each kind",
+       u"k",
+       1,
+       seven_fields(),
+       one_of_each(),
        {u"UPDATE T SET a= 5, b='O''Neil', c=True, d=#2011-01-05#, e=Null, f=-2.5, g=Now() WHERE k=1",
         u"UPDATE T SET a= 5, b='O''Neil', c=1, d={ d '2011-01-05'}, e=Null, f=-2.5, g=GetDate() WHERE k=1",
         u"UPDATE T SET a= 5, b='O''Neil', c=1, d= TO_DATE('2011-01-05','YYYY-MM-DD') , e=Null, f=-2.5, g=SYSDATE"
@@ -109,7 +114,9 @@ TEST_F(StatementsTest, SqlInsert2NamesTheColumns) {
        all_engines(u"INSERT INTO Clientes(Id,Nombre) VALUES( 1, 2)")},
       {"values that begin earlier", names(1), list({1, 2, 3}),
        all_engines(u"INSERT INTO Clientes(Id,Nombre) VALUES( 2, 3)")},
-      {"one of each kind", seven_fields(), one_of_each(),
+      {"one of each kind",
+       seven_fields(),
+       one_of_each(),
        {u"INSERT INTO Clientes(a,b,c,d,e,f,g) VALUES( 5,'O''Neil',True,#2011-01-05#,Null,-2.5,Now())",
         u"INSERT INTO Clientes(a,b,c,d,e,f,g) VALUES( 5,'O''Neil',1,{ d '2011-01-05'},Null,-2.5,GetDate())",
         u"INSERT INTO Clientes(a,b,c,d,e,f,g) VALUES( 5,'O''Neil',1, TO_DATE('2011-01-05','YYYY-MM-DD') ,Null,-2.5,"
@@ -123,9 +130,8 @@ TEST_F(StatementsTest, SqlInsert2NamesTheColumns) {
   };
   for (const PairRow& row : kRows) {
     SCOPED_TRACE(row.name);
-    expect_each(row.expected, [&](const Engine& engine) {
-      return dialect::SqlInsert2(engine, u"Clientes", row.fields, row.values);
-    });
+    expect_each(row.expected,
+                [&](const Engine& engine) { return dialect::SqlInsert2(engine, u"Clientes", row.fields, row.values); });
   }
 }
 
@@ -141,11 +147,14 @@ TEST_F(StatementsTest, SqlUpdate2TakesAnyCondition) {
       {{"lower bound 1", names(1), ana(1), all_engines(u"UPDATE T SET Id= 5,Nombre='Ana' WHERE c")}, u"c"},
       {{"negative lower bound", names(-1), ana(-1), all_engines(u"UPDATE T SET Id= 5,Nombre='Ana' WHERE c")}, u"c"},
       {{"values that begin earlier", names(1), list({1, 2, 3}), all_engines(u"UPDATE T SET Id= 2,Nombre= 3")}},
-      {{"one of each kind", seven_fields(), one_of_each(),
+      {{"one of each kind",
+        seven_fields(),
+        one_of_each(),
         {u"UPDATE T SET a= 5,b='O''Neil',c=True,d=#2011-01-05#,e=Null,f=-2.5,g=Now() WHERE c",
          u"UPDATE T SET a= 5,b='O''Neil',c=1,d={ d '2011-01-05'},e=Null,f=-2.5,g=GetDate() WHERE c",
          u"UPDATE T SET a= 5,b='O''Neil',c=1,d= TO_DATE('2011-01-05','YYYY-MM-DD') ,e=Null,f=-2.5,g=SYSDATE WHERE c",
-         undefined(u"UPDATE T SET a= 5,b='O''Neil',c=,d=,e=Null,f=-2.5,g= WHERE c", 3)}}, u"c"},
+         undefined(u"UPDATE T SET a= 5,b='O''Neil',c=,d=,e=Null,f=-2.5,g= WHERE c", 3)}},
+       u"c"},
       {{"no fields", list({}), list({}), all_engines(u"UPDATE T SET WHERE c")}, u"c"},
       {{"fields are no array", u"Id", ana(), all_engines(u"")}, u"c"},
       {{"values are no array", names(), Null{}, all_engines(u"")}, u"c"},

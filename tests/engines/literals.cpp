@@ -47,7 +47,10 @@ void add_numbers(CheckedScript& script) {
   const struct {
     std::int64_t scaled;
     const char* text;
-  } amounts[] = {{0, "0"}, {1, "0.0001"}, {-12345, "-1.2345"}, {INT64_MAX, "922337203685477.5807"},
+  } amounts[] = {{0, "0"},
+                 {1, "0.0001"},
+                 {-12345, "-1.2345"},
+                 {INT64_MAX, "922337203685477.5807"},
                  {INT64_MIN, "-922337203685477.5808"}};
   for (const auto& [scaled, text] : amounts) check_number(script, Currency{scaled}, text, u"NUMERIC(38,8)");
   const struct {
@@ -67,10 +70,14 @@ struct DatedRow {
 };
 constexpr double kSecond = 1.0 / 86400;
 constexpr DatedRow kDates[] = {
-    {-657434, "0100-01-01", "00:00:00"},       {-1, "1899-12-29", "00:00:00"},
-    {-1.25, "1899-12-29", "06:00:00"},         {1, "1899-12-31", "00:00:00"},
-    {40548, "2011-01-05", "00:00:00"},         {40548 + 50829 * kSecond, "2011-01-05", "14:07:09"},
-    {40548 + 86399.6 * kSecond, "2011-01-06", "00:00:00"}, {2958465, "9999-12-31", "00:00:00"},
+    {-657434, "0100-01-01", "00:00:00"},
+    {-1, "1899-12-29", "00:00:00"},
+    {-1.25, "1899-12-29", "06:00:00"},
+    {1, "1899-12-31", "00:00:00"},
+    {40548, "2011-01-05", "00:00:00"},
+    {40548 + 50829 * kSecond, "2011-01-05", "14:07:09"},
+    {40548 + 86399.6 * kSecond, "2011-01-06", "00:00:00"},
+    {2958465, "9999-12-31", "00:00:00"},
     {2958465 + 86399 * kSecond, "9999-12-31", "23:59:59"},
 };
 
@@ -122,8 +129,8 @@ void add_clocks(CheckedScript& script) {
   script.check("the query of the clock",
                join({u"EXTRACT(YEAR FROM (SELECT FechaSistema FROM (", dialect::sqlFechaSistema(script.engine()),
                      u") Q)) BETWEEN 2020 AND 2199"}));
-  script.check("the clock by its name", join({u"EXTRACT(YEAR FROM ", ExpSQL(script.engine(), u"ahoraSQL"),
-                                             u") BETWEEN 2020 AND 2199"}));
+  script.check("the clock by its name",
+               join({u"EXTRACT(YEAR FROM ", ExpSQL(script.engine(), u"ahoraSQL"), u") BETWEEN 2020 AND 2199"}));
 }
 
 }  // namespace

@@ -10,18 +10,18 @@ namespace {
 Value list(std::vector<Value> items) { return Array{std::move(items), 0, 1}; }
 
 void fill(CheckedScript& script) {
-  for (const TextView statement : {
-           u"CREATE TABLE Customers (Id INT, Name VARCHAR(40), Town VARCHAR(40), Since TIMESTAMP, Active INT)",
-           u"CREATE TABLE Orders (Id INT, Customer INT, Placed TIMESTAMP, Notes VARCHAR(200))",
-           u"CREATE TABLE Lines (OrderId INT, Article INT, Quantity INT)",
-           u"CREATE TABLE Articles (Id INT, Name VARCHAR(40), Price NUMERIC(10,2))",
-           u"INSERT INTO Customers VALUES (1,'Ana L\u00f3pez','Madrid',TIMESTAMP '2010-12-31 23:59:59',1),"
-           u"(2,'O''Neil','C\u00e1diz',TIMESTAMP '2011-01-05 14:07:09',1),(3,'Bea','Madrid',Null,0)",
-           u"INSERT INTO Orders VALUES (10,1,TIMESTAMP '2011-01-05 00:00:00','urgente'),"
-           u"(11,1,TIMESTAMP '2011-01-05 23:59:59',Null),(12,2,TIMESTAMP '2011-02-01 00:00:00','50% pagado'),"
-           u"(13,3,TIMESTAMP '2011-03-01 00:00:00','normal')",
-           u"INSERT INTO Lines VALUES (10,100,2),(10,101,1),(11,100,5),(12,102,3),(13,101,7)",
-           u"INSERT INTO Articles VALUES (100,'Pan',1.5),(101,'Vino',10),(102,'Queso',4.25)"}) {
+  for (const TextView statement :
+       {u"CREATE TABLE Customers (Id INT, Name VARCHAR(40), Town VARCHAR(40), Since TIMESTAMP, Active INT)",
+        u"CREATE TABLE Orders (Id INT, Customer INT, Placed TIMESTAMP, Notes VARCHAR(200))",
+        u"CREATE TABLE Lines (OrderId INT, Article INT, Quantity INT)",
+        u"CREATE TABLE Articles (Id INT, Name VARCHAR(40), Price NUMERIC(10,2))",
+        u"INSERT INTO Customers VALUES (1,'Ana L\u00f3pez','Madrid',TIMESTAMP '2010-12-31 23:59:59',1),"
+        u"(2,'O''Neil','C\u00e1diz',TIMESTAMP '2011-01-05 14:07:09',1),(3,'Bea','Madrid',Null,0)",
+        u"INSERT INTO Orders VALUES (10,1,TIMESTAMP '2011-01-05 00:00:00','urgente'),"
+        u"(11,1,TIMESTAMP '2011-01-05 23:59:59',Null),(12,2,TIMESTAMP '2011-02-01 00:00:00','50% pagado'),"
+        u"(13,3,TIMESTAMP '2011-03-01 00:00:00','normal')",
+        u"INSERT INTO Lines VALUES (10,100,2),(10,101,1),(11,100,5),(12,102,3),(13,101,7)",
+        u"INSERT INTO Articles VALUES (100,'Pan',1.5),(101,'Vino',10),(102,'Queso',4.25)"}) {
     script.run(statement);
   }
 }
@@ -31,12 +31,26 @@ QueryRequest lines_of_orders(dialect::Engine engine) {
   QueryRequest request;
   request.MotorBD = engine;
   request.NombreObjeto = u"Lineas";
-  request.ColumnasSELECT =
-      list({Text(u"O.Id"),       Text(u"N>Pedido"),   Text(u"C.Name"),     Text(u"T>Cliente"), Text(u"C.Town"),
-            Text(u"T>Ciudad"),   Text(u"C.Since"),    Text(u"F>Alta"),     Text(u"C.Active"),  Text(u"L>Activo"),
-            Text(u"O.Placed"),   Text(u"F>Fecha"),    Text(u"O.Notes"),    Text(u"M>Notas"),   Text(u"A.Name"),
-            Text(u"T>Articulo"), Text(u"L.Quantity"), Text(u"N>Cantidad"), Text(u"L.Quantity*A.Price"),
-            Text(u"N>Importe")});
+  request.ColumnasSELECT = list({Text(u"O.Id"),
+                                 Text(u"N>Pedido"),
+                                 Text(u"C.Name"),
+                                 Text(u"T>Cliente"),
+                                 Text(u"C.Town"),
+                                 Text(u"T>Ciudad"),
+                                 Text(u"C.Since"),
+                                 Text(u"F>Alta"),
+                                 Text(u"C.Active"),
+                                 Text(u"L>Activo"),
+                                 Text(u"O.Placed"),
+                                 Text(u"F>Fecha"),
+                                 Text(u"O.Notes"),
+                                 Text(u"M>Notas"),
+                                 Text(u"A.Name"),
+                                 Text(u"T>Articulo"),
+                                 Text(u"L.Quantity"),
+                                 Text(u"N>Cantidad"),
+                                 Text(u"L.Quantity*A.Price"),
+                                 Text(u"N>Importe")});
   request.TablasFROM = u"Customers C, Orders O, Lines L, Articles A";
   request.RelacionTablas = list({Text(u"C.Id"), Text(u"O.Customer"), Text(u"I"), Text(u"O.Id"), Text(u"L.OrderId"),
                                  Text(u"I"), Text(u"L.Article"), Text(u"A.Id"), Text(u"I")});

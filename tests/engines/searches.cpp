@@ -2,9 +2,9 @@
 #include <random>
 #include <string>
 
+#include "base/number_text.h"
 #include "dialect/literals.h"
 #include "engines/checked_script.h"
-#include "base/number_text.h"
 #include "query/random_searches.h"
 #include "query/search_fixture.h"
 
@@ -17,8 +17,11 @@ struct SearchedType {
   char16_t letter;
   TextView column_type;
 };
-constexpr SearchedType kTypes[] = {{u'T', u"VARCHAR(100)"}, {u'M', u"VARCHAR(100)"}, {u'N', u"DECIMAL(18,4)"},
-                                   {u'F', u"TIMESTAMP"},    {u'L', u"SMALLINT"}};
+constexpr SearchedType kTypes[] = {{u'T', u"VARCHAR(100)"},
+                                   {u'M', u"VARCHAR(100)"},
+                                   {u'N', u"DECIMAL(18,4)"},
+                                   {u'F', u"TIMESTAMP"},
+                                   {u'L', u"SMALLINT"}};
 
 struct Literal {
   dialect::Engine engine;

@@ -1,6 +1,6 @@
 // Whole statements, and what the rows hold after them.
-#include "dialect/literals.h"
 #include "dialect/statements.h"
+#include "dialect/literals.h"
 #include "engines/checked_script.h"
 #include "engines/hostile_texts.h"
 

@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "faults/failing_allocations.h"
 #include "base/failure.h"
+#include "faults/failing_allocations.h"
 #include "support/describe.h"
 #include "support/test_thread.h"
 

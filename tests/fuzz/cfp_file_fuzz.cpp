@@ -62,16 +62,17 @@ void check_round_trip(FuzzInput& input) {
   parameters.MotorBD = input.number();
   const auto at = static_cast<std::uint32_t>(input.number());
   const auto by = static_cast<char>(input.number());
-  for (Text* field : {&parameters.Provider, &parameters.DataSource, &parameters.InitialCatalogOTablespace,
-                      &parameters.UsuarioAdm, &parameters.ClaveAdm, &parameters.UsuarioCli, &parameters.ClaveCli,
-                      &parameters.OtrosParametros}) {
+  for (Text* field :
+       {&parameters.Provider, &parameters.DataSource, &parameters.InitialCatalogOTablespace, &parameters.UsuarioAdm,
+        &parameters.ClaveAdm, &parameters.UsuarioCli, &parameters.ClaveCli, &parameters.OtrosParametros}) {
     *field = input.text();
   }
   const std::string bytes = written(parameters, protection);
   const auto whole = read(bytes, protection);
   require(whole && written(*whole, protection) == bytes, "what was written is read");
   require(whole->OtrosParametros == parameters.OtrosParametros && whole->ClaveAdm == parameters.ClaveAdm &&
-              whole->MotorBD == parameters.MotorBD, "as it was");
+              whole->MotorBD == parameters.MotorBD,
+          "as it was");
 
   std::string changed = bytes;
   changed[at % bytes.size()] = by;

@@ -1,13 +1,13 @@
 // Long texts of a piece again and again cost about what their length says, whatever the piece is.
 #include <ctime>
 
+#include "base/failure.h"
+#include "base/number_text.h"
+#include "base/utf8.h"
 #include "connection/qvrcfp.h"
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
 #include "dialect/statements.h"
-#include "base/failure.h"
-#include "base/number_text.h"
-#include "base/utf8.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 #include "query/csql20.h"
@@ -122,7 +122,7 @@ void write_lists(const Text& text) {
 }
 
 constexpr std::string_view kKinds = "sgpdtclw";
-constexpr void (*kCalls[])(const Text&) = {search, split_commands, prepare, decode,
+constexpr void (*kCalls[])(const Text&) = {search, split_commands, prepare,        decode,
                                            define, take_criterion, write_literals, write_lists};
 
 // The processor's seconds for this text.

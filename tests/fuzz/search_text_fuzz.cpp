@@ -13,7 +13,8 @@ constexpr std::string_view kTypes = "TMNFL";
 // Values to run conditions on; a text that an engine could not read would show here.
 std::vector<Cell> cells_for(std::size_t type, const Text& typed) {
   switch (type) {
-    case 2: case 4: return {Cell(), 0.0, 1.0, -2.5};
+    case 2:
+    case 4: return {Cell(), 0.0, 1.0, -2.5};
     case 3: return {Cell(), Moment{1294185600}, Moment{0}};
     default: return {Cell(), Text(), typed.substr(0, 40), Text(u"ana")};
   }

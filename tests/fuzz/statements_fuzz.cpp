@@ -4,12 +4,12 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "base/date_text.h"
+#include "base/failure.h"
 #include "dialect/clauses.h"
 #include "dialect/expected_tokens.h"
 #include "dialect/literals.h"
 #include "dialect/table_relations.h"
-#include "base/date_text.h"
-#include "base/failure.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 #include "query/csql20.h"
@@ -145,8 +145,9 @@ void check_query(Engine engine, const Text& typed) {
   if (!found) return;
   ExpectedTokens expected(engine);
   expected.words({u"SELECT", u"X", u"FROM", u"t", u"WHERE"}).sign(u'(');
-  expected.value({{}, {tokens_of(engine, found->condition), tokens_of(engine, found->condition),
-                       tokens_of(engine, found->condition)}});
+  expected.value({{},
+                  {tokens_of(engine, found->condition), tokens_of(engine, found->condition),
+                   tokens_of(engine, found->condition)}});
   expected.sign(u')');
   require_tokens(engine, query.SQL(), expected.tokens());
 }

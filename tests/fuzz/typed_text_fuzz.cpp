@@ -3,10 +3,10 @@
 
 #include <cmath>
 
-#include "connection/qvrcfp.h"
 #include "base/date_text.h"
 #include "base/failure.h"
 #include "base/number_text.h"
+#include "connection/qvrcfp.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "base/utf8.h"
-#include "session/value_convert.h"
 #include "odbc/odbc_api.h"
+#include "session/value_convert.h"
 #include "support/temporary_folder.h"
 
 namespace qvr::tests {

@@ -4,8 +4,8 @@
 #include <random>
 
 #include "base/date_text.h"
-#include "platform/platform.h"
 #include "base/utf8.h"
+#include "platform/platform.h"
 
 namespace qvr::tests {
 namespace {
@@ -23,8 +23,8 @@ TEST(SystemLocale, ReadsNumbersWithItsOwnSeparator) {
 }
 
 TEST(SystemLocale, HasNothingForWhatIsNoNumber) {
-  const Text kTexts[] = {u"", u" ", u"abc", u"12abc", u"-", u"1 2", u"--1", u"\u0661",
-                         Text(u"12\0x", 4), Text(1, u'\0')};
+  const Text kTexts[] = {u"",    u" ",   u"abc",    u"12abc",          u"-",
+                         u"1 2", u"--1", u"\u0661", Text(u"12\0x", 4), Text(1, u'\0')};
   for (const Text& text : kTexts) {
     SCOPED_TRACE(::testing::PrintToString(text));
     EXPECT_EQ(locale().parse_number(text), std::nullopt);
@@ -64,8 +64,10 @@ TEST(SystemLocale, ReadsAYearInFrontAsYearMonthDay) {
 }
 
 TEST(SystemLocale, HasNothingForWhatIsNoDate) {
-  const Text kTexts[] = {u"", u"abc", u"32/13/2000", u"30/02/2000", u"0/0/2000", u"1/1/2000 25:00:00", u"1/2/3/4/5",
-                         Text(u"1/1/2000\0x", 10)};
+  const Text kTexts[] = {u"",           u"abc",
+                         u"32/13/2000", u"30/02/2000",
+                         u"0/0/2000",   u"1/1/2000 25:00:00",
+                         u"1/2/3/4/5",  Text(u"1/1/2000\0x", 10)};
   for (const Text& text : kTexts) {
     SCOPED_TRACE(::testing::PrintToString(text));
     const auto date = locale().parse_date(text);

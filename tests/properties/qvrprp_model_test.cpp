@@ -25,8 +25,8 @@ struct Name {
 };
 
 constexpr int kNumeric = -1;  // names that are positions when they are asked for
-constexpr Name kNames[] = {{u"a", 0}, {u"A", 0}, {u"b", 1}, {u"\u00f1", 2}, {u"\u00d1", 2}, {u"", 3}, {u"x y", 4},
-                           {u"2", kNumeric}, {u"-1", kNumeric}, {u"1.5", kNumeric}};
+constexpr Name kNames[] = {{u"a", 0}, {u"A", 0},   {u"b", 1},        {u"\u00f1", 2},    {u"\u00d1", 2},
+                           {u"", 3},  {u"x y", 4}, {u"2", kNumeric}, {u"-1", kNumeric}, {u"1.5", kNumeric}};
 
 std::vector<Key> all_keys() {
   return {{u"a", kByName, 0},

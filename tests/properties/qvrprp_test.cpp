@@ -191,9 +191,21 @@ TEST_F(QVRprpTest, ValuesThatHaveTextsAreNamesToo) {
 }
 
 TEST_F(QVRprpTest, ValuesOfEveryKindAreKeptWhateverTheType) {
-  const Value kValues[] = {Empty{},      Missing{},        Null{},      true,         std::uint8_t{255},
-                           std::int16_t{-1}, INT32_MIN,    std::int64_t{5000000000}, 0.1f, 1e300,
-                           Currency{-1}, Date{36526.75},   u"\u00f1 \U0001F4C1", Text(3, u'\0'), ErrorValue{13},
+  const Value kValues[] = {Empty{},
+                           Missing{},
+                           Null{},
+                           true,
+                           std::uint8_t{255},
+                           std::int16_t{-1},
+                           INT32_MIN,
+                           std::int64_t{5000000000},
+                           0.1f,
+                           1e300,
+                           Currency{-1},
+                           Date{36526.75},
+                           u"\u00f1 \U0001F4C1",
+                           Text(3, u'\0'),
+                           ErrorValue{13},
                            ObjectRef()};
   std::int32_t count = 0;
   for (const TextView type : {u"T", u"N", u"F", u"L"}) {

@@ -24,8 +24,8 @@ TEST(ConditionChainTest, RefusesWhatItHoldsWhateverItsLength) {
     expected += join({i == 0 ? u"" : u" and ", u"(", numbered(i), u")"});
   }
   EXPECT_EQ(chain.text(), expected);
-  const Text kHeld[] = {numbered(0), numbered(2999), u"c.c\u00d3DIGO <> 1500 OR F(c.x, (1500))", u"2999",
-                        u"C.x, (7)", u"C.x, (7", u"999)", numbered(10) + u") and (" + numbered(11)};
+  const Text kHeld[] = {numbered(0), numbered(2999), u"c.c\u00d3DIGO <> 1500 OR F(c.x, (1500))", u"2999", u"C.x, (7)",
+                        u"C.x, (7",  u"999)",        numbered(10) + u") and (" + numbered(11)};
   for (const Text& held : kHeld) {
     EXPECT_FALSE(chain.add(held)) << to_utf8(held);
   }

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <cstdlib>
 
-#include "dialect/sql_tokens.h"
 #include "base/utf8.h"
+#include "dialect/sql_tokens.h"
 #include "query/like_rules.h"
 
 namespace qvr::tests {

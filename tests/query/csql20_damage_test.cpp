@@ -33,10 +33,12 @@ class Csql20DamageTest : public QueryTest {
 TEST_F(Csql20DamageTest, ReadsATextOfTheFirstVersion) {
   cSQL20 query;
   ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
-  EXPECT_EQ(query.SQL(), u"SELECT DISTINCT  TOP 5 C.Nombre As [Nombre], Max(C.Alta) As [Alta]  FROM Clientes C  WHERE "
-                         u"C.Baja=0 And (C.Pa\u00eds='<*') GROUP BY C.Nombre  ORDER BY 2 DESC,1");
-  EXPECT_EQ(query.SQLOriginal(), u"SELECT DISTINCT  TOP 5 C.Nombre As [Nombre], Max(C.Alta) As [Alta]  FROM Clientes "
-                                 u"C  WHERE C.Baja=0 GROUP BY C.Nombre  ORDER BY C.Nombre");
+  EXPECT_EQ(query.SQL(),
+            u"SELECT DISTINCT  TOP 5 C.Nombre As [Nombre], Max(C.Alta) As [Alta]  FROM Clientes C  WHERE "
+            u"C.Baja=0 And (C.Pa\u00eds='<*') GROUP BY C.Nombre  ORDER BY 2 DESC,1");
+  EXPECT_EQ(query.SQLOriginal(),
+            u"SELECT DISTINCT  TOP 5 C.Nombre As [Nombre], Max(C.Alta) As [Alta]  FROM Clientes "
+            u"C  WHERE C.Baja=0 GROUP BY C.Nombre  ORDER BY C.Nombre");
   EXPECT_EQ(query.CriterioActual(), u"Pa\u00eds = <*");
   EXPECT_EQ(query.TipoCampo(u"alta"), u"F");
   EXPECT_EQ(query.TOP(), 5);

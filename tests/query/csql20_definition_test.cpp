@@ -8,13 +8,32 @@ using Csql20DefinitionTest = QueryTest;
 
 // What two queries have to agree in: everything but what belongs to their holders.
 Text described(const cSQL20& query, std::initializer_list<TextView> fields) {
-  Text text = join({query.SQL(), u"|", query.SQLSinOrden(), u"|", query.SQLOriginal(), u"|",
-                    query.SQLOriginalSinOrden(), u"|", query.ParteWhere(true), u"|", query.ParteHaving(true), u"|",
-                    query.ParteOrder(true), u"|", query.CriterioActual(), u"|", query.CriterioActualCompleto(), u"|",
-                    decimal(query.TOP()), u"|", decimal(query.MotorBD()), u"|", decimal(query.NumColumnas())});
+  Text text = join({query.SQL(),
+                    u"|",
+                    query.SQLSinOrden(),
+                    u"|",
+                    query.SQLOriginal(),
+                    u"|",
+                    query.SQLOriginalSinOrden(),
+                    u"|",
+                    query.ParteWhere(true),
+                    u"|",
+                    query.ParteHaving(true),
+                    u"|",
+                    query.ParteOrder(true),
+                    u"|",
+                    query.CriterioActual(),
+                    u"|",
+                    query.CriterioActualCompleto(),
+                    u"|",
+                    decimal(query.TOP()),
+                    u"|",
+                    decimal(query.MotorBD()),
+                    u"|",
+                    decimal(query.NumColumnas())});
   for (const TextView field : fields) {
-    text += join({u"|", query.TipoCampo(field), u"|", query.ExpresionOriginal(field), u"|",
-                  decimal(query.NumColumna(field))});
+    text += join(
+        {u"|", query.TipoCampo(field), u"|", query.ExpresionOriginal(field), u"|", decimal(query.NumColumna(field))});
   }
   return text;
 }
@@ -69,9 +88,10 @@ TEST_F(Csql20DefinitionTest, GivesEveryColumnAnAlias) {
   cSQL20 query, copy, third;
   ASSERT_TRUE(query.Crear(full(kSqlServer)));
   ASSERT_TRUE(copy.CrearDesdeTextoDefinicion(query.TextoDefinicion()));
-  EXPECT_EQ(copy.SQL(), u"SELECT C.Nombre As [Nombre], C.Alta As [Alta], C.Notas As [Notas], Sum(P.Imp) As [Total]  "
-                        u"FROM Clientes C INNER JOIN Pedidos P ON C.Id=P.IdCli  WHERE C.Baja=0 GROUP BY C.Nombre, "
-                        u"C.Alta, C.Notas HAVING Sum(P.Imp)>0 ORDER BY C.Nombre");
+  EXPECT_EQ(copy.SQL(),
+            u"SELECT C.Nombre As [Nombre], C.Alta As [Alta], C.Notas As [Notas], Sum(P.Imp) As [Total]  "
+            u"FROM Clientes C INNER JOIN Pedidos P ON C.Id=P.IdCli  WHERE C.Baja=0 GROUP BY C.Nombre, "
+            u"C.Alta, C.Notas HAVING Sum(P.Imp)>0 ORDER BY C.Nombre");
   EXPECT_EQ(copy.ExpresionOriginal(u"nombre"), u"C.Nombre");
   EXPECT_EQ(copy.TextoDefinicion(), query.TextoDefinicion());
   ASSERT_TRUE(third.CrearDesdeTextoDefinicion(copy.TextoDefinicion()));

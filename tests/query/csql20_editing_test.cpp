@@ -135,8 +135,8 @@ TEST_F(Csql20EditingTest, ClicksSortByTheColumnClickedLast) {
 
 TEST_F(Csql20EditingTest, AClickBesideTheColumnsIsTold) {
   click({1});
-  for (const std::int16_t column : {std::int16_t{0}, std::int16_t{5}, std::int16_t{-1}, std::int16_t{INT16_MAX},
-                                    std::int16_t{INT16_MIN}}) {
+  for (const std::int16_t column :
+       {std::int16_t{0}, std::int16_t{5}, std::int16_t{-1}, std::int16_t{INT16_MAX}, std::int16_t{INT16_MIN}}) {
     SCOPED_TRACE(column);
     EXPECT_FALSE(showing({failed(u"AmpliarOrden", 9)}, [&] { return query.AmpliarOrden(column); }));
     EXPECT_EQ(query.ParteOrder(true), u"1");

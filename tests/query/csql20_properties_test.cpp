@@ -1,6 +1,6 @@
 // Columns by their name, and the properties of a query.
-#include "session/idioma_simple.h"
 #include "query/query_fixture.h"
+#include "session/idioma_simple.h"
 
 namespace qvr::tests {
 namespace {
@@ -25,8 +25,8 @@ TEST_F(Csql20PropertiesTest, AreEmptyAtFirst) {
 
 TEST_F(Csql20PropertiesTest, FindColumnsInAnyCase) {
   cSQL20 query;
-  const Value columns = list({u"C.A\u00f1o", u"F+", u"C.Pa\u00eds", u"T+",
-                              u"Max(C.A\u00f1o)", u"N>A\u00d1O", u"C.A\u00f1o", u"M"});
+  const Value columns = list(
+      {u"C.A\u00f1o", u"F+", u"C.Pa\u00eds", u"T+", u"Max(C.A\u00f1o)", u"N>A\u00d1O", u"C.A\u00f1o", u"M"});
   ASSERT_TRUE(query.Crear(request(kJet, columns)));
   EXPECT_EQ(query.NumColumnas(), 4);
   struct Row {

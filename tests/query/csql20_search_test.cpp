@@ -30,8 +30,8 @@ class Search : public ::testing::Test {
     return query.InterpretarBusqueda(field, text, criterion);
   }
   void expect_box(TextView procedure, TextView error) {
-    EXPECT_EQ(thread.log.take(), Lines{"Box OK: " + to_utf8(join({u"Objeto: cSQL20\r\nM\u00e9todo: ", procedure,
-                                                                  u"\r\nError ", error}))});
+    EXPECT_EQ(thread.log.take(),
+              Lines{"Box OK: " + to_utf8(join({u"Objeto: cSQL20\r\nM\u00e9todo: ", procedure, u"\r\nError ", error}))});
   }
   void answer_box() { thread.boxes.answer(BoxAnswer::Ok); }
 
@@ -65,8 +65,7 @@ TEST_F(Search, AddsOneConditionAndOneCriterion) {
   EXPECT_TRUE(search(u"Alta", u"2011"));
   EXPECT_EQ(query.ParteWhere(true),
             u"(C.Nombre LIKE '%ana%' Or C.Nombre LIKE '%bea%') and (C.Alta>=#2011-01-01# And C.Alta<#2012-01-01#)");
-  EXPECT_EQ(query.CriterioActual(),
-            u"Cliente es como '*ana*'; es como '*bea*' y Alta >= 01/01/2011 y <= 31/12/2011");
+  EXPECT_EQ(query.CriterioActual(), u"Cliente es como '*ana*'; es como '*bea*' y Alta >= 01/01/2011 y <= 31/12/2011");
 }
 
 TEST_F(Search, IsNotMadeTwice) {

@@ -22,8 +22,9 @@ void PrintTo(const Statements& s, std::ostream* out) {
   }
 }
 
-constexpr TextView kJoined = u"SELECT C.Nombre, C.Alta, C.Notas, Sum(P.Imp) As [Total]  FROM Clientes C INNER JOIN "
-                             u"Pedidos P ON C.Id=P.IdCli  ";
+constexpr TextView kJoined =
+    u"SELECT C.Nombre, C.Alta, C.Notas, Sum(P.Imp) As [Total]  FROM Clientes C INNER JOIN "
+    u"Pedidos P ON C.Id=P.IdCli  ";
 constexpr TextView kGrouped = u" GROUP BY C.Nombre, C.Alta, C.Notas ";
 
 TEST_F(Csql20StatementsTest, AreBlanksBeforeThereIsAQuery) {
@@ -50,8 +51,8 @@ TEST_F(Csql20StatementsTest, HoldEveryClause) {
     EXPECT_TRUE(query.AmpliarCondicionWhere(u"C.Pais='ES'", u""));
     EXPECT_TRUE(query.AmpliarCondicionHaving(u"Sum(P.Imp)<9", u""));
     EXPECT_FALSE(query.AmpliarOrden(2));
-    const Text narrowed = join({kJoined, u"WHERE C.Baja=0 And (C.Pais='ES')", kGrouped,
-                                u"HAVING Sum(P.Imp)>0 and (Sum(P.Imp)<9)"});
+    const Text narrowed = join(
+        {kJoined, u"WHERE C.Baja=0 And (C.Pais='ES')", kGrouped, u"HAVING Sum(P.Imp)>0 and (Sum(P.Imp)<9)"});
     EXPECT_EQ(statements_of(query), (Statements{narrowed + u" ORDER BY 2 DESC", narrowed, ordered, unordered}));
   }
 }

@@ -88,8 +88,9 @@ TEST_F(Csql20TopTest, ChangesALimitInTheOriginalCondition) {
     ASSERT_TRUE(query.Crear(wanted));
     query.AmpliarCondicionWhere(u" ROWNUM<=5 ", u"");
     query.TOP(7);
-    constexpr TextView kChanged = u"WHERE a=1 And ROWNUM<=7 And b<=5 And (ROWNUM<=5) Or ROWNUM<=7 Or ROWNUM<=55 Or "
-                                  u"ROWNUM<=5";
+    constexpr TextView kChanged =
+        u"WHERE a=1 And ROWNUM<=7 And b<=5 And (ROWNUM<=5) Or ROWNUM<=7 Or ROWNUM<=55 Or "
+        u"ROWNUM<=5";
     const Text limit = engine == kOracle ? u" And (RowNum<=7) " : u"";
     EXPECT_NE(query.SQLOriginalSinOrden().find(join({u"  ", kChanged, u"  "})), Text::npos);
     EXPECT_EQ(query.ParteWhere(false), join({kChanged, u" And ( ROWNUM<=5 )", limit}));
@@ -122,8 +123,7 @@ TEST_F(Csql20TopTest, ChangesEachLimitInTheSelectList) {
   cSQL20 query;
   ASSERT_TRUE(query.Crear(wanted));
   query.TOP(6);
-  EXPECT_EQ(query.SQLOriginal(),
-            join({u"SELECT  TOP 6 a, (Select TOP 6 b From c) As [b], ' TOP 55 '", kRest}));
+  EXPECT_EQ(query.SQLOriginal(), join({u"SELECT  TOP 6 a, (Select TOP 6 b From c) As [b], ' TOP 55 '", kRest}));
   query.TOP(0);
   EXPECT_EQ(query.SQLOriginal(), join({u"SELECT  a, (Select b From c) As [b], ' TOP 55 '", kRest}));
   EXPECT_EQ(query.ExpresionOriginal(u"b"), u"(Select top 5 b From c)");

@@ -21,8 +21,7 @@ inline QueryRequest plain(Engine engine) { return request(engine, list({u"Nombre
 
 // Every clause, and a column of each kind.
 inline QueryRequest full(Engine engine) {
-  const Value columns =
-      list({u"C.Nombre", u"T+", u"C.Alta", u"F+", u"C.Notas", u"M+", u"Sum(P.Imp)", u"N>Total"});
+  const Value columns = list({u"C.Nombre", u"T+", u"C.Alta", u"F+", u"C.Notas", u"M+", u"Sum(P.Imp)", u"N>Total"});
   QueryRequest full = request(engine, columns, u"Clientes C, Pedidos P");
   full.NombreObjeto = u"Ventas";
   full.RelacionTablas = list({u"C.Id", u"P.IdCli", u"I"});
@@ -35,8 +34,8 @@ inline QueryRequest full(Engine engine) {
 
 // The box of a member that failed, with the failure's number.
 inline Text failed(TextView procedure, std::int32_t number) {
-  return join({u"Objeto: cSQL20\r\nM\u00e9todo: ", procedure, u"\r\nError ", decimal(number), u": ",
-               description_of(number)});
+  return join(
+      {u"Objeto: cSQL20\r\nM\u00e9todo: ", procedure, u"\r\nError ", decimal(number), u": ", description_of(number)});
 }
 
 class QueryTest : public DialectTest {

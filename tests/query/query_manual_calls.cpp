@@ -14,8 +14,7 @@ void create(cSQL20& query, const dialect::Engine& engine) {
                                  0,
                                  1};
   request.TablasFROM = u"Clientes C, Pedidos P";
-  request.RelacionTablas =
-      Array{{Value(Text(u"C.Id")), Value(Text(u"P.IdCliente")), Value(Text(u"L"))}, 0, 1};
+  request.RelacionTablas = Array{{Value(Text(u"C.Id")), Value(Text(u"P.IdCliente")), Value(Text(u"L"))}, 0, 1};
   request.NumColumnasGROUPBY = 2;
   request.TextoORDERBYInicial = u"C.Nombre";
   query.Crear(request);

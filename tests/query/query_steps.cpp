@@ -3,17 +3,18 @@
 namespace qvr::tests {
 namespace {
 
-constexpr TextView kWords[] = {u"",      u" ",           u"a=1",           u"A=1",   u"b=2",
-                               u"x=(1)", u"1",           u"a=1) and (b=2", u"C.x<9", u" ROWNUM<=5 ",
-                               u"x()",   u" a And b Or ", u"rownum<=7",    u"1,2"};
+constexpr TextView kWords[] = {u"",          u" ",           u"a=1", u"A=1",
+                               u"b=2",       u"x=(1)",       u"1",   u"a=1) and (b=2",
+                               u"C.x<9",     u" ROWNUM<=5 ", u"x()", u" a And b Or ",
+                               u"rownum<=7", u"1,2"};
 constexpr TextView kOriginals[] = {u"", u"", u"  ", u"C.Baja=0", u"C.Baja=0 And RowNum<=5 Or b", u"x or ROWNUM<=50 "};
 constexpr std::int32_t kTops[] = {0, 0, 5, 5, 7, 50, -1};
 constexpr std::int32_t kLanguages[] = {0, 1, 3};
 constexpr dialect::Engine kEngines[] = {dialect::kJet, dialect::kSqlServer, dialect::kOracle, 0};
 
 QueryRequest chosen_request(Choices& choices) {
-  constexpr TextView kColumns[][2] = {{u"C.Nombre", u"T+"}, {u"C.Alta", u"F>Alta"}, {u"C.Notas", u"M"},
-                                      {u"Sum(P.Imp)", u"N>Total"}, {u"Nombre", u"F"}, {u"Count(*)", u""},
+  constexpr TextView kColumns[][2] = {{u"C.Nombre", u"T+"},        {u"C.Alta", u"F>Alta"}, {u"C.Notas", u"M"},
+                                      {u"Sum(P.Imp)", u"N>Total"}, {u"Nombre", u"F"},      {u"Count(*)", u""},
                                       {u"L.total", u"N+"}};
   constexpr TextView kRelations[][2] = {{u"C.Id", u"P.IdCli"}, {u"P.Id", u"l.IdPed"}, {u"L.Id", u"X.IdLin"}};
   constexpr TextView kLetters[] = {u"I", u"L", u"R", u"A"};
@@ -46,9 +47,15 @@ QueryRequest chosen_request(Choices& choices) {
 }  // namespace
 
 Step::Step(Choices& choices)
-    : kind(choices.below(24)), flags{choices.flip(), choices.flip(), choices.flip()}, first(choices.of(kWords)),
-      second(choices.of(kWords)), column(static_cast<std::int16_t>(choices.below(8)) - 1), top(choices.of(kTops)),
-      language(choices.of(kLanguages)), engine(choices.of(kEngines)), slot(choices.below(2)) {
+    : kind(choices.below(24)),
+      flags{choices.flip(), choices.flip(), choices.flip()},
+      first(choices.of(kWords)),
+      second(choices.of(kWords)),
+      column(static_cast<std::int16_t>(choices.below(8)) - 1),
+      top(choices.of(kTops)),
+      language(choices.of(kLanguages)),
+      engine(choices.of(kEngines)),
+      slot(choices.below(2)) {
   if (kind == 0) request = chosen_request(choices);
 }
 

@@ -44,24 +44,31 @@ struct Subject {
   template <class... Args>
   explicit Subject(Args&... args) : query(args...) {}
 
-  static constexpr bool kSelect = requires(Query& q) { q.ParteWhere(true); };
+  static constexpr bool kSelect = requires(Query & q) { q.ParteWhere(true); };
 
   // What the call gives; nothing for those that give nothing.
   int make(const Step& step) {
     switch (step.kind) {
       case 0: return query.Crear(step.request);
-      case 1: case 2: case 3: return query.AmpliarCondicionWhere(step.first, step.second);
-      case 4: case 5: case 6: case 7: return query.AmpliarOrden(static_cast<std::int16_t>(step.column));
+      case 1:
+      case 2:
+      case 3: return query.AmpliarCondicionWhere(step.first, step.second);
+      case 4:
+      case 5:
+      case 6:
+      case 7: return query.AmpliarOrden(static_cast<std::int16_t>(step.column));
       case 8: return query.CambiaOrden(step.first), 0;
       case 9: return query.RestauraOriginal(step.flags[0], step.flags[1]), 0;
       case 10: return query.AdoptaComoOriginal(step.flags[0], step.flags[1], step.flags[2]), 0;
-      case 11: case 12: return query.TOP(step.top), 0;
+      case 11:
+      case 12: return query.TOP(step.top), 0;
       case 13: return query.Idioma(step.language), 0;
       case 14: return query.MotorBD(step.engine), 0;
       case 15: return query.Tag(step.first), 0;
       case 16: return definitions[step.slot] = query.TextoDefinicion(), 0;
       case 17: return query.CrearDesdeTextoDefinicion(definitions[step.slot]);
-      case 18: case 19: return criteria[step.slot] = query.CriterioActualCompleto(), 0;
+      case 18:
+      case 19: return criteria[step.slot] = query.CriterioActualCompleto(), 0;
       case 20: return query.CriterioActualCompleto(criteria[step.slot]), 0;
       case 21: return query.Idioma();
       default: return make_of_select(step);
@@ -78,9 +85,17 @@ struct Subject {
 
   // Every getter that changes nothing, one to a line.
   Text state() const {
-    std::vector<Text> lines = {query.SQL(), query.SQLSinOrden(), query.SQLOriginal(), query.SQLOriginalSinOrden(),
-                               query.ParteOrder(false), query.ParteOrder(true), query.CriterioActual(), query.Tag(),
-                               decimal(query.TOP()), decimal(query.MotorBD()), decimal(query.NumColumnas()),
+    std::vector<Text> lines = {query.SQL(),
+                               query.SQLSinOrden(),
+                               query.SQLOriginal(),
+                               query.SQLOriginalSinOrden(),
+                               query.ParteOrder(false),
+                               query.ParteOrder(true),
+                               query.CriterioActual(),
+                               query.Tag(),
+                               decimal(query.TOP()),
+                               decimal(query.MotorBD()),
+                               decimal(query.NumColumnas()),
                                query.Creado() ? u"created" : u"none"};
     for (const TextView field : kStepFields) {
       lines.push_back(decimal(query.NumColumna(field)));

@@ -77,8 +77,8 @@ MeantSearch RandomSearches::null_atom() {
 Text RandomSearches::range_text(TextView first, TextView last) {
   constexpr struct {
     TextView before, between;
-  } kForms[] = {{u"", u".."}, {u"", u" .. "}, {u"entre ", u" y "}, {u"between ", u" and "}, {u"Entre ", u" et "},
-                {u"desde ", u" hasta "}, {u"from ", u" to "}, {u"de ", u" \u00e0 "}};
+  } kForms[] = {{u"", u".."},         {u"", u" .. "},          {u"entre ", u" y "}, {u"between ", u" and "},
+                {u"Entre ", u" et "}, {u"desde ", u" hasta "}, {u"from ", u" to "}, {u"de ", u" \u00e0 "}};
   const auto& form = one_of(kForms);
   return join({form.before, first, form.between, last});
 }

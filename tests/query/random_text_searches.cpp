@@ -7,8 +7,9 @@
 namespace qvr::tests {
 namespace {
 
-constexpr TextView kWords[] = {u"ana", u"O'Neil", u"50%", u"a_b", u"R&D", u"and", u"Nulo", u"(b)", u"x--y", u"/-z",
-                               u"1=1", u"\u00f1and\u00fa", u"a\\b", u"a#b", u"50!%", u"y", u"bea"};
+constexpr TextView kWords[] = {u"ana",  u"O'Neil", u"50%",  u"a_b", u"R&D", u"and",
+                               u"Nulo", u"(b)",    u"x--y", u"/-z", u"1=1", u"\u00f1and\u00fa",
+                               u"a\\b", u"a#b",    u"50!%", u"y",   u"bea"};
 constexpr TextView kPlainWords[] = {u"ana", u"b", u"c", u"bea", u"ca"};
 constexpr TextView kEnds[] = {u"ana", u"b", u"c", u"bea", u"ca", u"o'neil", u"p"};
 
@@ -59,9 +60,9 @@ MeantSearch RandomSearches::text_atom(bool memo) {
     case 6: return {u"<> " + word, not_so(equals)};
     case 7: return {u"!" + word, not_so(contains)};
     case 8: return {join({u"<>", word, u"*"}), not_so(begins)};
-    case 9: return {join({u"LIKE '", word, u"?*'"}), text_test(oracle, [=](const Text& t) {
-                      return t.starts_with(capitals) && t.size() > capitals.size();
-                    })};
+    case 9:
+      return {join({u"LIKE '", word, u"?*'"}),
+              text_test(oracle, [=](const Text& t) { return t.starts_with(capitals) && t.size() > capitals.size(); })};
     case 10: return {below(2) == 0 ? u"=" : u"\"\"", empty};
     case 11: return {below(2) == 0 ? u"<>" : u"*", [=](const Cell& cell) { return !empty(cell); }};
     case 12:
@@ -98,17 +99,47 @@ MeantSearch RandomSearches::text_range(TextView a, TextView b) {
   constexpr TextView kQuotes[] = {u"", u"'", u"\""};
   const TextView around_a = one_of(kQuotes), around_b = one_of(kQuotes);
   const Text typed = join({around_a, a, around_a, u"..", around_b, b, around_b});
-  return {typed, text_test(engine_ == dialect::kOracle, [=](const Text& t) {
-            return t >= low && (t <= high || t.starts_with(high));
-          })};
+  return {typed, text_test(engine_ == dialect::kOracle,
+                           [=](const Text& t) { return t >= low && (t <= high || t.starts_with(high)); })};
 }
 
 std::vector<Cell> RandomSearches::text_rows(bool memo) {
-  constexpr TextView kTexts[] = {
-      u"", u"ana", u"Ana", u"ana l\u00f3pez", u"mariana", u"O'Neil", u"o'neill", u"50%", u"50", u"500", u"a_b", u"axb",
-      u"R&D", u"R and D", u"Nulo, S.A.", u"(b) c", u"x--y", u"/-z-/", u"1=1", u"c", u"cab", u"d", u"a*b", u"a?b",
-      u"a\\b", u"!&/()$#=|", u"50!%", u"bea", u"\u00f1and\u00fa", u"\u00d1AND\u00da", u"x;y", u"\"q\"", u"a#b", u"b",
-      u"bea..ana", u"<ana..bea>"};
+  constexpr TextView kTexts[] = {u"",
+                                 u"ana",
+                                 u"Ana",
+                                 u"ana l\u00f3pez",
+                                 u"mariana",
+                                 u"O'Neil",
+                                 u"o'neill",
+                                 u"50%",
+                                 u"50",
+                                 u"500",
+                                 u"a_b",
+                                 u"axb",
+                                 u"R&D",
+                                 u"R and D",
+                                 u"Nulo, S.A.",
+                                 u"(b) c",
+                                 u"x--y",
+                                 u"/-z-/",
+                                 u"1=1",
+                                 u"c",
+                                 u"cab",
+                                 u"d",
+                                 u"a*b",
+                                 u"a?b",
+                                 u"a\\b",
+                                 u"!&/()$#=|",
+                                 u"50!%",
+                                 u"bea",
+                                 u"\u00f1and\u00fa",
+                                 u"\u00d1AND\u00da",
+                                 u"x;y",
+                                 u"\"q\"",
+                                 u"a#b",
+                                 u"b",
+                                 u"bea..ana",
+                                 u"<ana..bea>"};
   std::vector<Cell> rows = {Cell()};
   for (const TextView text : kTexts) {
     if (!memo || is_small(text)) rows.push_back(Text(text));

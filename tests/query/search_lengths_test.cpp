@@ -25,10 +25,10 @@ class SearchLengths : public SpanishSearch {
 TEST_F(SearchLengths, OperandsAreNoLongerThanPeopleType) {
   constexpr struct {
     TextView before, behind;
-  } kPlaces[] = {{u"", u""},          {u"*", u"*"},        {u"!", u""},      {u"=", u""},    {u"<>", u"*"},
-                 {u"LIKE ", u""},     {u"<> LIKE ", u""},  {u"< ", u""},     {u"<=", u"*"},  {u"LIKE '*", u"*'"},
+  } kPlaces[] = {{u"", u""},           {u"*", u"*"},         {u"!", u""},     {u"=", u""},   {u"<>", u"*"},
+                 {u"LIKE ", u""},      {u"<> LIKE ", u""},   {u"< ", u""},    {u"<=", u"*"}, {u"LIKE '*", u"*'"},
                  {u"es como '", u"'"}, {u"LIKE \"", u"\"*"}, {u"=\"", u"\""}, {u"a..", u""}, {u"", u"..b"},
-                 {u"'", u"'..b"},     {u"0..\"", u"\""}};
+                 {u"'", u"'..b"},      {u"0..\"", u"\""}};
   for (const auto& [before, behind] : kPlaces) {
     expect_search(join({before, longest_, behind}));
     expect_none(kNombre, join({before, longer_, behind}));
@@ -39,11 +39,13 @@ TEST_F(SearchLengths, OperandsAreNoLongerThanPeopleType) {
 TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
   expect_none(kPrecio, Text(29, u'1'));
   const Text blanks(1000, u' '), fewer(900, u' ');
-  expect(kPrecio, kJet, {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
-                         {join({u"1", blanks, u"2..15"}), u""}});
-  expect(kAlta, kJet, {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
-                        u"Alta >= 04/01/2011 y <= 05/01/2011"},
-                       {join({u"hoy", blanks, u"-1..hoy"}), u""}});
+  expect(kPrecio, kJet,
+         {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
+          {join({u"1", blanks, u"2..15"}), u""}});
+  expect(kAlta, kJet,
+         {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
+           u"Alta >= 04/01/2011 y <= 05/01/2011"},
+          {join({u"hoy", blanks, u"-1..hoy"}), u""}});
 }
 
 // Quotes that a value needs where it is shown leave it as long as it is.
@@ -71,9 +73,10 @@ TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
 TEST_F(SearchLengths, LongTextsAreGoneThroughOnce) {
   constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
   const Text blanks(std::size_t{1} << 21, u' ');
-  expect(kNombre, kJet, {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
-                         {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
-                         {join({u"a", blanks, u"b"}), u""}});
+  expect(kNombre, kJet,
+         {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+          {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+          {join({u"a", blanks, u"b"}), u""}});
   expect(kPrecio, kJet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
   Text likes;
   for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";

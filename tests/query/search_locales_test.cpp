@@ -11,9 +11,9 @@ struct Home {
   TextView currency;
 };
 constexpr Home kHomes[] = {
-    {"es-ES", u',', u'.', u'/', true, u"\u20ac"},       {"es-MX", u'.', u',', u'/', true, u"$"},
-    {"en-US", u'.', u',', u'/', false, u"$"},           {"en-GB", u'.', u',', u'/', true, u"\u00a3"},
-    {"fr-FR", u',', u'\u202f', u'/', true, u"\u20ac"},  {"fr-CH", u'.', u'\'', u'.', true, u"CHF"},
+    {"es-ES", u',', u'.', u'/', true, u"\u20ac"},      {"es-MX", u'.', u',', u'/', true, u"$"},
+    {"en-US", u'.', u',', u'/', false, u"$"},          {"en-GB", u'.', u',', u'/', true, u"\u00a3"},
+    {"fr-FR", u',', u'\u202f', u'/', true, u"\u20ac"}, {"fr-CH", u'.', u'\'', u'.', true, u"CHF"},
     {"de-CH", u'.', u'\u2019', u'.', true, u"CHF"},
 };
 
@@ -40,8 +40,11 @@ class SearchLocales : public ::testing::TestWithParam<Home> {
 TEST_P(SearchLocales, ReadTheirOwnNumbers) {
   struct {
     TextView typed, literal;
-  } const kNumbers[] = {{u"1234.5", u" 1234.5"}, {u"1,234.5", u" 1234.5"},   {u"1,234,567", u" 1234567"},
-                        {u"-0.25", u"-0.25"},    {u"12,345,678.9", u" 12345678.9"}};
+  } const kNumbers[] = {{u"1234.5", u" 1234.5"},
+                        {u"1,234.5", u" 1234.5"},
+                        {u"1,234,567", u" 1234567"},
+                        {u"-0.25", u"-0.25"},
+                        {u"12,345,678.9", u" 12345678.9"}};
   for (const auto& number : kNumbers) {
     const Text typed = at_home(number.typed);
     const auto found = query::interpret_search(kSqlServer, kPrecio, typed, u"Precio");

@@ -40,8 +40,8 @@ TEST_P(SearchMeaning, IsWhatTheConditionSelects) {
     for (std::size_t row = 0; row < rows.size(); ++row) {
       const auto selected = selects(GetParam().engine, found->condition, rows[row]);
       ASSERT_TRUE(selected) << to_utf8(search.typed) << "\n" << to_utf8(found->condition);
-      ASSERT_EQ(*selected, search.meant(rows[row]))
-          << to_utf8(search.typed) << "\n" << to_utf8(found->condition) << "\nrow " << row;
+      ASSERT_EQ(*selected, search.meant(rows[row])) << to_utf8(search.typed) << "\n"
+                                                    << to_utf8(found->condition) << "\nrow " << row;
     }
   }
 }
@@ -72,7 +72,8 @@ TEST_P(SearchMeaning, IsNeverLostBehindAnotherSearch) {
     query::ConditionChain chain;
     ASSERT_TRUE(chain.add(first->condition));
     ASSERT_EQ(chain.add(second->condition), !equal_no_case(first->condition, second->condition))
-        << to_utf8(first->condition) << "\n" << to_utf8(second->condition);
+        << to_utf8(first->condition) << "\n"
+        << to_utf8(second->condition);
   }
 }
 

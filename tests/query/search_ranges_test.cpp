@@ -48,8 +48,9 @@ TEST_F(SearchRanges, InWordsAreNegatedByWordsToo) {
           {u"no de 10 a 20", kOutside, kShown},
           {u"not from 10 to 20", kOutside, kShown},
           {u"5 o no entre 10 y 20", join({u"P.Precio= 5 Or ", kOutside}), u"Precio = 5; < 10; > 20; Es Nulo"},
-          {u"no entre 10 y 20 y <15", u"P.Precio< 10 And P.Precio< 15 Or P.Precio> 20 And P.Precio< 15 Or "
-                                      u"(P.Precio Is Null) And P.Precio< 15",
+          {u"no entre 10 y 20 y <15",
+           u"P.Precio< 10 And P.Precio< 15 Or P.Precio> 20 And P.Precio< 15 Or "
+           u"(P.Precio Is Null) And P.Precio< 15",
            u"Precio < 10 y < 15; > 20 y < 15; Es Nulo y < 15"},
           {u"no no entre 10 y 20", u""},
           {u"no entre 10", u""}});
@@ -58,8 +59,9 @@ TEST_F(SearchRanges, InWordsAreNegatedByWordsToo) {
            u"Alta < 04/01/2011; > 05/01/2011; Es Nulo"},
           {u"non entre hier et aujourd'hui", u"C.Alta<#2011-01-04# Or C.Alta>=#2011-01-06# Or (C.Alta Is Null)",
            u"Alta < 04/01/2011; > 05/01/2011; Es Nulo"}});
-  expect(kNombre, kJet, {{u"no entre a", u"C.Nombre LIKE '%no%' And C.Nombre LIKE '%entre%' And C.Nombre LIKE '%a%'",
-                          u"Nombre es como '*no*' y es como '*entre*' y es como '*a*'"}});
+  expect(kNombre, kJet,
+         {{u"no entre a", u"C.Nombre LIKE '%no%' And C.Nombre LIKE '%entre%' And C.Nombre LIKE '%a%'",
+           u"Nombre es como '*no*' y es como '*entre*' y es como '*a*'"}});
 }
 
 TEST_F(SearchRanges, HaveTheirPointsOutsideQuotes) {

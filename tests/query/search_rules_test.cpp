@@ -15,8 +15,9 @@ TEST_F(SearchRules, NothingIsNoSearch) {
 }
 
 TEST_F(SearchRules, BlanksOfAllKindsAreBlanks) {
-  expect(kNombre, kJet, {{u"\u00a0ana\tbea\r\n", u"C.Nombre LIKE '%ana%' And C.Nombre LIKE '%bea%'",
-                          u"Nombre es como '*ana*' y es como '*bea*'"}});
+  expect(kNombre, kJet,
+         {{u"\u00a0ana\tbea\r\n", u"C.Nombre LIKE '%ana%' And C.Nombre LIKE '%bea%'",
+           u"Nombre es como '*ana*' y es como '*bea*'"}});
 }
 
 TEST_F(SearchRules, CurlyQuotesQuoteAsWell) {
@@ -28,13 +29,11 @@ TEST_F(SearchRules, CurlyQuotesQuoteAsWell) {
 
 TEST_F(SearchRules, WordsInTextsAreText) {
   expect(kNombre, kJet,
-         {{u"like a prayer",
-           u"C.Nombre LIKE '%like%' And C.Nombre LIKE '%a%' And C.Nombre LIKE '%prayer%'",
+         {{u"like a prayer", u"C.Nombre LIKE '%like%' And C.Nombre LIKE '%a%' And C.Nombre LIKE '%prayer%'",
            u"Nombre es como '*like*' y es como '*a*' y es como '*prayer*'"},
           {u"Nulo, S.A.", u"C.Nombre LIKE '%Nulo,%' And C.Nombre LIKE '%S.A.%'",
            u"Nombre es como '*Nulo,*' y es como '*S.A.*'"},
-          {u"not him", u"C.Nombre LIKE '%not%' And C.Nombre LIKE '%him%'",
-           u"Nombre es como '*not*' y es como '*him*'"},
+          {u"not him", u"C.Nombre LIKE '%not%' And C.Nombre LIKE '%him%'", u"Nombre es como '*not*' y es como '*him*'"},
           {u"es como Ana", u"C.Nombre LIKE '%es%' And C.Nombre LIKE '%como%' And C.Nombre LIKE '%Ana%'",
            u"Nombre es como '*es*' y es como '*como*' y es como '*Ana*'"},
           {u"es como 'Ana'", u"C.Nombre LIKE 'Ana'", u"Nombre es como 'Ana'"},
@@ -89,8 +88,9 @@ TEST_F(SearchRules, TwoNegationsAreNone) {
           {u"!!=02/2011", kFebruary, u"Alta >= 01/02/2011 y <= 28/02/2011"},
           {u"!<>05/01/2011", u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-06#", u"Alta = 05/01/2011"}});
   expect(kPrecio, kJet, {{u"!<>5", u"P.Precio= 5", u"Precio = 5"}});
-  expect(kNombre, kJet, {{u"!<>Ana*", u"C.Nombre LIKE 'Ana%'", u"Nombre es como 'Ana*'"},
-                         {u"!<>", u"(C.Nombre='' Or C.Nombre Is Null)", u"Nombre = ''"}});
+  expect(kNombre, kJet,
+         {{u"!<>Ana*", u"C.Nombre LIKE 'Ana%'", u"Nombre es como 'Ana*'"},
+          {u"!<>", u"(C.Nombre='' Or C.Nombre Is Null)", u"Nombre = ''"}});
 }
 
 TEST_F(SearchRules, NumbersAreThoseOfTheLocaleOrNone) {
@@ -104,8 +104,16 @@ TEST_F(SearchRules, NumbersAreThoseOfTheLocaleOrNone) {
           {u"\u20ac 10", u"P.Precio= 10", u"Precio = 10"},
           {u"- 7", u"P.Precio=-7", u"Precio = -7"},
           {u"+7", u"P.Precio= 7", u"Precio = 7"},
-          {u"1.2.3", u""}, {u"1,2,3", u""}, {u"1e5", u""}, {u"0x10", u""}, {u"10 20 x", u""}, {u">", u""},
-          {u">=", u""}, {u"10..", u"P.Precio>= 10", u"Precio >= 10"}, {u"..", u""}, {u"10..x", u""}});
+          {u"1.2.3", u""},
+          {u"1,2,3", u""},
+          {u"1e5", u""},
+          {u"0x10", u""},
+          {u"10 20 x", u""},
+          {u">", u""},
+          {u">=", u""},
+          {u"10..", u"P.Precio>= 10", u"Precio >= 10"},
+          {u"..", u""},
+          {u"10..x", u""}});
 }
 
 TEST_F(SearchRules, RangesInWords) {
@@ -126,7 +134,12 @@ TEST_F(SearchRules, DatesAreWholePeriods) {
           {u"06/01/2011..05/01/2011", u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-07#",
            u"Alta >= 05/01/2011 y <= 06/01/2011"},
           {u"..hoy", u"C.Alta<#2011-01-06#", u"Alta <= 05/01/2011"},
-          {u"31/02/2011", u""}, {u"14:07", u""}, {u"hoyo", u""}, {u"5", u""}, {u"99999", u""}, {u"13/2011", u""},
+          {u"31/02/2011", u""},
+          {u"14:07", u""},
+          {u"hoyo", u""},
+          {u"5", u""},
+          {u"99999", u""},
+          {u"13/2011", u""},
           {u"31/12/9999", u""}});
   expect(kAlta, kSqlServer,
          {{u"05/01/2011 14:07:09..", u"C.Alta>={ ts '2011-01-05 14:07:09'}", u"Alta >= 05/01/2011 14:07:09"},
@@ -141,14 +154,19 @@ TEST_F(SearchRules, TruthInThreeLanguages) {
   for (const TextView word : {u"no", u"N", u"non", u"falso", u"false", u"faux", u"0"}) {
     EXPECT_EQ(interpreted(kActivo, kOracle, word), u" C.Activo=0  | Activo = no");
   }
-  expect(kActivo, kJet, {{u"quiz\u00e1s", u""}, {u">1", u""}, {u"s\u00ed..no", u""},
-                         {u"s\u00ed o nulo", u" C.Activo<>0  Or (C.Activo Is Null)", u"Activo = s\u00ed; Es Nulo"}});
+  expect(kActivo, kJet,
+         {{u"quiz\u00e1s", u""},
+          {u">1", u""},
+          {u"s\u00ed..no", u""},
+          {u"s\u00ed o nulo", u" C.Activo<>0  Or (C.Activo Is Null)", u"Activo = s\u00ed; Es Nulo"}});
 }
 
 TEST_F(SearchRules, LongTextsKnowOnlyLikeOnTwoEngines) {
   expect(kNotas, kSqlServer,
          {{u"<>a", u"(C.Notas NOT LIKE N'a' Or C.Notas Is Null)", u"Notas <> a"},
-          {u"a..b", u""}, {u"<a", u""}, {u"=50%", u"C.Notas LIKE N'50!%' ESCAPE '!'", u"Notas = 50%"},
+          {u"a..b", u""},
+          {u"<a", u""},
+          {u"=50%", u"C.Notas LIKE N'50!%' ESCAPE '!'", u"Notas = 50%"},
           {u"=", u"(C.Notas LIKE N'' Or C.Notas Is Null)", u"Notas = ''"}});
   expect(kNotas, kOracle, {{u"=a", u" UPPER(C.Notas) LIKE UPPER('a')", u"Notas = a"}, {u">a", u""}});
   expect(kNotas, kJet, {{u">a", u"C.Notas>'a'", u"Notas > a"}});
@@ -156,10 +174,9 @@ TEST_F(SearchRules, LongTextsKnowOnlyLikeOnTwoEngines) {
 
 TEST_F(SearchRules, PatternsSayWhatTheyMeanToEachEngine) {
   constexpr TextView kAllCandidates = u"#!&/()$=|%";
-  expect(kNombre, kSqlServer, {{kAllCandidates, u" UPPER(C.Nombre) LIKE UPPER(N'%#!&/()$=|[%]%')",
-                                u"Nombre es como '*#!&/()$=|%*'"},
-                               {u"a[b%", u" UPPER(C.Nombre) LIKE UPPER(N'%a[[]b!%%') ESCAPE '!'",
-                                u"Nombre es como '*a[b%*'"}});
+  expect(kNombre, kSqlServer,
+         {{kAllCandidates, u" UPPER(C.Nombre) LIKE UPPER(N'%#!&/()$=|[%]%')", u"Nombre es como '*#!&/()$=|%*'"},
+          {u"a[b%", u" UPPER(C.Nombre) LIKE UPPER(N'%a[[]b!%%') ESCAPE '!'", u"Nombre es como '*a[b%*'"}});
   expect(kNombre, kJet, {{u"\"a?\"#[_", u"C.Nombre LIKE '%a[?][#][[][_]%'", u"Nombre es como '*\"a?#[_\"*'"}});
 }
 

@@ -79,8 +79,13 @@ TEST_F(Usql20DefinitionTest, GivesEachMemberItsCriterion) {
 TEST_F(Usql20DefinitionTest, AnotherNumberOfCriteriaChangesNothing) {
   const Text complete = query.CriterioActualCompleto(), narrowed = query.SQL();
   constexpr TextView kMark = u"<*uSQL_CRI*>";
-  const Text kOthers[] = {u"", u"x", Text(kMark), join({kMark, kMark, kMark}), complete + Text(kMark),
-                          complete.substr(0, complete.rfind(kMark)), replace_all(complete, kMark, u"<*USQL_CRI*>")};
+  const Text kOthers[] = {u"",
+                          u"x",
+                          Text(kMark),
+                          join({kMark, kMark, kMark}),
+                          complete + Text(kMark),
+                          complete.substr(0, complete.rfind(kMark)),
+                          replace_all(complete, kMark, u"<*USQL_CRI*>")};
   for (const Text& other : kOthers) {
     SCOPED_TRACE(to_utf8(other));
     query.CriterioActualCompleto(other);

@@ -94,8 +94,9 @@ TEST_F(Usql20Test, NarrowsTheLastMember) {
   EXPECT_EQ(query.SQLSinOrden(), join({select(1), u" UNION ", select(2, u"WHERE (a=1)")}));
   EXPECT_EQ(query.SQLOriginalSinOrden(), join({select(1), u" UNION ", select(2)}));
   EXPECT_EQ(query.CriterioActual(), u"") << "of the first member";
-  EXPECT_EQ(query.CriterioActualCompleto(), u"<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*><*uSQL_CRI*>"
-                                            u"(a=1)<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*>uno");
+  EXPECT_EQ(query.CriterioActualCompleto(),
+            u"<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*><*uSQL_CRI*>"
+            u"(a=1)<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*>uno");
   create(1);
   EXPECT_TRUE(query.AmpliarCondicionWhere(u"a=1", u"uno")) << "the member that came last does not have it yet";
 }
@@ -125,8 +126,8 @@ TEST_F(Usql20Test, SearchesInEveryMember) {
   ASSERT_TRUE(query.Crear(request(kJet, list({u"c", u"T"}), u"t2")));
   create(1);
   EXPECT_FALSE(showing({failed(u"TipoCampo(a)", 5)}, [&] { return query.InterpretarBusqueda(u"a", u"=x", u"col"); }));
-  EXPECT_EQ(query.SQLSinOrden(), join({select(1, u"WHERE (a='x')"), u" UNION SELECT c  FROM t2     UNION ",
-                                       select(1, u"WHERE (a='x')")}));
+  EXPECT_EQ(query.SQLSinOrden(),
+            join({select(1, u"WHERE (a='x')"), u" UNION SELECT c  FROM t2     UNION ", select(1, u"WHERE (a='x')")}));
   EXPECT_EQ(query.CriterioActual(), u"col = x");
 }
 

@@ -36,8 +36,8 @@ TEST(Arguments, OfRun) {
   EXPECT_EQ(plain.connection, u"Data Source=x;a=b");
   EXPECT_TRUE(plain.use_transaction);
   EXPECT_FALSE(plain.go_on);
-  const Arguments all =
-      parse({u"run", u"--engine=sqlserver", u"--connection=a=b", u"--no-transaction", u"--continue", u"--", u"-f"});
+  const Arguments all = parse(
+      {u"run", u"--engine=sqlserver", u"--connection=a=b", u"--no-transaction", u"--continue", u"--", u"-f"});
   EXPECT_EQ(all.connection, u"a=b");
   EXPECT_FALSE(all.use_transaction);
   EXPECT_TRUE(all.go_on);

@@ -44,7 +44,8 @@ TEST(Doctor, WritesALineForEachFinding) {
   const ToolAnswer answer = run_tool({u"doctor"});
   EXPECT_EQ(answer.code, 1);
   EXPECT_NE(answer.out.find("\nerror  ado            ADODB.Connection is registered and cannot be created for 32-bit "
-                            "programs\n                      -> Repair Windows' components"), std::string::npos);
+                            "programs\n                      -> Repair Windows' components"),
+            std::string::npos);
   EXPECT_TRUE(answer.out.ends_with("\n1 error\n")) << answer.out;
 }
 

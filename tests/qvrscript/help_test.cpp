@@ -5,9 +5,9 @@
 #include <set>
 #include <sstream>
 
-#include "session/ov.h"
 #include "base/utf8.h"
 #include "qvrscript/program.h"
+#include "session/ov.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
@@ -35,8 +35,7 @@ TEST(Help, IsThereForAllAndEach) {
 
 TEST(Help, FitsOnAScreen) {
   for (const std::vector<Text>& words :
-       {std::vector<Text>{u"help"}, {u"help", u"check"}, {u"help", u"list"}, {u"help", u"run"},
-        {u"help", u"doctor"}}) {
+       {std::vector<Text>{u"help"}, {u"help", u"check"}, {u"help", u"list"}, {u"help", u"run"}, {u"help", u"doctor"}}) {
     std::istringstream text(run_tool(words).out);
     for (std::string line; std::getline(text, line);) EXPECT_LE(line.size(), 120u) << line;
   }

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "base/utf8.h"
-#include "session/value_convert.h"
 #include "json_reader.h"
 #include "odbc/odbc_ado.h"
 #include "odbc/odbc_statement.h"
+#include "session/value_convert.h"
 #include "support/temporary_folder.h"
 #include "tool_in_process.h"
 
@@ -48,9 +48,10 @@ TEST_F(Run, DoesAllCommandsAndTellsEach) {
 
 TEST_F(Run, DrawsABarOnATerminal) {
   const ToolAnswer answer = run("create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\n", {}, true);
-  EXPECT_EQ(answer.out, "\r[........................................] 0/2"
-                        "\r[####################....................] 1/2\n"
-                        "done: 2 of 2 commands\n");
+  EXPECT_EQ(answer.out,
+            "\r[........................................] 0/2"
+            "\r[####################....................] 1/2\n"
+            "done: 2 of 2 commands\n");
 }
 
 TEST_F(Run, TakesAllBackAfterAFailure) {
@@ -98,8 +99,8 @@ TEST_F(Run, RefusesAFileThatCannotBeRead) {
 TEST_F(Run, FailsWhereTheDatabaseCannotBeOpened) {
   folder.write(u"x.cfc", kMakeTable);
   const ToolAnswer answer = run_tool({u"run", u"--engine=oracle", u"--connection", u"Data Source=NoSuchDsn",
-                                      folder.file_text(u"x.cfc")}, false,
-                                     [](const Platform&) { return odbc::make_odbc_ado(); });
+                                      folder.file_text(u"x.cfc")},
+                                     false, [](const Platform&) { return odbc::make_odbc_ado(); });
   EXPECT_EQ(answer.code, 1);
   EXPECT_EQ(answer.out, "");
   EXPECT_TRUE(answer.err.starts_with("Servidor no encontrado\n\nError ")) << answer.err;

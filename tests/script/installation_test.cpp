@@ -1,13 +1,13 @@
 // The example's scripts as an installer uses them: loaded from their folder, run into a database, brought up to date.
 #include <gtest/gtest.h>
 
-#include "session/value_convert.h"
 #include "base/utf8.h"
+#include "odbc/odbc_ado.h"
+#include "odbc/odbc_statement.h"
 #include "script/command_splitter.h"
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"
-#include "odbc/odbc_ado.h"
-#include "odbc/odbc_statement.h"
+#include "session/value_convert.h"
 #include "support/describe.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
@@ -70,9 +70,16 @@ struct Rows {
 
 TEST_F(InstallationTest, TheDefinitionFillsItsTables) {
   ASSERT_TRUE(install());
-  for (const Rows& each : {Rows{u"Esquema", "1"}, {u"Funciones", "3"}, {u"Usuarios", "2"}, {u"FuncionesDeUsuario", "3"},
-                           {u"Provincias", "18"}, {u"Clientes", "36"}, {u"Familias", "6"}, {u"Artículos", "29"},
-                           {u"Pedidos", "56"}, {u"Líneas", "91"}}) {
+  for (const Rows& each : {Rows{u"Esquema", "1"},
+                           {u"Funciones", "3"},
+                           {u"Usuarios", "2"},
+                           {u"FuncionesDeUsuario", "3"},
+                           {u"Provincias", "18"},
+                           {u"Clientes", "36"},
+                           {u"Familias", "6"},
+                           {u"Artículos", "29"},
+                           {u"Pedidos", "56"},
+                           {u"Líneas", "91"}}) {
     EXPECT_EQ(rows(each.table), each.count) << to_utf8(each.table);
   }
   EXPECT_EQ(ask(u"SELECT Count(*) FROM [sqlite_master] WHERE [type] = 'table'"), "10");

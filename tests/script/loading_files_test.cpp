@@ -12,13 +12,17 @@ TEST_F(LoadingFilesTest, ADefinitionIsNameTagAndOneCharacter) {
     bool taken;
   };
   constexpr Row kRows[] = {
-      {u"GestionSQL1.cfc", true},       {u"GestionSQLA.cfc", true},      {u"gestionsqlz.CFC", true},
-      {u"GestionSQL .cfc", true},       {u"GestionSQL..cfc", true},      {u"GestionSQL\u00f1.cfc", true},
-      {u"GestionSQL[.cfc", true},       {u"GestionSQL.cfc", false},      {u"GestionSQL10.cfc", false},
-      {u"GestionSQL\U0001F4C1.cfc", false}, {u"GestionJET1.cfc", false}, {u"GestionORA1.cfc", false},
-      {u"Gestion1.cfc", false},         {u"OtraGestionSQL1.cfc", false}, {u"Gestion SQL1.cfc", false},
-      {u"GestionSQL1.cfcx", false},     {u"GestionSQL1.cfc.bak", false}, {u"GestionSQL1.cf", false},
-      {u"GestionSQL1cfc", false},       {u"GestionSQL1,cfc", false},     {u"Gesti\u00f3nSQL1.cfc", false},
+      {u"GestionSQL1.cfc", true},       {u"GestionSQLA.cfc", true},
+      {u"gestionsqlz.CFC", true},       {u"GestionSQL .cfc", true},
+      {u"GestionSQL..cfc", true},       {u"GestionSQL\u00f1.cfc", true},
+      {u"GestionSQL[.cfc", true},       {u"GestionSQL.cfc", false},
+      {u"GestionSQL10.cfc", false},     {u"GestionSQL\U0001F4C1.cfc", false},
+      {u"GestionJET1.cfc", false},      {u"GestionORA1.cfc", false},
+      {u"Gestion1.cfc", false},         {u"OtraGestionSQL1.cfc", false},
+      {u"Gestion SQL1.cfc", false},     {u"GestionSQL1.cfcx", false},
+      {u"GestionSQL1.cfc.bak", false},  {u"GestionSQL1.cf", false},
+      {u"GestionSQL1cfc", false},       {u"GestionSQL1,cfc", false},
+      {u"Gesti\u00f3nSQL1.cfc", false},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(row.file));
@@ -32,14 +36,11 @@ TEST_F(LoadingFilesTest, EachEngineHasItsTagAndAnyOtherNumberNone) {
     std::int32_t motor;
     TextView definition, update;
   };
-  constexpr Row kRows[] = {{1, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},
-                           {2, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
-                           {3, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},
-                           {0, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {4, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {-1, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {INT32_MAX, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {INT32_MIN, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}};
+  constexpr Row kRows[] = {
+      {1, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},   {2, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
+      {3, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},   {0, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+      {4, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},         {-1, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+      {INT32_MAX, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}, {INT32_MIN, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}};
   put_names({u"GestionJET1.cfc", u"GestionSQL1.cfc", u"GestionORA1.cfc", u"Gestion1.cfc", u"Gestion10024a10025JET.cfc",
              u"Gestion10024a10025SQL.cfc", u"Gestion10024a10025ORA.cfc", u"Gestion10024a10025.cfc"});
   for (const Row& row : kRows) {
@@ -76,7 +77,7 @@ TEST_F(LoadingFilesTest, WildcardsInANameAreWildcards) {
 }
 
 TEST_F(LoadingFilesTest, FolderAndIdentificationReachTheReaderAsTheyAre) {
-  const Text folders[] = {u"C:\\Scripts", u"C:\\Scripts\\", u"\\\\server\\share [1]", u".", u"",
+  const Text folders[] = {u"C:\\Scripts",           u"C:\\Scripts\\", u"\\\\server\\share [1]", u".", u"",
                           u"D:\\Base \u00f1 \u65e5"};
   for (const Text& each : folders) {
     for (const TextView name : {u"", u"* ? [x]", u"EvitarTransaccion \u00f1", u"| %s \\"}) {
@@ -132,12 +133,16 @@ TEST_F(LoadingFilesTest, VersionsOfEveryWidth) {
       {"greatest of five digits", 99999, {u"X99998a99999SQL.cfc", u"X99999a00000SQL.cfc"}, {1}},
       {"four digits written with a zero", 1002, {u"X01002a01003SQL.cfc"}, {}},
       {"four digits written so are no file of an update", 1002, {u"X1002a01003SQL.cfc"}, {}},
-      {"but let later ones through", 1002, {u"X01001a01002SQL.cfc", u"X01002a01003SQL.cfc", u"X1002a01003SQL.cfc"},
+      {"but let later ones through",
+       1002,
+       {u"X01001a01002SQL.cfc", u"X01002a01003SQL.cfc", u"X1002a01003SQL.cfc"},
        {1}},
       {"one digit", 7, {u"X7a00008SQL.cfc", u"X00006a00007SQL.cfc", u"X00007a00008SQL.cfc"}, {2}},
       {"zero", 0, {u"X0a00001SQL.cfc", u"X00000a00001SQL.cfc", u"X00001a00002SQL.cfc"}, {1, 2}},
       {"six digits", 100024, {u"X100024a10002SQL.cfc", u"X99999a10002SQL.cfc"}, {}},
-      {"negative of five characters", -1002, {u"X-1003a-1002SQL.cfc", u"X-1002a-1001SQL.cfc", u"X00001a00002SQL.cfc"},
+      {"negative of five characters",
+       -1002,
+       {u"X-1003a-1002SQL.cfc", u"X-1002a-1001SQL.cfc", u"X00001a00002SQL.cfc"},
        {1, 2}},
       {"negative of fewer", -5, {u"X-0005a-0004SQL.cfc"}, {}},
       {"negative of more", -10024, {u"X-10024a10025SQL.cfc"}, {}},

@@ -50,7 +50,10 @@ const Row kRows[] = {
     {"seven files", kStatements, to_utf8, 7},
     {"nothing to replace", u"INSERT INTO Articulos VALUES ( 1, 'Tornillo de cabeza plana', 12.5)\r\nGO\r\n"},
     {"words everywhere", u"[NombreBD][UsuarioQVRAdm]\r\nAS\r\n"},
-    {"words that become longer", u"[NombreBD][UsuarioQVRCli]\r\nGO\r\n", to_utf8, 2,
+    {"words that become longer",
+     u"[NombreBD][UsuarioQVRCli]\r\nGO\r\n",
+     to_utf8,
+     2,
      {Text(100, u'n'), u"adm", u"clave1", Text(70, u'c'), u"clave2"}},
     {"lone line feeds", u"INSERT INTO [NombreBD]\nGO\n"},
     {"UTF-16", kStatements, utf16},
@@ -96,9 +99,8 @@ TEST_P(LoadingMemory, OfADefinitionIsAtMostThreeTexts) {
   const Row& row = GetParam();
   std::vector<Text> names;
   for (int i = 1; i <= row.files; ++i) names.push_back(join({u"GestionSQL", decimal(i), u".cfc"}));
-  expect_little(row, names, [&] {
-    return runner.CargarDefinicion(u"app", 2, folder.text(), u"Gestion", row.accounts, true);
-  });
+  expect_little(row, names,
+                [&] { return runner.CargarDefinicion(u"app", 2, folder.text(), u"Gestion", row.accounts, true); });
 }
 
 TEST_P(LoadingMemory, OfAnUpdateIsAtMostThreeTexts) {

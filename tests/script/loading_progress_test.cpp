@@ -171,11 +171,9 @@ TEST_F(LoadingProgressTest, NoLoadingBeginsInsideARunOfCommands) {
   events.on_progress = thread.host_events.on_process = intrude;
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(refused, 3);
-  EXPECT_EQ(taken(), together({opening(),
-                               {"Progreso: Comandos ejecutados: 0/1"},
-                               command_lines("A"),
-                               {"Host events"},
-                               closing()}));
+  EXPECT_EQ(taken(),
+            together(
+                {opening(), {"Progreso: Comandos ejecutados: 0/1"}, command_lines("A"), {"Host events"}, closing()}));
 }
 
 TEST_F(LoadingProgressTest, AnotherObjectMayLoadFromInside) {

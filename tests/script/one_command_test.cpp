@@ -31,8 +31,7 @@ TEST_F(OneCommandTest, ReportsAFailureWithoutEventsOrQuestions) {
 
 TEST_F(OneCommandTest, ReportsAMissingConnection) {
   EXPECT_FALSE(runner.Ejecutar1Comando(nullptr, u"A", 1));
-  EXPECT_EQ(taken().back(),
-            "Report: 91|Object variable or With block variable not set|QVRlib21|1|Ejecutar1Comando: A");
+  EXPECT_EQ(taken().back(), "Report: 91|Object variable or With block variable not set|QVRlib21|1|Ejecutar1Comando: A");
 }
 
 TEST_F(OneCommandTest, ReportsAWholeLongCommand) {
@@ -56,7 +55,7 @@ TEST_F(OneCommandTest, UsuarioSegunMotorNamesTheAdministrator) {
     std::int32_t motor;
     TextView account;
   };
-  constexpr Row kRows[] = {{1, u"Admin"}, {2, u"sa"}, {3, u"System"}, {0, u""},         {4, u""},
+  constexpr Row kRows[] = {{1, u"Admin"}, {2, u"sa"}, {3, u"System"},   {0, u""},        {4, u""},
                            {-1, u""},     {99, u""},  {INT32_MAX, u""}, {INT32_MIN, u""}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.motor);

@@ -18,9 +18,25 @@ Text random_text(std::mt19937& random, const TextView (&pieces)[N], std::size_t 
 }
 
 TEST_F(PreparationModelTest, EncryptsAsThePlainPassesDo) {
-  constexpr TextView kPieces[] = {u"\r\n", u"\r\n", u"\r\n", u"\r", u"\n", u"AS", u"as", u"As", u" ", u"FOR DELETE",
-                                  u"FOR INSERT", u"for update", u"For Insert, Update, Delete", u", UPDATE",
-                                  u"WITH ENCRYPTION AS", u"\r\nAS\r\n", u"\r\nFOR UPDATE\r\nAS\r\n", u"x", u"\u00e1s"};
+  constexpr TextView kPieces[] = {u"\r\n",
+                                  u"\r\n",
+                                  u"\r\n",
+                                  u"\r",
+                                  u"\n",
+                                  u"AS",
+                                  u"as",
+                                  u"As",
+                                  u" ",
+                                  u"FOR DELETE",
+                                  u"FOR INSERT",
+                                  u"for update",
+                                  u"For Insert, Update, Delete",
+                                  u", UPDATE",
+                                  u"WITH ENCRYPTION AS",
+                                  u"\r\nAS\r\n",
+                                  u"\r\nFOR UPDATE\r\nAS\r\n",
+                                  u"x",
+                                  u"\u00e1s"};
   std::mt19937 random(20260102);
   int changed = 0, moved = 0;
   for (int round = 0; round < 20000; ++round) {
@@ -35,10 +51,28 @@ TEST_F(PreparationModelTest, EncryptsAsThePlainPassesDo) {
 
 // Values of the same pieces as the texts: they hold words, and make words with what stands around them.
 TEST_F(PreparationModelTest, FillsInAsThePlainPassesDo) {
-  constexpr TextView kPieces[] = {u"[", u"]", u"[NombreBD]", u"[nombrebd]", u"NombreBD", u"[LogFile]", u"[LOGFILE]",
-                                  u"Log", u"File]", u"[UsuarioQVRAdm]", u"Usuario", u"QVRAdm]", u"[Clave", u"[CLAVE",
-                                  u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]", u"QVRCli]",
-                                  u"x", u" ", u"\u00f1", u"1200"};
+  constexpr TextView kPieces[] = {u"[",
+                                  u"]",
+                                  u"[NombreBD]",
+                                  u"[nombrebd]",
+                                  u"NombreBD",
+                                  u"[LogFile]",
+                                  u"[LOGFILE]",
+                                  u"Log",
+                                  u"File]",
+                                  u"[UsuarioQVRAdm]",
+                                  u"Usuario",
+                                  u"QVRAdm]",
+                                  u"[Clave",
+                                  u"[CLAVE",
+                                  u"[ClaveUsuarioQVRAdm]",
+                                  u"[UsuarioQVRCli]",
+                                  u"[ClaveUsuarioQVRCli]",
+                                  u"QVRCli]",
+                                  u"x",
+                                  u" ",
+                                  u"\u00f1",
+                                  u"1200"};
   std::mt19937 random(20260103);
   int changed = 0;
   for (int round = 0; round < 20000; ++round) {
@@ -64,8 +98,7 @@ Text repeated(TextView piece, std::size_t& count) {
 
 TEST_F(PreparationModelTest, PreparesALargeTextFullOfReplacements) {
   constexpr TextView kPiece = u"trigger [NombreBD]\r\nFOR DELETE\r\nAS\r\ngrant [UsuarioQVRCli]\r\nGO\r\n";
-  constexpr TextView kPrepared =
-      u"trigger Ventas\r\nWITH ENCRYPTION FOR DELETE AS\r\ngrant cli\r\nGO\r\n";
+  constexpr TextView kPrepared = u"trigger Ventas\r\nWITH ENCRYPTION FOR DELETE AS\r\ngrant cli\r\nGO\r\n";
   std::size_t count = 0;
   const Text prepared = with_accounts(with_encryption(repeated(kPiece, count), events), motor, accounts, events);
   ASSERT_EQ(prepared.size(), count * kPrepared.size());

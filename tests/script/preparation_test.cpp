@@ -86,8 +86,8 @@ TEST_F(PreparationTest, TheClauseIsFoundAcrossFilesButNotInWhatIsFilledIn) {
   EXPECT_EQ(definition(), lines(u"trigger|WITH ENCRYPTION FOR DELETE AS|AS||AS||"));
 }
 
-constexpr TextView kWords[] = {u"[NombreBD]", u"[LogFile]", u"[UsuarioQVRAdm]", u"[ClaveUsuarioQVRAdm]",
-                               u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]"};
+constexpr TextView kWords[] = {u"[NombreBD]",           u"[LogFile]",       u"[UsuarioQVRAdm]",
+                               u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]"};
 
 TEST_F(PreparationTest, EachWordInAnyCaseForEachEngine) {
   for (std::int32_t engine : {0, 1, 2, 3, 4, -3}) {
@@ -110,9 +110,9 @@ TEST_F(PreparationTest, EachWordInAnyCaseForEachEngine) {
 
 TEST_F(PreparationTest, WhatIsNoSuchWordStays) {
   motor = 3;
-  for (const TextView text : {u"", u"[]", u"[Otro]", u"[NombreBD", u"NombreBD]", u"[ NombreBD]", u"[Nombre BD]",
-                              u"[NombreBD ]", u"(NombreBD)", u"[NombreBDs]", u"[Usuario]", u"[N\u00f3mbreBD]",
-                              u"[LogFil\u00e9]", u"[Nombre\r\nBD]"}) {
+  for (const TextView text :
+       {u"", u"[]", u"[Otro]", u"[NombreBD", u"NombreBD]", u"[ NombreBD]", u"[Nombre BD]", u"[NombreBD ]",
+        u"(NombreBD)", u"[NombreBDs]", u"[Usuario]", u"[N\u00f3mbreBD]", u"[LogFil\u00e9]", u"[Nombre\r\nBD]"}) {
     EXPECT_EQ(filled(text), Text(text));
   }
 }
@@ -149,8 +149,10 @@ TEST_F(PreparationTest, ValuesAreSeenByLaterPassesOnly) {
       {"the next one", {u"[UsuarioQVRAdm]", u"adm", u"", u"", u""}, u"x [NombreBD]", u"x adm"},
       {"through all of them",
        {u"[LogFile]", u"[claveusuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]", u"end"},
-       u"[NombreBD]/[UsuarioQVRAdm]", u"[LogFile]1200/end"},
-      {"an earlier one stays", {u"base", u"", u"[NombreBD]", u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]"},
+       u"[NombreBD]/[UsuarioQVRAdm]",
+       u"[LogFile]1200/end"},
+      {"an earlier one stays",
+       {u"base", u"", u"[NombreBD]", u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]"},
        u"[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]/[ClaveUsuarioQVRCli]",
        u"[NombreBD]/[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]"},
       {"itself stays", {u"[NombreBD][NombreBD]", u"", u"", u"", u""}, u"[NombreBD]", u"[NombreBD][NombreBD]"},

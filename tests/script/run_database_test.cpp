@@ -1,11 +1,11 @@
 // The runner into a real database: what is committed, what is rolled back, what a refusal says.
 #include <gtest/gtest.h>
 
-#include "session/value_convert.h"
-#include "script/qvrscr.h"
-#include "services/builtin_error_report.h"
 #include "odbc/odbc_ado.h"
 #include "odbc/odbc_statement.h"
+#include "script/qvrscr.h"
+#include "services/builtin_error_report.h"
+#include "session/value_convert.h"
 #include "support/describe.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"

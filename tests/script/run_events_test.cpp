@@ -16,11 +16,8 @@ class RunEventsTest : public ScriptTest {
   }
 
   int attempts = 0;
-  const Lines whole_run = together({opening(),
-                                    {"Progreso: Comandos ejecutados: 0/1"},
-                                    command_lines("A"),
-                                    {"Host events"},
-                                    closing()});
+  const Lines whole_run = together(
+      {opening(), {"Progreso: Comandos ejecutados: 0/1"}, command_lines("A"), {"Host events"}, closing()});
 };
 
 TEST_F(RunEventsTest, ARunFromProgresoIsRefusedWithoutEvents) {

@@ -28,8 +28,7 @@ const Row kRows[] = {
     {"Connection.ConnectionString", together({opened(2), kReport, kReleased})},
     {"Connection.Open", together({opened(3), kReport, kReleased})},
     {"Connection.BeginTrans", together({opened(4), kReport, kClosed})},
-    {"Connection.CommitTrans",
-     together({opening(), kCommand, {"Connection.CommitTrans"}, kReport, rolled_back()})},
+    {"Connection.CommitTrans", together({opening(), kCommand, {"Connection.CommitTrans"}, kReport, rolled_back()})},
     {"Connection.Close",
      together({opening(), kCommand, {"Connection.CommitTrans", "Connection.Close"}, kReport, kClosed})},
 };
@@ -81,8 +80,7 @@ TEST_F(RunFailureTest, AFailingRollbackStillCloses) {
   thread.boxes.answer(BoxAnswer::No);
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   const Lines lines = taken();
-  const Lines expected_end =
-      together({{"Connection.RollbackTrans"}, report_line("EjecutarComandos"), kClosed});
+  const Lines expected_end = together({{"Connection.RollbackTrans"}, report_line("EjecutarComandos"), kClosed});
   ASSERT_GE(lines.size(), expected_end.size());
   EXPECT_EQ(Lines(lines.end() - static_cast<std::ptrdiff_t>(expected_end.size()), lines.end()), expected_end);
 }
@@ -103,11 +101,9 @@ TEST_F(RunFailureTest, ACloseThatFailsAgainAndAgainEndsTheRun) {
   thread.ado.fail("Connection.Close", 1, refusal());
   thread.ado.fail("Connection.Close", 2, refusal());
   EXPECT_FALSE(run(u""));
-  EXPECT_EQ(taken(), together({opening(),
-                               {"Connection.CommitTrans", "Connection.Close"},
-                               kReport,
-                               {"Connection.Close"},
-                               kReleased}));
+  EXPECT_EQ(taken(),
+            together(
+                {opening(), {"Connection.CommitTrans", "Connection.Close"}, kReport, {"Connection.Close"}, kReleased}));
 }
 
 TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
@@ -170,8 +166,8 @@ TEST_F(RunFailureTest, AQuestionThatCannotBeAskedEndsTheRun) {
 TEST_F(RunFailureTest, AHostThatFailsEndsTheRun) {
   thread.host_events.on_process = [] { throw std::bad_alloc(); };
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
-  EXPECT_EQ(taken(), together({opening(), kCommand, {"Report: 7|Out of memory|QVRlib21|2|EjecutarComandos"},
-                               rolled_back()}));
+  EXPECT_EQ(taken(),
+            together({opening(), kCommand, {"Report: 7|Out of memory|QVRlib21|2|EjecutarComandos"}, rolled_back()}));
 }
 
 }  // namespace

@@ -53,10 +53,14 @@ TEST_F(RunTest, TheIdentificationCanAvoidTheTransaction) {
     bool avoided;
   };
   constexpr Row kRows[] = {
-      {u"EvitarTransaccion", u"", true},      {u"evitartransaccionApp", u"App", true},
-      {u"EVITARTRANSACCION x", u" x", true},  {u"EvitarTransaccionEvitarTransaccion", u"EvitarTransaccion", true},
-      {u"EvitarTransacci\u00f3n", u"EvitarTransacci\u00f3n", false}, {u"", u"", false},
-      {u" EvitarTransaccion", u" EvitarTransaccion", false}, {u"EvitarTransaccio", u"EvitarTransaccio", false},
+      {u"EvitarTransaccion", u"", true},
+      {u"evitartransaccionApp", u"App", true},
+      {u"EVITARTRANSACCION x", u" x", true},
+      {u"EvitarTransaccionEvitarTransaccion", u"EvitarTransaccion", true},
+      {u"EvitarTransacci\u00f3n", u"EvitarTransacci\u00f3n", false},
+      {u"", u"", false},
+      {u" EvitarTransaccion", u" EvitarTransaccion", false},
+      {u"EvitarTransaccio", u"EvitarTransaccio", false},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(row.given));
@@ -171,8 +175,11 @@ TEST_F(RunTest, SpeaksTheThreadsLanguage) {
     thread.boxes.answer(BoxAnswer::No);
     shown_text.clear();
     EXPECT_FALSE(run(u"A\r\nGO\r\n"));
-    Lines expected = together({opening(), {std::string("Progreso: ") + row.done + ": 0/1"}, command_lines("A"),
-                               report_line("Ejecutar1Comando: A"), {std::string("Box Yes/No: ") + row.question},
+    Lines expected = together({opening(),
+                               {std::string("Progreso: ") + row.done + ": 0/1"},
+                               command_lines("A"),
+                               report_line("Ejecutar1Comando: A"),
+                               {std::string("Box Yes/No: ") + row.question},
                                rolled_back()});
     expected[4] = std::string("Progreso: ") + row.counting;
     EXPECT_EQ(taken(), expected);

@@ -7,8 +7,9 @@
 namespace qvr::tests {
 namespace {
 
-constexpr TextView kWords[] = {u"a", u"aa", u"[a]", u"aba", u"abab", u"\r\nAS\r\n", u"\r\ns\r\n", u"\u00f1", u"a\u00f1",
-                               u"\u00f1a", u"\u00f1\u00f1b", u"[NombreBD]", u"s\u0131", u"\u0437\u0438\u0437"};
+constexpr TextView kWords[] = {
+    u"a",      u"aa",      u"[a]",     u"aba",           u"abab",       u"\r\nAS\r\n", u"\r\ns\r\n",
+    u"\u00f1", u"a\u00f1", u"\u00f1a", u"\u00f1\u00f1b", u"[NombreBD]", u"s\u0131",    u"\u0437\u0438\u0437"};
 
 TEST(WordSearch, FindsAWordInAnyCase) {
   const WordSearch search(u"[NombreBD]");

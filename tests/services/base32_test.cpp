@@ -49,13 +49,13 @@ TEST(Base32, GivesRandomBytesBack) {
 
 TEST(Base32, ReadsOnlyWhatItWrites) {
   constexpr TextView kRefused[] = {
-      u"m",         u"mzx",   u"mzxw6y",              // lengths that no bytes have
-      u"a",         u"mya",   u"mzxw6a",              // the same with nothing but zeros in the digit too many
-      u"mz",        u"mzxr",  u"mzxw7",               // bits behind the last byte
-      u"MY",        u"mY",    u"mzxw6YTB",            // other case
-      u"my======",  u"m y",   u" my",   u"my\r\n",    // padding and blanks
-      u"m0",        u"m1",    u"m8",    u"m9",        // digits of other alphabets
-      u"m\u00e9",   u"m\uff41",
+      u"m",        u"mzx",     u"mzxw6y",               // lengths that no bytes have
+      u"a",        u"mya",     u"mzxw6a",               // the same with nothing but zeros in the digit too many
+      u"mz",       u"mzxr",    u"mzxw7",                // bits behind the last byte
+      u"MY",       u"mY",      u"mzxw6YTB",             // other case
+      u"my======", u"m y",     u" my",      u"my\r\n",  // padding and blanks
+      u"m0",       u"m1",      u"m8",       u"m9",      // digits of other alphabets
+      u"m\u00e9",  u"m\uff41",
   };
   for (TextView text : kRefused) {
     SCOPED_TRACE(::testing::PrintToString(Text(text)));

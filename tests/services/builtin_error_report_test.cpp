@@ -96,12 +96,13 @@ TEST(BuiltinErrorReport, AbbreviatesALongCommand) {
 }
 
 TEST(BuiltinErrorReport, NamesTheObjectBeforeTheMethod) {
-  ErrorNotice notice = notice_of(
-      2, {2812, u"No procedure", u"P"}, {{2812, u"No procedure", u"P", u"", 2812}, {1, u"also", u"", u"", 0}});
+  ErrorNotice notice = notice_of(2, {2812, u"No procedure", u"P"},
+                                 {{2812, u"No procedure", u"P", u"", 2812}, {1, u"also", u"", u"", 0}});
   notice.label = u"EjecutarProc";
   notice.object = u"dbo.Alta";
-  EXPECT_EQ(box_for(notice), u"Error indeterminado\r\n\r\nError 2812: No procedure (P)\r\nError 1: also\r\n\r\n"
-                             u"Objeto: dbo.Alta\r\nM\u00e9todo: EjecutarProc");
+  EXPECT_EQ(box_for(notice),
+            u"Error indeterminado\r\n\r\nError 2812: No procedure (P)\r\nError 1: also\r\n\r\n"
+            u"Objeto: dbo.Alta\r\nM\u00e9todo: EjecutarProc");
   notice.errors.clear();
   notice.captions.object = u"Object";
   notice.object = Text(600, u'x');

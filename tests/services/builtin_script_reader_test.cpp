@@ -102,7 +102,9 @@ TEST_F(BuiltinScriptReaderTest, TellsEncodingsApartAndDecodesThem) {
 
 TEST_F(BuiltinScriptReaderTest, RefusesWhatTheMarkedEncodingCannotHold) {
   const std::pair<const char*, std::string> kRows[] = {
-      {"marked UTF-8, byte of a page", "\xEF\xBB\xBF" "a\xF1o"},
+      {"marked UTF-8, byte of a page",
+       "\xEF\xBB\xBF"
+       "a\xF1o"},
       {"marked UTF-8, cut at the end", "\xEF\xBB\xBFx\xE2\x82"},
       {"marked UTF-8, lone surrogate", "\xEF\xBB\xBF\xED\xA0\xBD"},
       {"marked UTF-8, pair in six bytes", "\xEF\xBB\xBF\xED\xA0\xBD\xED\xB3\x81"},
@@ -130,11 +132,25 @@ Text line_ends(TextView shown) { return replace_all(replace_all(shown, u"r", u"\
 
 TEST_F(BuiltinScriptReaderTest, EveryLineEndIsCrLf) {
   constexpr std::pair<TextView, TextView> kRows[] = {
-      {u"a", u"a"},          {u"rn", u"rn"},           {u"n", u"rn"},           {u"r", u"rn"},
-      {u"nn", u"rnrn"},      {u"rr", u"rnrn"},         {u"nr", u"rnrn"},        {u"rrn", u"rnrn"},
-      {u"rnn", u"rnrn"},     {u"rnr", u"rnrn"},        {u"nrn", u"rnrn"},       {u"rrnn", u"rnrnrn"},
-      {u"rnrn", u"rnrn"},    {u"anb", u"arnb"},        {u"arb", u"arnb"},       {u"arnb", u"arnb"},
-      {u"anbrcrnd", u"arnbrncrnd"}, {u"nanGOnbn", u"rnarnGOrnbrn"}, {u"a\u0085\u2028b\v\f", u"a\u0085\u2028b\v\f"},
+      {u"a", u"a"},
+      {u"rn", u"rn"},
+      {u"n", u"rn"},
+      {u"r", u"rn"},
+      {u"nn", u"rnrn"},
+      {u"rr", u"rnrn"},
+      {u"nr", u"rnrn"},
+      {u"rrn", u"rnrn"},
+      {u"rnn", u"rnrn"},
+      {u"rnr", u"rnrn"},
+      {u"nrn", u"rnrn"},
+      {u"rrnn", u"rnrnrn"},
+      {u"rnrn", u"rnrn"},
+      {u"anb", u"arnb"},
+      {u"arb", u"arnb"},
+      {u"arnb", u"arnb"},
+      {u"anbrcrnd", u"arnbrncrnd"},
+      {u"nanGOnbn", u"rnarnGOrnbrn"},
+      {u"a\u0085\u2028b\v\f", u"a\u0085\u2028b\v\f"},
   };
   for (const auto& [before, after] : kRows) {
     SCOPED_TRACE(to_utf8(before));
@@ -201,7 +217,9 @@ TEST_F(BuiltinScriptReaderTest, TheIdentificationDoesNotMatter) {
 
 TEST(BuiltinScriptReader, ReadsTheSystemsFiles) {
   const TemporaryFolder folder;
-  folder.write(u"gesti\u00f3n [1].cfc", "\xEF\xBB\xBF" "a\xC3\xB1o\nGO\n");
+  folder.write(u"gesti\u00f3n [1].cfc",
+               "\xEF\xBB\xBF"
+               "a\xC3\xB1o\nGO\n");
   BuiltinScriptReader reader(system_platform().files);
   EXPECT_EQ(reader.Leer(u"", folder.file_text(u"gesti\u00f3n [1].cfc")), u"a\u00f1o\r\nGO\r\n");
   EXPECT_THROW(reader.Leer(u"", folder.file_text(u"missing.cfc")), RuntimeFailure);

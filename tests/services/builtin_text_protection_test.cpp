@@ -89,8 +89,19 @@ TEST_F(BuiltinTextProtectionTest, GivesEveryKindOfTextBack) {
   Text large;
   for (int i = 0; i < 65536; ++i) large.push_back(static_cast<char16_t>(i * 31));
   const Text kTexts[] = {
-      u"", u"a", u"SQLOLEDB", u"\u00d1and\u00fa \u20ac \U0001f600", Text(5, u'\0'), u"comma, \"quote\" and blank ",
-      u"line\r\nbreak", Text(1, 0xD800), Text(31, u'x'), Text(32, u'x'), Text(33, u'x'), u"\u0080", large,
+      u"",
+      u"a",
+      u"SQLOLEDB",
+      u"\u00d1and\u00fa \u20ac \U0001f600",
+      Text(5, u'\0'),
+      u"comma, \"quote\" and blank ",
+      u"line\r\nbreak",
+      Text(1, 0xD800),
+      Text(31, u'x'),
+      Text(32, u'x'),
+      Text(33, u'x'),
+      u"\u0080",
+      large,
   };
   for (const Text& text : kTexts) {
     SCOPED_TRACE(text.size());
@@ -168,9 +179,17 @@ TEST_F(BuiltinTextProtectionTest, RefusesOtherFormsOfATextItWrote) {
   const Text written = protection.Cifrar(u"key", u"secret");
   Text upper = written;
   for (char16_t& unit : upper) unit = fold(unit);
-  const Text kForms[] = {upper,         u"",          u"1",           written.substr(1), u"2" + written.substr(1),
-                         u" " + written, written + u" ", written + u"a", written.substr(0, written.size() - 1),
-                         u"secret",     written + written};
+  const Text kForms[] = {upper,
+                         u"",
+                         u"1",
+                         written.substr(1),
+                         u"2" + written.substr(1),
+                         u" " + written,
+                         written + u" ",
+                         written + u"a",
+                         written.substr(0, written.size() - 1),
+                         u"secret",
+                         written + written};
   for (const Text& form : kForms) {
     SCOPED_TRACE(to_utf8(form));
     EXPECT_TRUE(refused(u"key", form));

@@ -153,8 +153,8 @@ TEST(ExisteArchivo, FindsFilesByNameAndPattern) {
     bool exists;
   };
   constexpr File kFiles[] = {
-      {u"alta 1.cfc", true}, {u"alta 2.cfc", false}, {u"*.cfc", true},  {u"alta ?.cfc", true},
-      {u"alta?.cfc", false}, {u"*.txt", false},      {u"a\u00f1o[1].cfc", true}, {u"nowhere\\alta 1.cfc", false},
+      {u"alta 1.cfc", true},    {u"alta 2.cfc", false},    {u"*.cfc", true},           {u"alta ?.cfc", true},
+      {u"alta?.cfc", false},    {u"*.txt", false},         {u"a\u00f1o[1].cfc", true}, {u"nowhere\\alta 1.cfc", false},
       {u"alta [1].cfc", false}, {u"a\u00f1o1.cfc", false},
   };
   for (const File& row : kFiles) {

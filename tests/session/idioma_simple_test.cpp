@@ -60,9 +60,9 @@ TEST_F(IdiomaSimpleTest, FallsBackToALanguageThatItCarries) {
     std::int32_t wanted, current;
     TextView y;
   };
-  constexpr Row kRows[] = {{-1, 1, u"and"}, {0, 0, u"y"}, {1, 1, u"and"}, {2, 2, u"y"},  {3, 3, u"et"},
-                           {4, 0, u"y"},    {5, 0, u"y"}, {6, 0, u"y"},   {7, 0, u"y"},  {8, 1, u"and"},
-                           {9, 1, u"and"},  {INT32_MIN, 1, u"and"},       {INT32_MAX, 1, u"and"}};
+  constexpr Row kRows[] = {{-1, 1, u"and"}, {0, 0, u"y"},           {1, 1, u"and"},        {2, 2, u"y"}, {3, 3, u"et"},
+                           {4, 0, u"y"},    {5, 0, u"y"},           {6, 0, u"y"},          {7, 0, u"y"}, {8, 1, u"and"},
+                           {9, 1, u"and"},  {INT32_MIN, 1, u"and"}, {INT32_MAX, 1, u"and"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.wanted);
     EXPECT_TRUE(load(row.wanted));

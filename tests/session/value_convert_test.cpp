@@ -113,11 +113,21 @@ TEST(ValueConvert, TruthIsWhatIsNotZero) {
     bool truth;
   };
   const Truth kTruths[] = {
-      {"Boolean", true, true},        {"not", false, false},           {"Empty", Empty{}, false},
-      {"zero", std::int32_t{0}, false}, {"one", std::int16_t{1}, true}, {"minus one", -1.0, true},
-      {"a little", 0.001, true},      {"no amount", Currency{0}, false}, {"day zero", Date{0}, false},
-      {"another day", Date{1}, true}, {"true in letters", u"tRuE", true}, {"false in letters", u"FALSE", false},
-      {"number in digits", u"2", true}, {"zero in digits", u"0", false}, {"Decimal", Decimal{0, 0, 1, 28, false}, true},
+      {"Boolean", true, true},
+      {"not", false, false},
+      {"Empty", Empty{}, false},
+      {"zero", std::int32_t{0}, false},
+      {"one", std::int16_t{1}, true},
+      {"minus one", -1.0, true},
+      {"a little", 0.001, true},
+      {"no amount", Currency{0}, false},
+      {"day zero", Date{0}, false},
+      {"another day", Date{1}, true},
+      {"true in letters", u"tRuE", true},
+      {"false in letters", u"FALSE", false},
+      {"number in digits", u"2", true},
+      {"zero in digits", u"0", false},
+      {"Decimal", Decimal{0, 0, 1, 28, false}, true},
   };
   for (const Truth& row : kTruths) {
     SCOPED_TRACE(row.name);
@@ -173,13 +183,22 @@ TEST(ValueConvert, LongsAreRoundedToTheNearestAndHalvesToTheEven) {
 TEST(ValueConvert, WhatIsNoLongFails) {
   TestThread thread;
   const double infinite = std::numeric_limits<double>::infinity();
-  const Value kTooLarge[] = {2147483647.5,           -2147483649.0,          1e300, infinite, -infinite, std::nan(""),
-                             std::int64_t{2147483648}, INT64_MIN,            Currency{INT64_MAX},
-                             Decimal{1, 0, 0, 0, false}, u"2147483648",      u"-1e10"};
+  const Value kTooLarge[] = {2147483647.5,
+                             -2147483649.0,
+                             1e300,
+                             infinite,
+                             -infinite,
+                             std::nan(""),
+                             std::int64_t{2147483648},
+                             INT64_MIN,
+                             Currency{INT64_MAX},
+                             Decimal{1, 0, 0, 0, false},
+                             u"2147483648",
+                             u"-1e10"};
   for (const Value& value : kTooLarge) EXPECT_EQ(failure_of([&] { to_long(value); }), 6) << describe(value);
   EXPECT_EQ(failure_of([] { to_long(Null{}); }), 94);
-  for (const Value& value : {Value(Missing{}), nothing(), two_items(), Value(ErrorValue{1}), Value(u""), Value(u"x"),
-                             Value(u"1x")}) {
+  for (const Value& value :
+       {Value(Missing{}), nothing(), two_items(), Value(ErrorValue{1}), Value(u""), Value(u"x"), Value(u"1x")}) {
     EXPECT_EQ(failure_of([&] { to_long(value); }), 13) << describe(value);
   }
 }

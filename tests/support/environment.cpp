@@ -1,7 +1,7 @@
 // What stands behind the library in this program where a test puts nothing else: the system and the built-in services.
 #include "base/failure.h"
-#include "session/thread_state.h"
 #include "services/builtin_services.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

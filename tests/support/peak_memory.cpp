@@ -19,7 +19,8 @@ void* counted(std::size_t size) noexcept {
   if (block == nullptr) return nullptr;
   *static_cast<std::size_t*>(block) = size;
   const std::size_t now = live += size;
-  for (std::size_t seen = most; seen < now && !most.compare_exchange_weak(seen, now);) {}
+  for (std::size_t seen = most; seen < now && !most.compare_exchange_weak(seen, now);) {
+  }
   return static_cast<char*>(block) + kHeader;
 }
 

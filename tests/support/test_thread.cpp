@@ -1,7 +1,7 @@
 #include "support/test_thread.h"
 
-#include "session/global.h"
 #include "services/builtin_script_reader.h"
+#include "session/global.h"
 
 namespace qvr::tests {
 namespace {
@@ -52,8 +52,8 @@ TestThread::TestThread()
       make_error_report([this] { return std::make_unique<ReportOf>(report); }),
       make_ado([this] { return std::make_unique<AdoOf>(ado); }),
       make_script_reader([this] { return std::make_unique<services::BuiltinScriptReader>(files); }),
-      platform_{settings,    user_language, files,      boxes, host_events, locale, clock,
-                system_platform().cryptography, own_module},
+      platform_{settings,  user_language, files, boxes, host_events, locale, clock, system_platform().cryptography,
+                own_module},
       outer_(std::exchange(current, this)),
       former_(exchange_thread_state(state_over(platform_))) {}
 

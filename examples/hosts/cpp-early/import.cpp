@@ -36,7 +36,8 @@ void show_query(long engine) {
   short date = 2;
   // A null pointer leaves an argument out.
   expect(query->Crear(&engine, by_reference(name), &distinct, &columns, by_reference(tables), &relations, nullptr,
-                      nullptr, nullptr, nullptr, nullptr, nullptr), "Crear");
+                      nullptr, nullptr, nullptr, nullptr, nullptr),
+         "Crear");
   expect(query->InterpretarBusqueda(by_reference(column), by_reference(search), nullptr), "InterpretarBusqueda");
   query->AmpliarOrden(&date);
   std::wcout << L"Criterion: " << query->CriterioActual.GetBSTR() << L"\nSQL: " << query->SQL.GetBSTR() << L'\n';
@@ -49,8 +50,8 @@ void show_properties() {
   properties->CreaPropiedad(by_reference(kind), by_reference(name), &value);
   for (long i = 0; i < properties->NumPropiedades; ++i) {
     _variant_t index = i;
-    std::wcout << properties->NombrePropiedad[&i].GetBSTR() << L" = "
-               << _bstr_t(properties->Item[&index]).GetBSTR() << L'\n';
+    std::wcout << properties->NombrePropiedad[&i].GetBSTR() << L" = " << _bstr_t(properties->Item[&index]).GetBSTR()
+               << L'\n';
   }
 }
 

@@ -18,8 +18,7 @@ class Sink final : public __QVRScr {
  public:
   using Progreso = std::function<void(const std::wstring& message)>;
   using Terminado = std::function<void(VARIANT_BOOL success)>;
-  Sink(Progreso progreso, Terminado terminado)
-      : progreso_(std::move(progreso)), terminado_(std::move(terminado)) {}
+  Sink(Progreso progreso, Terminado terminado) : progreso_(std::move(progreso)), terminado_(std::move(terminado)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** found) noexcept override {
     const bool known = id == __uuidof(IUnknown) || id == __uuidof(IDispatch) || id == __uuidof(__QVRScr);

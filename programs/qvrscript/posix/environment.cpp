@@ -1,7 +1,7 @@
 // What stands behind the library in this program: the system, the built-in services and ADO over ODBC.
-#include "session/thread_state.h"
-#include "services/builtin_services.h"
 #include "odbc/odbc_ado.h"
+#include "services/builtin_services.h"
+#include "session/thread_state.h"
 
 namespace qvr {
 namespace {

@@ -1,18 +1,18 @@
 // Gathers what the doctor judges, on Windows.
 #include "QVRlib21.h"
-#include "com/com.h"
-#include "com/text_bstr.h"
-#include "session/global.h"
-#include "session/ov.h"
-#include "session/value_convert.h"
-#include "platform/windows/parts.h"
-#include "qvrscript/doctor_facts.h"
-#include "qvrscript/windows/library_file.h"
-#include "qvrscript/windows/registered.h"
 #include "com/clients/com_error_report.h"
 #include "com/clients/com_script_reader.h"
 #include "com/clients/com_text_protection.h"
 #include "com/clients/late_object.h"
+#include "com/com.h"
+#include "com/text_bstr.h"
+#include "platform/windows/parts.h"
+#include "qvrscript/doctor_facts.h"
+#include "qvrscript/windows/library_file.h"
+#include "qvrscript/windows/registered.h"
+#include "session/global.h"
+#include "session/ov.h"
+#include "session/value_convert.h"
 
 namespace qvr::script_tool {
 namespace {
@@ -92,8 +92,8 @@ void look_at_others(Facts& facts) {
         L"MSOLEDBSQL", L"MSOLEDBSQL19", L"SQLNCLI11", L"MSDAORA", L"OraOLEDB.Oracle", L"MSDASQL"}) {
     facts.providers.push_back(windows::provider(name));
   }
-  for (const wchar_t* name : {com::ComTextProtection::kProgramId, com::ComErrorReport::kProgramId,
-                              com::ComScriptReader::kProgramId}) {
+  for (const wchar_t* name :
+       {com::ComTextProtection::kProgramId, com::ComErrorReport::kProgramId, com::ComScriptReader::kProgramId}) {
     facts.components.push_back(windows::component(name));
   }
 }

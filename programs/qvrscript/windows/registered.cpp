@@ -3,9 +3,9 @@
 #include <array>
 
 #include "QVRlib21.h"
+#include "com/clients/late_object.h"
 #include "platform/windows/parts.h"
 #include "qvrscript/windows/library_file.h"
-#include "com/clients/late_object.h"
 
 namespace qvr::script_tool::windows {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "session/value_convert.h"
 #include "com/clients/late_object.h"
+#include "session/value_convert.h"
 
 namespace qvr::com {
 namespace {

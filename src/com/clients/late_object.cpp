@@ -116,9 +116,7 @@ Value LateObject::get(const wchar_t* name, std::initializer_list<Value> argument
   return invoke(name, DISPATCH_PROPERTYGET, {arguments.begin(), arguments.size()});
 }
 
-void LateObject::put(const wchar_t* name, const Value& value) const {
-  invoke(name, DISPATCH_PROPERTYPUT, {&value, 1});
-}
+void LateObject::put(const wchar_t* name, const Value& value) const { invoke(name, DISPATCH_PROPERTYPUT, {&value, 1}); }
 
 Value LateObject::call_with_secrets(const wchar_t* name, std::initializer_list<TextView> arguments) const {
   Arguments passed(std::span<const TextView>(arguments.begin(), arguments.size()));

@@ -21,9 +21,8 @@ class Contract : public Dual<_iSQL20> {
     });
   }
   STDMETHODIMP AmpliarCondicionWhere(BSTR* Condicion, BSTR* Criterio, VARIANT_BOOL* Resultado) noexcept override {
-    return answer_while_kept(*this, Resultado, [&] {
-      return query().AmpliarCondicionWhere(text_of(Condicion), text_of(Criterio));
-    });
+    return answer_while_kept(*this, Resultado,
+                             [&] { return query().AmpliarCondicionWhere(text_of(Condicion), text_of(Criterio)); });
   }
   STDMETHODIMP AmpliarOrden(SHORT* NuevaColumna, VARIANT_BOOL* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] { return query().AmpliarOrden(short_of(NuevaColumna)); });
@@ -39,15 +38,14 @@ class Contract : public Dual<_iSQL20> {
                      BSTR* CondicionHAVINGInicial, BSTR* TextoORDERBYInicial, LONG* TOP, LONG* Idioma,
                      VARIANT_BOOL* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] {
-      return query().Crear(query_request(
-          MotorBD, NombreObjeto, UsarDistinct, ColumnasSELECT, TablasFROM, RelacionTablas, CondicionWHEREInicial,
-          NumColumnasGROUPBY, CondicionHAVINGInicial, TextoORDERBYInicial, TOP, Idioma));
+      return query().Crear(query_request(MotorBD, NombreObjeto, UsarDistinct, ColumnasSELECT, TablasFROM,
+                                         RelacionTablas, CondicionWHEREInicial, NumColumnasGROUPBY,
+                                         CondicionHAVINGInicial, TextoORDERBYInicial, TOP, Idioma));
     });
   }
   STDMETHODIMP CrearDesdeTextoDefinicion(BSTR* TextoDefinicion, VARIANT_BOOL* Resultado) noexcept override {
-    return answer_while_kept(*this, Resultado, [&] {
-      return query().CrearDesdeTextoDefinicion(text_of(TextoDefinicion));
-    });
+    return answer_while_kept(*this, Resultado,
+                             [&] { return query().CrearDesdeTextoDefinicion(text_of(TextoDefinicion)); });
   }
   STDMETHODIMP get_TextoDefinicion(BSTR* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] { return query().TextoDefinicion(); });

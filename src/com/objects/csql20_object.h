@@ -14,29 +14,21 @@ class cSQL20Object final : public Object<::cSQL20, PrefixedContract<_cSQL20>, Co
     return answer_while_kept(Resultado, [&] { return core_.Name(); });
   }
   STDMETHODIMP AmpliarCondicionHaving(BSTR* Condicion, BSTR* Criterio, VARIANT_BOOL* Resultado) noexcept override {
-    return answer_while_kept(Resultado, [&] {
-      return core_.AmpliarCondicionHaving(text_of(Condicion), text_of(Criterio));
-    });
+    return answer_while_kept(Resultado,
+                             [&] { return core_.AmpliarCondicionHaving(text_of(Condicion), text_of(Criterio)); });
   }
   STDMETHODIMP CambiaCondicion(BSTR* NuevaCondicionWhere, BSTR* NuevaCondicionHaving) noexcept override {
-    return perform_while_kept([&] {
-      core_.CambiaCondicion(text_of(NuevaCondicionWhere), text_of(NuevaCondicionHaving));
-    });
+    return perform_while_kept(
+        [&] { core_.CambiaCondicion(text_of(NuevaCondicionWhere), text_of(NuevaCondicionHaving)); });
   }
   STDMETHODIMP ParteWhere(VARIANT_BOOL* SoloCondicion, BSTR* Resultado) noexcept override {
-    return answer_while_kept(Resultado, [&] {
-      return core_.ParteWhere(truth_of(SoloCondicion));
-    });
+    return answer_while_kept(Resultado, [&] { return core_.ParteWhere(truth_of(SoloCondicion)); });
   }
   STDMETHODIMP ParteHaving(VARIANT_BOOL* SoloCondicion, BSTR* Resultado) noexcept override {
-    return answer_while_kept(Resultado, [&] {
-      return core_.ParteHaving(truth_of(SoloCondicion));
-    });
+    return answer_while_kept(Resultado, [&] { return core_.ParteHaving(truth_of(SoloCondicion)); });
   }
   STDMETHODIMP ExpresionOriginal(BSTR* NombreCampoRS, BSTR* Resultado) noexcept override {
-    return answer_while_kept(Resultado, [&] {
-      return core_.ExpresionOriginal(text_of(NombreCampoRS));
-    });
+    return answer_while_kept(Resultado, [&] { return core_.ExpresionOriginal(text_of(NombreCampoRS)); });
   }
 
  private:

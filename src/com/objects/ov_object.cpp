@@ -1,7 +1,7 @@
 #include "com/objects/ov_object.h"
 
-#include "session/ov.h"
 #include "platform/platform.h"
+#include "session/ov.h"
 
 namespace qvr::com {
 namespace {

@@ -41,15 +41,14 @@ class PrefixedContract : public Dual<I> {
                             SHORT* NumColumnasGROUPBY, BSTR* CondicionHAVINGInicial, BSTR* TextoORDERBYInicial,
                             LONG* TOP, LONG* Idioma, VARIANT_BOOL* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] {
-      return this->query().Crear(query_request(
-          MotorBD, NombreObjeto, UsarDistinct, ColumnasSELECT, TablasFROM, RelacionTablas, CondicionWHEREInicial,
-          NumColumnasGROUPBY, CondicionHAVINGInicial, TextoORDERBYInicial, TOP, Idioma));
+      return this->query().Crear(query_request(MotorBD, NombreObjeto, UsarDistinct, ColumnasSELECT, TablasFROM,
+                                               RelacionTablas, CondicionWHEREInicial, NumColumnasGROUPBY,
+                                               CondicionHAVINGInicial, TextoORDERBYInicial, TOP, Idioma));
     });
   }
   STDMETHODIMP iSQL20_CrearDesdeTextoDefinicion(BSTR* TextoDefinicion, VARIANT_BOOL* Resultado) noexcept override {
-    return answer_while_kept(*this, Resultado, [&] {
-      return this->query().CrearDesdeTextoDefinicion(text_of(TextoDefinicion));
-    });
+    return answer_while_kept(*this, Resultado,
+                             [&] { return this->query().CrearDesdeTextoDefinicion(text_of(TextoDefinicion)); });
   }
   STDMETHODIMP get_iSQL20_TextoDefinicion(BSTR* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] { return this->query().TextoDefinicion(); });

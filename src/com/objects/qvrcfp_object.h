@@ -1,8 +1,8 @@
 #pragma once
 
 #include "QVRlib21.h"
-#include "connection/qvrcfp.h"
 #include "com/object.h"
+#include "connection/qvrcfp.h"
 
 namespace qvr::com {
 

@@ -1,6 +1,6 @@
 // The members that write SQL.
-#include "com/objects/qvrcfp_object.h"
 #include "com/clients/com_ado.h"
+#include "com/objects/qvrcfp_object.h"
 
 namespace qvr::com {
 
@@ -50,9 +50,8 @@ HRESULT QVRcfpObject::sqlTOP(LONG* Numero, BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] { return core_.sqlTOP(number_of(Numero)); });
 }
 HRESULT QVRcfpObject::sqlRowNum(LONG* Numero, VARIANT_BOOL* AnteponerAndSiProcede, BSTR* Resultado) noexcept {
-  return answer_while_kept(Resultado, [&] {
-    return core_.sqlRowNum(number_of(Numero), truth_of(AnteponerAndSiProcede));
-  });
+  return answer_while_kept(Resultado,
+                           [&] { return core_.sqlRowNum(number_of(Numero), truth_of(AnteponerAndSiProcede)); });
 }
 HRESULT QVRcfpObject::sqlWhereRelacionTablas(VARIANT* mCampo1Campo2Relacion, BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] { return core_.sqlWhereRelacionTablas(value_of(mCampo1Campo2Relacion)); });
@@ -64,14 +63,12 @@ HRESULT QVRcfpObject::sqlConcatenar(VARIANT* Cadenas, BSTR* Resultado) noexcept 
   return answer_while_kept(Resultado, [&] { return core_.sqlConcatenar(value_of(Cadenas)); });
 }
 HRESULT QVRcfpObject::sqlEsNulo(BSTR* CampoComprobar, BSTR* CampoAlternativo, BSTR* Resultado) noexcept {
-  return answer_while_kept(Resultado, [&] {
-    return core_.sqlEsNulo(text_of(CampoComprobar), text_of(CampoAlternativo));
-  });
+  return answer_while_kept(Resultado,
+                           [&] { return core_.sqlEsNulo(text_of(CampoComprobar), text_of(CampoAlternativo)); });
 }
 HRESULT QVRcfpObject::sqlCASE(BSTR* Campo, VARIANT* ParejasValoresMasOmision, BSTR* Resultado) noexcept {
-  return answer_while_kept(Resultado, [&] {
-    return core_.sqlCASE(text_of(Campo), value_of(ParejasValoresMasOmision));
-  });
+  return answer_while_kept(Resultado,
+                           [&] { return core_.sqlCASE(text_of(Campo), value_of(ParejasValoresMasOmision)); });
 }
 HRESULT QVRcfpObject::SqlINSERT(BSTR* NombreTabla, VARIANT* MValores, BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] { return core_.SqlINSERT(text_of(NombreTabla), value_of(MValores)); });
@@ -79,8 +76,8 @@ HRESULT QVRcfpObject::SqlINSERT(BSTR* NombreTabla, VARIANT* MValores, BSTR* Resu
 HRESULT QVRcfpObject::SqlUPDATE(BSTR* NombreTabla, BSTR* NombreCampoClave, LONG* Clave_cd, VARIANT* MCampos,
                                 VARIANT* MValores, BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
-    return core_.SqlUPDATE(text_of(NombreTabla), text_of(NombreCampoClave), number_of(Clave_cd),
-                           value_of(MCampos), value_of(MValores));
+    return core_.SqlUPDATE(text_of(NombreTabla), text_of(NombreCampoClave), number_of(Clave_cd), value_of(MCampos),
+                           value_of(MValores));
   });
 }
 HRESULT QVRcfpObject::SqlInsert2(BSTR* NombreTabla, VARIANT* MCampos, VARIANT* MValores, BSTR* Resultado) noexcept {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "script/script_preparation.h"
 #include "com/clients/com_ado.h"
+#include "script/script_preparation.h"
 
 namespace qvr::com {
 namespace {
@@ -40,8 +40,8 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
       return RunTexts{id, shown, id, shown, text_of(TextosComandos), secret_of(CadenaConexion)};
     };
     return with_arguments(core_, make, [&](RunTexts& texts) {
-      const bool success = core_.EjecutarComandos(texts.id, number_of(MotorBD), texts.commands,
-                                                  texts.connection_string, texts.shown);
+      const bool success = core_.EjecutarComandos(texts.id, number_of(MotorBD), texts.commands, texts.connection_string,
+                                                  texts.shown);
       give_back(ID, texts.given_id, texts.id);
       give_back(TextoMostrar, texts.given_shown, texts.shown);
       return success;
@@ -67,7 +67,9 @@ HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR
                                        BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
     const auto make = [&] {
-      return LoadTexts{text_of(ID), text_of(Ruta), text_of(NombreDefinicion),
+      return LoadTexts{text_of(ID),
+                       text_of(Ruta),
+                       text_of(NombreDefinicion),
                        {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
@@ -84,13 +86,15 @@ HRESULT QVRScrObject::CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, B
                                           BSTR* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
     const auto make = [&] {
-      return LoadTexts{text_of(ID), text_of(Ruta), text_of(Aplicacion),
+      return LoadTexts{text_of(ID),
+                       text_of(Ruta),
+                       text_of(Aplicacion),
                        {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
     return with_arguments(core_, make, [&](const LoadTexts& texts) {
-      return core_.CargarActualizacion(texts.id, number_of(MotorBD), texts.folder, texts.name,
-                                       number_of(VersionActual), texts.accounts, truth_of(Encri));
+      return core_.CargarActualizacion(texts.id, number_of(MotorBD), texts.folder, texts.name, number_of(VersionActual),
+                                       texts.accounts, truth_of(Encri));
     });
   });
 }

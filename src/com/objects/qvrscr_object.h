@@ -9,8 +9,8 @@ namespace qvr::com {
 
 class QVRScrObject final : public Object<::QVRScr, Dual<_QVRScr>, IConnectionPointContainer>, private ScriptEvents {
  public:
-  STDMETHODIMP EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComandos, BSTR* CadenaConexion,
-                                BSTR* TextoMostrar, VARIANT_BOOL* Resultado) noexcept override;
+  STDMETHODIMP EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComandos, BSTR* CadenaConexion, BSTR* TextoMostrar,
+                                VARIANT_BOOL* Resultado) noexcept override;
   STDMETHODIMP Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando, LONG* MotorBD,
                                 VARIANT_BOOL* Resultado) noexcept override;
   STDMETHODIMP UsuarioSegunMotor(LONG* MotorBD, BSTR* Resultado) noexcept override;

@@ -10,9 +10,9 @@
 #include <string>
 
 #include "base/failure.h"
-#include "platform/posix/parts.h"
 #include "base/utf8.h"
 #include "base/wildcards.h"
+#include "platform/posix/parts.h"
 
 namespace qvr::posix {
 namespace {
@@ -67,7 +67,7 @@ std::optional<mode_t> permissions_to_keep(const std::string& path) {
   const int number = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
   if (number < 0 && errno == ENOENT) return std::nullopt;
   const Descriptor there(number);
-  struct stat entry{};
+  struct stat entry {};
   if (::fstat(there.number(), &entry) != 0) refuse();
   return entry.st_mode & 07777;
 }
@@ -141,7 +141,7 @@ void each_name(const std::string& folder, Use&& use) {
 // Devices and what leads nowhere are none of both.
 enum class Kind { None, Plain, Directory };
 Kind kind_of(const std::string& path) {
-  struct stat entry{};
+  struct stat entry {};
   if (::stat(path.c_str(), &entry) != 0) return Kind::None;
   return S_ISDIR(entry.st_mode) ? Kind::Directory : S_ISREG(entry.st_mode) ? Kind::Plain : Kind::None;
 }

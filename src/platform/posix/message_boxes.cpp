@@ -1,7 +1,7 @@
 #include <cstdio>
 
-#include "platform/posix/parts.h"
 #include "base/utf8.h"
+#include "platform/posix/parts.h"
 
 namespace qvr::posix {
 namespace {

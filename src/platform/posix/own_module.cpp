@@ -3,8 +3,8 @@
 #include <array>
 
 #include "base/failure.h"
-#include "platform/posix/parts.h"
 #include "base/utf8.h"
+#include "platform/posix/parts.h"
 
 namespace qvr::posix {
 namespace {

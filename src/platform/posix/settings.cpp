@@ -2,8 +2,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/posix/parts.h"
 #include "base/utf8.h"
+#include "platform/posix/parts.h"
 
 namespace qvr::posix {
 namespace {

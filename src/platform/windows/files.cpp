@@ -118,8 +118,7 @@ void copy_into(const std::wstring& path, const std::wstring& from) {
 // Written under a name of its own, where there is one, and put in the file's place when it is whole.
 class HandleOutput : public OutputFile {
  public:
-  explicit HandleOutput(std::wstring path)
-      : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
+  explicit HandleOutput(std::wstring path) : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
 
   ~HandleOutput() override {
     if (!begun_ && file_.close() && !beside_.empty()) DeleteFileW(beside_.c_str());
@@ -200,9 +199,7 @@ class SystemFiles final : public Files {
     return found;
   }
 
-  std::unique_ptr<InputFile> open(TextView path) override {
-    return std::make_unique<HandleInput>(path_of(path));
-  }
+  std::unique_ptr<InputFile> open(TextView path) override { return std::make_unique<HandleInput>(path_of(path)); }
 
   std::unique_ptr<OutputFile> create(TextView path) override { return std::make_unique<HandleOutput>(path_of(path)); }
 

@@ -1,7 +1,7 @@
 // What late-bound callers do most often asks for no memory.
+#include "automation/stress/allocations.h"
 #include "automation/both.h"
 #include "automation/in_use.h"
-#include "automation/stress/allocations.h"
 #include "automation/stress/subjects.h"
 
 namespace qvr::tests {

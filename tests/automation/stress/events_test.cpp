@@ -19,8 +19,8 @@ std::string run(IDispatch& runner, const Database& database) {
   VARIANT flat[] = {text.raw(), connection.raw(), commands.raw(), engine.raw(), id.raw()};
   DISPPARAMS parameters{flat, nullptr, 5, 0};
   Var result;
-  const HRESULT status =
-      runner.Invoke(0x60030000, IID_NULL, 0, DISPATCH_METHOD, &parameters, &result.raw(), nullptr, nullptr);
+  const HRESULT status = runner.Invoke(0x60030000, IID_NULL, 0, DISPATCH_METHOD, &parameters, &result.raw(), nullptr,
+                                       nullptr);
   return std::to_string(status) + " " + describe(result.raw());
 }
 
@@ -85,57 +85,71 @@ const Disturbance kDisturbances[] = {
     {"is gone", [](DisturbedRun&, DISPID, VARIANT&) { return RPC_E_DISCONNECTED; }},
     {"knows no event", [](DisturbedRun&, DISPID, VARIANT&) { return DISP_E_MEMBERNOTFOUND; }},
     {"answers with a success of its own", [](DisturbedRun&, DISPID, VARIANT&) -> HRESULT { return 0x00041234; }},
-    {"writes to what it was given", [](DisturbedRun&, DISPID, VARIANT& argument) {
+    {"writes to what it was given",
+     [](DisturbedRun&, DISPID, VARIANT& argument) {
        if (argument.vt == (VT_BYREF | VT_BSTR)) SysReAllocString(argument.pbstrVal, L"changed");
        if (argument.vt == (VT_BYREF | VT_BOOL)) *argument.pboolVal = 7;
        return S_OK;
      }},
-    {"takes the text away", [](DisturbedRun&, DISPID, VARIANT& argument) {
+    {"takes the text away",
+     [](DisturbedRun&, DISPID, VARIANT& argument) {
        if (argument.vt == (VT_BYREF | VT_BSTR)) SysFreeString(std::exchange(*argument.pbstrVal, nullptr));
        return S_OK;
      }},
-    {"disconnects itself", [](DisturbedRun& run, DISPID, VARIANT&) {
+    {"disconnects itself",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
        run.point()->Unadvise(run.cookie);
        return S_OK;
      }},
-    {"disconnects and raises", [](DisturbedRun& run, DISPID, VARIANT&) {
+    {"disconnects and raises",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
        run.point()->Unadvise(run.cookie);
        return DISP_E_EXCEPTION;
      }},
-    {"connects itself once more", [](DisturbedRun& run, DISPID, VARIANT&) {
+    {"connects itself once more",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
        if (run.disturbing->events.size() < 3) run.connect(*run.disturbing.Get());
        return S_OK;
      }},
-    {"releases the source", [](DisturbedRun& run, DISPID, VARIANT&) {
+    {"releases the source",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
        run.runner = LateObject(ComPtr<IDispatch>());
        return S_OK;
      }},
-    {"releases the source and raises", [](DisturbedRun& run, DISPID, VARIANT&) {
+    {"releases the source and raises",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
        run.runner = LateObject(ComPtr<IDispatch>());
        return DISP_E_EXCEPTION;
      }},
-    {"has unused libraries unloaded", [](DisturbedRun&, DISPID, VARIANT&) {
+    {"has unused libraries unloaded",
+     [](DisturbedRun&, DISPID, VARIANT&) {
        CoFreeUnusedLibraries();
        return S_OK;
      }},
-    {"starts another run", [](DisturbedRun& run_under_way, DISPID, VARIANT&) {
+    {"starts another run",
+     [](DisturbedRun& run_under_way, DISPID, VARIANT&) {
        run_under_way.nested.push_back(run(*run_under_way.runner.get(), run_under_way.database));
        return S_OK;
-     }, "0 BOOL false"},
+     },
+     "0 BOOL false"},
     {"starts another run from a message", [](DisturbedRun& run, DISPID, VARIANT&) { return pump(run); },
      "0 BOOL false"},
-    {"starts a run on another object", [](DisturbedRun& run_under_way, DISPID, VARIANT&) {
+    {"starts a run on another object",
+     [](DisturbedRun& run_under_way, DISPID, VARIANT&) {
        const Database own;
        const LateObject other(L"QVRlib21.QVRScr");
        run_under_way.nested.push_back(run(*other.get(), own));
        return S_OK;
-     }, "0 BOOL true"},
-    {"loads a definition", [](DisturbedRun& run, DISPID, VARIANT&) {
-       const LateAnswer loaded = run.runner.call(
-           L"CargarDefinicion", {L"app", 2, work_folder(), L"none", L"BD", L"", L"", L"", L"", false});
+     },
+     "0 BOOL true"},
+    {"loads a definition",
+     [](DisturbedRun& run, DISPID, VARIANT&) {
+       const LateAnswer loaded = run.runner.call(L"CargarDefinicion",
+                                                 {L"app", 2, work_folder(), L"none", L"BD", L"", L"", L"", L"", false});
        run.nested.push_back(std::to_string(loaded.result) + " " + describe(loaded.value.raw()));
        return S_OK;
-     }, "0 BSTR "},
+     },
+     "0 BSTR "},
 };
 
 class Disturbed : public testing::TestWithParam<Disturbance> {

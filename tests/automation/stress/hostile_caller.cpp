@@ -125,8 +125,6 @@ void HostileCaller::attack_every_member(const Attack& attack) const {
   SetCurrentDirectoryW(L"C:\\");
 }
 
-std::string interface_name(const testing::TestParamInfo<std::size_t>& row) {
-  return kInterfaces[row.param] + 1;
-}
+std::string interface_name(const testing::TestParamInfo<std::size_t>& row) { return kInterfaces[row.param] + 1; }
 
 }  // namespace qvr::tests

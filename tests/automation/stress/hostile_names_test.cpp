@@ -29,8 +29,7 @@ TEST_P(HostileNames, OfMembers) {
       EXPECT_EQ(ids[0], member.id);
     }
     for (const std::wstring& name : {std::wstring(), member.name + L" ", L" " + member.name, member.name + member.name,
-                                     L"get_" + member.name, std::wstring(70000, L'a'),
-                                     std::wstring(L"\xD800")}) {
+                                     L"get_" + member.name, std::wstring(70000, L'a'), std::wstring(L"\xD800")}) {
       EXPECT_EQ(look_up(subject, {name, member.name}, ids), DISP_E_UNKNOWNNAME) << narrow(name.substr(0, 100));
       EXPECT_EQ(ids, (std::vector<DISPID>{DISPID_UNKNOWN, DISPID_UNKNOWN}));
     }
@@ -93,8 +92,9 @@ TEST_P(HostileNames, OfTypeInformation) {
 TEST_P(HostileNames, IdsThatThereAreNot) {
   attack_every_member([this](const Subject& subject, const DescribedMember& member) {
     constexpr DISPID kLowest = std::numeric_limits<DISPID>::min(), kHighest = std::numeric_limits<DISPID>::max();
-    const DISPID ids[] = {DISPID_VALUE, DISPID_UNKNOWN, DISPID_NEWENUM, DISPID_PROPERTYPUT, DISPID_EVALUATE, -999, 1, 2,
-                          kLowest, kHighest, member.id ^ 0x08000000, member.id + 0x1000, 0x60020003};
+    const DISPID ids[] = {
+        DISPID_VALUE, DISPID_UNKNOWN, DISPID_NEWENUM,         DISPID_PROPERTYPUT, DISPID_EVALUATE, -999, 1, 2,
+        kLowest,      kHighest,       member.id ^ 0x08000000, member.id + 0x1000, 0x60020003};
     constexpr WORD kKinds[] = {DISPATCH_METHOD, DISPATCH_PROPERTYGET, DISPATCH_PROPERTYPUT, 0xFFFF};
     Arguments arguments(member, subject.good_arguments(member));
     for (const DISPID id : ids) {
@@ -125,7 +125,8 @@ HRESULT call_slot(const Subject& subject, const DescribedMember& member, void* r
   for (VARIANT& value : values) pointers.push_back(&value);
   VARIANT returned{};
   EXPECT_EQ(DispCallFunc(&subject.object(), static_cast<ULONG_PTR>(member.slot_offset), CC_STDCALL, VT_ERROR,
-                         static_cast<UINT>(types.size()), types.data(), pointers.data(), &returned), S_OK);
+                         static_cast<UINT>(types.size()), types.data(), pointers.data(), &returned),
+            S_OK);
   return returned.scode;
 }
 
@@ -142,8 +143,7 @@ TEST_P(HostileNames, SlotsWithNullPointers) {
   });
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, HostileNames, testing::Range(std::size_t{0}, std::size(kInterfaces)),
-                         interface_name);
+INSTANTIATE_TEST_SUITE_P(Every, HostileNames, testing::Range(std::size_t{0}, std::size(kInterfaces)), interface_name);
 
 // The one call that no type library tells of.
 TEST(HostileCallers, EnumeratingTheProperties) {

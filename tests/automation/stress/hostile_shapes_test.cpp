@@ -33,9 +33,9 @@ TEST_P(HostileShapes, WrongCounts) {
     for (std::size_t count = 0; count <= wanted + 2; ++count) {
       SCOPED_TRACE(count);
       Arguments arguments(member, so_many(subject, member, count));
-      const HRESULT expected = count > wanted                    ? DISP_E_BADPARAMCOUNT
+      const HRESULT expected = count > wanted                   ? DISP_E_BADPARAMCOUNT
                                : may_be_left_out(member, count) ? S_OK
-                                                                 : DISP_E_PARAMNOTOPTIONAL;
+                                                                : DISP_E_PARAMNOTOPTIONAL;
       EXPECT_EQ(invoke(subject, call_of(member, arguments)).result, expected);
     }
     DISPPARAMS endless{nullptr, nullptr, std::numeric_limits<UINT>::max(), 0};
@@ -132,8 +132,7 @@ TEST_P(HostileShapes, WrongKindsAndInterfaces) {
   });
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, HostileShapes, testing::Range(std::size_t{0}, std::size(kInterfaces)),
-                         interface_name);
+INSTANTIATE_TEST_SUITE_P(Every, HostileShapes, testing::Range(std::size_t{0}, std::size(kInterfaces)), interface_name);
 
 }  // namespace
 }  // namespace qvr::tests

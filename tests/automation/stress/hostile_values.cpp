@@ -13,9 +13,7 @@ VARIANT number(VARTYPE type, Number value) {
   return made;
 }
 
-VARIANT text(CallersMemory& memory, std::wstring_view content) {
-  return variant_of(VT_BSTR, memory.text(content));
-}
+VARIANT text(CallersMemory& memory, std::wstring_view content) { return variant_of(VT_BSTR, memory.text(content)); }
 
 VARIANT reference(VARTYPE type, void* to) { return variant_of(static_cast<VARTYPE>(VT_BYREF | type), to); }
 
@@ -106,13 +104,15 @@ std::span<const HostileValue> hostile_values() {
       {"smallest currency", [](M&) { return number(VT_CY, std::numeric_limits<LONGLONG>::min()); }},
       {"date far away", [](M&) { return number(VT_DATE, 1e300); }},
       {"date that is no number", [](M&) { return number(VT_DATE, kNoNumber); }},
-      {"largest decimal", [](M&) {
+      {"largest decimal",
+       [](M&) {
          VARIANT made{};
          made.decVal.Hi32 = 0xFFFFFFFF, made.decVal.Lo64 = ~0ull;
          made.vt = VT_DECIMAL;
          return made;
        }},
-      {"decimal with a scale that there is not", [](M&) {
+      {"decimal with a scale that there is not",
+       [](M&) {
          VARIANT made{};
          made.decVal.Lo64 = 1, made.decVal.scale = 200, made.decVal.sign = 3;
          made.vt = VT_DECIMAL;
@@ -179,8 +179,12 @@ std::span<const HostileValue> hostile_values() {
       {"array from the lowest index", [](M& m) { return array(m.array(VT_VARIANT, kLowest, 3)); }},
       {"array to the highest index", [](M& m) { return array(m.array(VT_VARIANT, kHighest - 2, 3)); }},
       {"array beyond the highest index", [](M& m) { return array(m.array(VT_VARIANT, kHighest, 3)); }},
-      {"array of two dimensions", [](M& m) { return array(m.array(VT_VARIANT, {{2, 0}, {2, 0}})); }},
-      {"array of six dimensions", [](M& m) {
+      {"array of two dimensions",
+       [](M& m) {
+         return array(m.array(VT_VARIANT, {{2, 0}, {2, 0}}));
+       }},
+      {"array of six dimensions",
+       [](M& m) {
          return array(m.array(VT_I4, {{1, kLowest}, {2, 0}, {1, kHighest}, {1, -1}, {2, 1}, {1, 0}}), VT_I4);
        }},
       {"array of texts", [](M& m) { return array(m.array(VT_BSTR, 0, 4), VT_BSTR); }},
@@ -192,7 +196,8 @@ std::span<const HostileValue> hostile_values() {
       {"array that holds itself", array_of_itself},
       {"locked array", [](M& m) { return locked_array(m, VT_VARIANT); }},
       {"locked array of texts", [](M& m) { return locked_array(m, VT_BSTR); }},
-      {"reference to a locked array", [](M& m) {
+      {"reference to a locked array",
+       [](M& m) {
          VARIANT& held = m.variant();
          held = locked_array(m, VT_VARIANT);
          return reference(VT_VARIANT, &held);

@@ -1,6 +1,6 @@
 // Arguments that nobody means, one after the other for every parameter of every member, and for all of them at once.
-#include "automation/stress/hostile_caller.h"
 #include "automation/stress/hostile_values.h"
+#include "automation/stress/hostile_caller.h"
 
 namespace qvr::tests {
 namespace {

@@ -90,9 +90,8 @@ TEST_P(EndedWhileRegistering, CanBeMadeWholeOrTakenAway) {
   EXPECT_GT(halves, 0) << "no child was ended in the midst, so nothing was shown";
 }
 
-INSTANTIATE_TEST_SUITE_P(Scopes, EndedWhileRegistering, testing::Values(L"machine", L"user"), [](const auto& row) {
-  return narrow(row.param);
-});
+INSTANTIATE_TEST_SUITE_P(Scopes, EndedWhileRegistering, testing::Values(L"machine", L"user"),
+                         [](const auto& row) { return narrow(row.param); });
 
 }  // namespace
 }  // namespace qvr::tests

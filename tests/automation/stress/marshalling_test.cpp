@@ -34,9 +34,9 @@ TEST(Marshalling, EveryClassByName) {
     SCOPED_TRACE(narrow(row.program_id));
     const LateObject object(row.program_id);
     std::string answer;
-    EXPECT_EQ(hand_over<IDispatch>(COINIT_APARTMENTTHREADED, *object.get(), [&](IDispatch& proxy) {
-      answer = row.use(LateObject(ComPtr<IDispatch>(&proxy)));
-    }), S_OK);
+    EXPECT_EQ(hand_over<IDispatch>(COINIT_APARTMENTTHREADED, *object.get(),
+                                   [&](IDispatch& proxy) { answer = row.use(LateObject(ComPtr<IDispatch>(&proxy))); }),
+              S_OK);
     EXPECT_EQ(answer, row.expected);
   }
 }
@@ -63,38 +63,48 @@ TEST(Marshalling, ParametersOfEveryKindByName) {
 
 TEST(Marshalling, TextsAndNumbersThroughSlots) {
   const LateObject runner(L"QVRlib21.QVRScr"), version(L"QVRlib21.Ov"), list(L"QVRlib21.QVRprp");
-  EXPECT_EQ(asked_elsewhere<_QVRScr>(runner, [](_QVRScr& proxy) {
-    Bstr result;
-    long engine = 2;
-    const HRESULT status = proxy.UsuarioSegunMotor(&engine, &result);
-    return std::to_string(status) + " " + narrow(result.text());
-  }), twice("0 sa"));
-  EXPECT_EQ(asked_elsewhere<_Ov>(version, [](_Ov& proxy) {
-    long result = 0;
-    const HRESULT status = proxy.Version(&result);
-    return std::to_string(status) + " " + std::to_string(result / 10000);
-  }), twice("0 2"));
-  EXPECT_EQ(asked_elsewhere<_QVRprp>(list, [](_QVRprp& proxy) {
-    Bstr type(L"N"), name(L"Precio");
-    Var value(2.5), which(L"Precio"), found;
-    proxy.Borra();
-    const HRESULT status = proxy.CreaPropiedad(&type, &name, &value.raw());
-    const HRESULT got = proxy.get_Item(&which.raw(), &found.raw());
-    return std::to_string(status) + " " + std::to_string(got) + " " + describe(found.raw());
-  }), twice("0 0 R8 2.500000"));
+  EXPECT_EQ(asked_elsewhere<_QVRScr>(runner,
+                                     [](_QVRScr& proxy) {
+                                       Bstr result;
+                                       long engine = 2;
+                                       const HRESULT status = proxy.UsuarioSegunMotor(&engine, &result);
+                                       return std::to_string(status) + " " + narrow(result.text());
+                                     }),
+            twice("0 sa"));
+  EXPECT_EQ(asked_elsewhere<_Ov>(version,
+                                 [](_Ov& proxy) {
+                                   long result = 0;
+                                   const HRESULT status = proxy.Version(&result);
+                                   return std::to_string(status) + " " + std::to_string(result / 10000);
+                                 }),
+            twice("0 2"));
+  EXPECT_EQ(asked_elsewhere<_QVRprp>(list,
+                                     [](_QVRprp& proxy) {
+                                       Bstr type(L"N"), name(L"Precio");
+                                       Var value(2.5), which(L"Precio"), found;
+                                       proxy.Borra();
+                                       const HRESULT status = proxy.CreaPropiedad(&type, &name, &value.raw());
+                                       const HRESULT got = proxy.get_Item(&which.raw(), &found.raw());
+                                       return std::to_string(status) + " " + std::to_string(got) + " " +
+                                              describe(found.raw());
+                                     }),
+            twice("0 0 R8 2.500000"));
 }
 
 TEST(Marshalling, AQueryAsItsContractThroughSlots) {
   const LateObject query(L"QVRlib21.cSQL20");
   query.call(L"iSQL20_Crear", {2, L"x", false, array_of({L"Nombre", L"T"}), L"Clientes"});
-  EXPECT_EQ(asked_elsewhere<_iSQL20>(query, [](_iSQL20& proxy) {
-    Bstr sql;
-    SHORT columns = 0;
-    VARIANT_BOOL created = VARIANT_FALSE;
-    const bool all = proxy.get_SQL(&sql) == S_OK && proxy.NumColumnas(&columns) == S_OK &&
-                     proxy.get_Creado(&created) == S_OK && created == VARIANT_TRUE;
-    return std::to_string(all) + std::to_string(columns) + narrow(sql.text());
-  }), twice("11SELECT Nombre  FROM Clientes     "));
+  EXPECT_EQ(asked_elsewhere<_iSQL20>(query,
+                                     [](_iSQL20& proxy) {
+                                       Bstr sql;
+                                       SHORT columns = 0;
+                                       VARIANT_BOOL created = VARIANT_FALSE;
+                                       const bool all = proxy.get_SQL(&sql) == S_OK &&
+                                                        proxy.NumColumnas(&columns) == S_OK &&
+                                                        proxy.get_Creado(&created) == S_OK && created == VARIANT_TRUE;
+                                       return std::to_string(all) + std::to_string(columns) + narrow(sql.text());
+                                     }),
+            twice("11SELECT Nombre  FROM Clientes     "));
 }
 
 // The run is called from another apartment; who listens sits in the object's own.
@@ -105,11 +115,17 @@ TEST(Marshalling, ARunFromAnotherApartment) {
     Connected connected(runner);
     std::string answer;
     Var id(L"EvitarTransaccionApp");
-    EXPECT_EQ(hand_over<IDispatch>(apartment, *runner.get(), [&](IDispatch& proxy) {
-      const LateObject object{ComPtr<IDispatch>(&proxy)};
-      answer = describe(object.call(L"EjecutarComandos", {Var::by_reference(id), 2, L"create table T(N int)\r\nGO\r\n",
-                                                          database.connection_string(), L"x"}).value.raw());
-    }), S_OK);
+    EXPECT_EQ(hand_over<IDispatch>(apartment, *runner.get(),
+                                   [&](IDispatch& proxy) {
+                                     const LateObject object{ComPtr<IDispatch>(&proxy)};
+                                     answer = describe(
+                                         object
+                                             .call(L"EjecutarComandos",
+                                                   {Var::by_reference(id), 2, L"create table T(N int)\r\nGO\r\n",
+                                                    database.connection_string(), L"x"})
+                                             .value.raw());
+                                   }),
+              S_OK);
     EXPECT_EQ(answer, "BOOL true");
     EXPECT_EQ(id.text(), L"App") << "what the member changed comes back through the marshaller";
     EXPECT_EQ(connected.events().back(), "Terminado BOOL* true");
@@ -124,22 +140,28 @@ TEST(Marshalling, ASinkOfAnotherApartment) {
     const LateObject runner(L"QVRlib21.QVRScr");
     std::vector<std::string> events;
     std::string answer;
-    EXPECT_EQ(hand_over<IConnectionPointContainer>(apartment, *runner.get(), [&](IConnectionPointContainer& proxy) {
-      ComPtr<IConnectionPoint> point;
-      ComPtr<IDispatch> object;
-      ComPtr<Sink> sink;
-      sink.Attach(new Sink());
-      DWORD cookie = 0;
-      if (FAILED(proxy.FindConnectionPoint(__uuidof(__QVRScr), &point)) || FAILED(point->Advise(sink.Get(), &cookie)) ||
-          FAILED(proxy.QueryInterface(IID_PPV_ARGS(&object)))) {
-        answer = "could not connect";
-        return;
-      }
-      answer = describe(LateObject(object).call(L"EjecutarComandos", {L"app", 2, L"create table T(N int)\r\nGO\r\n",
-                                                                      database.connection_string(), L"x"}).value.raw());
-      point->Unadvise(cookie);
-      events = sink->events;
-    }), S_OK);
+    EXPECT_EQ(hand_over<IConnectionPointContainer>(
+                  apartment, *runner.get(),
+                  [&](IConnectionPointContainer& proxy) {
+                    ComPtr<IConnectionPoint> point;
+                    ComPtr<IDispatch> object;
+                    ComPtr<Sink> sink;
+                    sink.Attach(new Sink());
+                    DWORD cookie = 0;
+                    if (FAILED(proxy.FindConnectionPoint(__uuidof(__QVRScr), &point)) ||
+                        FAILED(point->Advise(sink.Get(), &cookie)) ||
+                        FAILED(proxy.QueryInterface(IID_PPV_ARGS(&object)))) {
+                      answer = "could not connect";
+                      return;
+                    }
+                    answer = describe(LateObject(object)
+                                          .call(L"EjecutarComandos", {L"app", 2, L"create table T(N int)\r\nGO\r\n",
+                                                                      database.connection_string(), L"x"})
+                                          .value.raw());
+                    point->Unadvise(cookie);
+                    events = sink->events;
+                  }),
+              S_OK);
     EXPECT_EQ(answer, "BOOL true");
     ASSERT_FALSE(events.empty());
     EXPECT_EQ(events.back(), "Terminado BOOL* true");

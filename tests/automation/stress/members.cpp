@@ -28,8 +28,8 @@ VARTYPE innermost_type(ITypeInfo& info, const TYPEDESC& described) {
 DescribedMember described_member(ITypeInfo& info, UINT index) {
   FUNCDESC* function = nullptr;
   EXPECT_EQ(info.GetFuncDesc(index, &function), S_OK);
-  DescribedMember member{{}, function->memid, static_cast<WORD>(function->invkind),
-                         static_cast<SHORT>(function->oVft & ~3), {}, VT_EMPTY};
+  DescribedMember member{
+      {}, function->memid, static_cast<WORD>(function->invkind), static_cast<SHORT>(function->oVft & ~3), {}, VT_EMPTY};
   BSTR names[20] = {};
   UINT count = 0;
   info.GetNames(function->memid, names, 20, &count);

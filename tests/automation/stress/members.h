@@ -17,7 +17,7 @@ struct MemberParameter {
 struct DescribedMember {
   std::wstring name;
   DISPID id;
-  WORD kind;         // DISPATCH_METHOD, DISPATCH_PROPERTYGET, DISPATCH_PROPERTYPUT
+  WORD kind;  // DISPATCH_METHOD, DISPATCH_PROPERTYGET, DISPATCH_PROPERTYPUT
   SHORT slot_offset;
   std::vector<MemberParameter> parameters;  // without the result
   VARTYPE result_type;                      // VT_EMPTY for none

@@ -56,8 +56,14 @@ const NamedArgument kNamedArguments[] = {
     {L"TipoTNFL", [] { return Var(L"T"); }},
     {L"Tipo", [] { return Var(L"T"); }},
     {L"ColumnasSELECT", columns},
-    {L"RelacionTablas", [] { return array_of({L"C.a", L"D.b", L"I"}); }},
-    {L"mCampo1Campo2Relacion", [] { return array_of({L"C.a", L"D.b", L"I"}); }},
+    {L"RelacionTablas",
+     [] {
+       return array_of({L"C.a", L"D.b", L"I"});
+     }},
+    {L"mCampo1Campo2Relacion",
+     [] {
+       return array_of({L"C.a", L"D.b", L"I"});
+     }},
     {L"Cadenas", columns},
     {L"ParejasValoresMasOmision", columns},
     {L"MCampos", columns},
@@ -109,8 +115,8 @@ void Subject::expect_works() const { EXPECT_EQ(state(), row_of(described_).state
 
 Var Subject::good_argument(const MemberParameter& parameter) const {
   if (parameter.name == L"TextoDefinicion") return definition_;
-  const auto* named =
-      std::ranges::find_if(kNamedArguments, [&](const auto& row) { return parameter.name == row.name; });
+  const auto* named = std::ranges::find_if(kNamedArguments,
+                                           [&](const auto& row) { return parameter.name == row.name; });
   if (named != std::end(kNamedArguments)) return named->value();
   switch (parameter.type) {
     case VT_I2: return Var(static_cast<short>(2));

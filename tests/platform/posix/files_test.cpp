@@ -16,7 +16,7 @@ TEST(NativeFiles, KeepTheirPermissionsWhenTheyAreReplaced) {
     const auto out = system_platform().files.create(folder.file_text(u"x.cfp"));
     out->write("new");
     out->close();
-    struct stat entry{};
+    struct stat entry {};
     ASSERT_EQ(::stat(folder.file(u"x.cfp").c_str(), &entry), 0);
     EXPECT_EQ(entry.st_mode & 07777, permissions);
     EXPECT_EQ(folder.read(u"x.cfp"), "new");

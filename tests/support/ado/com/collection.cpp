@@ -104,10 +104,13 @@ Ref<IUnknown> Collection::enumerator() {
 Members collection_members() {
   using T = Table<Collection>;
   return {
-      T::get(DISPID_VALUE, u"Item", [](Collection& self, Call& call) {
-        if (!call.given(0)) throw DispatchFailure{DISP_E_PARAMNOTOPTIONAL};
-        call.answer(self.item(self.locate(call.value(0))).get());
-      }, 1),
+      T::get(
+          DISPID_VALUE, u"Item",
+          [](Collection& self, Call& call) {
+            if (!call.given(0)) throw DispatchFailure{DISP_E_PARAMNOTOPTIONAL};
+            call.answer(self.item(self.locate(call.value(0))).get());
+          },
+          1),
       T::get(1, u"Count", [](Collection& self, Call& call) { call.answer(static_cast<std::int32_t>(self.size())); }),
       T::get(DISPID_NEWENUM, u"_NewEnum", [](Collection& self, Call& call) { call.answer(self.enumerator().get()); }),
   };

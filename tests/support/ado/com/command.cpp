@@ -69,26 +69,29 @@ const Members& Command::members() const {
       T::get(1, u"ActiveConnection", [](Command& self, Call& call) { call.answer(self.connection_.get()); }),
       T::put(1, u"ActiveConnection", [](Command& self, Call& call) { self.set_active_connection(call.raw(0)); }),
       T::get(2, u"CommandText", [](Command& self, Call& call) { call.answer(self.parts_->state.text()); }),
-      T::put(2, u"CommandText", [](Command& self, Call& call) {
-        trace(u"CommandText");
-        self.parts_->state.set_text(call.text(0));
-      }),
+      T::put(2, u"CommandText",
+             [](Command& self, Call& call) {
+               trace(u"CommandText");
+               self.parts_->state.set_text(call.text(0));
+             }),
       T::get(3, u"CommandType", [](Command& self, Call& call) { call.answer(self.parts_->state.type()); }),
-      T::put(3, u"CommandType", [](Command& self, Call& call) {
-        trace(u"CommandType");
-        self.parts_->state.set_type(call.integer(0));
-      }),
+      T::put(3, u"CommandType",
+             [](Command& self, Call& call) {
+               trace(u"CommandType");
+               self.parts_->state.set_type(call.integer(0));
+             }),
       T::get(4, u"CommandTimeout", [](Command& self, Call& call) { call.answer(self.parts_->state.timeout()); }),
-      T::put(4, u"CommandTimeout", [](Command& self, Call& call) {
-        trace(u"CommandTimeout");
-        self.parts_->state.set_timeout(call.integer(0));
-      }),
+      T::put(4, u"CommandTimeout",
+             [](Command& self, Call& call) {
+               trace(u"CommandTimeout");
+               self.parts_->state.set_timeout(call.integer(0));
+             }),
       T::method(5, u"Execute", 0, 3, [](Command& self, Call& call) { self.execute(call); }),
-      T::get(DISPID_VALUE, u"Parameters",
-             [](Command& self, Call& call) { answer_collection(call, make_parameters(self.parts_)); }, 1),
-      T::method(6, u"CreateParameter", 0, 5, [](Command&, Call& call) {
-        call.answer(make<Parameter>(static_cast<const Call&>(call)).get());
-      }),
+      T::get(
+          DISPID_VALUE, u"Parameters",
+          [](Command& self, Call& call) { answer_collection(call, make_parameters(self.parts_)); }, 1),
+      T::method(6, u"CreateParameter", 0, 5,
+                [](Command&, Call& call) { call.answer(make<Parameter>(static_cast<const Call&>(call)).get()); }),
       T::get(7, u"Name", [](Command& self, Call& call) { call.answer(self.name_); }),
       T::put(7, u"Name", [](Command& self, Call& call) { self.name_ = call.text(0); }),
       T::get(8, u"Prepared", [](Command& self, Call& call) { call.answer(self.prepared_); }),

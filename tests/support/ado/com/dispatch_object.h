@@ -104,8 +104,8 @@ struct Table {
 
  private:
   static Member entry(DISPID id, TextView name, Kind kind, unsigned required, unsigned most, Body body) {
-    return {id, name, kind, required, most,
-            [body](DispatchObject& object, Call& call) { body(static_cast<Self&>(object), call); }};
+    return {id,       name, kind,
+            required, most, [body](DispatchObject& object, Call& call) { body(static_cast<Self&>(object), call); }};
   }
 };
 

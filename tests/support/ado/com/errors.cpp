@@ -37,9 +37,8 @@ class Errors : public Collection {
   const Members& members() const override {
     static const Members table = [] {
       Members all = collection_members();
-      all.push_back(Table<Errors>::method(2, u"Clear", 0, 0, [](Errors& self, Call&) {
-        self.session_->clear_errors();
-      }));
+      all.push_back(
+          Table<Errors>::method(2, u"Clear", 0, 0, [](Errors& self, Call&) { self.session_->clear_errors(); }));
       return all;
     }();
     return table;

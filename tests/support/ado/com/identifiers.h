@@ -18,7 +18,6 @@ inline constexpr GUID kConnectionInterface = published(0x550);
 inline constexpr GUID kCommandInterface = published(0x54E);
 
 // Asks an object whether it is one of ours; the answer is a DispatchObject.
-inline constexpr GUID kOwnObject = {
-    0x7C1B0F52, 0x5A6E, 0x4B0D, {0x9B, 0x3D, 0x51, 0x0E, 0x62, 0xA8, 0x17, 0xC4}};
+inline constexpr GUID kOwnObject = {0x7C1B0F52, 0x5A6E, 0x4B0D, {0x9B, 0x3D, 0x51, 0x0E, 0x62, 0xA8, 0x17, 0xC4}};
 
 }  // namespace qvr::tests::com

@@ -21,30 +21,14 @@ struct DataType {
 };
 
 constexpr std::array kDataTypes = {
-    DataType{2, VT_I2},
-    DataType{3, VT_I4},
-    DataType{4, VT_R4},
-    DataType{5, VT_R8},
-    DataType{6, VT_CY},
-    DataType{7, VT_DATE},
-    DataType{8, VT_BSTR},
-    DataType{11, VT_BOOL},
-    DataType{14, VT_DECIMAL},
-    DataType{16, VT_I2},
-    DataType{17, VT_UI1},
-    DataType{18, VT_I4},
-    DataType{19, VT_I8},
-    DataType{20, VT_I8},
-    DataType{129, VT_BSTR, true},
-    DataType{130, VT_BSTR, true},
-    DataType{131, VT_DECIMAL},
-    DataType{133, VT_DATE},
-    DataType{134, VT_DATE},
-    DataType{135, VT_DATE},
-    DataType{200, VT_BSTR, true},
-    DataType{201, VT_BSTR, true},
-    DataType{202, VT_BSTR, true},
-    DataType{203, VT_BSTR, true},
+    DataType{2, VT_I2},           DataType{3, VT_I4},           DataType{4, VT_R4},
+    DataType{5, VT_R8},           DataType{6, VT_CY},           DataType{7, VT_DATE},
+    DataType{8, VT_BSTR},         DataType{11, VT_BOOL},        DataType{14, VT_DECIMAL},
+    DataType{16, VT_I2},          DataType{17, VT_UI1},         DataType{18, VT_I4},
+    DataType{19, VT_I8},          DataType{20, VT_I8},          DataType{129, VT_BSTR, true},
+    DataType{130, VT_BSTR, true}, DataType{131, VT_DECIMAL},    DataType{133, VT_DATE},
+    DataType{134, VT_DATE},       DataType{135, VT_DATE},       DataType{200, VT_BSTR, true},
+    DataType{201, VT_BSTR, true}, DataType{202, VT_BSTR, true}, DataType{203, VT_BSTR, true},
 };
 
 const DataType* data_type(std::int32_t number) {
@@ -104,40 +88,47 @@ const Members& Parameter::members() const {
   using T = Table<Parameter>;
   static const Members table = {
       T::get(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) { call.answer(self.value_); }),
-      T::put(DISPID_VALUE, u"Value", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Value");
-        self.set_value(call.raw(0));
-      }),
+      T::put(DISPID_VALUE, u"Value",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Value");
+               self.set_value(call.raw(0));
+             }),
       T::get(1, u"Name", [](Parameter& self, Call& call) { call.answer(self.name_); }),
-      T::put(1, u"Name", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Name");
-        self.name_ = call.text(0);
-      }),
+      T::put(1, u"Name",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Name");
+               self.name_ = call.text(0);
+             }),
       T::get(2, u"Type", [](Parameter& self, Call& call) { call.answer(self.type_); }),
-      T::put(2, u"Type", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Type");
-        self.type_ = call.integer(0);
-      }),
+      T::put(2, u"Type",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Type");
+               self.type_ = call.integer(0);
+             }),
       T::get(3, u"Direction", [](Parameter& self, Call& call) { call.answer(self.direction_); }),
-      T::put(3, u"Direction", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Direction");
-        self.direction_ = call.integer(0);
-      }),
+      T::put(3, u"Direction",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Direction");
+               self.direction_ = call.integer(0);
+             }),
       T::get(4, u"Size", [](Parameter& self, Call& call) { call.answer(self.size_); }),
-      T::put(4, u"Size", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Size");
-        self.size_ = call.integer(0);
-      }),
+      T::put(4, u"Size",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Size");
+               self.size_ = call.integer(0);
+             }),
       T::get(5, u"Precision", [](Parameter& self, Call& call) { call.answer(self.precision_); }),
-      T::put(5, u"Precision", [](Parameter& self, Call& call) {
-        trace(u"Parameter.Precision");
-        self.precision_ = call.integer(0);
-      }),
+      T::put(5, u"Precision",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.Precision");
+               self.precision_ = call.integer(0);
+             }),
       T::get(6, u"NumericScale", [](Parameter& self, Call& call) { call.answer(self.scale_); }),
-      T::put(6, u"NumericScale", [](Parameter& self, Call& call) {
-        trace(u"Parameter.NumericScale");
-        self.scale_ = call.integer(0);
-      }),
+      T::put(6, u"NumericScale",
+             [](Parameter& self, Call& call) {
+               trace(u"Parameter.NumericScale");
+               self.scale_ = call.integer(0);
+             }),
       T::get(7, u"Attributes", [](Parameter& self, Call& call) { call.answer(self.attributes_); }),
       T::put(7, u"Attributes", [](Parameter& self, Call& call) { self.attributes_ = call.integer(0); }),
   };

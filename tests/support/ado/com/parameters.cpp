@@ -14,9 +14,7 @@ class Parameters : public Collection {
   explicit Parameters(std::shared_ptr<CommandParts> parts) : parts_(std::move(parts)) {}
   std::size_t size() const override { return parts_->parameters.size(); }
   Text name_of(std::size_t index) const override { return parts_->parameters[index]->name(); }
-  Ref<DispatchObject> item(std::size_t index) override {
-    return Ref<DispatchObject>(parts_->parameters[index].get());
-  }
+  Ref<DispatchObject> item(std::size_t index) override { return Ref<DispatchObject>(parts_->parameters[index].get()); }
 
  private:
   const Members& members() const override;

@@ -38,9 +38,7 @@ class Fields : public Collection {
   explicit Fields(std::shared_ptr<Rows> rows) : rows_(std::move(rows)) {}
   std::size_t size() const override { return rows_->open() ? rows_->result.columns.size() : 0; }
   Text name_of(std::size_t index) const override { return rows_->result.columns[index]; }
-  Ref<DispatchObject> item(std::size_t index) override {
-    return Ref<DispatchObject>(make<Field>(rows_, index).get());
-  }
+  Ref<DispatchObject> item(std::size_t index) override { return Ref<DispatchObject>(make<Field>(rows_, index).get()); }
 
  private:
   const Members& members() const override {
@@ -94,23 +92,27 @@ void Recordset::move_next() {
 const Members& Recordset::members() const {
   using T = Table<Recordset>;
   static const Members table = {
-      T::get(DISPID_VALUE, u"Fields", [](Recordset& self, Call& call) {
-        answer_collection(call, Ref<Collection>(make<Fields>(self.rows_).get()));
-      }, 1),
-      T::get(1, u"EOF", [](Recordset& self, Call& call) {
-        self.rows_->require_open();
-        call.answer(self.rows_->at_end());
-      }),
+      T::get(
+          DISPID_VALUE, u"Fields",
+          [](Recordset& self, Call& call) { answer_collection(call, Ref<Collection>(make<Fields>(self.rows_).get())); },
+          1),
+      T::get(1, u"EOF",
+             [](Recordset& self, Call& call) {
+               self.rows_->require_open();
+               call.answer(self.rows_->at_end());
+             }),
       // Nothing moves back, so only a recordset without rows is ever before its first one.
-      T::get(2, u"BOF", [](Recordset& self, Call& call) {
-        self.rows_->require_open();
-        call.answer(self.rows_->result.rows.empty());
-      }),
+      T::get(2, u"BOF",
+             [](Recordset& self, Call& call) {
+               self.rows_->require_open();
+               call.answer(self.rows_->result.rows.empty());
+             }),
       T::method(3, u"MoveNext", 0, 0, [](Recordset& self, Call&) { self.move_next(); }),
-      T::method(4, u"Close", 0, 0, [](Recordset& self, Call&) {
-        self.rows_->require_open();
-        self.rows_->session.reset();
-      }),
+      T::method(4, u"Close", 0, 0,
+                [](Recordset& self, Call&) {
+                  self.rows_->require_open();
+                  self.rows_->session.reset();
+                }),
       T::get(5, u"State", [](Recordset& self, Call& call) { call.answer(std::int32_t{self.rows_->open() ? 1 : 0}); }),
       T::method(6, u"Open", 2, 5, [](Recordset& self, Call& call) { self.open(call); }),
   };

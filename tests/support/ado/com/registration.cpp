@@ -32,9 +32,8 @@ void write(std::initializer_list<TextView> key, TextView name, TextView value) {
   const Text path = join({kRoot, join(key)});
   const Text text(value);
   const Text value_name(name);
-  const LSTATUS status =
-      RegSetKeyValueW(HKEY_LOCAL_MACHINE, wide(path), name.empty() ? nullptr : wide(value_name), REG_SZ, wide(text),
-                      static_cast<DWORD>((text.size() + 1) * sizeof(char16_t)));
+  const LSTATUS status = RegSetKeyValueW(HKEY_LOCAL_MACHINE, wide(path), name.empty() ? nullptr : wide(value_name),
+                                         REG_SZ, wide(text), static_cast<DWORD>((text.size() + 1) * sizeof(char16_t)));
   if (status != ERROR_SUCCESS) throw RegistryFailure{HRESULT_FROM_WIN32(static_cast<unsigned long>(status))};
 }
 

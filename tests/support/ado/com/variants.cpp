@@ -119,45 +119,31 @@ Value to_value(const VARIANT& from) {
   OwnedVariant direct;
   follow(from, direct);
   switch (direct.vt) {
-    case VT_EMPTY:
-      return Empty{};
-    case VT_NULL:
-      return Null{};
-    case VT_BOOL:
-      return direct.boolVal != VARIANT_FALSE;
-    case VT_UI1:
-      return static_cast<std::uint8_t>(direct.bVal);
-    case VT_I2:
-      return static_cast<std::int16_t>(direct.iVal);
+    case VT_EMPTY: return Empty{};
+    case VT_NULL: return Null{};
+    case VT_BOOL: return direct.boolVal != VARIANT_FALSE;
+    case VT_UI1: return static_cast<std::uint8_t>(direct.bVal);
+    case VT_I2: return static_cast<std::int16_t>(direct.iVal);
     case VT_I4:
-    case VT_INT:
-      return static_cast<std::int32_t>(direct.lVal);
-    case VT_I8:
-      return static_cast<std::int64_t>(direct.llVal);
-    case VT_R4:
-      return direct.fltVal;
-    case VT_R8:
-      return direct.dblVal;
-    case VT_CY:
-      return Currency{direct.cyVal.int64};
-    case VT_DATE:
-      return Date{direct.date};
-    case VT_BSTR:
-      return to_text(direct.bstrVal);
+    case VT_INT: return static_cast<std::int32_t>(direct.lVal);
+    case VT_I8: return static_cast<std::int64_t>(direct.llVal);
+    case VT_R4: return direct.fltVal;
+    case VT_R8: return direct.dblVal;
+    case VT_CY: return Currency{direct.cyVal.int64};
+    case VT_DATE: return Date{direct.date};
+    case VT_BSTR: return to_text(direct.bstrVal);
     case VT_I1:
     case VT_UI2:
     case VT_UI4:
     case VT_UINT:
-    case VT_UI8:
-      return converted(direct, VT_I8);
+    case VT_UI8: return converted(direct, VT_I8);
     case VT_DECIMAL:
       return Decimal{direct.decVal.Hi32, direct.decVal.Mid32, direct.decVal.Lo32, direct.decVal.scale,
                      (direct.decVal.sign & DECIMAL_NEG) != 0};
     case VT_ERROR:
       if (direct.scode == DISP_E_PARAMNOTFOUND) return Missing{};
       fail_type();
-    default:
-      fail_type();
+    default: fail_type();
   }
 }
 

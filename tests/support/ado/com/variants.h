@@ -1,8 +1,8 @@
 // Automation values and ours.
 #pragma once
 
-#include <windows.h>
 #include <oleauto.h>
+#include <windows.h>
 
 #include <vector>
 
