@@ -1,8 +1,9 @@
 // Automation values and ours.
 #pragma once
 
-#include <oleauto.h>
 #include <windows.h>
+
+#include <oleauto.h>
 
 #include <vector>
 
