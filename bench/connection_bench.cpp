@@ -15,7 +15,8 @@ using qvr::Text;
 constexpr std::uint32_t kRounds = 100000;  // as the text protection has them
 
 qvr::ConnectionParameters parameters() {
-  return {2, u"", u"SQLOLEDB", u"SRV01", u"Gestion", u"sa", u"clave 1", u"mostrador", u"clave 2", u"Timeout=5"};
+  return {qvr::Engine::SqlServer, u"",        u"SQLOLEDB", u"SRV01", u"Gestion", u"sa", u"clave 1",
+          u"mostrador",           u"clave 2", u"Timeout=5"};
 }
 
 // The folder of the file that all open; removed at the end.

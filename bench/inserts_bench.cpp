@@ -86,7 +86,8 @@ void EjecutarComandos(benchmark::State& state) {
     Text id = u"bench", shown;
     const Text connection = qvr::join({u"Provider=MSDASQL;Extended Properties=\"", folder.driver_string(), u"\""});
     state.ResumeTiming();
-    if (!runner.EjecutarComandos(id, 1, script, connection, shown)) state.SkipWithError("the run failed");
+    if (!runner.EjecutarComandos(id, qvr::Engine::Jet, script, connection, shown))
+      state.SkipWithError("the run failed");
     state.PauseTiming();
     check_rows(state, folder);
     state.ResumeTiming();

@@ -18,7 +18,6 @@ using qvr::Text;
 using qvr::TextView;
 
 constexpr int kPasses = 10;  // of SQL Server: five of the encryption, five words
-constexpr std::int32_t kSqlServer = 2;
 
 class NoEvents final : public qvr::ScriptEvents {
  public:
@@ -52,7 +51,7 @@ void Prepare(benchmark::State& state) {
   const Text text = scripts(state.range(0));
   NoEvents events;
   for (auto _ : state) {
-    Text prepared = qvr::with_accounts(qvr::with_encryption(text, events), kSqlServer, kAccounts, events);
+    Text prepared = qvr::with_accounts(qvr::with_encryption(text, events), qvr::Engine::SqlServer, kAccounts, events);
     benchmark::DoNotOptimize(prepared.data());
   }
 }
@@ -84,7 +83,8 @@ void CargarDefinicion(benchmark::State& state) {
   double peak = 0;
   for (auto _ : state) {
     const qvr::tests::PeakMemory memory;
-    const Text text = runner.CargarDefinicion(u"bench", kSqlServer, folder.u16string(), u"Gestion", kAccounts, true);
+    const Text text = runner.CargarDefinicion(u"bench", qvr::Engine::SqlServer, folder.u16string(), u"Gestion",
+                                              kAccounts, true);
     if (text.empty()) state.SkipWithError("nothing was loaded");
     peak = static_cast<double>(memory.bytes()) / static_cast<double>(text.size() * sizeof(char16_t));
   }

@@ -26,7 +26,7 @@ qvr::Array relations() {
 
 qvr::QueryRequest request(std::int64_t count) {
   qvr::QueryRequest request;
-  request.MotorBD = qvr::dialect::kSqlServer;
+  request.MotorBD = qvr::Engine::SqlServer;
   request.ColumnasSELECT = columns(count);
   request.TablasFROM = u"Clientes T1, Pedidos T2, Lineas T3, Articulos T4";
   request.RelacionTablas = relations();

@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/text.h"
 
 namespace qvr::script_tool {
@@ -17,7 +18,7 @@ struct Arguments {
   Action action = Action::Help;
   std::optional<Action> topic;  // of help; nothing for all of it
   std::vector<Text> operands;
-  std::optional<std::int32_t> engine;
+  std::optional<Engine> engine;
   std::optional<std::int32_t> from;
   Text connection;
   bool use_transaction = true;

@@ -29,7 +29,7 @@ struct Outcome {
 
 class Checker {
  public:
-  explicit Checker(std::optional<std::int32_t> engine) : engine_(engine) {}
+  explicit Checker(std::optional<Engine> engine) : engine_(engine) {}
 
   void take(TextView path) {
     const auto names = names_in(path);
@@ -54,7 +54,7 @@ class Checker {
   void take_file(TextView path) {
     ++outcome.files;
     try {
-      const std::int32_t engine = engine_.value_or(engine_of_file(file_name(path)));
+      const Engine engine = engine_.value_or(engine_of_file(file_name(path)));
       auto found = findings_in(path, services::script_bytes(thread_state().platform().files, path), engine);
       std::ranges::move(found, std::back_inserter(outcome.findings));
     } catch (const std::exception&) {
@@ -62,7 +62,7 @@ class Checker {
     }
   }
 
-  std::optional<std::int32_t> engine_;
+  std::optional<Engine> engine_;
 };
 
 Text rule_text(const Finding& finding) { return Text(finding.rule.begin(), finding.rule.end()); }
@@ -90,7 +90,7 @@ void write_json(const Outcome& outcome, const Console& console) {
 
 }  // namespace
 
-std::vector<Finding> findings_in(TextView path, std::string bytes, std::int32_t engine) {
+std::vector<Finding> findings_in(TextView path, std::string bytes, Engine engine) {
   const Script script(std::move(bytes), engine, thread_state().platform().files);
   std::vector<Finding> found;
   Findings findings(path, found);

@@ -20,7 +20,7 @@ struct ListedFile {
 };
 
 struct Listing {
-  std::int32_t engine;
+  Engine engine;
   std::vector<ListedFile> files;
   std::size_t commands = 0;
   bool complete() const { return std::ranges::all_of(files, &ListedFile::readable); }
@@ -61,7 +61,7 @@ void count_commands(TextView folder, Listing& listing) {
   }
 }
 
-std::vector<Text> names_to_load(const Arguments& arguments, TextView folder, std::int32_t engine) {
+std::vector<Text> names_to_load(const Arguments& arguments, TextView folder, Engine engine) {
   const Text& name = arguments.operands[1];
   if (!arguments.from) return definition_files(folder, name, engine);
   if (!has_update_from(folder, name, *arguments.from, engine)) return {};
@@ -70,7 +70,7 @@ std::vector<Text> names_to_load(const Arguments& arguments, TextView folder, std
 
 std::vector<Listing> listings(const Arguments& arguments, TextView folder) {
   std::vector<Listing> all;
-  for (const std::int32_t engine : kEngines) {
+  for (Engine engine : kEngines) {
     if (arguments.engine && *arguments.engine != engine) continue;
     Listing listing{engine, {}, 0};
     for (Text& name : names_to_load(arguments, folder, engine)) listing.files.push_back({std::move(name), 0, true});

@@ -14,7 +14,7 @@ constexpr std::array<TextView, 6> kWords = {u"NombreBD",           u"LogFile",  
 constexpr std::size_t kLongest = 64;
 
 // Asks the preparation itself.
-bool is_replaced(TextView bracketed, std::int32_t engine) {
+bool is_replaced(TextView bracketed, Engine engine) {
   Silence silence;
   return with_accounts(Text(bracketed), engine, {}, silence) != bracketed;
 }
@@ -73,14 +73,14 @@ void check_word(const Script& script, std::size_t begin, TextView bracketed, Fin
   if (is_replaced(bracketed, script.engine())) return;
   const TextView word = bracketed.substr(1, bracketed.size() - 2);
   const std::size_t line = script.line_of(begin);
-  if (is_replaced(bracketed, kOracle)) {
+  if (is_replaced(bracketed, Engine::Oracle)) {
     findings.add(line, "placeholder-of-oracle", {bracketed, u" is replaced in scripts for Oracle only"});
   } else if (const TextView known = meant(word); !known.empty()) {
     findings.add(line, "placeholder-misspelt",
                  {bracketed, u" is no placeholder and stays as it is; [", known, u"] would be one"});
   } else if (looks_ours(word)) {
     findings.add(line, "placeholder-unknown", {bracketed, u" is no placeholder and stays as it is"});
-  } else if (script.engine() == kOracle && is_name(word)) {
+  } else if (script.engine() == Engine::Oracle && is_name(word)) {
     findings.add(line, "placeholder-unknown",
                  {bracketed, u" is no placeholder and stays as it is; Oracle has no names in brackets"});
   }

@@ -18,7 +18,7 @@ Text one_unit_each(std::string_view bytes) {
 
 }  // namespace
 
-Script::Script(std::string bytes, std::int32_t engine, Files& files) : bytes_(std::move(bytes)), engine_(engine) {
+Script::Script(std::string bytes, Engine engine, Files& files) : bytes_(std::move(bytes)), engine_(engine) {
   try {
     stored_ = services::decoded_script(bytes_, files);
   } catch (const RuntimeFailure&) {
@@ -36,7 +36,7 @@ bool Script::has_text() const {
   return readable_ || (other_page && bytes_.find('\0') == std::string::npos);
 }
 
-bool Script::is_sql_server() const { return engine_ == kSqlServer || engine_ == kUnknownEngine; }
+bool Script::is_sql_server() const { return engine_ == Engine::SqlServer || engine_ == Engine::None; }
 
 void Script::find_lines() {
   for (std::size_t start = 0; start < text_.size();) {

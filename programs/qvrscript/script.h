@@ -20,7 +20,7 @@ struct ScriptCommand {
 class Script {
  public:
   // Bytes that no page of this system takes are one character each, so that the rules still have lines to look at.
-  Script(std::string bytes, std::int32_t engine, Files& files);
+  Script(std::string bytes, Engine engine, Files& files);
   Script(const Script&) = delete;
   Script& operator=(const Script&) = delete;
 
@@ -30,7 +30,7 @@ class Script {
   TextView stored_text() const { return stored_; }  // with the line ends of the file
   // With whole line ends, and the one that the loading puts behind each file.
   TextView text() const { return text_; }
-  std::int32_t engine() const { return engine_; }
+  Engine engine() const { return engine_; }
   bool is_sql_server() const;  // also where the engine is not known
   const std::vector<Region>& regions() const { return regions_; }
 
@@ -49,7 +49,7 @@ class Script {
   std::string bytes_;
   bool readable_ = true;
   Text stored_, text_;
-  std::int32_t engine_;
+  Engine engine_;
   std::vector<Region> regions_;
   std::vector<std::size_t> line_starts_;
   std::vector<ScriptCommand> commands_;

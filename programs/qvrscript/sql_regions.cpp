@@ -12,12 +12,12 @@ std::size_t end_of_line(TextView text, std::size_t from) { return std::min(text.
 
 class Scanner {
  public:
-  Scanner(TextView text, std::int32_t engine)
+  Scanner(TextView text, Engine engine)
       : text_(text),
-        comments_(engine != kJet),
-        nested_(engine != kJet && engine != kOracle),
-        brackets_(engine != kOracle),
-        q_strings_(engine == kOracle) {}
+        comments_(engine != Engine::Jet),
+        nested_(engine != Engine::Jet && engine != Engine::Oracle),
+        brackets_(engine != Engine::Oracle),
+        q_strings_(engine == Engine::Oracle) {}
 
   std::vector<Region> scan() {
     std::vector<Region> found;
@@ -93,7 +93,7 @@ class Scanner {
 
 }  // namespace
 
-std::vector<Region> regions_of(TextView text, std::int32_t engine) { return Scanner(text, engine).scan(); }
+std::vector<Region> regions_of(TextView text, Engine engine) { return Scanner(text, engine).scan(); }
 
 const Region* region_at(const std::vector<Region>& regions, std::size_t position) {
   const auto behind = std::ranges::upper_bound(regions, position, {}, &Region::begin);

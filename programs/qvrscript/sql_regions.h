@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/text.h"
 
 namespace qvr::script_tool {
@@ -18,7 +19,7 @@ struct Region {
 
 // In order. Block comments nest in SQL Server only; Jet has no comments and Oracle no names in brackets. An engine that
 // is none is taken for SQL Server.
-std::vector<Region> regions_of(TextView text, std::int32_t engine);
+std::vector<Region> regions_of(TextView text, Engine engine);
 
 // The region that holds this position; null for none.
 const Region* region_at(const std::vector<Region>& regions, std::size_t position);

@@ -16,34 +16,32 @@ constexpr TextView kVersions = u"?????a?????";
 
 struct Update {
   Text name, application, from, to;
-  std::int32_t engine;
+  Engine engine;
 };
 
 bool fits(TextView name, std::initializer_list<TextView> pattern) { return matches_wildcards(name, join(pattern)); }
 
 bool all_digits(TextView text) { return text.find_first_not_of(u"0123456789") == TextView::npos; }
 
-bool is_update(TextView name, std::int32_t engine) {
-  return fits(name, {u"*", kVersions, engine_tag(engine), u".cfc"});
-}
+bool is_update(TextView name, Engine engine) { return fits(name, {u"*", kVersions, engine_tag(engine), u".cfc"}); }
 
-Update parts_of(const Text& name, std::int32_t engine) {
+Update parts_of(const Text& name, Engine engine) {
   const std::size_t tail = kVersions.size() + engine_tag(engine).size() + TextView(u".cfc").size();
   const std::size_t versions = name.size() - tail;
   return {name, name.substr(0, versions), name.substr(versions, kDigits), name.substr(versions + kDigits + 1, kDigits),
           engine};
 }
 
-bool has_trailing_unit(TextView name, std::int32_t engine) {
+bool has_trailing_unit(TextView name, Engine engine) {
   return fits(name, {u"*", kVersions, engine_tag(engine), u"?.cfc"});
 }
 
-bool is_found(TextView name, std::int32_t engine) {
+bool is_found(TextView name, Engine engine) {
   return is_update(name, engine) || fits(name, {u"*", engine_tag(engine), u"?.cfc"});
 }
 
 // Why the searches miss a name of this engine, or find it as what it is not; empty for a name of another kind.
-TextView why_missed(TextView name, std::int32_t engine) {
+TextView why_missed(TextView name, Engine engine) {
   const TextView tag = engine_tag(engine);
   if (has_trailing_unit(name, engine)) {
     return u"an update's name ends in the engine's tag: as it stands this is a file of a definition";
@@ -64,7 +62,7 @@ TextView why_missed(TextView name) {
     return std::ranges::any_of(kEngines, [&](auto each) { return test(name, each); });
   };
   if (any(is_found) && !any(has_trailing_unit)) return {};
-  for (const std::int32_t engine : kEngines) {
+  for (Engine engine : kEngines) {
     if (const TextView why = why_missed(name, engine); !why.empty()) return why;
   }
   return u"no search finds this: the name has no engine's tag (JET, SQL or ORA) where it belongs";
@@ -111,7 +109,7 @@ void check_chain(TextView folder, const std::vector<Update>& chain, std::vector<
 void check_names(TextView folder, const std::vector<Text>& names, std::vector<Finding>& found) {
   std::vector<Text> sorted = names;
   std::ranges::sort(sorted, [](const Text& a, const Text& b) { return less_no_case(a, b); });
-  std::map<std::pair<std::int32_t, Text>, std::vector<Update>> chains;  // by engine and folded application
+  std::map<std::pair<Engine, Text>, std::vector<Update>> chains;  // by engine and folded application
   for (const Text& name : sorted) {
     const TextView why = why_missed(name);
     if (!why.empty()) {
@@ -119,7 +117,7 @@ void check_names(TextView folder, const std::vector<Text>& names, std::vector<Fi
       Findings(path, found).add(0, "name-missed", {why});
       continue;
     }
-    for (const std::int32_t engine : kEngines) {
+    for (Engine engine : kEngines) {
       if (!is_update(name, engine)) continue;
       Update update = parts_of(name, engine);
       Text key = update.application;

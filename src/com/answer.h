@@ -19,6 +19,10 @@ template <class Number>
 std::int32_t number_of(const Number* argument) {
   return argument != nullptr ? static_cast<std::int32_t>(*argument) : 0;
 }
+template <class Number>
+Engine engine_of(const Number* argument) {
+  return Engine{number_of(argument)};
+}
 inline Value value_of(const VARIANT* argument) {
   return argument != nullptr ? value_from(*argument) : Value(Missing{});
 }

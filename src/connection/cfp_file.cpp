@@ -64,19 +64,19 @@ class LineReader {
 };
 
 // The whole text as a 32-bit integer; the locale plays no part in a file that travels.
-std::int32_t engine_number(const Text& text) {
+Engine engine_from(const Text& text) {
   const double number = number_prefix(text);
   if (!(number >= INT32_MIN && number <= INT32_MAX) || decimal(static_cast<std::int32_t>(number)) != text) {
     throw RuntimeFailure(failure_number::kTypeMismatch);
   }
-  return static_cast<std::int32_t>(number);
+  return Engine{static_cast<std::int32_t>(number)};
 }
 
 // The texts of all lines one behind the other; it holds the passwords.
 struct CheckText {
   // At once: a text that grows leaves its beginnings behind.
   explicit CheckText(const ConnectionParameters& parameters) {
-    const Text engine = decimal(parameters.MotorBD);
+    const Text engine = decimal(number_of(parameters.MotorBD));
     std::size_t size = engine.size();
     for (const auto line : kTextLines) size += (parameters.*line).size();
     text.reserve(size);
@@ -100,7 +100,7 @@ std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, s
   // What a refused file had to say is not left in memory.
   PassingParameters read;
   ConnectionParameters& parameters = read.parameters;
-  parameters.MotorBD = engine_number(protection.Descifrar(key, next_line()));
+  parameters.MotorBD = engine_from(protection.Descifrar(key, next_line()));
   for (const auto line : kTextLines) parameters.*line = protection.Descifrar(key, next_line());
   const Text stored = next_line();
   const CheckText check(parameters);
@@ -117,7 +117,7 @@ std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, s
     if (line.size() >= kLongestLine) throw RuntimeFailure(failure_number::kFile);  // it could not be read again
     bytes.append(line).append("\r\n");
   };
-  append_line(decimal(parameters.MotorBD));
+  append_line(decimal(number_of(parameters.MotorBD)));
   for (const auto line : kTextLines) append_line(parameters.*line);
   append_line(CheckText(parameters).text);
   return bytes;

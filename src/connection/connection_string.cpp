@@ -3,10 +3,9 @@
 namespace qvr {
 
 Text connection_string(const ConnectionParameters& parameters, Account account) {
-  constexpr std::int32_t kSqlServer = 2;
   const bool has_user = !account.user.empty();
   const bool has_password = has_user && !account.password.empty();
-  const bool has_catalogue = parameters.MotorBD == kSqlServer && !parameters.InitialCatalogOTablespace.empty();
+  const bool has_catalogue = parameters.MotorBD == Engine::SqlServer && !parameters.InitialCatalogOTablespace.empty();
   const bool open_end = !parameters.OtrosParametros.empty() && !parameters.OtrosParametros.ends_with(u';');
   const auto when = [](bool wanted, TextView text) { return wanted ? text : TextView(); };
   return join({

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/engine.h"
 #include "base/text.h"
 #include "base/value.h"
 #include "dialect/ado_parameter.h"
@@ -11,7 +12,7 @@
 namespace qvr {
 
 struct ConnectionParameters {
-  std::int32_t MotorBD = 0;
+  Engine MotorBD = Engine::None;
   Text Archivo;
   Text Provider;
   Text DataSource;
@@ -97,7 +98,7 @@ class QVRcfp {
   bool AgregarParametroADO(services::AdoCommand* Comando, const dialect::ParameterRequest& request) const noexcept;
 
   const Text& Archivo() const noexcept { return fields_.Archivo; }
-  const std::int32_t& MotorBD() const noexcept { return fields_.MotorBD; }
+  Engine MotorBD() const noexcept { return fields_.MotorBD; }
   const Text& Provider() const noexcept { return fields_.Provider; }
   const Text& DataSource() const noexcept { return fields_.DataSource; }
   const Text& InitialCatalogOTablespace() const noexcept { return fields_.InitialCatalogOTablespace; }

@@ -7,7 +7,7 @@
 #include "dialect/procedure_call.h"
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
-#include "session/error_box.h"
+#include "session/message_box.h"
 #include "session/failure_report.h"
 
 namespace qvr {
@@ -119,7 +119,7 @@ bool QVRcfp::AgregarParametroADO(services::AdoCommand* Comando,
       [&](const FailureDetail& failure) {
         if (failure.number != kParameterImproperlyDefined) return;
         const Text detail = join({u"AgregarParametroADO: ", request.Nombre, u"(", request.TipoSQLServer, u")"});
-        dialect::show_failure(u"QVRcfp", detail, failure);
+        show_failure(u"QVRcfp", detail, failure);
       });
 }
 

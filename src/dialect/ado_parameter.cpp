@@ -5,6 +5,7 @@
 
 #include "base/failure.h"
 #include "session/global.h"
+#include "session/message_box.h"
 #include "session/thread_state.h"
 
 namespace qvr::dialect {
@@ -33,11 +34,11 @@ constexpr TypeRow kTypes[] = {
     {u"DATETIME", {DataType::DbTimeStamp}, {DataType::DbTimeStamp}},
 };
 
-const Setting* setting_for(const Engine& engine, TextView type_name) {
+const Setting* setting_for(Engine engine, TextView type_name) {
   const auto* row = std::ranges::find_if(kTypes,
                                          [&](const TypeRow& each) { return equal_no_case(each.name, type_name); });
   if (row == std::end(kTypes)) return nullptr;
-  return engine == kOracle ? &row->oracle : &row->sql_server;
+  return engine == Engine::Oracle ? &row->oracle : &row->sql_server;
 }
 
 std::int32_t size_of(const Setting& setting, std::int32_t width) {
@@ -60,10 +61,10 @@ bool unexpected_type(const ParameterRequest& request) {
 
 }  // namespace
 
-bool AgregarParametroADO(const Engine& engine, services::AdoCommand* Comando, const ParameterRequest& request) {
-  if (request.Direction == kReturnValue && engine == kOracle) return true;
+bool AgregarParametroADO(Engine engine, services::AdoCommand* Comando, const ParameterRequest& request) {
+  if (request.Direction == kReturnValue && engine == Engine::Oracle) return true;
   const auto parameter = thread_state().ado().new_parameter();
-  if (engine == kSqlServer || engine == kOracle) {
+  if (engine == Engine::SqlServer || engine == Engine::Oracle) {
     const Setting* setting = setting_for(engine, request.TipoSQLServer);
     if (setting == nullptr) return unexpected_type(request);
     apply(*setting, request.Ancho, *parameter);

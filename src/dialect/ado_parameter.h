@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 #include "services/ado.h"
 
 namespace qvr::dialect {
@@ -19,6 +19,6 @@ struct ParameterRequest {
 // Appends a parameter whose type fits the engine. Type names are those of SQL Server: "INT", "BIT", "REAL", "NVARCHAR",
 // "DATETIME"; another one is told in a message box, False, nothing appended. Oracle has no return values: True, nothing
 // appended. Throws what ADO refuses, and 91 without a command.
-bool AgregarParametroADO(const Engine& engine, services::AdoCommand* Comando, const ParameterRequest& request);
+bool AgregarParametroADO(Engine engine, services::AdoCommand* Comando, const ParameterRequest& request);
 
 }  // namespace qvr::dialect

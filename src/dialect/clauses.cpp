@@ -2,13 +2,14 @@
 
 #include "base/failure.h"
 #include "dialect/lists.h"
+#include "session/message_box.h"
 #include "session/value_convert.h"
 
 namespace qvr::dialect {
 namespace {
 
-Text row_limit(const Engine& engine, std::int32_t count, bool prepend_and, TextView opener, TextView closer) {
-  if (count < 1 || engine != kOracle) return {};
+Text row_limit(Engine engine, std::int32_t count, bool prepend_and, TextView opener, TextView closer) {
+  if (count < 1 || engine != Engine::Oracle) return {};
   return join({prepend_and ? u" And " : u" ", opener, decimal(count), closer});
 }
 
@@ -33,29 +34,29 @@ Text value_map(const CaseForm& form, TextView field, const Value& pairs) {
 
 }  // namespace
 
-Text ClausulaTop(const Engine& engine, std::int32_t count) {
-  if (count < 1 || (engine != kJet && engine != kSqlServer)) return {};
+Text ClausulaTop(Engine engine, std::int32_t count) {
+  if (count < 1 || (engine != Engine::Jet && engine != Engine::SqlServer)) return {};
   return join({u" TOP ", decimal(count), u" "});
 }
 
-Text sqlRowNum(const Engine& engine, std::int32_t count, bool prepend_and) {
+Text sqlRowNum(Engine engine, std::int32_t count, bool prepend_and) {
   return row_limit(engine, count, prepend_and, u"RowNum<=", u" ");
 }
 
-Text CondicionRowNum(const Engine& engine, std::int32_t count, bool prepend_and) {
+Text CondicionRowNum(Engine engine, std::int32_t count, bool prepend_and) {
   return row_limit(engine, count, prepend_and, u"(RowNum<=", u") ");
 }
 
-Text ClausulaAlias(const Engine& engine, TextView alias) {
+Text ClausulaAlias(Engine engine, TextView alias) {
   const AliasQuotes quotes = alias_quotes(engine);
   return quotes.known() ? join({quotes.opener, alias, quotes.closer}) : Text();
 }
 
-AliasQuotes alias_quotes(const Engine& engine) {
+AliasQuotes alias_quotes(Engine engine) {
   return {pick(engine, {u" As [", u" As [", u" \""}).value_or(u""), pick(engine, {u"]", u"]", u"\""}).value_or(u"")};
 }
 
-Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {
+Text sqlConcatenar(Engine engine, const Value& Cadenas) {
   const TextView concatenation = pick(engine, {u" & ", u" + ", u" || "}).value_or(u"");
   const Array& elements = list_in(Cadenas);
   if (elements.items.empty() && !concatenation.empty()) throw CallerFailure(failure_number::kInvalidArgument);
@@ -67,20 +68,20 @@ Text sqlConcatenar(const Engine& engine, const Value& Cadenas) {
   return text += u" ";
 }
 
-Text sqlEsNulo(const Engine& engine, TextView field, TextView alternative) {
+Text sqlEsNulo(Engine engine, TextView field, TextView alternative) {
   switch (engine) {
-    case kJet: return join({u" IIf(IsNull(", field, u"),", alternative, u",", field, u") "});
-    case kSqlServer: return join({u" IsNull(", field, u",", alternative, u") "});
-    case kOracle: return join({u" NVL(", field, u",", alternative, u") "});
+    case Engine::Jet: return join({u" IIf(IsNull(", field, u"),", alternative, u",", field, u") "});
+    case Engine::SqlServer: return join({u" IsNull(", field, u",", alternative, u") "});
+    case Engine::Oracle: return join({u" NVL(", field, u",", alternative, u") "});
     default: return {};
   }
 }
 
-Text sqlCASE(const Engine& engine, TextView field, const Value& pairs) {
+Text sqlCASE(Engine engine, TextView field, const Value& pairs) {
   switch (engine) {
-    case kJet: return tell(u"Funci\u00f3n CASE no implementada para Motor Jet"), Text();
-    case kSqlServer: return value_map(kCase, field, pairs);
-    case kOracle: return value_map(kDecode, field, pairs);
+    case Engine::Jet: return tell(u"Funci\u00f3n CASE no implementada para Motor Jet"), Text();
+    case Engine::SqlServer: return value_map(kCase, field, pairs);
+    case Engine::Oracle: return value_map(kDecode, field, pairs);
     default: return {};
   }
 }

@@ -14,7 +14,7 @@ Text CaracterEscapeLibre(TextView text) {
   return {};
 }
 
-Text PatronLikeMotor(const Engine& engine, TextView text, bool leading, bool trailing) {
+Text PatronLikeMotor(Engine engine, TextView text, bool leading, bool trailing) {
   Text pattern(trimmed(text));
   if (leading && !pattern.starts_with(u'*')) pattern.insert(0, 1, u'*');
   if (trailing && !pattern.ends_with(u'*')) pattern.push_back(u'*');
@@ -28,7 +28,7 @@ Text PatronLikeMotor(const Engine& engine, TextView text, bool leading, bool tra
   // Only now: the user's own "%" and "_" are marked already, these are meant.
   std::ranges::replace(pattern, u'*', u'%');
   std::ranges::replace(pattern, u'?', u'_');
-  const TextView national = engine == kSqlServer ? u"N" : u"";
+  const TextView national = engine == Engine::SqlServer ? u"N" : u"";
   return join({national, ComillasSQL(pattern), u" ", escape_clause});
 }
 

@@ -5,6 +5,7 @@
 #include "base/date_text.h"
 #include "base/failure.h"
 #include "base/number_text.h"
+#include "dialect/by_engine.h"
 #include "session/thread_state.h"
 #include "session/value_convert.h"
 
@@ -32,32 +33,32 @@ std::optional<Date> as_date(const Value& value) {
   return date && has_calendar_time(*date) ? date : std::nullopt;
 }
 
-Text delimited(const Engine& engine, const DateForm& form, Date date) {
+Text delimited(Engine engine, const DateForm& form, Date date) {
   const auto opener = pick(engine, form.opener);
   if (!opener) return undefined_engine(engine);
   const Text formatted = formatted_date(date, form.client_mask);
-  const bool oracle = engine == kOracle;
+  const bool oracle = engine == Engine::Oracle;
   const TextView closer = *pick(engine, {u"#", u"'}", u"','"});
   return join({*opener, formatted, closer, oracle ? form.oracle_mask : TextView(), oracle ? u"') " : u""});
 }
 
-Text date_literal(const Engine& engine, const DateForm& form, const Value& value) {
+Text date_literal(Engine engine, const DateForm& form, const Value& value) {
   const auto date = as_date(value);
   return date ? delimited(engine, form, *date) : Text(kNull);
 }
 
-Text text_literal(const Engine& engine, const Text& text) {
+Text text_literal(Engine engine, const Text& text) {
   constexpr std::size_t kLongestInOracle = 4000;
   if (equal_no_case(text, u"AhoraSQL")) return AhoraSQL(engine);
   // Cut before the quotes are doubled: the engine counts the characters of the value, not those of the literal.
-  return ComillasSQL(engine == kOracle ? TextView(text).substr(0, kLongestInOracle) : TextView(text));
+  return ComillasSQL(engine == Engine::Oracle ? TextView(text).substr(0, kLongestInOracle) : TextView(text));
 }
 
 // A blank in the place of the sign.
 Text signed_number(Text digits) { return digits.starts_with(u'-') ? digits : u" " + digits; }
 
 struct Literal {
-  const Engine& engine;
+  Engine engine;
 
   Text operator()(const Text& text) const { return text_literal(engine, text); }
   Text operator()(bool truth) const { return LogicoSQL(engine, truth); }
@@ -94,25 +95,25 @@ Text ComillasSQL(TextView Cadena) {
   return literal;
 }
 
-Text ExpSQL(const Engine& engine, const Value& Valor) { return std::visit(Literal{engine}, Valor.storage()); }
+Text ExpSQL(Engine engine, const Value& Valor) { return std::visit(Literal{engine}, Valor.storage()); }
 
-Text LiteralFechaMotor(const Engine& engine, const Value& Fecha, TextView client_mask, TextView oracle_mask) {
+Text LiteralFechaMotor(Engine engine, const Value& Fecha, TextView client_mask, TextView oracle_mask) {
   return date_literal(engine, {kDate.opener, client_mask, oracle_mask}, Fecha);
 }
 
-Text FechaSQL(const Engine& engine, const Value& Fecha) {
+Text FechaSQL(Engine engine, const Value& Fecha) {
   return LiteralFechaMotor(engine, Fecha, kDate.client_mask, kDate.oracle_mask);
 }
 
-Text HoraSQL(const Engine& engine, const Value& Fecha) { return date_literal(engine, kTime, Fecha); }
+Text HoraSQL(Engine engine, const Value& Fecha) { return date_literal(engine, kTime, Fecha); }
 
-Text FechaHoraSQL(const Engine& engine, const Value& Fecha) {
+Text FechaHoraSQL(Engine engine, const Value& Fecha) {
   const Text* text = Fecha.as<Text>();
   const bool now = text != nullptr && (equal_no_case(*text, u"Ahora") || equal_no_case(*text, u"AhoraSQL"));
   return now && !as_date(Fecha) ? AhoraSQL(engine) : date_literal(engine, kDateTime, Fecha);
 }
 
-Text FechaSQLv(const Engine& engine, const Value& Fecha) {
+Text FechaSQLv(Engine engine, const Value& Fecha) {
   const auto date = as_date(Fecha);
   if (!date) return Text(kNull);
   const double whole = std::trunc(date->days);
@@ -121,14 +122,14 @@ Text FechaSQLv(const Engine& engine, const Value& Fecha) {
   return whole == 0 ? HoraSQL(engine, *date) : FechaHoraSQL(engine, *date);
 }
 
-Text LogicoSQL(const Engine& engine, bool Valor) {
+Text LogicoSQL(Engine engine, bool Valor) {
   constexpr ByEngine kTrue{u"True", u"1", u"1"}, kFalse{u"False", u"0", u"0"};
   return pick_or_tell(engine, Valor ? kTrue : kFalse);
 }
 
-Text AhoraSQL(const Engine& engine) { return pick_or_tell(engine, {u"Now()", u"GetDate()", u"SYSDATE"}); }
+Text AhoraSQL(Engine engine) { return pick_or_tell(engine, {u"Now()", u"GetDate()", u"SYSDATE"}); }
 
-Text sqlFechaSistema(const Engine& engine) {
+Text sqlFechaSistema(Engine engine) {
   return pick_or_tell(engine, {u"SELECT TOP 1 Now() As FechaSistema FROM MsysObjects",
                                u"SELECT TOP 1 GetDate() As FechaSistema FROM master.dbo.spt_values",
                                u"SELECT SYSDATE FechaSistema FROM Dual"});

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::dialect {
 
@@ -10,20 +10,20 @@ namespace qvr::dialect {
 Text ComillasSQL(TextView Cadena);
 
 // The literal of any value, chosen by its type; "Null" for what has none.
-Text ExpSQL(const Engine& engine, const Value& Valor);
+Text ExpSQL(Engine engine, const Value& Valor);
 
 // Date literals; "Null" for a value that is no date and no text that the locale reads as one.
-Text FechaSQL(const Engine& engine, const Value& Fecha);
-Text HoraSQL(const Engine& engine, const Value& Fecha);
-Text FechaHoraSQL(const Engine& engine, const Value& Fecha);  // also the texts "Ahora" and "AhoraSQL"
-Text FechaSQLv(const Engine& engine, const Value& Fecha);     // the narrowest of the three
+Text FechaSQL(Engine engine, const Value& Fecha);
+Text HoraSQL(Engine engine, const Value& Fecha);
+Text FechaHoraSQL(Engine engine, const Value& Fecha);  // also the texts "Ahora" and "AhoraSQL"
+Text FechaSQLv(Engine engine, const Value& Fecha);     // the narrowest of the three
 
 // The value formatted with the client's mask, between the engine's delimiters for dates.
-Text LiteralFechaMotor(const Engine& engine, const Value& Fecha, TextView client_mask, TextView oracle_mask);
+Text LiteralFechaMotor(Engine engine, const Value& Fecha, TextView client_mask, TextView oracle_mask);
 
-Text LogicoSQL(const Engine& engine, bool Valor);
-Text AhoraSQL(const Engine& engine);         // the server's clock as an expression
-Text sqlFechaSistema(const Engine& engine);  // the server's clock as a statement, column FechaSistema
+Text LogicoSQL(Engine engine, bool Valor);
+Text AhoraSQL(Engine engine);         // the server's clock as an expression
+Text sqlFechaSistema(Engine engine);  // the server's clock as a statement, column FechaSistema
 
 // Conditions on a logical field; the same for every engine, since Jet stores true as -1.
 Text sqlEsTrue(TextView Campo);

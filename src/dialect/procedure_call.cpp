@@ -20,8 +20,8 @@ bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(r
 
 }  // namespace
 
-bool EjecutarProcSQL7(const Engine& engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
-  if (engine != kSqlServer) return false;
+bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
+  if (engine != Engine::SqlServer) return false;
   const auto command = thread_state().ado().new_command();
   if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
   command->set_active_connection(*Conexion);

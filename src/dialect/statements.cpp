@@ -19,20 +19,20 @@ void each_field(const Value& fields, Use&& use) {
   for (const Value& name : names.items) use(to_text(name), index++);
 }
 
-Text literal_at(const Engine& engine, const Value& values, std::int64_t index) {
+Text literal_at(Engine engine, const Value& values, std::int64_t index) {
   return ExpSQL(engine, element_at(list_in(values), index));
 }
 
 }  // namespace
 
-Text SqlINSERT(const Engine& engine, TextView NombreTabla, const Value& MValores) {
+Text SqlINSERT(Engine engine, TextView NombreTabla, const Value& MValores) {
   Text text = join({u"INSERT INTO ", NombreTabla, u" VALUES ("});
   for (const Value& value : list_in(MValores).items) text.append(ExpSQL(engine, value)).append(u", ");
   drop_last(text, 2);
   return text += u")";
 }
 
-Text SqlUPDATE(const Engine& engine, TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd,
+Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd,
                const Value& MCampos, const Value& MValores) {
   Text text = join({u"UPDATE ", NombreTabla, u" SET "});
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
@@ -43,7 +43,7 @@ Text SqlUPDATE(const Engine& engine, TextView NombreTabla, TextView NombreCampoC
   return text += join({u" WHERE ", NombreCampoClave, u"=", decimal(Clave_cd)});
 }
 
-Text SqlInsert2(const Engine& engine, TextView NombreTabla, const Value& MCampos, const Value& MValores) {
+Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores) {
   if (!MCampos.is<Array>() || !MValores.is<Array>()) return {};
   Text columns = join({u"INSERT INTO ", NombreTabla, u"("}), literals = u") VALUES(";
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
@@ -55,7 +55,7 @@ Text SqlInsert2(const Engine& engine, TextView NombreTabla, const Value& MCampos
   return join({columns, literals, u")"});
 }
 
-Text SqlUpdate2(const Engine& engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
+Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
                 TextView Condicion) {
   if (!MCampos.is<Array>() || !MValores.is<Array>()) return {};
   Text text = join({u"UPDATE ", NombreTabla, u" SET "});

@@ -5,22 +5,22 @@
 #include <cstdint>
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::dialect {
 
 // "INSERT INTO t VALUES (v, v)".
-Text SqlINSERT(const Engine& engine, TextView NombreTabla, const Value& MValores);
+Text SqlINSERT(Engine engine, TextView NombreTabla, const Value& MValores);
 
 // "UPDATE t SET f=v, f=v WHERE k=n"; the key field is left out of the fields set.
-Text SqlUPDATE(const Engine& engine, TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd,
+Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd,
                const Value& MCampos, const Value& MValores);
 
 // "INSERT INTO t(f,f) VALUES(v,v)"; empty when a list is no array.
-Text SqlInsert2(const Engine& engine, TextView NombreTabla, const Value& MCampos, const Value& MValores);
+Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores);
 
 // "UPDATE t SET f=v,f=v WHERE c", without WHERE for an empty condition; empty when a list is no array.
-Text SqlUpdate2(const Engine& engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
+Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
                 TextView Condicion);
 
 }  // namespace qvr::dialect

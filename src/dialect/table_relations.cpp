@@ -4,6 +4,7 @@
 
 #include "base/failure.h"
 #include "dialect/lists.h"
+#include "session/message_box.h"
 #include "session/value_convert.h"
 
 namespace qvr::dialect {
@@ -22,10 +23,10 @@ constexpr Relation kRelations[] = {
     {u"R", u"=*", u"(+)=", u""},
 };
 
-const Relation* relation_of(const Engine& engine, TextView code) {
+const Relation* relation_of(Engine engine, TextView code) {
   const auto* found = std::ranges::find_if(kRelations,
                                            [&](const Relation& row) { return equal_no_case(row.code, code); });
-  const bool known = found != std::end(kRelations) && (engine == kOracle || !found->sql_server.empty());
+  const bool known = found != std::end(kRelations) && (engine == Engine::Oracle || !found->sql_server.empty());
   return known ? found : nullptr;
 }
 
@@ -36,7 +37,7 @@ Text wrong_relation(TextView code) {
   return {};
 }
 
-Text conditions(const Engine& engine, const Array& triples) {
+Text conditions(Engine engine, const Array& triples) {
   if (triples.items.empty()) throw CallerFailure(failure_number::kInvalidArgument);
   Text text = u" (";
   const std::int64_t first = triples.lower, end = first + static_cast<std::int64_t>(triples.items.size());
@@ -46,21 +47,21 @@ Text conditions(const Engine& engine, const Array& triples) {
     const Text code = to_text(element_at(triples, i + 2));
     const Relation* relation = relation_of(engine, code);
     if (relation == nullptr) return wrong_relation(code);
-    text += engine == kOracle ? relation->oracle : relation->sql_server;
+    text += engine == Engine::Oracle ? relation->oracle : relation->sql_server;
     text += to_text(element_at(triples, i + 1), Decimals::Point);
-    if (engine == kOracle) text += relation->oracle_at_the_end;
+    if (engine == Engine::Oracle) text += relation->oracle_at_the_end;
   }
   return text += u") ";
 }
 
 }  // namespace
 
-Text CondicionWhereRelacionTablas(const Engine& engine, const Value& triples) {
+Text CondicionWhereRelacionTablas(Engine engine, const Value& triples) {
   if (!triples.is<Array>()) return {};
   switch (engine) {
-    case kJet: return tell(u"La funci\u00f3n CondicionWhereRelacionTablas no soporta Motor Jet"), Text();
-    case kSqlServer:
-    case kOracle: return conditions(engine, list_in(triples));
+    case Engine::Jet: return tell(u"La funci\u00f3n CondicionWhereRelacionTablas no soporta Motor Jet"), Text();
+    case Engine::SqlServer:
+    case Engine::Oracle: return conditions(engine, list_in(triples));
     default: return {};
   }
 }

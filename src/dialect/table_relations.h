@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::dialect {
 
@@ -10,6 +10,6 @@ namespace qvr::dialect {
 // outer, and for Oracle "A" as another spelling of inner. Empty for what is no array and for a number that is no
 // engine; a message box and empty for Jet and for an unknown code. Throws failure 5 for a list without elements and 9
 // for one that is not whole triples, both meant for the caller; 13 or 94 for an element that has no text.
-Text CondicionWhereRelacionTablas(const Engine& engine, const Value& triples);
+Text CondicionWhereRelacionTablas(Engine engine, const Value& triples);
 
 }  // namespace qvr::dialect

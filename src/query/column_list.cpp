@@ -71,7 +71,7 @@ std::size_t ColumnList::position_of(TextView field) const {
   return 0;
 }
 
-void ColumnList::append_select_list(Text& list, const dialect::Engine& engine) const {
+void ColumnList::append_select_list(Text& list, Engine engine) const {
   const dialect::AliasQuotes quotes = dialect::alias_quotes(engine);
   const std::size_t around = kSeparator.size() + quotes.opener.size() + quotes.closer.size();
   list.reserve(list.size() + texts_.size() + columns_.size() * around);

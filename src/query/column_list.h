@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::query {
 
@@ -33,7 +33,7 @@ class ColumnList {
   std::size_t position_of(TextView field) const;
 
   // Appends the columns as they follow "SELECT ".
-  void append_select_list(Text& list, const dialect::Engine& engine) const;
+  void append_select_list(Text& list, Engine engine) const;
   // The first columns as they follow "GROUP BY ". Throws failure 9 when there are fewer.
   Text group_list(std::size_t count) const;
 

@@ -4,7 +4,7 @@
 #include "dialect/clauses.h"
 #include "dialect/table_relations.h"
 #include "query/joins.h"
-#include "session/error_box.h"
+#include "session/message_box.h"
 #include "session/global.h"
 #include "session/thread_state.h"
 
@@ -26,7 +26,7 @@ Text cSQL20::Name() const noexcept {
 
 bool cSQL20::Crear(const QueryRequest& request) noexcept {
   fields_ = {};
-  return dialect::or_shown(false, kClass, u"Crear", [&] {
+  return or_shown(false, kClass, u"Crear", [&] {
     fields_.engine = request.MotorBD;
     fields_.language = request.Idioma;
     fields_.name = request.NombreObjeto;
@@ -42,7 +42,7 @@ bool cSQL20::Crear(const QueryRequest& request) noexcept {
 }
 
 bool cSQL20::build_select(const Value& pairs) noexcept {
-  return dialect::or_shown(false, kClass, u"ConstruirSelect", [&] {
+  return or_shown(false, kClass, u"ConstruirSelect", [&] {
     fields_.columns = query::ColumnList::from_pairs(pairs);
     const Text limit = dialect::ClausulaTop(fields_.engine, fields_.top);
     fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
@@ -56,7 +56,7 @@ bool cSQL20::build_select(const Value& pairs) noexcept {
 
 void cSQL20::build_from_and_where(const QueryRequest& request) {
   const bool relations = request.RelacionTablas.is<Array>();
-  const bool joined = relations && (fields_.engine == dialect::kJet || fields_.engine == dialect::kSqlServer);
+  const bool joined = relations && (fields_.engine == Engine::Jet || fields_.engine == Engine::SqlServer);
   const Text joins = joined ? query::ConstruirJoins(request.TablasFROM, request.RelacionTablas) : Text();
   fields_.from = join({u" FROM ", joined ? joins : request.TablasFROM, u" "});
   fields_.where = request.CondicionWHEREInicial;
@@ -88,13 +88,13 @@ Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
         return Text(type);
       },
       [&](const FailureDetail& failure) {
-        dialect::show_failure(kClass, join({u"TipoCampo(", NombreCampoRS, u")"}), failure);
+        show_failure(kClass, join({u"TipoCampo(", NombreCampoRS, u")"}), failure);
       });
 }
 
 Text cSQL20::ExpresionOriginal(TextView NombreCampoRS) const noexcept {
   if (!fields_.created) return {};
-  return dialect::or_shown(Text(), kClass, u"ExpresionOriginal", [&] {
+  return or_shown(Text(), kClass, u"ExpresionOriginal", [&] {
     return Text(fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).expression);
   });
 }

@@ -1,6 +1,7 @@
 // A SELECT statement as its parts: those that it was created with beside what was added since.
 #pragma once
 
+#include "base/engine.h"
 #include "query/added_order.h"
 #include "query/column_list.h"
 #include "query/condition_chain.h"
@@ -52,8 +53,8 @@ class cSQL20 final : public iSQL20 {
   std::int32_t TOP() const noexcept override { return fields_.top; }
   void Idioma(std::int32_t value) noexcept override;
   std::int32_t Idioma() const noexcept override { return fields_.language; }
-  void MotorBD(dialect::Engine value) noexcept override { fields_.engine = value; }
-  dialect::Engine MotorBD() const noexcept override { return fields_.engine; }
+  void MotorBD(Engine value) noexcept override { fields_.engine = value; }
+  Engine MotorBD() const noexcept override { return fields_.engine; }
 
   // The texts of the members that are named behind them, for a union: it has to know when one could not be made. Throw.
   Text current_statement() const;                                     // SQLSinOrden
@@ -77,7 +78,7 @@ class cSQL20 final : public iSQL20 {
     bool distinct = false;
     Text tag;
     std::int32_t top = 0;
-    dialect::Engine engine = 0;
+    Engine engine = Engine::None;
     std::int32_t language = 0;
     query::ConditionChain added_where;
     Text criterion;

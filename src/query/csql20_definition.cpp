@@ -4,7 +4,7 @@
 #include "base/failure.h"
 #include "query/csql20.h"
 #include "query/definition_text.h"
-#include "session/error_box.h"
+#include "session/message_box.h"
 
 namespace qvr {
 namespace {
@@ -36,7 +36,7 @@ Text cSQL20::definition() const {
   const Fields& f = fields_;
   if (!f.created) return Text();
   query::DefinitionWriter writer(kVersion);
-  writer.add_number(kEngine, f.engine);
+  writer.add_number(kEngine, number_of(f.engine));
   writer.add_text(kName, f.name);
   writer.add_truth(kDistinct, f.distinct);
   writer.add_number(kTop, f.top);
@@ -62,7 +62,7 @@ Text cSQL20::definition() const {
 cSQL20::Fields cSQL20::read_definition(TextView text) const {
   query::DefinitionReader reader(text, kVersion);
   Fields f;
-  f.engine = reader.number(kEngine);
+  f.engine = Engine{reader.number(kEngine)};
   f.name = reader.text(kName);
   f.distinct = reader.truth(kDistinct);
   f.top = reader.number(kTop);
@@ -100,7 +100,7 @@ void cSQL20::clear_definition() noexcept {
 bool cSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
   clear_definition();
   // The name in the report is the one that support staff know.
-  return dialect::or_shown(false, u"cSQL20", u"CreareDesdeTextoDefinicion", [&] {
+  return or_shown(false, u"cSQL20", u"CreareDesdeTextoDefinicion", [&] {
     Fields read = read_definition(TextoDefinicion);
     read.tag = std::move(fields_.tag);
     read.language = fields_.language;

@@ -5,7 +5,7 @@
 #include "dialect/clauses.h"
 #include "query/csql20.h"
 #include "query/search_text.h"
-#include "session/error_box.h"
+#include "session/message_box.h"
 #include "session/global.h"
 
 namespace qvr {
@@ -44,12 +44,12 @@ bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView c
 }
 
 bool cSQL20::AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept {
-  return dialect::or_shown(false, kClass, u"AmpliarCondicionWhere",
+  return or_shown(false, kClass, u"AmpliarCondicionWhere",
                            [&] { return extend(fields_.added_where, Condicion, Criterio); });
 }
 
 bool cSQL20::AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept {
-  return dialect::or_shown(false, kClass, u"AmpliarCondicionHaving",
+  return or_shown(false, kClass, u"AmpliarCondicionHaving",
                            [&] { return extend(fields_.added_having, Condicion, Criterio); });
 }
 
@@ -121,7 +121,7 @@ void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool Adop
 }
 
 bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
-  return dialect::or_shown(false, kClass, u"AmpliarOrden", [&] {
+  return or_shown(false, kClass, u"AmpliarOrden", [&] {
     const TextView type = fields_.columns.at(NuevaColumna).type;
     // Dates begin with the newest; memos cannot be sorted.
     if (!equal_no_case(type, u"M")) fields_.added_order.click(NuevaColumna, !equal_no_case(type, u"F"));

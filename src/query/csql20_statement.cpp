@@ -2,7 +2,7 @@
 #include "base/failure.h"
 #include "dialect/clauses.h"
 #include "query/csql20.h"
-#include "session/error_box.h"
+#include "session/message_box.h"
 
 namespace qvr {
 namespace {
@@ -63,15 +63,15 @@ std::size_t cSQL20::longest_statement() const {
 }
 
 Text cSQL20::ParteWhere(bool SoloCondicion) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteWhere", [&] { return current_where(SoloCondicion); });
+  return or_shown(Text(), kClass, u"ParteWhere", [&] { return current_where(SoloCondicion); });
 }
 
 Text cSQL20::ParteHaving(bool SoloCondicion) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteHaving", [&] { return current_having(SoloCondicion); });
+  return or_shown(Text(), kClass, u"ParteHaving", [&] { return current_having(SoloCondicion); });
 }
 
 Text cSQL20::ParteOrder(bool SinClausula) const noexcept {
-  return dialect::or_shown(Text(), kClass, u"ParteOrder", [&] { return current_order(SinClausula); });
+  return or_shown(Text(), kClass, u"ParteOrder", [&] { return current_order(SinClausula); });
 }
 
 Text cSQL20::SQL() const noexcept {

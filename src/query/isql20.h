@@ -4,14 +4,14 @@
 #include <cstdint>
 
 #include "base/value.h"
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr {
 
 // What `Crear` is given. Columns are a flat list of (expression, descriptor), relations one of (field, field, letter);
 // texts of clauses come without their keyword.
 struct QueryRequest {
-  dialect::Engine MotorBD = 0;
+  Engine MotorBD = Engine::None;
   Text NombreObjeto;
   bool UsarDistinct = false;
   Value ColumnasSELECT;
@@ -71,8 +71,8 @@ class iSQL20 {
   virtual std::int32_t TOP() const noexcept = 0;
   virtual void Idioma(std::int32_t value) noexcept = 0;  // of the criteria; also sets the library's language
   virtual std::int32_t Idioma() const noexcept = 0;
-  virtual void MotorBD(dialect::Engine value) noexcept = 0;  // changes no text that is there
-  virtual dialect::Engine MotorBD() const noexcept = 0;
+  virtual void MotorBD(Engine value) noexcept = 0;  // changes no text that is there
+  virtual Engine MotorBD() const noexcept = 0;
 };
 
 }  // namespace qvr

@@ -80,7 +80,7 @@ AtomParser::Found AtomParser::compared(Comparison comparison, TextView operand) 
 }
 
 // Long texts of these engines know nothing but LIKE.
-bool AtomParser::can_be_compared() const { return type_ != SearchType::Memo || engine_ == dialect::kJet; }
+bool AtomParser::can_be_compared() const { return type_ != SearchType::Memo || engine_ == Engine::Jet; }
 
 AtomParser::Found AtomParser::compared_text(Comparison comparison, TextView operand) const {
   if (is_equality(comparison)) {

@@ -1,7 +1,7 @@
 // One piece of a search: a value, a comparison, a range, a pattern or a test for nothing, maybe negated.
 #pragma once
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 #include "query/search_atoms.h"
 #include "query/search_operands.h"
 
@@ -9,7 +9,7 @@ namespace qvr::query {
 
 class AtomParser {
  public:
-  AtomParser(SearchType type, const dialect::Engine& engine) : type_(type), engine_(engine) {}
+  AtomParser(SearchType type, Engine engine) : type_(type), engine_(engine) {}
 
   std::optional<Alternatives> parse(TextView piece) const;
 
@@ -33,7 +33,7 @@ class AtomParser {
   bool can_be_compared() const;
 
   SearchType type_;
-  const dialect::Engine& engine_;
+  Engine engine_;
 };
 
 // What holds where none of the alternatives does; what is null belongs to it.

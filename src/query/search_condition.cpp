@@ -6,7 +6,6 @@
 namespace qvr::query {
 namespace {
 
-using dialect::Engine;
 
 TextView sign_of(Comparison comparison) {
   switch (comparison) {
@@ -21,18 +20,18 @@ TextView sign_of(Comparison comparison) {
 
 class ConditionWriter {
  public:
-  ConditionWriter(const Engine& engine, SearchType type, TextView expression)
+  ConditionWriter(Engine engine, SearchType type, TextView expression)
       : engine_(engine),
         expression_(expression),
-        upper_(type == SearchType::Text ? engine != dialect::kJet
-                                        : type == SearchType::Memo && engine == dialect::kOracle),
-        like_only_(type == SearchType::Memo && engine != dialect::kJet) {}
+        upper_(type == SearchType::Text ? engine != Engine::Jet
+                                        : type == SearchType::Memo && engine == Engine::Oracle),
+        like_only_(type == SearchType::Memo && engine != Engine::Jet) {}
 
   Text operator()(const IsNull& atom) const { return in_not(atom.negated, is_null()); }
 
   // To Oracle an empty text is none.
   Text operator()(const IsEmpty& atom) const {
-    if (engine_ == dialect::kOracle) return in_not(atom.negated, is_null());
+    if (engine_ == Engine::Oracle) return in_not(atom.negated, is_null());
     const Text empty = join({expression_, like_only_ ? u" LIKE " : u"=", literal(u"")});
     return in_not(atom.negated, join({empty, u" Or ", is_null()}));
   }
@@ -86,7 +85,7 @@ class ConditionWriter {
   static Text in_not(bool negated, TextView condition) { return join({negated ? u"Not (" : u"(", condition, u")"}); }
 
   Text literal(TextView text) const {
-    return join({engine_ == dialect::kSqlServer ? u"N" : u"", dialect::ComillasSQL(text)});
+    return join({engine_ == Engine::SqlServer ? u"N" : u"", dialect::ComillasSQL(text)});
   }
   Text subject() const { return upper_ ? join({u" UPPER(", expression_, u")"}) : Text(expression_); }
   Text in_upper(Text operand) const { return upper_ ? join({u"UPPER(", operand, u")"}) : std::move(operand); }
@@ -96,7 +95,7 @@ class ConditionWriter {
     return join({subject(), negated ? u" NOT LIKE " : u" LIKE ", in_upper(written.literal), written.escape});
   }
 
-  const Engine& engine_;
+  Engine engine_;
   TextView expression_;
   bool upper_, like_only_;
 };
@@ -110,7 +109,7 @@ bool reads_as_bound(TextView condition, const ConditionWriter& writer, const Alt
 
 }  // namespace
 
-Text search_condition(const Engine& engine, SearchType type, TextView expression, const Alternatives& search) {
+Text search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search) {
   const ConditionWriter writer(engine, type, expression);
   Text condition;
   for (const Alternative& alternative : search) {

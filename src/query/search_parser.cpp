@@ -47,7 +47,7 @@ std::optional<Alternatives> parse_conjunction(std::span<const SearchPiece> piece
 
 }  // namespace
 
-std::optional<Alternatives> parse_search(TextView normalised, SearchType type, const dialect::Engine& engine) {
+std::optional<Alternatives> parse_search(TextView normalised, SearchType type, Engine engine) {
   const std::vector<SearchPiece> pieces = split_search(normalised, type);
   const AtomParser parser(type, engine);
   Alternatives found;

@@ -6,21 +6,20 @@
 namespace qvr::query {
 namespace {
 
-using dialect::Engine;
 
 // Jet knows no ESCAPE: whatever means something to it goes into brackets.
 constexpr TextView kSpecialToJet = u"%_#[*?";
 
-bool is_special(const Engine& engine, char16_t unit, bool bracketed) {
-  if (engine == dialect::kJet) return kSpecialToJet.find(unit) != TextView::npos;
+bool is_special(Engine engine, char16_t unit, bool bracketed) {
+  if (engine == Engine::Jet) return kSpecialToJet.find(unit) != TextView::npos;
   return unit == u'%' || unit == u'_' || (bracketed && unit == u'[');
 }
 
 // A character that is free to mark others: the usual candidates, else one that nobody types. No letter: both sides of
 // the comparison may be turned to capitals.
-Text free_escape(const Engine& engine, TextView text) {
+Text free_escape(Engine engine, TextView text) {
   const Text usual = dialect::CaracterEscapeLibre(text);
-  if (!usual.empty() || engine != dialect::kOracle) return usual;
+  if (!usual.empty() || engine != Engine::Oracle) return usual;
   for (char16_t unit = u'\u2500'; unit < u'\u2800'; ++unit) {
     if (text.find(unit) == TextView::npos) return Text(1, unit);
   }
@@ -29,11 +28,11 @@ Text free_escape(const Engine& engine, TextView text) {
 
 }  // namespace
 
-PatternText pattern_text(const Engine& engine, const Operand& pattern) {
+PatternText pattern_text(Engine engine, const Operand& pattern) {
   const Text& text = pattern.text();
-  const bool marked = engine != dialect::kJet && text.find_first_of(u"%_") != Text::npos;
+  const bool marked = engine != Engine::Jet && text.find_first_of(u"%_") != Text::npos;
   const Text escape = marked ? free_escape(engine, text) : Text();
-  const bool bracketed = engine == dialect::kSqlServer;
+  const bool bracketed = engine == Engine::SqlServer;
   Text written;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];

@@ -7,10 +7,10 @@
 
 namespace qvr::query {
 
-std::optional<Interpretation> interpret_search(const dialect::Engine& engine, const SearchColumn& column,
+std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column,
                                                TextView search, TextView label) {
   const auto type = search_type(column.type);
-  if (!type || !dialect::pick(engine, {})) return std::nullopt;
+  if (!type || !pick(engine, {})) return std::nullopt;
   const auto understood = parse_search(normalised_search(search), *type, engine);
   if (!understood) return std::nullopt;
   return Interpretation{search_condition(engine, *type, column.expression, *understood),

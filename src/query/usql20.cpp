@@ -121,7 +121,7 @@ void uSQL20::Idioma(std::int32_t value) noexcept {
   each([&](iSQL20& member) { member.Idioma(value); });
 }
 
-void uSQL20::MotorBD(dialect::Engine value) noexcept {
+void uSQL20::MotorBD(Engine value) noexcept {
   each([&](iSQL20& member) { member.MotorBD(value); });
 }
 
@@ -157,7 +157,7 @@ Text uSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
 
 std::int32_t uSQL20::TOP() const noexcept { return members_.empty() ? 0 : members_.front()->TOP(); }
 
-dialect::Engine uSQL20::MotorBD() const noexcept { return members_.empty() ? 0 : members_.front()->MotorBD(); }
+Engine uSQL20::MotorBD() const noexcept { return members_.empty() ? Engine::None : members_.front()->MotorBD(); }
 
 std::int32_t uSQL20::Idioma() const noexcept {
   if (!members_.empty()) each([limit = members_.front()->Idioma()](iSQL20& member) { member.TOP(limit); });

@@ -35,7 +35,7 @@ class uSQL20 final : public iSQL20 {
   Text SQLSinOrden() const noexcept override;
   void TOP(std::int32_t value) noexcept override;
   void Idioma(std::int32_t value) noexcept override;
-  void MotorBD(dialect::Engine value) noexcept override;
+  void MotorBD(Engine value) noexcept override;
 
   // Of the last member.
   bool AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept override;
@@ -49,7 +49,7 @@ class uSQL20 final : public iSQL20 {
   std::int16_t NumColumnas() const noexcept override;
   Text TipoCampo(TextView NombreCampoRS) const noexcept override;
   std::int32_t TOP() const noexcept override;
-  dialect::Engine MotorBD() const noexcept override;
+  Engine MotorBD() const noexcept override;
 
   // Not the language: always 0, and every member's limit of rows becomes the first one's language. Hosts have lived
   // with that; the language cannot be read back from a union.

@@ -12,13 +12,13 @@ namespace {
 constexpr TextView kAvoidTransaction = u"EvitarTransaccion";
 // A host that always starts one more would use up its stack.
 constexpr int kDeepestChain = 32;
-constexpr TextView kAccounts[] = {u"Admin", u"sa", u"System"};  // by engine number, from 1
+constexpr ByEngine kAdministrators{u"Admin", u"sa", u"System"};
 
 }  // namespace
 
 QVRScr::QVRScr(ScriptEvents& events) noexcept : events_(events) { InicializarComun(); }
 
-bool QVRScr::EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
+bool QVRScr::EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos, TextView CadenaConexion,
                               Text& TextoMostrar) noexcept {
   if (busy()) return false;
   running_ = true;
@@ -50,7 +50,7 @@ void QVRScr::end_unbegun() noexcept {
   if (!busy()) finish(false);
 }
 
-bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept {
+bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, Engine MotorBD) noexcept {
   return or_reported(
       false,
       [&] {
@@ -68,11 +68,8 @@ bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoC
       });
 }
 
-Text QVRScr::UsuarioSegunMotor(std::int32_t MotorBD) const noexcept {
-  return or_default(Text(), [&] {
-    const bool known = MotorBD >= 1 && MotorBD <= static_cast<std::int32_t>(std::size(kAccounts));
-    return known ? Text(kAccounts[MotorBD - 1]) : Text();
-  });
+Text QVRScr::UsuarioSegunMotor(Engine MotorBD) const noexcept {
+  return or_default(Text(), [&] { return Text(pick(MotorBD, kAdministrators).value_or(TextView())); });
 }
 
 }  // namespace qvr

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/text.h"
 #include "services/ado.h"
 
@@ -30,21 +31,21 @@ class QVRScr {
   // it the next may begin, 32 runs deep. A call on the same object while a run of it is under way is refused with false
   // and no events.
   // ID loses the prefix and an empty TextoMostrar becomes the default text, as the caller can see.
-  bool EjecutarComandos(Text& ID, std::int32_t MotorBD, TextView TextosComandos, TextView CadenaConexion,
+  bool EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos, TextView CadenaConexion,
                         Text& TextoMostrar) noexcept;
 
   // Runs one command on the caller's open connection (null: none); false after the failure was reported.
-  bool Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, std::int32_t MotorBD) noexcept;
+  bool Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, Engine MotorBD) noexcept;
 
   // The text of all scripts "<NombreDefinicion><tag>?.cfc" of the folder in the order of their names, ready to be run:
   // fit for the engine, names and accounts filled in, with encryption (`Encri`, SQL Server). Empty when there is none
   // or one cannot be read. Exactly one Terminado, as for a run; refused in the same way during one.
-  Text CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView NombreDefinicion,
+  Text CargarDefinicion(TextView ID, Engine MotorBD, TextView Ruta, TextView NombreDefinicion,
                         const ScriptAccounts& accounts, bool Encri) noexcept;
 
   // The same for the scripts "<Aplicacion><from>a<to><tag>.cfc" from this version on; empty, too, when none begins with
   // exactly this version.
-  Text CargarActualizacion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView Aplicacion,
+  Text CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion,
                            std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept;
 
   // For a caller that has no memory for the arguments of one of these three: it ends all the same, with
@@ -52,7 +53,7 @@ class QVRScr {
   void end_unbegun() noexcept;
 
   // The engine's built-in administrator account; empty for an unknown engine.
-  Text UsuarioSegunMotor(std::int32_t MotorBD) const noexcept;
+  Text UsuarioSegunMotor(Engine MotorBD) const noexcept;
 
  private:
   bool busy() const noexcept;
@@ -60,7 +61,7 @@ class QVRScr {
   template <class Body>
   Text load(Body&& body) noexcept;
   Text joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names);
-  Text prepared(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, bool Encri);
+  Text prepared(Text text, Engine MotorBD, const ScriptAccounts& accounts, bool Encri);
 
   ScriptEvents& events_;
   bool running_ = false;

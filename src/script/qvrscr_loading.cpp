@@ -8,7 +8,6 @@
 namespace qvr {
 namespace {
 
-constexpr std::int32_t kSqlServer = 2;
 
 }  // namespace
 
@@ -38,12 +37,12 @@ Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& n
   return joined;
 }
 
-Text QVRScr::prepared(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, bool Encri) {
-  if (Encri && MotorBD == kSqlServer) text = with_encryption(std::move(text), events_);
+Text QVRScr::prepared(Text text, Engine MotorBD, const ScriptAccounts& accounts, bool Encri) {
+  if (Encri && MotorBD == Engine::SqlServer) text = with_encryption(std::move(text), events_);
   return with_accounts(std::move(text), MotorBD, accounts, events_);
 }
 
-Text QVRScr::CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView NombreDefinicion,
+Text QVRScr::CargarDefinicion(TextView ID, Engine MotorBD, TextView Ruta, TextView NombreDefinicion,
                               const ScriptAccounts& accounts, bool Encri) noexcept {
   return load([&] {
     Text text = joined_files(ID, Ruta, definition_files(Ruta, NombreDefinicion, MotorBD));
@@ -51,7 +50,7 @@ Text QVRScr::CargarDefinicion(TextView ID, std::int32_t MotorBD, TextView Ruta, 
   });
 }
 
-Text QVRScr::CargarActualizacion(TextView ID, std::int32_t MotorBD, TextView Ruta, TextView Aplicacion,
+Text QVRScr::CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion,
                                  std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept {
   return load([&] {
     if (!has_update_from(Ruta, Aplicacion, VersionActual, MotorBD)) return Text();

@@ -10,7 +10,7 @@
 namespace qvr {
 namespace {
 
-constexpr TextView kTags[] = {u"JET", u"SQL", u"ORA"};
+constexpr ByEngine kTags{u"JET", u"SQL", u"ORA"};
 constexpr std::size_t kVersionDigits = 5;
 
 std::vector<Text> sorted_names(TextView Ruta, TextView pattern) {
@@ -23,23 +23,20 @@ std::vector<Text> sorted_names(TextView Ruta, TextView pattern) {
 
 }  // namespace
 
-TextView engine_tag(std::int32_t MotorBD) {
-  const bool known = MotorBD >= 1 && MotorBD <= static_cast<std::int32_t>(std::size(kTags));
-  return known ? kTags[MotorBD - 1] : TextView();
-}
+TextView engine_tag(Engine MotorBD) { return pick(MotorBD, kTags).value_or(TextView()); }
 
-std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std::int32_t MotorBD) {
+std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, Engine MotorBD) {
   return sorted_names(Ruta, join({NombreDefinicion, engine_tag(MotorBD), u"?.cfc"}));
 }
 
-bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
+bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD) {
   const Text pattern = join({Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"});
   constexpr std::int32_t kPlainFiles = 0;
   // The folder is listed only where the system's search finds something, which may be less than the pattern asks for.
   return ExisteArchivo(join({Ruta, u"\\", pattern}), kPlainFiles) && !sorted_names(Ruta, pattern).empty();
 }
 
-std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD) {
+std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD) {
   std::vector<Text> names = sorted_names(Ruta, join({Aplicacion, u"?????a?????", engine_tag(MotorBD), u".cfc"}));
   std::erase_if(names, [&](const Text& name) {
     return number_prefix(TextView(name).substr(std::min(Aplicacion.size(), name.size()), kVersionDigits)) < version;

@@ -4,20 +4,21 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/text.h"
 
 namespace qvr {
 
 // "JET", "SQL" or "ORA"; empty for a number that is no engine.
-TextView engine_tag(std::int32_t MotorBD);
+TextView engine_tag(Engine MotorBD);
 
 // The names in the folder that belong to the definition, in the order in which they run.
-std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, std::int32_t MotorBD);
+std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, Engine MotorBD);
 
 // Whether the folder has an update from exactly this version.
-bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD);
+bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD);
 
 // The names in the folder that update from this version on, in the order in which they run.
-std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, std::int32_t MotorBD);
+std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD);
 
 }  // namespace qvr

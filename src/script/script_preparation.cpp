@@ -7,7 +7,6 @@
 namespace qvr {
 namespace {
 
-constexpr std::int32_t kOracle = 3;
 
 struct Rewrite {
   TextView find, replacement;
@@ -55,8 +54,8 @@ Text with_encryption(Text text, ScriptEvents& events) {
   return text;
 }
 
-Text with_accounts(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, ScriptEvents& events) {
-  const bool oracle = MotorBD == kOracle;
+Text with_accounts(Text text, Engine MotorBD, const ScriptAccounts& accounts, ScriptEvents& events) {
+  const bool oracle = MotorBD == Engine::Oracle;
   const Text log_file = oracle ? accounts.NombreBaseOTablespace +
                                      formatted_date(thread_state().platform().clock.now(), u"hhnn")
                                : Text();

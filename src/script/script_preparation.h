@@ -23,6 +23,6 @@ struct ScriptAccounts {
 Text with_encryption(Text text, ScriptEvents& events);
 
 // Replaces the bracketed words in their order, each over what the ones before left. Tells each step.
-Text with_accounts(Text text, std::int32_t MotorBD, const ScriptAccounts& accounts, ScriptEvents& events);
+Text with_accounts(Text text, Engine MotorBD, const ScriptAccounts& accounts, ScriptEvents& events);
 
 }  // namespace qvr

@@ -9,7 +9,7 @@
 namespace qvr {
 
 struct RunRequest {
-  std::int32_t motor;
+  Engine motor;
   TextView commands;
   TextView connection_string;
   TextView progress_text;

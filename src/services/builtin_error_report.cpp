@@ -6,25 +6,24 @@
 namespace qvr::services {
 namespace {
 
-constexpr std::int32_t kJet = 1, kSqlServer = 2, kOracle = 3;
 
 enum class Kind { DuplicateRecord, ServerNotFound };
 
 // Native error numbers by which the engines' own providers tell these two cases.
 struct NativeError {
-  std::int32_t motor;
+  Engine motor;
   std::int32_t number;
   Kind kind;
 };
 
 constexpr NativeError kNativeErrors[] = {
-    {kJet, -1605, Kind::DuplicateRecord},      {kJet, -105121349, Kind::DuplicateRecord},
-    {kJet, -1811, Kind::ServerNotFound},       {kSqlServer, 2601, Kind::DuplicateRecord},
-    {kSqlServer, 2627, Kind::DuplicateRecord}, {kSqlServer, 17, Kind::ServerNotFound},
-    {kSqlServer, 53, Kind::ServerNotFound},    {kOracle, 1, Kind::DuplicateRecord},
-    {kOracle, 12154, Kind::ServerNotFound},    {kOracle, 12170, Kind::ServerNotFound},
-    {kOracle, 12514, Kind::ServerNotFound},    {kOracle, 12535, Kind::ServerNotFound},
-    {kOracle, 12541, Kind::ServerNotFound},
+    {Engine::Jet, -1605, Kind::DuplicateRecord},      {Engine::Jet, -105121349, Kind::DuplicateRecord},
+    {Engine::Jet, -1811, Kind::ServerNotFound},       {Engine::SqlServer, 2601, Kind::DuplicateRecord},
+    {Engine::SqlServer, 2627, Kind::DuplicateRecord}, {Engine::SqlServer, 17, Kind::ServerNotFound},
+    {Engine::SqlServer, 53, Kind::ServerNotFound},    {Engine::Oracle, 1, Kind::DuplicateRecord},
+    {Engine::Oracle, 12154, Kind::ServerNotFound},    {Engine::Oracle, 12170, Kind::ServerNotFound},
+    {Engine::Oracle, 12514, Kind::ServerNotFound},    {Engine::Oracle, 12535, Kind::ServerNotFound},
+    {Engine::Oracle, 12541, Kind::ServerNotFound},
 };
 
 struct State {
@@ -37,7 +36,7 @@ constexpr State kStates[] = {
     {u"08004", Kind::ServerNotFound},  {u"08S01", Kind::ServerNotFound}, {u"IM002", Kind::ServerNotFound},
 };
 
-const Text& caption_for(const AdoError& error, std::int32_t motor, const Captions& captions) {
+const Text& caption_for(const AdoError& error, Engine motor, const Captions& captions) {
   const auto caption = [&captions](Kind kind) -> const Text& {
     return kind == Kind::DuplicateRecord ? captions.duplicate_record : captions.server_not_found;
   };

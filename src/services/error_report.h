@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/failure.h"
 #include "services/ado.h"
 
@@ -20,7 +21,7 @@ struct Captions {
 
 struct ErrorNotice {
   FailureDetail failure;
-  std::int32_t motor = 0;  // engine selector, as the caller gave it
+  Engine motor = Engine::None;  // as the caller gave it
   Text label;              // the operation that failed
   Text object;             // what it worked on; empty where the label says it
   Captions captions;

@@ -20,7 +20,7 @@ std::vector<services::AdoError> errors_behind(const FailureDetail& failure, serv
 
 }  // namespace
 
-void report_failure(const FailureDetail& failure, FailedOperation operation, std::int32_t motor,
+void report_failure(const FailureDetail& failure, FailedOperation operation, Engine motor,
                     services::AdoConnection* connection) {
   services::ErrorNotice notice;
   notice.failure = failure;

@@ -1,6 +1,7 @@
 // Hands a failed command or procedure call to the error-reporting service.
 #pragma once
 
+#include "base/engine.h"
 #include "base/failure.h"
 #include "services/ado.h"
 
@@ -12,7 +13,7 @@ struct FailedOperation {
 };
 
 // With every error that the connection (if there is one) still holds.
-void report_failure(const FailureDetail& failure, FailedOperation operation, std::int32_t motor,
+void report_failure(const FailureDetail& failure, FailedOperation operation, Engine motor,
                     services::AdoConnection* connection);
 
 }  // namespace qvr

@@ -64,7 +64,7 @@ TEST_F(CfpFileTest, GivesParametersBack) {
   ConnectionParameters nothing, large = sample_parameters(), negative = sample_parameters();
   large.DataSource = Text(65536, u'\u00f1');
   large.ClaveCli = Text(65536, u'x');
-  negative.MotorBD = INT32_MIN;
+  negative.MotorBD = Engine{INT32_MIN};
   for (const Row& row : {Row{"sample", sample_parameters()}, Row{"empty values", nothing}, Row{"64 K values", large},
                          Row{"any engine", negative}}) {
     SCOPED_TRACE(row.name);
@@ -168,7 +168,7 @@ TEST_F(CfpFileTest, IsNotWrittenWithALineThatCouldNotBeRead) {
   thread.files.keep_in_memory();
   thread.make_text_protection = [] { return std::make_unique<NoProtection>(); };
   ConnectionParameters parameters;
-  parameters.MotorBD = 2;
+  parameters.MotorBD = Engine::SqlServer;
   parameters.OtrosParametros = Text(std::size_t{16} << 20, u'o');
   QVRcfp cfp;
   ASSERT_TRUE(cfp.Asignar(u"id", parameters));

@@ -8,7 +8,7 @@ namespace qvr::tests {
 namespace {
 
 struct Fields {
-  std::int32_t motor;
+  Engine motor;
   TextView catalogue, user_adm, password_adm, user_cli, password_cli, other;
 };
 
@@ -34,39 +34,45 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
-    {"nothing else", {1, u"", u"", u"", u"", u"", u""}, u"", u""},
+    {"nothing else", {Engine::Jet, u"", u"", u"", u"", u"", u""}, u"", u""},
     {"both accounts",
-     {1, u"", u"adm", u"pa", u"cli", u"pc", u""},
+     {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""},
      u"User ID=\"adm\";Password=\"pa\";",
      u"User ID=\"cli\";Password=\"pc\";"},
     {"no administrator",
-     {1, u"", u"", u"pa", u"cli", u"pc", u""},
+     {Engine::Jet, u"", u"", u"pa", u"cli", u"pc", u""},
      u"User ID=\"cli\";Password=\"pc\";",
      u"User ID=\"cli\";Password=\"pc\";"},
-    {"no client", {1, u"", u"adm", u"pa", u"", u"pc", u""}, u"User ID=\"adm\";Password=\"pa\";", u""},
-    {"no passwords", {1, u"", u"adm", u"", u"cli", u"", u""}, u"User ID=\"adm\";", u"User ID=\"cli\";"},
+    {"no client", {Engine::Jet, u"", u"adm", u"pa", u"", u"pc", u""}, u"User ID=\"adm\";Password=\"pa\";", u""},
+    {"no passwords", {Engine::Jet, u"", u"adm", u"", u"cli", u"", u""}, u"User ID=\"adm\";", u"User ID=\"cli\";"},
     {"administrator without password keeps to itself",
-     {1, u"", u"adm", u"", u"cli", u"pc", u""},
+     {Engine::Jet, u"", u"adm", u"", u"cli", u"pc", u""},
      u"User ID=\"adm\";",
      u"User ID=\"cli\";Password=\"pc\";"},
-    {"passwords without users", {2, u"", u"", u"pa", u"", u"pc", u""}, u"", u""},
-    {"quotes are not escaped", {1, u"", u"a\"d", u"p\"a", u"", u"", u""}, u"User ID=\"a\"d\";Password=\"p\"a\";", u""},
-    {"catalogue, Jet", {1, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
-    {"catalogue, SQL Server", {2, u"Cat", u"", u"", u"", u"", u""}, u"Initial Catalog=Cat;", u"Initial Catalog=Cat;"},
-    {"catalogue, Oracle", {3, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
-    {"catalogue, no engine", {0, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
-    {"catalogue, unknown engine", {99, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
-    {"options without end", {1, u"", u"", u"", u"", u"", u"Mode=Read"}, u"Mode=Read;", u"Mode=Read;"},
-    {"options with end", {1, u"", u"", u"", u"", u"", u"Mode=Read;"}, u"Mode=Read;", u"Mode=Read;"},
-    {"options with two ends", {1, u"", u"", u"", u"", u"", u"A=1;;"}, u"A=1;;", u"A=1;;"},
-    {"options of an end only", {1, u"", u"", u"", u"", u"", u";"}, u";", u";"},
-    {"options with a blank behind", {1, u"", u"", u"", u"", u"", u"A=1; "}, u"A=1; ;", u"A=1; ;"},
+    {"passwords without users", {Engine::SqlServer, u"", u"", u"pa", u"", u"pc", u""}, u"", u""},
+    {"quotes are not escaped",
+     {Engine::Jet, u"", u"a\"d", u"p\"a", u"", u"", u""},
+     u"User ID=\"a\"d\";Password=\"p\"a\";",
+     u""},
+    {"catalogue, Jet", {Engine::Jet, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, SQL Server",
+     {Engine::SqlServer, u"Cat", u"", u"", u"", u"", u""},
+     u"Initial Catalog=Cat;",
+     u"Initial Catalog=Cat;"},
+    {"catalogue, Oracle", {Engine::Oracle, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, no engine", {Engine::None, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"catalogue, unknown engine", {Engine{99}, u"Cat", u"", u"", u"", u"", u""}, u"", u""},
+    {"options without end", {Engine::Jet, u"", u"", u"", u"", u"", u"Mode=Read"}, u"Mode=Read;", u"Mode=Read;"},
+    {"options with end", {Engine::Jet, u"", u"", u"", u"", u"", u"Mode=Read;"}, u"Mode=Read;", u"Mode=Read;"},
+    {"options with two ends", {Engine::Jet, u"", u"", u"", u"", u"", u"A=1;;"}, u"A=1;;", u"A=1;;"},
+    {"options of an end only", {Engine::Jet, u"", u"", u"", u"", u"", u";"}, u";", u";"},
+    {"options with a blank behind", {Engine::Jet, u"", u"", u"", u"", u"", u"A=1; "}, u"A=1; ;", u"A=1; ;"},
     {"everything, SQL Server",
-     {2, u"Cat", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
+     {Engine::SqlServer, u"Cat", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
      u"User ID=\"adm\";Password=\"pa\";Initial Catalog=Cat;Mode=Read;",
      u"User ID=\"cli\";Password=\"pc\";Initial Catalog=Cat;Mode=Read;"},
     {"everything, Oracle",
-     {3, u"Tab", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
+     {Engine::Oracle, u"Tab", u"adm", u"pa", u"cli", u"pc", u"Mode=Read"},
      u"User ID=\"adm\";Password=\"pa\";Mode=Read;",
      u"User ID=\"cli\";Password=\"pc\";Mode=Read;"},
 };
@@ -88,7 +94,7 @@ TEST(CadenaADO, WritesAWholeSqlServerString) {
   TestThread thread;
   QVRcfp cfp;
   ConnectionParameters parameters;
-  parameters.MotorBD = 2;
+  parameters.MotorBD = Engine::SqlServer;
   parameters.Provider = u"SQLOLEDB";
   parameters.DataSource = u"SRV01";
   parameters.InitialCatalogOTablespace = u"Gestion";
@@ -116,19 +122,19 @@ TEST(CadenaADOUsuario, UsesTheGivenAccount) {
   };
   constexpr Account kAccounts[] = {
       {"user and password",
-       {1, u"", u"adm", u"pa", u"cli", u"pc", u""},
+       {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""},
        u"me",
        u"mine",
        u"User ID=\"me\";Password=\"mine\";"},
-      {"user alone", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"me", u"", u"User ID=\"me\";"},
-      {"password alone", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"mine", u""},
-      {"neither", {1, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"", u""},
+      {"user alone", {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"me", u"", u"User ID=\"me\";"},
+      {"password alone", {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"mine", u""},
+      {"neither", {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""}, u"", u"", u""},
       {"SQL Server with all",
-       {2, u"Cat", u"", u"", u"", u"", u"A=1"},
+       {Engine::SqlServer, u"Cat", u"", u"", u"", u"", u"A=1"},
        u"me",
        u"mine",
        u"User ID=\"me\";Password=\"mine\";Initial Catalog=Cat;A=1;"},
-      {"Oracle with all", {3, u"Cat", u"", u"", u"", u"", u"A=1;"}, u"me", u"", u"User ID=\"me\";A=1;"},
+      {"Oracle with all", {Engine::Oracle, u"Cat", u"", u"", u"", u"", u"A=1;"}, u"me", u"", u"User ID=\"me\";A=1;"},
   };
   for (const Account& row : kAccounts) {
     SCOPED_TRACE(row.name);

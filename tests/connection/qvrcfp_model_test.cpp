@@ -51,7 +51,7 @@ class QVRcfpModelTest : public ::testing::Test {
 
   ConnectionParameters random_parameters() {
     ConnectionParameters parameters = sample_parameters();
-    parameters.MotorBD = static_cast<std::int32_t>(random());
+    parameters.MotorBD = static_cast<Engine>(random());
     parameters.DataSource = decimal(pick(1000));
     parameters.ClaveCli = Text(static_cast<std::size_t>(pick(40)), u'\u00f1');
     return parameters;

@@ -80,15 +80,15 @@ struct Setting {
 };
 
 TEST(QVRcfpProcedure, CallsSqlServerAndGivesTheParametersBack) {
-  Setting setting(kSqlServer);
+  Setting setting(Engine::SqlServer);
   EXPECT_TRUE(setting.call(setting.connection.get()));
   EXPECT_EQ(setting.thread.log.take(), lines_until(kProcedure, kProcedure.size(), "Command released"));
   EXPECT_EQ(setting.first_parameter(), "Long 7");
 }
 
 TEST(QVRcfpProcedure, OtherEnginesDoNotTouchTheConnection) {
-  for (const Engine engine : {kJet, kOracle, kNoEngine, 99}) {
-    SCOPED_TRACE(engine);
+  for (const Engine engine : {Engine::Jet, Engine::Oracle, kNoEngine, Engine{99}}) {
+    SCOPED_TRACE(number_of(engine));
     Setting setting(engine);
     EXPECT_FALSE(setting.call(setting.connection.get()));
     EXPECT_EQ(setting.thread.log.take(), Lines());
@@ -99,7 +99,7 @@ TEST(QVRcfpProcedure, OtherEnginesDoNotTouchTheConnection) {
 }
 
 TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
-  Setting setting(kSqlServer);
+  Setting setting(Engine::SqlServer);
   setting.thread.ado.procedure_outputs[0] = -1;
   EXPECT_FALSE(setting.call(setting.connection.get()));
   EXPECT_EQ(setting.thread.log.take(), lines_until(kProcedure, 8, "Command released"));
@@ -109,7 +109,7 @@ TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
 TEST(QVRcfpProcedure, WhateverAdoRefusesIsReported) {
   for (std::size_t failing = 0; failing < kProcedure.size(); ++failing) {
     SCOPED_TRACE(kProcedure[failing].line);
-    Setting setting(kSqlServer);
+    Setting setting(Engine::SqlServer);
     setting.thread.ado.fail(kProcedure[failing].operation, kProcedure[failing].occurrence, kRefusal,
                             {{-2147217900, u"refused", u"Provider", u"42000", 2812}, {1, u"also", u"", u"", 0}});
     EXPECT_FALSE(setting.call(setting.connection.get()));
@@ -143,7 +143,7 @@ TEST(QVRcfpProcedure, WhatIsNotAdosIsReportedToo) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    Setting setting(kSqlServer);
+    Setting setting(Engine::SqlServer);
     setting.parameters = row.parameters;
     EXPECT_FALSE(setting.call(row.connected ? setting.connection.get() : nullptr));
     const Lines log = setting.thread.log.take();
@@ -154,7 +154,7 @@ TEST(QVRcfpProcedure, WhatIsNotAdosIsReportedToo) {
 }
 
 TEST(QVRcfpProcedure, AReportThatFailsIsStillFalse) {
-  Setting setting(kSqlServer);
+  Setting setting(Engine::SqlServer);
   setting.thread.report.fails = true;
   setting.thread.ado.fail("Command.Execute", 1, kRefusal);
   EXPECT_FALSE(setting.call(setting.connection.get()));
@@ -162,13 +162,13 @@ TEST(QVRcfpProcedure, AReportThatFailsIsStillFalse) {
 }
 
 TEST(QVRcfpParameter, IsAppendedWithTheTypeOfTheEngine) {
-  Setting setting(kOracle);
+  Setting setting(Engine::Oracle);
   EXPECT_TRUE(setting.append());
   EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, kParameter.size(), "Parameter released"));
 }
 
 TEST(QVRcfpParameter, AnObjectWithoutParametersAppendsNone) {
-  Setting setting(kOracle);
+  Setting setting(Engine::Oracle);
   const QVRcfp fresh;
   EXPECT_FALSE(fresh.AgregarParametroADO(setting.command.get(), {u"INT", u"@p", Missing{}}));
   EXPECT_FALSE(fresh.AgregarParametroADO(setting.command.get(), {u"no type", u"@p", Missing{}}));
@@ -188,7 +188,7 @@ TEST(QVRcfpParameter, AnUnexpectedTypeIsToldInTheUsersLanguage) {
                        {u"3", "Box OK: Type inattendu dans AgregarParametroADO: @p (TEXT)"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.box);
-    Setting setting(kSqlServer, row.language);
+    Setting setting(Engine::SqlServer, row.language);
     setting.thread.boxes.answer(BoxAnswer::Ok);
     EXPECT_FALSE(setting.append(u"TEXT"));
     EXPECT_EQ(setting.thread.log.take(), (Lines{"new Parameter", row.box, "Parameter released"}));
@@ -206,7 +206,7 @@ TEST(QVRcfpParameter, OneThatIsImproperlyDefinedIsShownInTheUsersLanguage) {
   for (const Row& row : kRows) {
     for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
       SCOPED_TRACE(row.labels[0] + ", " + kParameter[failing].line);
-      Setting setting(kOracle, row.language);
+      Setting setting(Engine::Oracle, row.language);
       setting.thread.ado.fail(kParameter[failing].operation, 1, {3708, u"Mal definido", u"ADODB"});
       setting.thread.boxes.answer(BoxAnswer::Ok);
       EXPECT_FALSE(setting.append());
@@ -222,7 +222,7 @@ TEST(QVRcfpParameter, OtherErrorsAreSilent) {
   for (const std::int32_t number : {-2147217900, 3707, 3709, 91, 429}) {
     for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
       SCOPED_TRACE(::testing::Message() << number << ", " << kParameter[failing].line);
-      Setting setting(kOracle);
+      Setting setting(Engine::Oracle);
       setting.thread.ado.fail(kParameter[failing].operation, 1, {number, u"refused", u"ADODB"});
       EXPECT_FALSE(setting.append());
       EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, failing, "Parameter released"));
@@ -231,16 +231,16 @@ TEST(QVRcfpParameter, OtherErrorsAreSilent) {
 }
 
 TEST(QVRcfpParameter, WithoutACommandItIsFalse) {
-  for (const Engine engine : {kJet, kSqlServer, kOracle}) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
     Setting setting(engine);
     EXPECT_FALSE(setting.cfp.AgregarParametroADO(nullptr, {u"INT", u"@p", Missing{}}));
   }
-  Setting setting(kOracle);
+  Setting setting(Engine::Oracle);
   EXPECT_FALSE(setting.cfp.AgregarParametroADO(nullptr, {u"NVARCHAR", u"@p", u"x", INT32_MAX})) << "the size overflows";
 }
 
 TEST(QVRcfpParameter, ABoxThatCannotBeShownIsStillFalse) {
-  Setting setting(kOracle);
+  Setting setting(Engine::Oracle);
   setting.thread.boxes.fail_next();
   EXPECT_FALSE(setting.append(u"TEXT"));
   setting.thread.ado.fail("Parameter.Type", 1, {3708, u"Mal definido", u"ADODB"});

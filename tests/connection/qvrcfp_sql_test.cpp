@@ -19,7 +19,7 @@ void assign(QVRcfp& cfp, Engine engine) {
 class QVRcfpSqlTest : public DialectTest {
  protected:
   void expect_member(const EachEngine& expected, const Member& member) {
-    expect_each(expected, [&](const Engine& engine) {
+    expect_each(expected, [&](Engine engine) {
       QVRcfp cfp;
       if (engine != kNoEngine) assign(cfp, engine);
       return member(cfp);
@@ -176,9 +176,9 @@ TEST_F(QVRcfpSqlTest, ClausesAndStatementsAreThoseOfTheObjectsEngine) {
 
 TEST_F(QVRcfpSqlTest, AnyNumberThatIsNoEngineIsShown) {
   QVRcfp cfp;
-  assign(cfp, -99);
+  assign(cfp, Engine{-99});
   expect_outcome(told(u"Motor de Base de Datos no definido: -99"), [&] { return cfp.AhoraSQL(); });
-  assign(cfp, kOracle);
+  assign(cfp, Engine::Oracle);
   expect_outcome(u"SYSDATE", [&] { return cfp.AhoraSQL(); });
 }
 
@@ -193,7 +193,7 @@ TEST_F(QVRcfpSqlTest, ABoxThatCannotBeShownChangesNothing) {
     }
   }
   QVRcfp jet;
-  assign(jet, kJet);
+  assign(jet, Engine::Jet);
   for (int box = 0; box < 2; ++box) thread.boxes.fail_next();
   EXPECT_EQ(jet.sqlCASE(u"c", list({1})), u"");
   EXPECT_EQ(jet.sqlWhereRelacionTablas(list({1})), u"");
@@ -210,11 +210,11 @@ TEST_F(QVRcfpSqlTest, TwoMembersRaiseWhatTheyCannotWalk) {
     for (const Raised& row : rows) {
       SCOPED_TRACE(row.name);
       const std::string* expected[] = {&row.none, &row.jet, &row.sql_server, &row.oracle};
-      for (const Engine engine : {kSqlServer, kOracle, kJet, kNoEngine}) {
-        SCOPED_TRACE(engine);
+      for (const Engine engine : {Engine::SqlServer, Engine::Oracle, Engine::Jet, kNoEngine}) {
+        SCOPED_TRACE(number_of(engine));
         QVRcfp cfp;
         assign(cfp, engine);
-        EXPECT_EQ(thrown_by([&] { return member(cfp, row.elements); }), *expected[engine]);
+        EXPECT_EQ(thrown_by([&] { return member(cfp, row.elements); }), *expected[number_of(engine)]);
       }
     }
   };

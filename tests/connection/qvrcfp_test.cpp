@@ -39,7 +39,7 @@ TEST_F(QVRcfpTest, AsignarTakesTheNineValuesOver) {
 
 TEST_F(QVRcfpTest, AsignarDoesNotLookAtTheEngine) {
   ConnectionParameters parameters;
-  for (std::int32_t motor : {0, -1, 99, INT32_MAX, INT32_MIN}) {
+  for (Engine motor : {Engine::None, Engine{-1}, Engine{99}, Engine{INT32_MAX}, Engine{INT32_MIN}}) {
     parameters.MotorBD = motor;
     EXPECT_TRUE(cfp.Asignar(u"", parameters));
     EXPECT_EQ(cfp.MotorBD(), motor);

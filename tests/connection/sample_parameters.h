@@ -9,7 +9,7 @@ namespace qvr::tests {
 
 inline ConnectionParameters sample_parameters() {
   ConnectionParameters parameters;
-  parameters.MotorBD = 2;
+  parameters.MotorBD = Engine::SqlServer;
   parameters.Provider = u"SQLOLEDB";
   parameters.DataSource = u"SRV01\\A\u00f1o";
   parameters.InitialCatalogOTablespace = u"Gesti\u00f3n";

@@ -15,7 +15,7 @@ class AdoParameterTest : public DialectTest {
     thread.log.take();
   }
 
-  bool append(const Engine& engine, const ParameterRequest& request) {
+  bool append(Engine engine, const ParameterRequest& request) {
     return dialect::AgregarParametroADO(engine, command.get(), request);
   }
 
@@ -54,11 +54,11 @@ TEST_F(AdoParameterTest, HasTheTypeThatFitsTheEngine) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(row.type));
-    EXPECT_TRUE(append(kSqlServer, request_for(row.type, 50)));
+    EXPECT_TRUE(append(Engine::SqlServer, request_for(row.type, 50)));
     EXPECT_EQ(thread.log.take(), parameter_log(row.sql_server));
-    EXPECT_TRUE(append(kOracle, request_for(row.type, 50)));
+    EXPECT_TRUE(append(Engine::Oracle, request_for(row.type, 50)));
     EXPECT_EQ(thread.log.take(), parameter_log(row.oracle));
-    for (const Engine engine : {kJet, kNoEngine, 99}) {
+    for (const Engine engine : {Engine::Jet, kNoEngine, Engine{99}}) {
       EXPECT_TRUE(append(engine, request_for(row.type, 50)));
       EXPECT_EQ(thread.log.take(), parameter_log({}));
     }
@@ -79,16 +79,16 @@ TEST_F(AdoParameterTest, HasTheWidthThatTheEngineCounts) {
                        {-kHalf - 1, "-1073741824", "-2147483648"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.width);
-    EXPECT_TRUE(append(kSqlServer, request_for(u"NVARCHAR", row.width)));
+    EXPECT_TRUE(append(Engine::SqlServer, request_for(u"NVARCHAR", row.width)));
     EXPECT_EQ(thread.log.take(), parameter_log({"Parameter.Type: 202", "Parameter.Size: " + row.sql_server}));
-    EXPECT_TRUE(append(kOracle, request_for(u"NVARCHAR", row.width)));
+    EXPECT_TRUE(append(Engine::Oracle, request_for(u"NVARCHAR", row.width)));
     EXPECT_EQ(thread.log.take(), parameter_log({"Parameter.Type: 200", "Parameter.Size: " + row.oracle}));
   }
   for (const std::int32_t width : {kHalf + 1, INT32_MAX, INT32_MIN}) {
     SCOPED_TRACE(width);
-    EXPECT_TRUE(append(kSqlServer, request_for(u"NVARCHAR", width)));
-    EXPECT_EQ(thrown_by([&] { return append(kOracle, request_for(u"NVARCHAR", width)); }), "RuntimeFailure 6");
-    EXPECT_TRUE(append(kOracle, request_for(u"INT", width))) << "a width that no one asked for";
+    EXPECT_TRUE(append(Engine::SqlServer, request_for(u"NVARCHAR", width)));
+    EXPECT_EQ(thrown_by([&] { return append(Engine::Oracle, request_for(u"NVARCHAR", width)); }), "RuntimeFailure 6");
+    EXPECT_TRUE(append(Engine::Oracle, request_for(u"INT", width))) << "a width that no one asked for";
   }
 }
 
@@ -107,25 +107,26 @@ TEST_F(AdoParameterTest, HasAValueOnlyWhenOneWasGiven) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.log.empty() ? "missing" : row.log[0]);
-    for (const Engine engine : {kJet, kSqlServer, kOracle}) {
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
       Lines expected = {"Parameter.Name: nombre", "Parameter.Direction: 3"};
       expected.insert(expected.end(), row.log.begin(), row.log.end());
       EXPECT_TRUE(append(engine, {u"DATETIME", u"nombre", row.value, 0, 3}));
-      EXPECT_EQ(thread.log.take(), parameter_log(engine == kJet ? Lines() : Lines{"Parameter.Type: 135"}, expected));
+      EXPECT_EQ(thread.log.take(),
+                parameter_log(engine == Engine::Jet ? Lines() : Lines{"Parameter.Type: 135"}, expected));
     }
   }
 }
 
 TEST_F(AdoParameterTest, OracleHasNoReturnValue) {
   const ParameterRequest returned{u"INT", u"@r", Missing{}, 0, 4}, strange{u"no type", u"@r", Missing{}, 0, 4};
-  EXPECT_TRUE(append(kOracle, returned));
-  EXPECT_TRUE(append(kOracle, strange));
-  EXPECT_TRUE(dialect::AgregarParametroADO(kOracle, nullptr, returned));
+  EXPECT_TRUE(append(Engine::Oracle, returned));
+  EXPECT_TRUE(append(Engine::Oracle, strange));
+  EXPECT_TRUE(dialect::AgregarParametroADO(Engine::Oracle, nullptr, returned));
   EXPECT_EQ(thread.log.take(), Lines());
   const Lines kNamed = {"Parameter.Name: @r", "Parameter.Direction: 4"};
-  EXPECT_TRUE(append(kSqlServer, returned));
+  EXPECT_TRUE(append(Engine::SqlServer, returned));
   EXPECT_EQ(thread.log.take(), parameter_log({"Parameter.Type: 3", "Parameter.Precision: 10"}, kNamed));
-  EXPECT_TRUE(append(kJet, returned));
+  EXPECT_TRUE(append(Engine::Jet, returned));
   EXPECT_EQ(thread.log.take(), parameter_log({}, kNamed));
 }
 
@@ -141,12 +142,12 @@ TEST_F(AdoParameterTest, AnUnexpectedTypeIsToldInTheUsersLanguage) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.message);
     thread.load_language(row.language);
-    for (const Engine engine : {kSqlServer, kOracle}) {
+    for (const Engine engine : {Engine::SqlServer, Engine::Oracle}) {
       thread.boxes.answer(BoxAnswer::Ok);
       EXPECT_FALSE(append(engine, request_for(u"TEXT")));
       EXPECT_EQ(thread.log.take(), (Lines{"new Parameter", "Box OK: " + row.message, "Parameter released"}));
     }
-    EXPECT_TRUE(append(kJet, request_for(u"TEXT")));
+    EXPECT_TRUE(append(Engine::Jet, request_for(u"TEXT")));
     EXPECT_EQ(thread.log.take(), parameter_log({}));
   }
 }
@@ -155,14 +156,14 @@ TEST_F(AdoParameterTest, TypesAreWholeNames) {
   for (const TextView type : {u"", u"INT ", u" INT", u"INTEGER", u"VARCHAR", u"NVARCHAR(50)", u"BI"}) {
     SCOPED_TRACE(to_utf8(type));
     thread.boxes.answer(BoxAnswer::Ok);
-    EXPECT_FALSE(append(kSqlServer, request_for(type)));
+    EXPECT_FALSE(append(Engine::SqlServer, request_for(type)));
     EXPECT_EQ(thread.log.take()[1], "Box OK: Tipo inesperado en AgregarParametroADO: @p (" + to_utf8(type) + ")");
   }
 }
 
 TEST_F(AdoParameterTest, WithoutACommandItIsNotSet) {
-  for (const Engine engine : {kJet, kSqlServer, kOracle}) {
-    SCOPED_TRACE(engine);
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+    SCOPED_TRACE(number_of(engine));
     EXPECT_EQ(thrown_by([&] { return dialect::AgregarParametroADO(engine, nullptr, request_for(u"BIT")); }),
               "RuntimeFailure 91");
     EXPECT_EQ(thread.log.take().back(), "Parameter released");

@@ -18,7 +18,7 @@ TEST_F(ClausesTest, ClausulaTopStandsBeforeTheSelectList) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.count);
     expect_each({Text(row.top), Text(row.top), u"", u""},
-                [&](const Engine& engine) { return dialect::ClausulaTop(engine, row.count); });
+                [&](Engine engine) { return dialect::ClausulaTop(engine, row.count); });
   }
 }
 
@@ -40,26 +40,25 @@ TEST_F(ClausesTest, RowNumIsAConditionOfOracle) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(::testing::Message() << row.count << (row.prepend_and ? " with And" : ""));
     expect_each({u"", u"", row.method, u""},
-                [&](const Engine& engine) { return dialect::sqlRowNum(engine, row.count, row.prepend_and); });
+                [&](Engine engine) { return dialect::sqlRowNum(engine, row.count, row.prepend_and); });
     expect_each({u"", u"", row.function, u""},
-                [&](const Engine& engine) { return dialect::CondicionRowNum(engine, row.count, row.prepend_and); });
+                [&](Engine engine) { return dialect::CondicionRowNum(engine, row.count, row.prepend_and); });
   }
 }
 
 TEST_F(ClausesTest, ClausulaAliasEndsWithoutABlank) {
   expect_each({u" As [Total]", u" As [Total]", u" \"Total\"", u""},
-              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u"Total"); });
+              [](Engine engine) { return dialect::ClausulaAlias(engine, u"Total"); });
   expect_each({u" As [un a\u00f1o]", u" As [un a\u00f1o]", u" \"un a\u00f1o\"", u""},
-              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u"un a\u00f1o"); });
-  expect_each({u" As []", u" As []", u" \"\"", u""},
-              [](const Engine& engine) { return dialect::ClausulaAlias(engine, u""); });
+              [](Engine engine) { return dialect::ClausulaAlias(engine, u"un a\u00f1o"); });
+  expect_each({u" As []", u" As []", u" \"\"", u""}, [](Engine engine) { return dialect::ClausulaAlias(engine, u""); });
 }
 
 TEST_F(ClausesTest, EsNuloReplacesNull) {
   expect_each({u" IIf(IsNull(Precio),0,Precio) ", u" IsNull(Precio,0) ", u" NVL(Precio,0) ", u""},
-              [](const Engine& engine) { return dialect::sqlEsNulo(engine, u"Precio", u"0"); });
+              [](Engine engine) { return dialect::sqlEsNulo(engine, u"Precio", u"0"); });
   expect_each({u" IIf(IsNull(),,) ", u" IsNull(,) ", u" NVL(,) ", u""},
-              [](const Engine& engine) { return dialect::sqlEsNulo(engine, u"", u""); });
+              [](Engine engine) { return dialect::sqlEsNulo(engine, u"", u""); });
 }
 
 TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
@@ -87,7 +86,7 @@ TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    expect_each(row.expected, [&](const Engine& engine) { return dialect::sqlConcatenar(engine, row.elements); });
+    expect_each(row.expected, [&](Engine engine) { return dialect::sqlConcatenar(engine, row.elements); });
   }
 }
 
@@ -95,9 +94,9 @@ TEST_F(ClausesTest, ConcatenarJoinsTheElements) {
 TEST_F(ClausesTest, NumbersHaveAPointInEveryLocale) {
   thread.locale.decimal = u',', thread.locale.thousands = u'.';
   const Value numbers = list({2.5, 0.1f, Currency{-12500}, Decimal{0, 0, 15, 1, false}, std::int64_t{7}});
-  EXPECT_EQ(dialect::sqlConcatenar(kOracle, numbers), u" 2.5 || 0.1 || -1.25 || 1.5 || 7 ");
-  EXPECT_EQ(dialect::sqlCASE(kOracle, u"c", numbers), u" DECODE(c,2.5,0.1,-1.25,1.5,7) ");
-  EXPECT_EQ(dialect::CondicionWhereRelacionTablas(kOracle, list({u"a", 2.5, u"I"})), u" (a=2.5) ");
+  EXPECT_EQ(dialect::sqlConcatenar(Engine::Oracle, numbers), u" 2.5 || 0.1 || -1.25 || 1.5 || 7 ");
+  EXPECT_EQ(dialect::sqlCASE(Engine::Oracle, u"c", numbers), u" DECODE(c,2.5,0.1,-1.25,1.5,7) ");
+  EXPECT_EQ(dialect::CondicionWhereRelacionTablas(Engine::Oracle, list({u"a", 2.5, u"I"})), u" (a=2.5) ");
 }
 
 TEST_F(ClausesTest, ConcatenarFailsForWhatItCannotWalk) {
@@ -118,8 +117,8 @@ TEST_F(ClausesTest, ConcatenarFailsForWhatItCannotWalk) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    for (const Engine engine : {kJet, kSqlServer, kOracle, kNoEngine}) {
-      SCOPED_TRACE(engine);
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle, kNoEngine}) {
+      SCOPED_TRACE(number_of(engine));
       EXPECT_EQ(thrown_by([&] { return dialect::sqlConcatenar(engine, row.elements); }), row.thrown);
     }
   }
@@ -127,8 +126,8 @@ TEST_F(ClausesTest, ConcatenarFailsForWhatItCannotWalk) {
 
 // There is no operator behind nothing to take away again; without an engine there is none at all.
 TEST_F(ClausesTest, ConcatenarOfNothingFailsWhereThereIsAnOperator) {
-  for (const Engine engine : {kJet, kSqlServer, kOracle}) {
-    SCOPED_TRACE(engine);
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+    SCOPED_TRACE(number_of(engine));
     EXPECT_EQ(thrown_by([&] { return dialect::sqlConcatenar(engine, list({}, 1)); }), "CallerFailure 5");
   }
   expect_outcome(u"  ", [] { return dialect::sqlConcatenar(kNoEngine, list({})); });
@@ -159,7 +158,7 @@ TEST_F(ClausesTest, CaseMapsPairsAndADefault) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     expect_each({kJetHasNone, row.sql_server, row.oracle, u""},
-                [&](const Engine& engine) { return dialect::sqlCASE(engine, u"Estado", row.pairs); });
+                [&](Engine engine) { return dialect::sqlCASE(engine, u"Estado", row.pairs); });
   }
 }
 
@@ -180,13 +179,13 @@ TEST_F(ClausesTest, CaseFailsForWhatItCannotWalk) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    for (const Engine engine : {kSqlServer, kOracle}) {
+    for (const Engine engine : {Engine::SqlServer, Engine::Oracle}) {
       EXPECT_EQ(thrown_by([&] { return dialect::sqlCASE(engine, u"Estado", row.pairs); }), row.thrown);
     }
     // The list is not looked at.
     expect_outcome(u"", [&] { return dialect::sqlCASE(kNoEngine, u"Estado", row.pairs); });
     expect_outcome(told(u"Funci\u00f3n CASE no implementada para Motor Jet"),
-                   [&] { return dialect::sqlCASE(kJet, u"Estado", row.pairs); });
+                   [&] { return dialect::sqlCASE(Engine::Jet, u"Estado", row.pairs); });
   }
 }
 

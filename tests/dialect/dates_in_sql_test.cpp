@@ -15,7 +15,7 @@ constexpr double kFirstDay = -657434, kLastDay = 2958465;
 
 class DatesInSqlTest : public DialectTest {
  protected:
-  using Member = Text (*)(const Engine&, const Value&);
+  using Member = Text (*)(Engine, const Value&);
   static constexpr Member kMembers[] = {dialect::FechaSQL, dialect::HoraSQL, dialect::FechaHoraSQL, dialect::FechaSQLv};
 };
 
@@ -79,23 +79,23 @@ EachEngine narrowest_literal(const DateRow& row) {
 TEST_F(DatesInSqlTest, AreWrittenInFullAsTheContractHasThem) {
   const Value moment = Date{kFifthOfJanuary + kClock};
   expect_each({u"#2011-01-05#", u"{ d '2011-01-05'}", u" TO_DATE('2011-01-05','YYYY-MM-DD') ", undefined()},
-              [&](const Engine& engine) { return dialect::FechaSQL(engine, moment); });
+              [&](Engine engine) { return dialect::FechaSQL(engine, moment); });
   expect_each({u"#14:07:09#", u"{ t '14:07:09'}", u" TO_DATE('14:07:09','HH24:MI:SS') ", undefined()},
-              [&](const Engine& engine) { return dialect::HoraSQL(engine, moment); });
+              [&](Engine engine) { return dialect::HoraSQL(engine, moment); });
   expect_each({u"#2011-01-05 14:07:09#", u"{ ts '2011-01-05 14:07:09'}",
                u" TO_DATE('2011-01-05 14:07:09','YYYY-MM-DD HH24:MI:SS') ", undefined()},
-              [&](const Engine& engine) { return dialect::FechaHoraSQL(engine, moment); });
+              [&](Engine engine) { return dialect::FechaHoraSQL(engine, moment); });
 }
 
 TEST_F(DatesInSqlTest, WriteEveryDateInEveryForm) {
   for (const DateRow& row : kDates) {
     SCOPED_TRACE(row.name);
     const Value date = Date{row.days};
-    expect_each(date_literal(row), [&](const Engine& engine) { return dialect::FechaSQL(engine, date); });
-    expect_each(time_literal(row), [&](const Engine& engine) { return dialect::HoraSQL(engine, date); });
-    expect_each(date_time_literal(row), [&](const Engine& engine) { return dialect::FechaHoraSQL(engine, date); });
-    expect_each(narrowest_literal(row), [&](const Engine& engine) { return dialect::FechaSQLv(engine, date); });
-    expect_each(narrowest_literal(row), [&](const Engine& engine) { return dialect::ExpSQL(engine, date); });
+    expect_each(date_literal(row), [&](Engine engine) { return dialect::FechaSQL(engine, date); });
+    expect_each(time_literal(row), [&](Engine engine) { return dialect::HoraSQL(engine, date); });
+    expect_each(date_time_literal(row), [&](Engine engine) { return dialect::FechaHoraSQL(engine, date); });
+    expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::FechaSQLv(engine, date); });
+    expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::ExpSQL(engine, date); });
   }
 }
 
@@ -132,10 +132,10 @@ TEST_F(DatesInSqlTest, AreNullForWhatIsNoDate) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     for (const Member member : kMembers) {
-      expect_each(all_engines(u"Null"), [&](const Engine& engine) { return member(engine, row.value); });
+      expect_each(all_engines(u"Null"), [&](Engine engine) { return member(engine, row.value); });
     }
     if (!row.value.is<Date>()) continue;
-    expect_each(all_engines(u"Null"), [&](const Engine& engine) { return dialect::ExpSQL(engine, row.value); });
+    expect_each(all_engines(u"Null"), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
   }
 }
 
@@ -161,16 +161,16 @@ TEST_F(DatesInSqlTest, TextsAreReadAsTheLocaleReadsThemAndWrittenAlike) {
     SCOPED_TRACE(row.name);
     thread.locale.day_first = row.day_first;
     thread.locale.date_separator = row.separator;
-    expect_outcome(row.date, [&] { return dialect::FechaSQL(kJet, row.text); });
+    expect_outcome(row.date, [&] { return dialect::FechaSQL(Engine::Jet, row.text); });
   }
 }
 
 TEST_F(DatesInSqlTest, TextsGiveTheirTimeToo) {
   const Value moment = u"05/01/2011 14:07:09", day = u"05/01/2011";
-  expect_outcome(u"{ t '14:07:09'}", [&] { return dialect::HoraSQL(kSqlServer, moment); });
-  expect_outcome(u"{ ts '2011-01-05 14:07:09'}", [&] { return dialect::FechaHoraSQL(kSqlServer, moment); });
-  expect_outcome(u"{ ts '2011-01-05 14:07:09'}", [&] { return dialect::FechaSQLv(kSqlServer, moment); });
-  expect_outcome(u"{ d '2011-01-05'}", [&] { return dialect::FechaSQLv(kSqlServer, day); });
+  expect_outcome(u"{ t '14:07:09'}", [&] { return dialect::HoraSQL(Engine::SqlServer, moment); });
+  expect_outcome(u"{ ts '2011-01-05 14:07:09'}", [&] { return dialect::FechaHoraSQL(Engine::SqlServer, moment); });
+  expect_outcome(u"{ ts '2011-01-05 14:07:09'}", [&] { return dialect::FechaSQLv(Engine::SqlServer, moment); });
+  expect_outcome(u"{ d '2011-01-05'}", [&] { return dialect::FechaSQLv(Engine::SqlServer, day); });
   expect_outcome(undefined(), [&] { return dialect::FechaSQLv(kNoEngine, day); });
 }
 
@@ -181,7 +181,7 @@ TEST_F(DatesInSqlTest, DoNotFollowTheLocale) {
   for (const DateRow& row : kDates) {
     SCOPED_TRACE(row.name);
     expect_each(date_time_literal(row),
-                [&](const Engine& engine) { return dialect::FechaHoraSQL(engine, Date{row.days}); });
+                [&](Engine engine) { return dialect::FechaHoraSQL(engine, Date{row.days}); });
   }
 }
 
@@ -189,27 +189,27 @@ TEST_F(DatesInSqlTest, FechaHoraSQLKnowsTheWordsForNow) {
   const EachEngine kClockText{u"Now()", u"GetDate()", u"SYSDATE", undefined()};
   for (const TextView word : {u"Ahora", u"ahora", u"AHORA", u"AhoraSQL", u"ahorasql", u"AHORASQL"}) {
     SCOPED_TRACE(to_utf8(word));
-    expect_each(kClockText, [&](const Engine& engine) { return dialect::FechaHoraSQL(engine, Text(word)); });
+    expect_each(kClockText, [&](Engine engine) { return dialect::FechaHoraSQL(engine, Text(word)); });
     for (const Member other : {dialect::FechaSQL, dialect::HoraSQL, dialect::FechaSQLv}) {
-      expect_each(all_engines(u"Null"), [&](const Engine& engine) { return other(engine, Text(word)); });
+      expect_each(all_engines(u"Null"), [&](Engine engine) { return other(engine, Text(word)); });
     }
   }
   for (const TextView word : {u"Ahora ", u" AhoraSQL", u"Ahora()", u"Now()", u"Ahor", u"AhoraSQL2"}) {
     SCOPED_TRACE(to_utf8(word));
-    expect_each(all_engines(u"Null"), [&](const Engine& engine) { return dialect::FechaHoraSQL(engine, Text(word)); });
+    expect_each(all_engines(u"Null"), [&](Engine engine) { return dialect::FechaHoraSQL(engine, Text(word)); });
   }
 }
 
 TEST_F(DatesInSqlTest, LiteralFechaMotorTakesItsMasksFromTheCaller) {
   const Value moment = Date{kFifthOfJanuary + kClock};
-  const auto call = [&](const Engine& engine) {
+  const auto call = [&](Engine engine) {
     return dialect::LiteralFechaMotor(engine, moment, u"dd/mm/yyyy hh.nn", u"DD/MM/YYYY HH24.MI");
   };
   expect_each({u"#05/01/2011 14.07#", u"{ d '05/01/2011 14.07'}", u" TO_DATE('05/01/2011 14.07','DD/MM/YYYY HH24.MI') ",
                undefined()},
               call);
   expect_each(all_engines(u"Null"),
-              [](const Engine& engine) { return dialect::LiteralFechaMotor(engine, Null{}, u"dd", u"DD"); });
+              [](Engine engine) { return dialect::LiteralFechaMotor(engine, Null{}, u"dd", u"DD"); });
 }
 
 }  // namespace

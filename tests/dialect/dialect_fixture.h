@@ -7,18 +7,17 @@
 #include <string>
 #include <vector>
 
+#include "base/engine.h"
 #include "base/failure.h"
-#include "dialect/engine.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 
-using dialect::Engine;
-using dialect::kJet;
-using dialect::kOracle;
-using dialect::kSqlServer;
+using Engine::Jet;
+using Engine::Oracle;
+using Engine::SqlServer;
 
-inline constexpr Engine kNoEngine = 0;
+inline constexpr Engine kNoEngine = Engine::None;
 
 // What a call gives, and the message boxes with an OK button that it shows.
 struct Outcome {
@@ -79,12 +78,12 @@ class DialectTest : public ::testing::Test {
     const struct {
       Engine engine;
       const Outcome& outcome;
-    } columns[] = {{kJet, expected.jet},
-                   {kSqlServer, expected.sql_server},
-                   {kOracle, expected.oracle},
+    } columns[] = {{Engine::Jet, expected.jet},
+                   {Engine::SqlServer, expected.sql_server},
+                   {Engine::Oracle, expected.oracle},
                    {kNoEngine, expected.none}};
     for (const auto& column : columns) {
-      SCOPED_TRACE(column.engine);
+      SCOPED_TRACE(number_of(column.engine));
       expect_outcome(column.outcome, [&] { return call(column.engine); });
     }
   }

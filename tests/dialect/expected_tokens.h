@@ -11,7 +11,7 @@ namespace qvr::tests {
 
 class ExpectedTokens {
  public:
-  explicit ExpectedTokens(dialect::Engine engine) : engine_(engine) {}
+  explicit ExpectedTokens(Engine engine) : engine_(engine) {}
 
   ExpectedTokens& words(std::initializer_list<TextView> words) {
     for (const TextView word : words) tokens_.push_back({TokenKind::Word, Text(word)});
@@ -55,7 +55,7 @@ class ExpectedTokens {
   const Tokens& tokens() const { return tokens_; }
 
  private:
-  dialect::Engine engine_;
+  Engine engine_;
   Tokens tokens_;
 };
 

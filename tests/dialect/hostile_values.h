@@ -13,7 +13,7 @@ struct Sample {
   Value value;
   std::array<Tokens, 3> tokens;  // of Jet, SQL Server and Oracle
 
-  const Tokens& for_engine(dialect::Engine engine) const { return tokens[static_cast<std::size_t>(engine) - 1]; }
+  const Tokens& for_engine(Engine engine) const { return tokens[static_cast<std::size_t>(engine) - 1]; }
 };
 
 // The same values from the same seed, on every platform.

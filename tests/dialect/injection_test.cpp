@@ -12,7 +12,7 @@ namespace {
 using enum TokenKind;
 
 constexpr int kRounds = 2000;
-constexpr Engine kEngines[] = {kJet, kSqlServer, kOracle};
+constexpr Engine kEngines[] = {Engine::Jet, Engine::SqlServer, Engine::Oracle};
 
 // Fields f0, f1... with values, both with the same random lower bound.
 struct Record {
@@ -108,7 +108,7 @@ TEST_P(InjectionTest, PatronLikeMotorIsOneLiteralAndPerhapsItsEscape) {
     const Tokens tokens = tokens_of(GetParam(), sql);
     const bool wants_escape = text.find_first_of(u"%_") != Text::npos;
     ASSERT_EQ(tokens.size(), wants_escape ? 3U : 1U) << to_utf8(sql);
-    EXPECT_EQ(tokens[0].kind, GetParam() == kSqlServer ? Unicode : String);
+    EXPECT_EQ(tokens[0].kind, GetParam() == Engine::SqlServer ? Unicode : String);
     if (!wants_escape) continue;
     ++escaped;
     EXPECT_EQ(tokens[1], (Token{Word, u"ESCAPE"}));
@@ -121,7 +121,7 @@ TEST_P(InjectionTest, PatronLikeMotorIsOneLiteralAndPerhapsItsEscape) {
 
 constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
 INSTANTIATE_TEST_SUITE_P(Engines, InjectionTest, ::testing::ValuesIn(kEngines),
-                         [](const auto& engine) { return std::string(kEngineNames[engine.param - 1]); });
+                         [](const auto& engine) { return std::string(kEngineNames[number_of(engine.param) - 1]); });
 
 TEST(SqlTokens, SeeWhereALiteralEndsTooEarly) {
   struct Row {
@@ -130,22 +130,22 @@ TEST(SqlTokens, SeeWhereALiteralEndsTooEarly) {
     Tokens tokens;
   };
   const Row kRows[] = {
-      {kJet, u"'O'Neil'", {{String, u"O"}, {Word, u"Neil"}, {Bad, u"'"}}},
-      {kJet, u"'a''b' , 1", {{String, u"a'b"}, {Punctuation, u","}, {Number, u"1"}}},
-      {kOracle, u"'a", {{Bad, u"'a"}}},
-      {kOracle, u"1 -- x", {{Number, u"1"}, {Bad, u"-- x"}}},
-      {kSqlServer, u"a /*", {{Word, u"a"}, {Bad, u"/*"}}},
-      {kSqlServer, u"a;b", {{Word, u"a"}, {Bad, u";b"}}},
-      {kSqlServer, u"N'a'", {{Unicode, u"a"}}},
-      {kOracle, u"N'a'", {{Word, u"N"}, {String, u"a"}}},
-      {kJet, u"#2011-01-05#", {{Date, u"2011-01-05"}}},
-      {kJet, u"#2011' --#", {{Bad, u"#2011' --#"}}},
-      {kOracle, u"#2011-01-05#", {{Bad, u"#2011-01-05#"}}},
-      {kSqlServer, u"{ ts '2011-01-05 14:07:09'}", {{Date, u"ts 2011-01-05 14:07:09"}}},
-      {kSqlServer, u"{ x '1'}", {{Bad, u"'1'}"}}},
-      {kOracle, u" TO_DATE('14:07:09','HH24:MI:SS') ", {{Date, u"14:07:09|HH24:MI:SS"}}},
-      {kOracle, u"TO_DATE('1')", {{Bad, u")"}}},
-      {kJet, u"-2.5E-07,12a", {{Number, u"-2.5E-07"}, {Punctuation, u","}, {Bad, u"a"}}},
+      {Engine::Jet, u"'O'Neil'", {{String, u"O"}, {Word, u"Neil"}, {Bad, u"'"}}},
+      {Engine::Jet, u"'a''b' , 1", {{String, u"a'b"}, {Punctuation, u","}, {Number, u"1"}}},
+      {Engine::Oracle, u"'a", {{Bad, u"'a"}}},
+      {Engine::Oracle, u"1 -- x", {{Number, u"1"}, {Bad, u"-- x"}}},
+      {Engine::SqlServer, u"a /*", {{Word, u"a"}, {Bad, u"/*"}}},
+      {Engine::SqlServer, u"a;b", {{Word, u"a"}, {Bad, u";b"}}},
+      {Engine::SqlServer, u"N'a'", {{Unicode, u"a"}}},
+      {Engine::Oracle, u"N'a'", {{Word, u"N"}, {String, u"a"}}},
+      {Engine::Jet, u"#2011-01-05#", {{Date, u"2011-01-05"}}},
+      {Engine::Jet, u"#2011' --#", {{Bad, u"#2011' --#"}}},
+      {Engine::Oracle, u"#2011-01-05#", {{Bad, u"#2011-01-05#"}}},
+      {Engine::SqlServer, u"{ ts '2011-01-05 14:07:09'}", {{Date, u"ts 2011-01-05 14:07:09"}}},
+      {Engine::SqlServer, u"{ x '1'}", {{Bad, u"'1'}"}}},
+      {Engine::Oracle, u" TO_DATE('14:07:09','HH24:MI:SS') ", {{Date, u"14:07:09|HH24:MI:SS"}}},
+      {Engine::Oracle, u"TO_DATE('1')", {{Bad, u")"}}},
+      {Engine::Jet, u"-2.5E-07,12a", {{Number, u"-2.5E-07"}, {Punctuation, u","}, {Bad, u"a"}}},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(row.sql));

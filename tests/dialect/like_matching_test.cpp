@@ -88,8 +88,8 @@ TEST_P(LikeMatchingTest, FindsExactlyWhatIsMeantInRandomTexts) {
 }
 
 constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
-INSTANTIATE_TEST_SUITE_P(Engines, LikeMatchingTest, ::testing::Values(kJet, kSqlServer, kOracle),
-                         [](const auto& engine) { return std::string(kEngineNames[engine.param - 1]); });
+INSTANTIATE_TEST_SUITE_P(Engines, LikeMatchingTest, ::testing::Values(Engine::Jet, Engine::SqlServer, Engine::Oracle),
+                         [](const auto& engine) { return std::string(kEngineNames[number_of(engine.param) - 1]); });
 
 }  // namespace
 }  // namespace qvr::tests

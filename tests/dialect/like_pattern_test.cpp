@@ -62,7 +62,7 @@ TEST_F(LikePatternTest, IsBuiltFromWhatTheUserWrote) {
   for (const Row& row : rows()) {
     SCOPED_TRACE(row.name);
     // An unknown engine is no reason for a message here.
-    expect_each({row.pattern, u"N" + row.pattern, row.pattern, row.pattern}, [&](const Engine& engine) {
+    expect_each({row.pattern, u"N" + row.pattern, row.pattern, row.pattern}, [&](Engine engine) {
       return dialect::PatronLikeMotor(engine, row.text, row.flags.leading, row.flags.trailing);
     });
   }
@@ -70,7 +70,7 @@ TEST_F(LikePatternTest, IsBuiltFromWhatTheUserWrote) {
 
 TEST_F(LikePatternTest, IsNotCutForOracle) {
   const Text text(5000, u'\'');
-  expect_outcome(u"'" + text + text + u"' ", [&] { return dialect::PatronLikeMotor(kOracle, text, false, false); });
+  expect_outcome(u"'" + text + text + u"' ", [&] { return dialect::PatronLikeMotor(Engine::Oracle, text, false, false); });
 }
 
 TEST_F(LikePatternTest, TheFreeEscapeCharacterIsTheFirstOfNine) {

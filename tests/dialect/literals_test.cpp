@@ -71,7 +71,7 @@ TEST_F(LiteralsTest, ExpSQLWritesValuesThatAreNoNumbersAndNoDates) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    expect_each(row.expected, [&](const Engine& engine) { return dialect::ExpSQL(engine, row.value); });
+    expect_each(row.expected, [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
   }
 }
 
@@ -102,16 +102,16 @@ TEST_F(LiteralsTest, ExpSQLCutsLongTextsForOracleOnly) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     expect_each({row.whole, row.whole, row.cut, row.whole},
-                [&](const Engine& engine) { return dialect::ExpSQL(engine, row.text); });
+                [&](Engine engine) { return dialect::ExpSQL(engine, row.text); });
     EXPECT_EQ(dialect::ComillasSQL(row.text), row.whole);
   }
 }
 
 TEST_F(LiteralsTest, LogicoSQLWritesTruth) {
   expect_each({u"True", u"1", u"1", undefined()},
-              [](const Engine& engine) { return dialect::LogicoSQL(engine, true); });
+              [](Engine engine) { return dialect::LogicoSQL(engine, true); });
   expect_each({u"False", u"0", u"0", undefined()},
-              [](const Engine& engine) { return dialect::LogicoSQL(engine, false); });
+              [](Engine engine) { return dialect::LogicoSQL(engine, false); });
 }
 
 TEST_F(LiteralsTest, TheServersClock) {

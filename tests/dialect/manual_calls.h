@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::tests {
 
 struct ManualCall {
   std::string call;  // as the manual writes it, in Visual Basic
-  std::function<Text(const dialect::Engine&)> text;
+  std::function<Text(Engine)> text;
 };
 
 struct ManualPage {

@@ -11,9 +11,9 @@
 namespace qvr::tests {
 namespace {
 
-using dialect::kJet;
-using dialect::kOracle;
-using dialect::kSqlServer;
+using Engine::Jet;
+using Engine::Oracle;
+using Engine::SqlServer;
 
 struct Manual {
   const char *language, *heading, *empty;
@@ -33,7 +33,7 @@ std::string cell(const Manual& manual, const Text& text) {
 
 std::string row_of(const Manual& manual, const ManualCall& each) {
   std::string row = "| `" + each.call + "` |";
-  for (const dialect::Engine engine : {kJet, kSqlServer, kOracle}) row += " " + cell(manual, each.text(engine)) + " |";
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) row += " " + cell(manual, each.text(engine)) + " |";
   return row;
 }
 

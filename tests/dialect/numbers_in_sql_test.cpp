@@ -78,7 +78,7 @@ std::vector<Row> rows() {
 TEST_F(NumbersInSqlTest, AreWrittenAlikeForEveryEngine) {
   for (const Row& row : rows()) {
     SCOPED_TRACE(row.name);
-    expect_each(all_engines(row.literal), [&](const Engine& engine) { return dialect::ExpSQL(engine, row.value); });
+    expect_each(all_engines(row.literal), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
   }
 }
 
@@ -88,7 +88,7 @@ TEST_F(NumbersInSqlTest, DoNotFollowTheLocale) {
   thread.locale.day_first = false;
   for (const Row& row : rows()) {
     SCOPED_TRACE(row.name);
-    expect_each(all_engines(row.literal), [&](const Engine& engine) { return dialect::ExpSQL(engine, row.value); });
+    expect_each(all_engines(row.literal), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
   }
 }
 
@@ -127,7 +127,7 @@ float read_with(std::size_t digits, float number) {
 void expect_single_reads_back(std::uint32_t bits) {
   const auto number = std::bit_cast<float>(bits);
   if (!std::isfinite(number)) return;
-  const Text literal = dialect::ExpSQL(kSqlServer, number);
+  const Text literal = dialect::ExpSQL(Engine::SqlServer, number);
   if (read_back<float>(literal) != number) ADD_FAILURE() << "bits " << bits << " are" << to_utf8(literal);
 }
 
@@ -157,7 +157,7 @@ TEST_F(NumbersInSqlTest, SinglesHaveNoDigitTooMany) {
   for (int round = 0; round < 20000; ++round) {
     const auto number = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
     if (!std::isfinite(number)) continue;
-    const Text literal = dialect::ExpSQL(kJet, number);
+    const Text literal = dialect::ExpSQL(Engine::Jet, number);
     const std::size_t digits = significant_digits(literal);
     ASSERT_LE(digits, 9U) << to_utf8(literal);
     if (literal.find_first_of(u".E") == Text::npos) continue;
@@ -174,7 +174,7 @@ TEST_F(NumbersInSqlTest, DoublesReadBackExactly) {
   for (int round = 0; round < 200000; ++round) {
     const auto number = std::bit_cast<double>(random());
     if (!std::isfinite(number)) continue;
-    const Text literal = dialect::ExpSQL(kOracle, number);
+    const Text literal = dialect::ExpSQL(Engine::Oracle, number);
     ASSERT_EQ(read_back<double>(literal), number) << "round " << round << ":" << to_utf8(literal);
   }
 }
@@ -184,7 +184,7 @@ TEST_F(NumbersInSqlTest, DoublesOfEverydaySizeReadBackExactly) {
   std::mt19937_64 random(23);
   for (int round = 0; round < 50000; ++round) {
     const double number = std::ldexp(static_cast<double>(random() >> 11), -static_cast<int>(random() % 60));
-    const Text literal = dialect::ExpSQL(kOracle, -number);
+    const Text literal = dialect::ExpSQL(Engine::Oracle, -number);
     ASSERT_EQ(read_back<double>(literal), -number) << "round " << round << ":" << to_utf8(literal);
   }
 }

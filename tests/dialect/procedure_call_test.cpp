@@ -10,7 +10,7 @@ class ProcedureCallTest : public DialectTest {
  protected:
   ProcedureCallTest() { thread.log.take(); }
 
-  bool call(Value& parameters, const Engine& engine = kSqlServer) {
+  bool call(Value& parameters, Engine engine = Engine::SqlServer) {
     return dialect::EjecutarProcSQL7(engine, connection.get(), u"dbo.Alta", parameters);
   }
   // The parameters' values afterwards, in order.
@@ -44,8 +44,8 @@ TEST_F(ProcedureCallTest, PassesTheElementsAndGivesTheParametersBack) {
 }
 
 TEST_F(ProcedureCallTest, OnlySqlServerIsCalled) {
-  for (const Engine engine : {kJet, kOracle, kNoEngine, -1, 4}) {
-    SCOPED_TRACE(engine);
+  for (const Engine engine : {Engine::Jet, Engine::Oracle, kNoEngine, Engine{-1}, Engine{4}}) {
+    SCOPED_TRACE(number_of(engine));
     Value parameters = list({5});
     EXPECT_FALSE(call(parameters, engine));
     EXPECT_EQ(thread.log.take(), Lines());
@@ -129,7 +129,7 @@ TEST_F(ProcedureCallTest, AReturnValueThatIsNoNumberIsAFailure) {
 
 TEST_F(ProcedureCallTest, WithoutAConnectionItIsNotSet) {
   Value parameters = list({5});
-  EXPECT_EQ(thrown_by([&] { return dialect::EjecutarProcSQL7(kSqlServer, nullptr, u"p", parameters); }),
+  EXPECT_EQ(thrown_by([&] { return dialect::EjecutarProcSQL7(Engine::SqlServer, nullptr, u"p", parameters); }),
             "RuntimeFailure 91");
   EXPECT_EQ(thread.log.take(), (Lines{"new Command", "Command released"}));
 }

@@ -15,7 +15,7 @@ bool is_letter(char16_t unit) {
 
 class Tokenizer {
  public:
-  Tokenizer(dialect::Engine engine, TextView sql) : engine_(engine), rest_(sql) {}
+  Tokenizer(Engine engine, TextView sql) : engine_(engine), rest_(sql) {}
 
   Tokens all() {
     Tokens tokens;
@@ -32,12 +32,12 @@ class Tokenizer {
   std::optional<Token> next() {
     const char16_t first = rest_[0], second = rest_.size() > 1 ? rest_[1] : u'\0';
     if (first == u'\'') return literal(TokenKind::String);
-    if (engine_ == dialect::kSqlServer && first == u'N' && second == u'\'') {
+    if (engine_ == Engine::SqlServer && first == u'N' && second == u'\'') {
       rest_.remove_prefix(1);
       return literal(TokenKind::Unicode);
     }
-    if (engine_ == dialect::kJet && first == u'#') return jet_date();
-    if (engine_ == dialect::kSqlServer && first == u'{') return escape();
+    if (engine_ == Engine::Jet && first == u'#') return jet_date();
+    if (engine_ == Engine::SqlServer && first == u'{') return escape();
     if (is_digit(first) || (first == u'-' && is_digit(second))) return number();
     if (is_letter(first)) return word();
     if (TextView(u"(),=<>").find(first) == TextView::npos) return std::nullopt;
@@ -100,7 +100,7 @@ class Tokenizer {
 
   std::optional<Token> word() {
     Text content = take_while([](char16_t unit) { return is_letter(unit) || is_digit(unit); });
-    if (engine_ == dialect::kOracle && content == u"TO_DATE") return oracle_date();
+    if (engine_ == Engine::Oracle && content == u"TO_DATE") return oracle_date();
     return Token{TokenKind::Word, content};
   }
 
@@ -132,13 +132,13 @@ class Tokenizer {
     while (!rest_.empty() && TextView(u" \t\r\n").find(rest_[0]) != TextView::npos) rest_.remove_prefix(1);
   }
 
-  dialect::Engine engine_;
+  Engine engine_;
   TextView rest_;
 };
 
 }  // namespace
 
-Tokens tokens_of(dialect::Engine engine, TextView sql) { return Tokenizer(engine, sql).all(); }
+Tokens tokens_of(Engine engine, TextView sql) { return Tokenizer(engine, sql).all(); }
 
 void PrintTo(const Token& token, std::ostream* out) {
   constexpr const char* kKinds[] = {"Word", "String", "Unicode", "Number", "Date", "Punctuation", "Bad"};

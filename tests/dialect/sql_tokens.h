@@ -4,7 +4,7 @@
 #include <iosfwd>
 #include <vector>
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::tests {
 
@@ -27,6 +27,6 @@ using Tokens = std::vector<Token>;
 
 void PrintTo(const Token& token, std::ostream* out);
 
-Tokens tokens_of(dialect::Engine engine, TextView sql);
+Tokens tokens_of(Engine engine, TextView sql);
 
 }  // namespace qvr::tests

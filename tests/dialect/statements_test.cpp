@@ -43,7 +43,7 @@ TEST_F(StatementsTest, SqlINSERTWritesEveryValue) {
   for (const ListRow& row : kRows) {
     SCOPED_TRACE(row.name);
     expect_each(row.expected,
-                [&](const Engine& engine) { return dialect::SqlINSERT(engine, u"Clientes", row.values); });
+                [&](Engine engine) { return dialect::SqlINSERT(engine, u"Clientes", row.values); });
   }
 }
 
@@ -98,7 +98,7 @@ TEST_F(StatementsTest, SqlUPDATELeavesTheKeyOut) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    expect_each(row.expected, [&](const Engine& engine) {
+    expect_each(row.expected, [&](Engine engine) {
       return dialect::SqlUPDATE(engine, u"T", row.key, row.key_value, row.fields, row.values);
     });
   }
@@ -131,7 +131,7 @@ TEST_F(StatementsTest, SqlInsert2NamesTheColumns) {
   for (const PairRow& row : kRows) {
     SCOPED_TRACE(row.name);
     expect_each(row.expected,
-                [&](const Engine& engine) { return dialect::SqlInsert2(engine, u"Clientes", row.fields, row.values); });
+                [&](Engine engine) { return dialect::SqlInsert2(engine, u"Clientes", row.fields, row.values); });
   }
 }
 
@@ -161,7 +161,7 @@ TEST_F(StatementsTest, SqlUpdate2TakesAnyCondition) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    expect_each(row.expected, [&](const Engine& engine) {
+    expect_each(row.expected, [&](Engine engine) {
       return dialect::SqlUpdate2(engine, u"T", row.fields, row.values, row.condition);
     });
   }
@@ -169,12 +169,12 @@ TEST_F(StatementsTest, SqlUpdate2TakesAnyCondition) {
 
 TEST_F(StatementsTest, SqlINSERTAndSqlUPDATEThrowForWhatIsNoArray) {
   for (const Value& value : {Value(u"a"), Value(5), Value(), Value(Null{}), Value(Missing{}), object()}) {
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlINSERT(kJet, u"T", value); }), "RuntimeFailure 13");
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(kJet, u"T", u"k", 1, value, ana()); }), "RuntimeFailure 13");
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(kJet, u"T", u"k", 1, names(), value); }), "RuntimeFailure 13");
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlINSERT(Engine::Jet, u"T", value); }), "RuntimeFailure 13");
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(Engine::Jet, u"T", u"k", 1, value, ana()); }), "RuntimeFailure 13");
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(Engine::Jet, u"T", u"k", 1, names(), value); }), "RuntimeFailure 13");
   }
   for (const Value& value : {shapeless(), square({1, 2})}) {
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlINSERT(kJet, u"T", value); }), "CallerFailure 9");
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlINSERT(Engine::Jet, u"T", value); }), "CallerFailure 9");
   }
 }
 
@@ -200,9 +200,9 @@ TEST_F(StatementsTest, AllWithFieldsThrowForListsThatDoNotFit) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     const Value &fields = row.fields, &values = row.values;
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(kJet, u"T", u"k", 1, fields, values); }), row.thrown);
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlInsert2(kJet, u"T", fields, values); }), row.thrown);
-    EXPECT_EQ(thrown_by([&] { return dialect::SqlUpdate2(kJet, u"T", fields, values, u""); }), row.thrown);
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlUPDATE(Engine::Jet, u"T", u"k", 1, fields, values); }), row.thrown);
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlInsert2(Engine::Jet, u"T", fields, values); }), row.thrown);
+    EXPECT_EQ(thrown_by([&] { return dialect::SqlUpdate2(Engine::Jet, u"T", fields, values, u""); }), row.thrown);
   }
 }
 

@@ -50,7 +50,7 @@ TEST_F(TableRelationsTest, WritesTheJoinsOfEachEngine) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     expect_each({kJetHasNone, row.sql_server, row.oracle, u""},
-                [&](const Engine& engine) { return dialect::CondicionWhereRelacionTablas(engine, row.triples); });
+                [&](Engine engine) { return dialect::CondicionWhereRelacionTablas(engine, row.triples); });
   }
 }
 
@@ -77,12 +77,12 @@ TEST_F(TableRelationsTest, FailsForWhatIsNotWholeTriples) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    for (const Engine engine : {kSqlServer, kOracle}) {
-      SCOPED_TRACE(engine);
+    for (const Engine engine : {Engine::SqlServer, Engine::Oracle}) {
+      SCOPED_TRACE(number_of(engine));
       EXPECT_EQ(thrown_by([&] { return dialect::CondicionWhereRelacionTablas(engine, row.triples); }), row.thrown);
     }
     // These do not look at the elements.
-    expect_outcome(kJetHasNone, [&] { return dialect::CondicionWhereRelacionTablas(kJet, row.triples); });
+    expect_outcome(kJetHasNone, [&] { return dialect::CondicionWhereRelacionTablas(Engine::Jet, row.triples); });
     expect_outcome(u"", [&] { return dialect::CondicionWhereRelacionTablas(kNoEngine, row.triples); });
   }
 }
@@ -90,8 +90,7 @@ TEST_F(TableRelationsTest, FailsForWhatIsNotWholeTriples) {
 TEST_F(TableRelationsTest, IsEmptyForWhatIsNoArray) {
   const Value kNoArrays[] = {u"a", u"", 5, Empty{}, Null{}, Missing{}, object(), ObjectRef(), ErrorValue{5}};
   for (const Value& value : kNoArrays) {
-    expect_each(all_engines(u""),
-                [&](const Engine& engine) { return dialect::CondicionWhereRelacionTablas(engine, value); });
+    expect_each(all_engines(u""), [&](Engine engine) { return dialect::CondicionWhereRelacionTablas(engine, value); });
   }
 }
 

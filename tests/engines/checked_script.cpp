@@ -19,14 +19,14 @@ Text hexadecimal(TextView text) {
 
 }  // namespace
 
-TextView from_nothing(dialect::Engine engine) { return engine == dialect::kOracle ? u" FROM Dual" : u""; }
+TextView from_nothing(Engine engine) { return engine == Engine::Oracle ? u" FROM Dual" : u""; }
 
-Text is_text(dialect::Engine engine, TextView expression, TextView expected) {
-  if (expected.empty() && engine == dialect::kOracle) return join({expression, u" IS NULL"});
+Text is_text(Engine engine, TextView expression, TextView expected) {
+  if (expected.empty() && engine == Engine::Oracle) return join({expression, u" IS NULL"});
   return join({u"STRINGTOUTF8(", expression, u")=X'", hexadecimal(expected), u"'"});
 }
 
-CheckedScript::CheckedScript(dialect::Engine engine, int broken) : engine_(engine), broken_(broken) {
+CheckedScript::CheckedScript(Engine engine, int broken) : engine_(engine), broken_(broken) {
   run(u"CREATE TABLE Checks (Name VARCHAR(200), Passed INT)");
 }
 

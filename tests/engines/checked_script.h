@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::tests {
 
@@ -12,10 +12,10 @@ class CheckedScript {
  public:
   // `broken`: the number of a check, counted from 1, that is to fail whatever it finds; 0 for none. A proof that cannot
   // fail proves nothing.
-  CheckedScript(dialect::Engine engine, int broken);
+  CheckedScript(Engine engine, int broken);
 
-  dialect::Engine engine() const { return engine_; }
-  bool oracle() const { return engine_ == dialect::kOracle; }
+  Engine engine() const { return engine_; }
+  bool oracle() const { return engine_ == Engine::Oracle; }
 
   void run(TextView statement);
   // The condition must be true, not false and not unknown.
@@ -26,16 +26,16 @@ class CheckedScript {
   std::string finished() &&;
 
  private:
-  dialect::Engine engine_;
+  Engine engine_;
   int broken_, checks_ = 0;
   std::string text_;
 };
 
 // The condition that the expression is this text, by its bytes; an empty text is Null to Oracle.
-Text is_text(dialect::Engine engine, TextView expression, TextView expected);
+Text is_text(Engine engine, TextView expression, TextView expected);
 
 // What stands behind a select list that needs no table.
-TextView from_nothing(dialect::Engine engine);
+TextView from_nothing(Engine engine);
 
 void add_literals(CheckedScript& script);
 void add_patterns(CheckedScript& script);

@@ -14,7 +14,7 @@ Array list(std::initializer_list<TextView> items) {
 }
 
 void add_limits(CheckedScript& script) {
-  const dialect::Engine engine = script.engine();
+  const Engine engine = script.engine();
   if (script.oracle()) {
     const auto rows = [](TextView condition) {
       return join({u"(SELECT Count(*) FROM Numbers WHERE N>0", condition, u")=3"});
@@ -30,7 +30,7 @@ void add_limits(CheckedScript& script) {
 }
 
 void add_relations(CheckedScript& script) {
-  const dialect::Engine engine = script.engine();
+  const Engine engine = script.engine();
   script.run(u"CREATE TABLE Pairs (A INT, B INT)");
   script.run(u"INSERT INTO Pairs VALUES (1,5)");
   script.run(u"INSERT INTO Pairs VALUES (2,4)");
@@ -52,7 +52,7 @@ void add_relations(CheckedScript& script) {
 }  // namespace
 
 void add_clauses(CheckedScript& script) {
-  const dialect::Engine engine = script.engine();
+  const Engine engine = script.engine();
   script.run(u"CREATE TABLE Numbers (N INT, Name VARCHAR(20))");
   for (const TextView row : {u"1,'one'", u"2,'two'", u"3,'three'", u"4,NULL", u"5,'five'"}) {
     script.run(join({u"INSERT INTO Numbers VALUES (", row, u")"}));

@@ -13,7 +13,7 @@ int main(int count, char** arguments) {
     std::fputs("usage: engine_scripts sqlserver|oracle [NUMBER OF A CHECK TO BREAK]\n", stderr);
     return 2;
   }
-  tests::CheckedScript script(name == "oracle" ? dialect::kOracle : dialect::kSqlServer,
+  tests::CheckedScript script(name == "oracle" ? Engine::Oracle : Engine::SqlServer,
                               count > 2 ? std::atoi(arguments[2]) : 0);
   tests::add_literals(script);
   tests::add_patterns(script);

@@ -27,7 +27,7 @@ void fill(CheckedScript& script) {
 }
 
 // Ten columns of four tables.
-QueryRequest lines_of_orders(dialect::Engine engine) {
+QueryRequest lines_of_orders(Engine engine) {
   QueryRequest request;
   request.MotorBD = engine;
   request.NombreObjeto = u"Lineas";

@@ -24,7 +24,7 @@ constexpr SearchedType kTypes[] = {{u'T', u"VARCHAR(100)"},
                                    {u'L', u"SMALLINT"}};
 
 struct Literal {
-  dialect::Engine engine;
+  Engine engine;
 
   Text operator()(std::monostate) const { return u"Null"; }
   Text operator()(const Text& text) const { return dialect::ComillasSQL(text); }

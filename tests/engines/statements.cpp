@@ -34,7 +34,7 @@ void check_row(CheckedScript& script, const std::string& name, std::int32_t id, 
 }  // namespace
 
 void add_statements(CheckedScript& script) {
-  const dialect::Engine engine = script.engine();
+  const Engine engine = script.engine();
   script.run(u"CREATE TABLE Stock (Id INT, Content VARCHAR(5000), Amount NUMERIC(20,4), Since TIMESTAMP, Active INT)");
   std::int32_t id = 0;
   for (const HostileText& row : hostile_texts()) {

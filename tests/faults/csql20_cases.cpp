@@ -122,10 +122,10 @@ std::vector<FaultCase> creating_cases() {
   };
   struct NewOnOracle : Created {
     NewOnOracle() { request.RelacionTablas = list({u"C.Id", u"P.IdCli", u"L"}); }
-    QueryRequest request = full(kOracle);
+    QueryRequest request = full(Engine::Oracle);
   };
   static const QueryRequest kRequest = [] {
-    QueryRequest request = full(kSqlServer);
+    QueryRequest request = full(Engine::SqlServer);
     request.TablasFROM += u", Lineas L";
     request.RelacionTablas = list({u"C.Id", u"P.IdCli", u"L", u"P.Id", u"L.IdPed", u"I"});
     request.UsarDistinct = true;

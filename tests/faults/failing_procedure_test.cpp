@@ -16,7 +16,7 @@ using Broken = RecordingAdo::Broken;
 struct Call {
   Call() {
     ConnectionParameters of_engine;
-    of_engine.MotorBD = kSqlServer;
+    of_engine.MotorBD = Engine::SqlServer;
     cfp.Asignar(u"id", of_engine);
     thread.ado.procedure_outputs = {{0, 0}, {1, 7}, {2, u"out"}};
     thread.log.take();

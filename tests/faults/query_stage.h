@@ -40,8 +40,8 @@ struct SelectOn {
   TestThread thread;
   cSQL20 query;
 };
-using Select = SelectOn<kSqlServer, u'1'>;
-using FrenchSelect = SelectOn<kOracle, u'3'>;
+using Select = SelectOn<Engine::SqlServer, u'1'>;
+using FrenchSelect = SelectOn<Engine::Oracle, u'3'>;
 
 // Three of them with UNION between.
 struct Union {
@@ -49,7 +49,7 @@ struct Union {
     thread.load_language(u"1");
     thread.boxes.always = BoxAnswer::Ok;
     for (const TextView table : {u"Clientes", u"Proveedores de compras", u"Contactos"}) {
-      query.Crear(request(kSqlServer, list({u"C.Nombre de cada uno", u"T>Nombre", u"C.Alta", u"F+"}), Text(table)));
+      query.Crear(request(Engine::SqlServer, list({u"C.Nombre de cada uno", u"T>Nombre", u"C.Alta", u"F+"}), Text(table)));
       query.AmpliarCondicionWhere(u"C.Provincia='Madrid'", u"Provincia = Madrid");
     }
     query.AmpliarOrden(1);

@@ -29,9 +29,9 @@ struct Sql {
   std::unique_ptr<services::AdoCommand> command = thread.ado.new_command();
   Value parameters = list({5, u"a text that goes there"});
 };
-using Jet = Sql<kJet>;
-using Server = Sql<kSqlServer>;
-using Oracle = Sql<kOracle>;
+using Jet = Sql<Engine::Jet>;
+using Server = Sql<Engine::SqlServer>;
+using Oracle = Sql<Engine::Oracle>;
 using NoEngine = Sql<kNoEngine>;
 
 const Value kMoment = Date{40548.5}, kText = u"a text to write", kDayInText = u"05/01/2011";

@@ -45,7 +45,7 @@ std::vector<FaultCase> reading_cases() {
 }
 
 std::vector<FaultCase> changing_cases() {
-  static const QueryRequest kRequest = full(kSqlServer);
+  static const QueryRequest kRequest = full(Engine::SqlServer);
   std::vector<FaultCase> all = {
       on("uSQL20.Crear", "True", {"False"}, [](Union& u) { return u.query.Crear(kRequest); },
          {"Crear", "ConstruirSelect"}),
@@ -95,7 +95,7 @@ struct Single {
   Single() {
     thread.load_language(u"1");
     thread.boxes.always = BoxAnswer::Ok;
-    query.Crear(full(kSqlServer));
+    query.Crear(full(Engine::SqlServer));
     query.AmpliarCondicionWhere(u"C.Provincia='Madrid'", u"Provincia = Madrid");
   }
   std::string state() { return shown_query(query) + Select::text_in_language(); }

@@ -59,7 +59,7 @@ void check_any_bytes(FuzzInput& input) {
 void check_round_trip(FuzzInput& input) {
   TextProtection& protection = protection_of(input.choice("co"));
   ConnectionParameters parameters;
-  parameters.MotorBD = input.number();
+  parameters.MotorBD = static_cast<Engine>(input.number());
   const auto at = static_cast<std::uint32_t>(input.number());
   const auto by = static_cast<char>(input.number());
   for (Text* field :

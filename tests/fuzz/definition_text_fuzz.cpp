@@ -16,8 +16,8 @@ Text sealed(TextView text) { return query::DefinitionWriter(text).finished(); }
 
 Text described(const iSQL20& query) {
   return join({query.SQL(), u"|", query.SQLOriginal(), u"|", query.ParteOrder(true), u"|", query.CriterioActual(), u"|",
-               query.CriterioActualCompleto(), u"|", decimal(query.MotorBD()), u"|", decimal(query.TOP()), u"|",
-               decimal(query.NumColumnas())});
+               query.CriterioActualCompleto(), u"|", decimal(number_of(query.MotorBD())), u"|", decimal(query.TOP()),
+               u"|", decimal(query.NumColumnas())});
 }
 
 void require_empty(const cSQL20& query) {
@@ -57,7 +57,7 @@ void check_union(const Text& text) {
 
 QueryRequest two_columns() {
   QueryRequest request;
-  request.MotorBD = dialect::kSqlServer;
+  request.MotorBD = Engine::SqlServer;
   request.ColumnasSELECT = Array{{Value(u"Nombre"), Value(u"T"), Value(u"Alta"), Value(u"F")}, 0, 1};
   request.TablasFROM = u"Clientes";
   return request;

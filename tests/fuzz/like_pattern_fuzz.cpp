@@ -23,12 +23,12 @@ Text filled(const Pieces& pieces, const Text& filling) {
   return text;
 }
 
-void check_pattern(dialect::Engine engine, bool leading, bool trailing, const Text& text, const Text& other) {
+void check_pattern(Engine engine, bool leading, bool trailing, const Text& text, const Text& other) {
   const Text sql = dialect::PatronLikeMotor(engine, text, leading, trailing);
   const Tokens tokens = tokens_of(engine, sql);
   const bool escaped = text.find_first_of(u"%_") != Text::npos;
   require(tokens.size() == (escaped ? 3 : 1), "one literal and perhaps its escape", {text, sql});
-  const TokenKind kind = engine == dialect::kSqlServer ? TokenKind::Unicode : TokenKind::String;
+  const TokenKind kind = engine == Engine::SqlServer ? TokenKind::Unicode : TokenKind::String;
   require(tokens[0].kind == kind && (!escaped || tokens[1] == Token{TokenKind::Word, u"ESCAPE"}), "those", {sql});
   // No character is free to escape with when the text has all the candidates.
   if (escaped && tokens[2].content.empty()) return;
@@ -39,7 +39,7 @@ void check_pattern(dialect::Engine engine, bool leading, bool trailing, const Te
 }
 
 // Quotes inside end the operand early, and blanks of all kinds become plain ones, at the edges none.
-void check_quoted_search(dialect::Engine engine, char16_t type, const Text& text) {
+void check_quoted_search(Engine engine, char16_t type, const Text& text) {
   if (text.find_first_of(u"\"'\u2018\u2019\u201c\u201d") != Text::npos) return;
   if (text.empty() || query::normalised_search(text) != text) return;
   const auto found = query::interpret_search(engine, {u"X", type}, join({u"\"", text, u"\""}), u"X");
@@ -53,7 +53,7 @@ void check_quoted_search(dialect::Engine engine, char16_t type, const Text& text
 // The engine, whether "*" is added before and behind, the pattern and a candidate.
 void fuzz(FuzzInput& input) {
   fuzz_thread().speak(0);
-  const auto engine = static_cast<dialect::Engine>(1 + input.choice("123"));
+  const auto engine = static_cast<Engine>(1 + input.choice("123"));
   const std::size_t added = input.choice("-<>b");
   const Text text = input.text(), other = input.text();
   if (text.size() > 300 || other.size() > 300) return;  // the matcher is a plain one

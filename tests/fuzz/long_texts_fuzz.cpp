@@ -46,7 +46,7 @@ Value list_of(const Text& text) {
   return list;
 }
 
-QueryRequest request_of(dialect::Engine engine) {
+QueryRequest request_of(Engine engine) {
   QueryRequest request;
   request.MotorBD = engine;
   request.ColumnasSELECT = Array{{Value(u"X"), Value(u"T")}, 0, 1};
@@ -56,8 +56,8 @@ QueryRequest request_of(dialect::Engine engine) {
 
 void search(const Text& text) {
   for (const char16_t type : {u'T', u'M', u'N', u'F', u'L'}) {
-    const auto found = query::interpret_search(dialect::kSqlServer, {u"X", type}, text, u"X");
-    if (found) query::interpret_search(dialect::kSqlServer, {u"X", type}, TextView(found->criterion).substr(2), u"X");
+    const auto found = query::interpret_search(Engine::SqlServer, {u"X", type}, text, u"X");
+    if (found) query::interpret_search(Engine::SqlServer, {u"X", type}, TextView(found->criterion).substr(2), u"X");
   }
 }
 
@@ -69,7 +69,7 @@ void split_commands(const Text& text) {
 
 void prepare(const Text& text) {
   NoEvents events;
-  with_accounts(with_encryption(text, events), 3, {u"[", u"Clave", u"]", u"UsuarioQVRCli]", u"x"}, events);
+  with_accounts(with_encryption(text, events), Engine::Oracle, {u"[", u"Clave", u"]", u"UsuarioQVRCli]", u"x"}, events);
 }
 
 void decode(const Text& text) {
@@ -88,7 +88,7 @@ void define(const Text& text) {
 
 void take_criterion(const Text& text) {
   cSQL20 query;
-  query.Crear(request_of(dialect::kJet));
+  query.Crear(request_of(Engine::Jet));
   query.CriterioActualCompleto(text);
   query.AmpliarCondicionWhere(text, text);
   query.AmpliarCondicionWhere(text, text);
@@ -99,7 +99,7 @@ void take_criterion(const Text& text) {
 }
 
 void write_literals(const Text& text) {
-  for (const dialect::Engine engine : {dialect::kJet, dialect::kSqlServer, dialect::kOracle}) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
     dialect::PatronLikeMotor(engine, text, true, true);
     dialect::ExpSQL(engine, text);
   }
@@ -110,10 +110,10 @@ void write_literals(const Text& text) {
 
 void write_lists(const Text& text) {
   const Value list = list_of(text);
-  dialect::SqlInsert2(dialect::kOracle, u"t", list, list);
-  dialect::SqlUPDATE(dialect::kSqlServer, u"t", u"k", 1, list, list);
+  dialect::SqlInsert2(Engine::Oracle, u"t", list, list);
+  dialect::SqlUPDATE(Engine::SqlServer, u"t", u"k", 1, list, list);
   query::ConstruirJoins(u"a,b,c", list);
-  QueryRequest request = request_of(dialect::kOracle);
+  QueryRequest request = request_of(Engine::Oracle);
   request.ColumnasSELECT = list;
   request.RelacionTablas = list;
   cSQL20 query;

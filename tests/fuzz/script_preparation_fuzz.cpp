@@ -18,7 +18,7 @@ struct Steps final : ScriptEvents {
 // Engine, five account texts, then the script, in which a line end is typed as one.
 void fuzz(FuzzInput& input) {
   fuzz_thread().speak(0);
-  const auto motor = static_cast<std::int32_t>(input.choice("0123"));
+  const auto motor = static_cast<Engine>(input.choice("0123"));
   ScriptAccounts accounts;
   for (Text* account : {&accounts.NombreBaseOTablespace, &accounts.UsuarioQVRAdm, &accounts.ClaveUsuarioQVRAdm,
                         &accounts.UsuarioQVRCli, &accounts.ClaveUsuarioQVRCli}) {
@@ -31,7 +31,7 @@ void fuzz(FuzzInput& input) {
   steps.told = 0;
   const Text filled = with_accounts(text, motor, accounts, steps);
   require(filled == plainly_filled(text, motor, accounts, u"1200"), "filled in as plainly", {text, filled});
-  require(steps.told == (motor == 3 ? 6 : 5), "each word is told");
+  require(steps.told == (motor == Engine::Oracle ? 6 : 5), "each word is told");
 }
 
 }  // namespace qvr::tests

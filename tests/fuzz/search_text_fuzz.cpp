@@ -27,7 +27,7 @@ void fuzz(FuzzInput& input) {
   fuzz_thread().speak(input.choice(FuzzThread::kLanguages));
   const std::size_t type = input.choice(kTypes);
   const query::SearchColumn column{u"X", static_cast<char16_t>(kTypes[type])};
-  const auto engine = static_cast<dialect::Engine>(1 + input.choice("123"));
+  const auto engine = static_cast<Engine>(1 + input.choice("123"));
   const Text typed = input.text();
   const auto found = query::interpret_search(engine, column, typed, u"X");
   require(fuzz_thread().take_boxes().empty(), "nothing is shown", {typed});

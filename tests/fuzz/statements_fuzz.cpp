@@ -18,7 +18,6 @@
 namespace qvr::tests {
 namespace {
 
-using dialect::Engine;
 using enum TokenKind;
 
 // The number that a value is for an engine, if it is one.
@@ -47,15 +46,15 @@ Tokens tokens_for(Engine engine, const Value& value) {
   const Tokens literal = tokens_of(engine, dialect::ExpSQL(engine, value));
   const Tokens null = {{Word, u"Null"}};
   if (const Text* text = value.as<Text>()) {
-    const Text held = engine == dialect::kOracle ? text->substr(0, 4000) : *text;
+    const Text held = engine == Engine::Oracle ? text->substr(0, 4000) : *text;
     if (!equal_no_case(*text, u"AhoraSQL")) return {{String, held}};
     const Tokens clocks[] = {{{Word, u"Now"}, {Punctuation, u"("}, {Punctuation, u")"}},
                              {{Word, u"GetDate"}, {Punctuation, u"("}, {Punctuation, u")"}},
                              {{Word, u"SYSDATE"}}};
-    return clocks[engine - 1];
+    return clocks[number_of(engine) - 1];
   }
   if (const bool* truth = value.as<bool>()) {
-    if (engine == dialect::kJet) return {{Word, *truth ? u"True" : u"False"}};
+    if (engine == Engine::Jet) return {{Word, *truth ? u"True" : u"False"}};
     return {{Number, *truth ? u"1" : u"0"}};
   }
   if (const auto* date = value.as<qvr::Date>()) {

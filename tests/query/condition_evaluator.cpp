@@ -19,7 +19,7 @@ struct NoCondition {};
 
 class Evaluation {
  public:
-  Evaluation(dialect::Engine engine, TextView condition, const Cell& cell)
+  Evaluation(Engine engine, TextView condition, const Cell& cell)
       : engine_(engine), cell_(cell), tokens_(tokens_of(engine, condition)) {}
 
   bool whole() {
@@ -96,7 +96,7 @@ class Evaluation {
   }
 
   std::partial_ordering order_of(const Cell& left, const Cell& right) const {
-    if (const Text* text = std::get_if<Text>(&left); text != nullptr && engine_ == dialect::kJet) {
+    if (const Text* text = std::get_if<Text>(&left); text != nullptr && engine_ == Engine::Jet) {
       return in_capitals(*text) <=> in_capitals(std::get<Text>(right));
     }
     return left <=> right;
@@ -107,7 +107,7 @@ class Evaluation {
     const Token& token = tokens_[at_++];
     switch (token.kind) {
       case TokenKind::String:
-        if (engine_ == dialect::kOracle && token.content.empty()) return std::monostate();
+        if (engine_ == Engine::Oracle && token.content.empty()) return std::monostate();
         return token.content;
       case TokenKind::Unicode: return token.content;
       case TokenKind::Number: return std::strtod(to_utf8(token.content).c_str(), nullptr);
@@ -119,7 +119,7 @@ class Evaluation {
 
   Cell cell() const {
     const Text* text = std::get_if<Text>(&cell_);
-    return engine_ == dialect::kOracle && text != nullptr && text->empty() ? Cell() : cell_;
+    return engine_ == Engine::Oracle && text != nullptr && text->empty() ? Cell() : cell_;
   }
 
   Cell capitals(const Token& function) {
@@ -144,7 +144,7 @@ class Evaluation {
     return tokens_[at_++].content;
   }
 
-  dialect::Engine engine_;
+  Engine engine_;
   const Cell& cell_;
   Tokens tokens_;
   std::size_t at_ = 0;
@@ -165,7 +165,7 @@ std::optional<Moment> moment_in(TextView text) {
   return Moment{days * 86400 + (clock ? number(11, 2) * 3600 + number(14, 2) * 60 + number(17, 2) : 0)};
 }
 
-std::optional<bool> selects(dialect::Engine engine, TextView condition, const Cell& cell) {
+std::optional<bool> selects(Engine engine, TextView condition, const Cell& cell) {
   try {
     return Evaluation(engine, condition, cell).whole();
   } catch (const NoCondition&) {
@@ -173,6 +173,6 @@ std::optional<bool> selects(dialect::Engine engine, TextView condition, const Ce
   }
 }
 
-bool is_condition(dialect::Engine engine, TextView condition) { return selects(engine, condition, Cell()).has_value(); }
+bool is_condition(Engine engine, TextView condition) { return selects(engine, condition, Cell()).has_value(); }
 
 }  // namespace qvr::tests

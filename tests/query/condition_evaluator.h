@@ -5,7 +5,7 @@
 #include <optional>
 #include <variant>
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::tests {
 
@@ -19,9 +19,9 @@ std::optional<Moment> moment_in(TextView text);  // from "2011-01-05" or "2011-0
 using Cell = std::variant<std::monostate, Text, double, Moment>;  // nothing: null
 
 // The column is called X in the condition. Nothing for what is no condition that these engines read.
-std::optional<bool> selects(dialect::Engine engine, TextView condition, const Cell& cell);
+std::optional<bool> selects(Engine engine, TextView condition, const Cell& cell);
 
 // Whether it is nothing but tests of X against literals, joined and parenthesised.
-bool is_condition(dialect::Engine engine, TextView condition);
+bool is_condition(Engine engine, TextView condition);
 
 }  // namespace qvr::tests

@@ -31,10 +31,10 @@ TEST_F(Csql20CreateTest, DescriptorsNameTheColumns) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(join({row.expression, u" ", row.descriptor})));
     for (const Engine engine : kEngines) {
-      SCOPED_TRACE(engine);
+      SCOPED_TRACE(number_of(engine));
       cSQL20 query;
       ASSERT_TRUE(query.Crear(request(engine, list({row.expression, row.descriptor}))));
-      const TextView alias = engine == kOracle ? row.oracle_alias : engine == kNoEngine ? u"" : row.alias;
+      const TextView alias = engine == Engine::Oracle ? row.oracle_alias : engine == kNoEngine ? u"" : row.alias;
       EXPECT_EQ(query.SQLOriginal(), join({u"SELECT ", row.expression, alias, u"  FROM Clientes     "}));
       EXPECT_EQ(query.NumColumna(row.field), 1);
       EXPECT_EQ(query.TipoCampo(row.field), row.type);
@@ -45,7 +45,7 @@ TEST_F(Csql20CreateTest, DescriptorsNameTheColumns) {
 
 TEST_F(Csql20CreateTest, AColumnWithoutADescriptorHasNoType) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(request(kJet, list({u"Nombre", u"", Empty{}, Empty{}, 5, u"N"}))));
+  ASSERT_TRUE(query.Crear(request(Engine::Jet, list({u"Nombre", u"", Empty{}, Empty{}, 5, u"N"}))));
   EXPECT_EQ(query.SQLOriginal(), u"SELECT Nombre, , 5  FROM Clientes     ");
   EXPECT_EQ(query.NumColumna(u"Nombre"), 1);
   EXPECT_EQ(query.NumColumna(u""), 2);
@@ -76,7 +76,7 @@ TEST_F(Csql20CreateTest, DistinctAndTheLimitStandBeforeTheColumns) {
       wanted.TOP = row.top;
       cSQL20 query;
       ASSERT_TRUE(query.Crear(wanted));
-      const bool written = engine == kJet || engine == kSqlServer;
+      const bool written = engine == Engine::Jet || engine == Engine::SqlServer;
       EXPECT_EQ(query.SQLOriginal(), (written ? row.jet_and_sql_server : row.others) + u"  FROM Clientes     ");
       EXPECT_EQ(query.TOP(), row.top);
       EXPECT_EQ(query.MotorBD(), engine);
@@ -96,7 +96,8 @@ TEST_F(Csql20CreateTest, GroupsByTheFirstColumns) {
                            {3, u"GROUP BY C.Nombre, Year(C.Alta), C.Pais"}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.count);
-    QueryRequest wanted = request(kJet, list({u"C.Nombre", u"T+", u"Year(C.Alta)", u"N>A", u"C.Pais", u"T+"}, 1));
+    QueryRequest wanted = request(Engine::Jet,
+                                  list({u"C.Nombre", u"T+", u"Year(C.Alta)", u"N>A", u"C.Pais", u"T+"}, 1));
     wanted.NumColumnasGROUPBY = row.count;
     cSQL20 query;
     ASSERT_TRUE(query.Crear(wanted));
@@ -106,7 +107,7 @@ TEST_F(Csql20CreateTest, GroupsByTheFirstColumns) {
 }
 
 TEST_F(Csql20CreateTest, MoreGroupsThanColumnsFail) {
-  QueryRequest wanted = plain(kJet);
+  QueryRequest wanted = plain(Engine::Jet);
   wanted.NumColumnasGROUPBY = 2;
   cSQL20 query;
   EXPECT_FALSE(showing({failed(u"Crear", 9)}, [&] { return query.Crear(wanted); }));
@@ -120,13 +121,13 @@ TEST_F(Csql20CreateTest, MoreGroupsThanColumnsFail) {
 // Without a box: nothing failed, there is only nothing to make a query from.
 TEST_F(Csql20CreateTest, RefusesColumnsThatAreNoArray) {
   for (const Value& columns : {Value(u"Nombre"), Value(Empty{}), Value(Missing{}), Value(Null{}), Value(5), object()}) {
-    QueryRequest wanted = request(kOracle, columns);
+    QueryRequest wanted = request(Engine::Oracle, columns);
     wanted.TOP = 7;
     wanted.Idioma = 3;
     cSQL20 query;
     EXPECT_FALSE(query.Crear(wanted));
     EXPECT_FALSE(query.Creado());
-    EXPECT_EQ(query.MotorBD(), kOracle);
+    EXPECT_EQ(query.MotorBD(), Engine::Oracle);
     EXPECT_EQ(query.TOP(), 7);
     EXPECT_EQ(query.Idioma(), 3);
     EXPECT_EQ(query.TextoDefinicion(), u"");
@@ -165,7 +166,7 @@ TEST_F(Csql20CreateTest, TellsWhenTheColumnsCannotBeRead) {
 
 TEST_F(Csql20CreateTest, WithoutColumnsTheSelectIsCut) {
   cSQL20 query;
-  EXPECT_TRUE(query.Crear(request(kJet, list({}))));
+  EXPECT_TRUE(query.Crear(request(Engine::Jet, list({}))));
   EXPECT_TRUE(query.Creado());
   EXPECT_EQ(query.NumColumnas(), 0);
   EXPECT_EQ(query.SQLOriginal(), u"SELEC  FROM Clientes     ");
@@ -175,14 +176,14 @@ TEST_F(Csql20CreateTest, AnyLowerBoundWillDo) {
   for (const std::int32_t lower : {-7, 0, 1, 100, INT32_MAX - 4}) {
     SCOPED_TRACE(lower);
     cSQL20 query;
-    ASSERT_TRUE(query.Crear(request(kJet, list({u"a", u"T", u"b", u"N"}, lower))));
+    ASSERT_TRUE(query.Crear(request(Engine::Jet, list({u"a", u"T", u"b", u"N"}, lower))));
     EXPECT_EQ(query.SQLOriginal(), u"SELECT a, b  FROM Clientes     ");
   }
 }
 
 TEST_F(Csql20CreateTest, BeginsAnewEachTime) {
   cSQL20 query;
-  QueryRequest first = full(kSqlServer);
+  QueryRequest first = full(Engine::SqlServer);
   first.TOP = 5;
   first.UsarDistinct = true;
   first.Idioma = 3;
@@ -191,13 +192,13 @@ TEST_F(Csql20CreateTest, BeginsAnewEachTime) {
   EXPECT_TRUE(query.AmpliarCondicionWhere(u"a=1", u"uno"));
   EXPECT_TRUE(query.AmpliarCondicionHaving(u"b=2", u"dos"));
   EXPECT_FALSE(query.AmpliarOrden(1));
-  ASSERT_TRUE(query.Crear(plain(kJet)));
+  ASSERT_TRUE(query.Crear(plain(Engine::Jet)));
   EXPECT_EQ(query.SQL(), u"SELECT Nombre  FROM Clientes     ");
   EXPECT_EQ(query.CriterioActual(), u"");
   EXPECT_EQ(query.Tag(), u"");
   EXPECT_EQ(query.Idioma(), 0);
   EXPECT_EQ(query.NumColumnas(), 1);
-  EXPECT_FALSE(query.Crear(request(kJet, u"Nombre")));
+  EXPECT_FALSE(query.Crear(request(Engine::Jet, u"Nombre")));
   EXPECT_FALSE(query.Creado());
   EXPECT_EQ(query.SQL(), u"     ");
 }
@@ -215,7 +216,7 @@ TEST_F(Csql20CreateTest, TellsInTheLanguageOfTheThread) {
     SCOPED_TRACE(to_utf8(row.language));
     thread.load_language(row.language);
     cSQL20 query;
-    QueryRequest wanted = request(kJet, list({u"a"}));
+    QueryRequest wanted = request(Engine::Jet, list({u"a"}));
     wanted.Idioma = 2;  // of the object: the boxes are the thread's
     EXPECT_FALSE(showing({Text(row.box)}, [&] { return query.Crear(wanted); }));
   }

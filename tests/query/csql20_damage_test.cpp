@@ -18,7 +18,7 @@ class Csql20DamageTest : public QueryTest {
   // The text is refused with the box that names the procedure, and whatever the query was before is gone.
   void expect_refused(TextView text, std::int32_t number = 13) {
     cSQL20 query;
-    ASSERT_TRUE(query.Crear(full(kOracle)));
+    ASSERT_TRUE(query.Crear(full(Engine::Oracle)));
     EXPECT_FALSE(showing({failed(u"CreareDesdeTextoDefinicion", number)},
                          [&] { return query.CrearDesdeTextoDefinicion(text); }));
     EXPECT_FALSE(query.Creado());

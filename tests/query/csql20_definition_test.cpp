@@ -28,7 +28,7 @@ Text described(const cSQL20& query, std::initializer_list<TextView> fields) {
                     u"|",
                     decimal(query.TOP()),
                     u"|",
-                    decimal(query.MotorBD()),
+                    decimal(number_of(query.MotorBD())),
                     u"|",
                     decimal(query.NumColumnas())});
   for (const TextView field : fields) {
@@ -48,7 +48,7 @@ void narrow(cSQL20& query) {
 TEST_F(Csql20DefinitionTest, IsEmptyBeforeThereIsAQuery) {
   cSQL20 query;
   EXPECT_EQ(query.TextoDefinicion(), u"");
-  EXPECT_FALSE(query.Crear(request(kJet, u"Nombre")));
+  EXPECT_FALSE(query.Crear(request(Engine::Jet, u"Nombre")));
   EXPECT_EQ(query.TextoDefinicion(), u"");
 }
 
@@ -57,7 +57,7 @@ TEST_F(Csql20DefinitionTest, RebuildsAnEqualQuery) {
   for (const Engine engine : kEngines) {
     for (const bool distinct : {false, true}) {
       for (const std::int32_t top : {0, 5, -2}) {
-        SCOPED_TRACE(::testing::Message() << "engine " << engine << ", top " << top);
+        SCOPED_TRACE(::testing::Message() << "engine " << number_of(engine) << ", top " << top);
         QueryRequest wanted = full(engine);
         wanted.ColumnasSELECT = list({u"C.Nombre", u"T>Nombre", u"C.Alta", u"F>Alta", u"Count(*)", u"N>N\u00ba"});
         wanted.UsarDistinct = distinct;
@@ -86,7 +86,7 @@ TEST_F(Csql20DefinitionTest, RebuildsAnEqualQuery) {
 
 TEST_F(Csql20DefinitionTest, GivesEveryColumnAnAlias) {
   cSQL20 query, copy, third;
-  ASSERT_TRUE(query.Crear(full(kSqlServer)));
+  ASSERT_TRUE(query.Crear(full(Engine::SqlServer)));
   ASSERT_TRUE(copy.CrearDesdeTextoDefinicion(query.TextoDefinicion()));
   EXPECT_EQ(copy.SQL(),
             u"SELECT C.Nombre As [Nombre], C.Alta As [Alta], C.Notas As [Notas], Sum(P.Imp) As [Total]  "
@@ -101,7 +101,7 @@ TEST_F(Csql20DefinitionTest, GivesEveryColumnAnAlias) {
 // What became of the beginning of the select list: blanks that a limit left behind, a limit that has come since.
 TEST_F(Csql20DefinitionTest, KeepsTheSelectAsItBecame) {
   for (const std::vector<std::int32_t>& tops : {std::vector{5}, {5, 0}, {5, 0, 7}, {5, 0, 7, 0}}) {
-    QueryRequest wanted = request(kSqlServer, list({u"a", u"T>a"}));
+    QueryRequest wanted = request(Engine::SqlServer, list({u"a", u"T>a"}));
     cSQL20 query, copy;
     ASSERT_TRUE(query.Crear(wanted));
     for (const std::int32_t top : tops) query.TOP(top);
@@ -116,7 +116,7 @@ TEST_F(Csql20DefinitionTest, KeepsTheSelectAsItBecame) {
 
 TEST_F(Csql20DefinitionTest, TagAndLanguageStayWithTheirHolder) {
   cSQL20 query, copy;
-  QueryRequest wanted = plain(kJet);
+  QueryRequest wanted = plain(Engine::Jet);
   wanted.Idioma = 1;
   ASSERT_TRUE(query.Crear(wanted));
   query.Tag(u"uno");
@@ -155,7 +155,8 @@ TEST_F(Csql20DefinitionTest, KeepsWhateverItsTextsHold) {
                            u" "};
   for (const Text& text : kHostile) {
     SCOPED_TRACE(to_utf8(text));
-    QueryRequest wanted = request(kSqlServer, list({text, Text(u"T>") + text, u"b", text.substr(0, 1) + u">b"}), text);
+    QueryRequest wanted = request(Engine::SqlServer, list({text, Text(u"T>") + text, u"b", text.substr(0, 1) + u">b"}),
+                                  text);
     wanted.NombreObjeto = wanted.CondicionWHEREInicial = wanted.CondicionHAVINGInicial = text;
     wanted.TextoORDERBYInicial = text;
     wanted.NumColumnasGROUPBY = 1;
@@ -167,7 +168,7 @@ TEST_F(Csql20DefinitionTest, KeepsWhateverItsTextsHold) {
     EXPECT_EQ(described(copy, {text, u"b"}), described(query, {text, u"b"}));
     EXPECT_EQ(copy.TextoDefinicion(), query.TextoDefinicion());
     // And what was added alone, in a query with other conditions.
-    ASSERT_TRUE(third.Crear(plain(kSqlServer)));
+    ASSERT_TRUE(third.Crear(plain(Engine::SqlServer)));
     third.CriterioActualCompleto(query.CriterioActualCompleto());
     EXPECT_EQ(third.CriterioActual(), query.CriterioActual());
     EXPECT_EQ(third.CriterioActualCompleto(), query.CriterioActualCompleto());
@@ -184,7 +185,7 @@ TEST_F(Csql20DefinitionTest, HoldsVeryLongTexts) {
   for (int i = 1; i < 200000; ++i) keys += join({u",<*", decimal(i)});
   std::vector<Value> columns;
   for (int i = 0; i < 5000; ++i) columns.insert(columns.end(), {Value(u"c" + decimal(i)), Value(u"N>x" + decimal(i))});
-  QueryRequest wanted = request(kSqlServer, list(columns));
+  QueryRequest wanted = request(Engine::SqlServer, list(columns));
   wanted.CondicionWHEREInicial = keys;
   cSQL20 query, copy;
   ASSERT_TRUE(query.Crear(wanted));

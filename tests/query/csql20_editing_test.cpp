@@ -6,7 +6,7 @@ namespace {
 
 class Csql20EditingTest : public QueryTest {
  protected:
-  void SetUp() override { ASSERT_TRUE(query.Crear(full(kSqlServer))); }
+  void SetUp() override { ASSERT_TRUE(query.Crear(full(Engine::SqlServer))); }
 
   // Clicks on columns, none of which shows a box.
   void click(std::initializer_list<std::int16_t> columns) {

@@ -27,7 +27,7 @@ TEST_F(Csql20PropertiesTest, FindColumnsInAnyCase) {
   cSQL20 query;
   const Value columns = list(
       {u"C.A\u00f1o", u"F+", u"C.Pa\u00eds", u"T+", u"Max(C.A\u00f1o)", u"N>A\u00d1O", u"C.A\u00f1o", u"M"});
-  ASSERT_TRUE(query.Crear(request(kJet, columns)));
+  ASSERT_TRUE(query.Crear(request(Engine::Jet, columns)));
   EXPECT_EQ(query.NumColumnas(), 4);
   struct Row {
     TextView field;
@@ -50,7 +50,7 @@ TEST_F(Csql20PropertiesTest, FindColumnsInAnyCase) {
 
 TEST_F(Csql20PropertiesTest, TellOfAColumnThatIsNotThere) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(plain(kOracle)));
+  ASSERT_TRUE(query.Crear(plain(Engine::Oracle)));
   for (const TextView field : {u"Nombr", u"Nombre ", u"", u"a\u00f1o"}) {
     SCOPED_TRACE(to_utf8(field));
     EXPECT_EQ(query.NumColumna(field), 0);
@@ -68,7 +68,7 @@ TEST_F(Csql20PropertiesTest, CountColumnsUpToTheLargestPosition) {
   std::vector<Value> columns;
   for (int i = 0; i < INT16_MAX; ++i) columns.insert(columns.end(), {Value(join({u"c", decimal(i)})), Value(u"N")});
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(request(kJet, list(columns))));
+  ASSERT_TRUE(query.Crear(request(Engine::Jet, list(columns))));
   EXPECT_EQ(query.NumColumnas(), INT16_MAX);
   EXPECT_EQ(query.NumColumna(u"C32766"), INT16_MAX);
   EXPECT_FALSE(query.AmpliarOrden(INT16_MAX));
@@ -94,7 +94,7 @@ TEST_F(Csql20PropertiesTest, AWrittenLanguageIsTheThreadsToo) {
 
 TEST_F(Csql20PropertiesTest, CrearTakesALanguageForTheQueryAlone) {
   thread.load_language(u"1");
-  QueryRequest wanted = plain(kJet);
+  QueryRequest wanted = plain(Engine::Jet);
   wanted.Idioma = 3;
   cSQL20 query;
   EXPECT_EQ(query.Idioma(), 1);
@@ -105,7 +105,7 @@ TEST_F(Csql20PropertiesTest, CrearTakesALanguageForTheQueryAlone) {
 
 TEST_F(Csql20PropertiesTest, AnyNumberCanBeAnEngine) {
   cSQL20 query;
-  for (const Engine engine : {kOracle, kNoEngine, -1, INT32_MAX}) {
+  for (const Engine engine : {Engine::Oracle, kNoEngine, Engine{-1}, Engine{INT32_MAX}}) {
     query.MotorBD(engine);
     EXPECT_EQ(query.MotorBD(), engine);
   }
@@ -113,7 +113,7 @@ TEST_F(Csql20PropertiesTest, AnyNumberCanBeAnEngine) {
 
 TEST_F(Csql20PropertiesTest, TheTagIsTheCallers) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(full(kJet)));
+  ASSERT_TRUE(query.Crear(full(Engine::Jet)));
   const Text sql = query.SQL(), tag(u"mi\0nota \u00f1 <*cSQL_CRI*>", 22);
   query.Tag(tag);
   EXPECT_EQ(query.Tag(), tag);

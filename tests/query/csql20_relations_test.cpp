@@ -49,7 +49,7 @@ TEST_F(Csql20RelationsTest, WritesJoins) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    for (const Engine engine : {kJet, kSqlServer}) {
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer}) {
       cSQL20 query;
       ASSERT_TRUE(query.Crear(related(engine, row.tables, row.relations, u"a>1")));
       EXPECT_EQ(query.SQLOriginal(), join({u"SELECT a  FROM ", row.from, u"  WHERE a>1   "}));
@@ -108,7 +108,7 @@ TEST_F(Csql20RelationsTest, AreConditionsForOracle) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     cSQL20 query;
-    ASSERT_TRUE(query.Crear(related(kOracle, u" Clientes C,Pedidos P", row.relations, row.where)));
+    ASSERT_TRUE(query.Crear(related(Engine::Oracle, u" Clientes C,Pedidos P", row.relations, row.where)));
     EXPECT_EQ(query.SQLOriginal(), join({u"SELECT a  FROM  Clientes C,Pedidos P  ", row.condition, u"   "}));
   }
 }
@@ -134,7 +134,7 @@ TEST_F(Csql20RelationsTest, WithoutAnEngineTheyLeaveATornCondition) {
 
 TEST_F(Csql20RelationsTest, OracleTellsOfALetterThatItHasNot) {
   cSQL20 query;
-  const auto create = [&] { return query.Crear(related(kOracle, u"T1, T2", list({u"a", u"b", u"x"}), u"a=1")); };
+  const auto create = [&] { return query.Crear(related(Engine::Oracle, u"T1, T2", list({u"a", u"b", u"x"}), u"a=1")); };
   EXPECT_TRUE(showing({u"Relaci\u00f3n incorrecta en CondicionWhereRelacionTablas: X"}, create));
   EXPECT_EQ(query.SQLOriginal(), u"SELECT a  FROM T1, T2  WHERE  And (a=1)   ");
 }
@@ -156,8 +156,8 @@ TEST_F(Csql20RelationsTest, FailInCrear) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
-    for (const Engine engine : {kJet, kSqlServer, kOracle}) {
-      SCOPED_TRACE(engine);
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+      SCOPED_TRACE(number_of(engine));
       cSQL20 query;
       const auto create = [&] { return query.Crear(related(engine, u"T1, T2", row.relations)); };
       EXPECT_FALSE(showing({failed(u"Crear", row.number)}, create));
@@ -165,7 +165,7 @@ TEST_F(Csql20RelationsTest, FailInCrear) {
     }
   }
   cSQL20 query;
-  const auto create = [&] { return query.Crear(related(kOracle, u"T1, T2", list({}))); };
+  const auto create = [&] { return query.Crear(related(Engine::Oracle, u"T1, T2", list({}))); };
   EXPECT_FALSE(showing({failed(u"Crear", 5)}, create)) << "Oracle has no empty condition";
 }
 

@@ -10,7 +10,7 @@
 namespace qvr::tests {
 namespace {
 
-QueryRequest request_for(dialect::Engine engine) {
+QueryRequest request_for(Engine engine) {
   QueryRequest request;
   request.MotorBD = engine;
   request.ColumnasSELECT = list({Text(u"C.Nombre"), Text(u"T+"), Text(u"C.Alta"), Text(u"F+"), Text(u"Sum(L.Imp)"),
@@ -24,7 +24,7 @@ class Search : public ::testing::Test {
  protected:
   Search() {
     speak(thread, kSpanish);
-    query.Crear(request_for(kJet));
+    query.Crear(request_for(Engine::Jet));
   }
   bool search(TextView field, TextView text, TextView criterion = {}) {
     return query.InterpretarBusqueda(field, text, criterion);
@@ -53,7 +53,7 @@ TEST_F(Search, NarrowsTheGroupsByAnyOtherColumn) {
 }
 
 TEST_F(Search, NarrowsTheRowsOfAQueryWithoutGroups) {
-  QueryRequest request = request_for(kJet);
+  QueryRequest request = request_for(Engine::Jet);
   request.NumColumnasGROUPBY = 0;
   query.Crear(request);
   EXPECT_TRUE(search(u"Total", u">1000"));
@@ -79,7 +79,7 @@ TEST_F(Search, IsNotMadeTwice) {
 
 // Two alternatives and the last end of a range are one text, but "Zoe" is within the one only.
 TEST_F(Search, IsNotTakenForAPartOfAnEarlierOne) {
-  for (const dialect::Engine engine : {kJet, kSqlServer, kOracle}) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
     query.Crear(request_for(engine));
     EXPECT_TRUE(search(u"Nombre", u"a..C; z"));
     EXPECT_TRUE(search(u"Nombre", u"<=c; C*"));
@@ -121,10 +121,10 @@ TEST_F(Search, SpeaksTheLanguageInForce) {
 
 TEST_F(Search, OfAUnionAsksAllItsMembers) {
   uSQL20 both;
-  QueryRequest other = request_for(kOracle);
+  QueryRequest other = request_for(Engine::Oracle);
   other.ColumnasSELECT = list({Text(u"P.Nombre"), Text(u"T+")});
   other.NumColumnasGROUPBY = 0;
-  ASSERT_TRUE(both.Crear(request_for(kJet)) && both.Crear(other));
+  ASSERT_TRUE(both.Crear(request_for(Engine::Jet)) && both.Crear(other));
   EXPECT_TRUE(both.InterpretarBusqueda(u"Nombre", u"ana", u""));
   EXPECT_NE(both.SQL().find(u"(C.Nombre LIKE '%ana%')"), Text::npos);
   EXPECT_NE(both.SQL().find(u"( UPPER(P.Nombre) LIKE UPPER('%ana%'))"), Text::npos);

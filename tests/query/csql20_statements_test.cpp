@@ -35,13 +35,13 @@ TEST_F(Csql20StatementsTest, AreBlanksBeforeThereIsAQuery) {
 
 TEST_F(Csql20StatementsTest, AbsentClausesLeaveTheirBlanks) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(plain(kSqlServer)));
+  ASSERT_TRUE(query.Crear(plain(Engine::SqlServer)));
   const Text ordered = u"SELECT Nombre  FROM Clientes     ", unordered = u"SELECT Nombre  FROM Clientes    ";
   EXPECT_EQ(statements_of(query), (Statements{ordered, unordered, ordered, unordered}));
 }
 
 TEST_F(Csql20StatementsTest, HoldEveryClause) {
-  for (const Engine engine : {kJet, kSqlServer}) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer}) {
     cSQL20 query;
     ASSERT_TRUE(query.Crear(full(engine)));
     const Text unordered = join({kJoined, u"WHERE C.Baja=0", kGrouped, u"HAVING Sum(P.Imp)>0"});
@@ -58,7 +58,7 @@ TEST_F(Csql20StatementsTest, HoldEveryClause) {
 }
 
 TEST_F(Csql20StatementsTest, OracleHasItsLimitInTheCurrentConditionOnly) {
-  QueryRequest wanted = full(kOracle);
+  QueryRequest wanted = full(Engine::Oracle);
   wanted.TOP = 10;
   cSQL20 query;
   ASSERT_TRUE(query.Crear(wanted));
@@ -72,7 +72,7 @@ TEST_F(Csql20StatementsTest, OracleHasItsLimitInTheCurrentConditionOnly) {
 
 // Blank is not empty: a clause of blanks is none in the current statement, but one in the original.
 TEST_F(Csql20StatementsTest, ABlankClauseStaysInTheOriginal) {
-  QueryRequest wanted = plain(kJet);
+  QueryRequest wanted = plain(Engine::Jet);
   wanted.CondicionWHEREInicial = wanted.CondicionHAVINGInicial = wanted.TextoORDERBYInicial = u"  ";
   cSQL20 query;
   ASSERT_TRUE(query.Crear(wanted));
@@ -102,14 +102,14 @@ TEST_F(Csql20StatementsTest, ParteWhereJoinsWhatThereIs) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(join({row.original, u" / ", row.added, u" / ", decimal(row.top)})));
     for (const Engine engine : kEngines) {
-      SCOPED_TRACE(engine);
+      SCOPED_TRACE(number_of(engine));
       QueryRequest wanted = plain(engine);
       wanted.CondicionWHEREInicial = row.original;
       wanted.TOP = row.top;
       cSQL20 query;
       ASSERT_TRUE(query.Crear(wanted));
       EXPECT_EQ(query.AmpliarCondicionWhere(row.added, u""), !row.added.empty());
-      const TextView condition = engine == kOracle ? row.oracle_condition : row.condition;
+      const TextView condition = engine == Engine::Oracle ? row.oracle_condition : row.condition;
       EXPECT_EQ(query.ParteWhere(true), condition);
       EXPECT_EQ(query.ParteWhere(false), condition.empty() ? Text() : join({u"WHERE ", condition}));
     }
@@ -130,7 +130,7 @@ TEST_F(Csql20StatementsTest, ParteHavingAndParteOrder) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(join({row.having, u" / ", row.added})));
-    QueryRequest wanted = plain(kOracle);
+    QueryRequest wanted = plain(Engine::Oracle);
     wanted.CondicionHAVINGInicial = row.having;
     wanted.TextoORDERBYInicial = row.order;
     cSQL20 query;

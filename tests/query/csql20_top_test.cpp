@@ -37,7 +37,7 @@ TEST_F(Csql20TopTest, ComesGoesAndChanges) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(to_utf8(join({row.select, u" from ", decimal(row.first)})));
     for (const Engine engine : kEngines) {
-      SCOPED_TRACE(engine);
+      SCOPED_TRACE(number_of(engine));
       QueryRequest wanted = plain(engine);
       wanted.UsarDistinct = row.distinct;
       wanted.TOP = row.first;
@@ -45,7 +45,7 @@ TEST_F(Csql20TopTest, ComesGoesAndChanges) {
       ASSERT_TRUE(query.Crear(wanted));
       for (const std::int32_t top : row.next) query.TOP(top);
       EXPECT_EQ(query.TOP(), row.top);
-      const bool written = engine == kJet || engine == kSqlServer;
+      const bool written = engine == Engine::Jet || engine == Engine::SqlServer;
       const TextView unlimited = row.distinct ? u"SELECT DISTINCT Nombre" : u"SELECT Nombre";
       EXPECT_EQ(query.SQLOriginal(), join({written ? row.select : unlimited, kRest}));
     }
@@ -56,7 +56,7 @@ TEST_F(Csql20TopTest, DoesNothingBeforeThereIsAQuery) {
   cSQL20 query;
   query.TOP(5);
   EXPECT_EQ(query.TOP(), 0);
-  QueryRequest refused = request(kJet, u"Nombre");
+  QueryRequest refused = request(Engine::Jet, u"Nombre");
   refused.TOP = 7;
   EXPECT_FALSE(query.Crear(refused));
   query.TOP(5);
@@ -65,7 +65,7 @@ TEST_F(Csql20TopTest, DoesNothingBeforeThereIsAQuery) {
 
 TEST_F(Csql20TopTest, OfOracleIsInTheCondition) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(plain(kOracle)));
+  ASSERT_TRUE(query.Crear(plain(Engine::Oracle)));
   query.TOP(5);
   EXPECT_EQ(query.SQL(), u"SELECT Nombre  FROM Clientes  WHERE  (RowNum<=5)    ");
   query.TOP(6);
@@ -79,7 +79,7 @@ TEST_F(Csql20TopTest, OfOracleIsInTheCondition) {
 // goes, and neither changes what was adopted from the current condition.
 TEST_F(Csql20TopTest, ChangesALimitInTheOriginalCondition) {
   for (const Engine engine : kEngines) {
-    SCOPED_TRACE(engine);
+    SCOPED_TRACE(number_of(engine));
     QueryRequest wanted = plain(engine);
     wanted.TOP = 5;
     wanted.CondicionWHEREInicial =
@@ -91,7 +91,7 @@ TEST_F(Csql20TopTest, ChangesALimitInTheOriginalCondition) {
     constexpr TextView kChanged =
         u"WHERE a=1 And ROWNUM<=7 And b<=5 And (ROWNUM<=5) Or ROWNUM<=7 Or ROWNUM<=55 Or "
         u"ROWNUM<=5";
-    const Text limit = engine == kOracle ? u" And (RowNum<=7) " : u"";
+    const Text limit = engine == Engine::Oracle ? u" And (RowNum<=7) " : u"";
     EXPECT_NE(query.SQLOriginalSinOrden().find(join({u"  ", kChanged, u"  "})), Text::npos);
     EXPECT_EQ(query.ParteWhere(false), join({kChanged, u" And ( ROWNUM<=5 )", limit}));
     query.TOP(0);
@@ -103,7 +103,7 @@ TEST_F(Csql20TopTest, ChangesALimitInTheOriginalCondition) {
 }
 
 TEST_F(Csql20TopTest, AnAdoptedLimitStays) {
-  QueryRequest wanted = plain(kOracle);
+  QueryRequest wanted = plain(Engine::Oracle);
   wanted.TOP = 5;
   cSQL20 query;
   ASSERT_TRUE(query.Crear(wanted));
@@ -118,7 +118,7 @@ TEST_F(Csql20TopTest, AnAdoptedLimitStays) {
 // Every such text of the select list is a limit to it.
 TEST_F(Csql20TopTest, ChangesEachLimitInTheSelectList) {
   const Value columns = list({u"a", u"T", u"(Select top 5 b From c)", u"N>b", u"' TOP 55 '", u"T"});
-  QueryRequest wanted = request(kSqlServer, columns);
+  QueryRequest wanted = request(Engine::SqlServer, columns);
   wanted.TOP = 5;
   cSQL20 query;
   ASSERT_TRUE(query.Crear(wanted));
@@ -131,12 +131,12 @@ TEST_F(Csql20TopTest, ChangesEachLimitInTheSelectList) {
 
 TEST_F(Csql20TopTest, FollowsAnotherEngine) {
   cSQL20 query;
-  ASSERT_TRUE(query.Crear(plain(kOracle)));
-  query.MotorBD(kSqlServer);
+  ASSERT_TRUE(query.Crear(plain(Engine::Oracle)));
+  query.MotorBD(Engine::SqlServer);
   EXPECT_EQ(query.SQLOriginal(), u"SELECT Nombre  FROM Clientes     ");
   query.TOP(5);
   EXPECT_EQ(query.SQL(), u"SELECT  TOP 5 Nombre  FROM Clientes     ");
-  query.MotorBD(kOracle);
+  query.MotorBD(Engine::Oracle);
   EXPECT_EQ(query.SQL(), u"SELECT  TOP 5 Nombre  FROM Clientes  WHERE  (RowNum<=5)    ");
   query.TOP(4);
   EXPECT_EQ(query.SQL(), u"SELECT  TOP 4 Nombre  FROM Clientes  WHERE  (RowNum<=4)    ");

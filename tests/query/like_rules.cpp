@@ -41,11 +41,11 @@ Text in_capitals(TextView text) {
 }
 
 // Which beginnings of the text the parts so far can stand for.
-bool is_like(dialect::Engine engine, TextView text, TextView pattern, TextView escape) {
-  if (engine == dialect::kJet) return is_like(dialect::kSqlServer, in_capitals(text), in_capitals(pattern), escape);
+bool is_like(Engine engine, TextView text, TextView pattern, TextView escape) {
+  if (engine == Engine::Jet) return is_like(Engine::SqlServer, in_capitals(text), in_capitals(pattern), escape);
   std::vector<bool> reached(text.size() + 1);
   reached[0] = true;
-  for (const Part& part : parts_of(pattern, escape, engine == dialect::kSqlServer)) {
+  for (const Part& part : parts_of(pattern, escape, engine == Engine::SqlServer)) {
     std::vector<bool> next(text.size() + 1);
     for (std::size_t i = 0; i <= text.size(); ++i) {
       if (part.kind == Part::AnyRun) {

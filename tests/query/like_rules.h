@@ -1,7 +1,7 @@
 // How the three engines understand LIKE.
 #pragma once
 
-#include "dialect/engine.h"
+#include "base/engine.h"
 
 namespace qvr::tests {
 
@@ -9,6 +9,6 @@ Text in_capitals(TextView text);
 
 // Jet takes no notice of case and knows sets in brackets, SQL Server sets and an escape character, Oracle only the
 // latter. The two compare case as it stands: columns may have such a collation.
-bool is_like(dialect::Engine engine, TextView text, TextView pattern, TextView escape);
+bool is_like(Engine engine, TextView text, TextView pattern, TextView escape);
 
 }  // namespace qvr::tests

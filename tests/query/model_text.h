@@ -21,13 +21,13 @@ inline Text number(std::int64_t value) {
   return {digits.begin(), digits.end()};
 }
 
-inline Text alias(dialect::Engine engine, const Text& name) {
-  if (engine == 1 || engine == 2) return u" As [" + name + u"]";
-  return engine == 3 ? u" \"" + name + u"\"" : Text();
+inline Text alias(Engine engine, const Text& name) {
+  if (engine == Engine::Jet || engine == Engine::SqlServer) return u" As [" + name + u"]";
+  return engine == Engine::Oracle ? u" \"" + name + u"\"" : Text();
 }
 
-inline Text top_mark(dialect::Engine engine, std::int32_t top) {
-  return (engine == 1 || engine == 2) && top > 0 ? u" TOP " + number(top) + u" " : Text();
+inline Text top_mark(Engine engine, std::int32_t top) {
+  return (engine == Engine::Jet || engine == Engine::SqlServer) && top > 0 ? u" TOP " + number(top) + u" " : Text();
 }
 
 }  // namespace qvr::tests

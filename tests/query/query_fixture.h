@@ -6,7 +6,7 @@
 
 namespace qvr::tests {
 
-inline constexpr Engine kEngines[] = {kJet, kSqlServer, kOracle, kNoEngine};
+inline constexpr Engine kEngines[] = {Engine::Jet, Engine::SqlServer, Engine::Oracle, kNoEngine};
 
 inline QueryRequest request(Engine engine, Value columns, Text tables = u"Clientes") {
   QueryRequest request;

@@ -5,7 +5,7 @@
 namespace qvr::tests {
 namespace {
 
-void create(cSQL20& query, const dialect::Engine& engine) {
+void create(cSQL20& query, Engine engine) {
   QueryRequest request;
   request.MotorBD = engine;
   request.NombreObjeto = u"Clientes";
@@ -21,7 +21,7 @@ void create(cSQL20& query, const dialect::Engine& engine) {
 }
 
 ManualCall after(std::string call, std::function<Text(cSQL20&)> use) {
-  return {std::move(call), [use = std::move(use)](const dialect::Engine& engine) {
+  return {std::move(call), [use = std::move(use)](Engine engine) {
             cSQL20 query;
             create(query, engine);
             return use(query);

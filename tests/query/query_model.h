@@ -22,7 +22,7 @@ struct SelectParts {
   Text tag;
   bool created = false, distinct = false;
   std::int32_t top = 0, language = 0;
-  dialect::Engine engine = 0;
+  Engine engine = Engine::None;
 };
 
 // What models share as queries share a thread. Their texts of definitions and criteria are positions in here.
@@ -71,8 +71,8 @@ class SelectModel {
   void TOP(std::int32_t top);
   std::int32_t Idioma() const { return parts_.language; }
   void Idioma(std::int32_t language) { parts_.language = thread_->language = language; }
-  dialect::Engine MotorBD() const { return parts_.engine; }
-  void MotorBD(dialect::Engine engine) { parts_.engine = engine; }
+  Engine MotorBD() const { return parts_.engine; }
+  void MotorBD(Engine engine) { parts_.engine = engine; }
 
  private:
   bool extend(Text& added, TextView condition, TextView criterion);
@@ -112,8 +112,8 @@ class UnionModel {
   void TOP(std::int32_t top);
   std::int32_t Idioma() const;
   void Idioma(std::int32_t language);
-  dialect::Engine MotorBD() const;
-  void MotorBD(dialect::Engine engine);
+  Engine MotorBD() const;
+  void MotorBD(Engine engine);
 
  private:
   ModelThread* thread_;

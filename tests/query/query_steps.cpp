@@ -10,7 +10,7 @@ constexpr TextView kWords[] = {u"",          u" ",           u"a=1", u"A=1",
 constexpr TextView kOriginals[] = {u"", u"", u"  ", u"C.Baja=0", u"C.Baja=0 And RowNum<=5 Or b", u"x or ROWNUM<=50 "};
 constexpr std::int32_t kTops[] = {0, 0, 5, 5, 7, 50, -1};
 constexpr std::int32_t kLanguages[] = {0, 1, 3};
-constexpr dialect::Engine kEngines[] = {dialect::kJet, dialect::kSqlServer, dialect::kOracle, 0};
+constexpr Engine kEngines[] = {Engine::Jet, Engine::SqlServer, Engine::Oracle, Engine::None};
 
 QueryRequest chosen_request(Choices& choices) {
   constexpr TextView kColumns[][2] = {{u"C.Nombre", u"T+"},        {u"C.Alta", u"F>Alta"}, {u"C.Notas", u"M"},

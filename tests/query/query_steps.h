@@ -30,7 +30,7 @@ struct Step {
   TextView first, second;
   int column;
   std::int32_t top, language;
-  dialect::Engine engine;
+  Engine engine;
   std::size_t slot;
   QueryRequest request;
 };
@@ -94,7 +94,7 @@ struct Subject {
                                query.CriterioActual(),
                                query.Tag(),
                                decimal(query.TOP()),
-                               decimal(query.MotorBD()),
+                               decimal(number_of(query.MotorBD())),
                                decimal(query.NumColumnas()),
                                query.Creado() ? u"created" : u"none"};
     for (const TextView field : kStepFields) {

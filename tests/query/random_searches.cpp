@@ -65,7 +65,7 @@ MeantSearch RandomSearches::atom(char16_t letter) {
 
 MeantSearch RandomSearches::null_atom() {
   constexpr TextView kNull[] = {u"Es Nulo", u"is null", u"= EST NUL"}, kNotNull[] = {u"<>Es Nulo", u"! is null"};
-  const bool oracle = engine_ == dialect::kOracle;
+  const bool oracle = engine_ == Engine::Oracle;
   const auto null = [oracle](const Cell& cell) {
     const Text* text = std::get_if<Text>(&cell);
     return is_null(cell) || (oracle && text != nullptr && text->empty());

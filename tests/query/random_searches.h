@@ -19,7 +19,7 @@ struct MeantSearch {
 // column's type: T, M, N, F or L. On 5 January 2011.
 class RandomSearches {
  public:
-  RandomSearches(std::uint64_t seed, const FakeLocale& locale, dialect::Engine engine)
+  RandomSearches(std::uint64_t seed, const FakeLocale& locale, Engine engine)
       : random_(seed), locale_(locale), engine_(engine) {}
 
   MeantSearch next(char16_t letter);
@@ -58,7 +58,7 @@ class RandomSearches {
 
   std::mt19937_64 random_;
   const FakeLocale& locale_;
-  dialect::Engine engine_;
+  Engine engine_;
 };
 
 }  // namespace qvr::tests

@@ -33,7 +33,7 @@ std::function<bool(const Cell&)> text_test(bool empty_is_null, Test test) {
 
 // Memos are compared as they stand by SQL Server: only the words in small letters mean the same to all.
 MeantSearch RandomSearches::text_atom(bool memo) {
-  const bool oracle = engine_ == dialect::kOracle, by_case = memo && engine_ == dialect::kSqlServer;
+  const bool oracle = engine_ == Engine::Oracle, by_case = memo && engine_ == Engine::SqlServer;
   const auto word_of = [&] { return Text(by_case ? one_of(kPlainWords) : one_of(kWords)); };
   const Text word = word_of(), capitals = in_capitals(word);
   const auto contains = text_test(oracle, [=](const Text& t) { return t.find(capitals) != Text::npos; });
@@ -79,7 +79,7 @@ MeantSearch RandomSearches::text_atom(bool memo) {
 }
 
 MeantSearch RandomSearches::ordered_text_atom() {
-  const bool oracle = engine_ == dialect::kOracle;
+  const bool oracle = engine_ == Engine::Oracle;
   const Text a = in_capitals(one_of(kEnds)), b = in_capitals(one_of(kEnds));
   switch (below(5)) {
     case 0: return {u">=" + a, text_test(oracle, [=](const Text& t) { return t >= a; })};
@@ -99,7 +99,7 @@ MeantSearch RandomSearches::text_range(TextView a, TextView b) {
   constexpr TextView kQuotes[] = {u"", u"'", u"\""};
   const TextView around_a = one_of(kQuotes), around_b = one_of(kQuotes);
   const Text typed = join({around_a, a, around_a, u"..", around_b, b, around_b});
-  return {typed, text_test(engine_ == dialect::kOracle,
+  return {typed, text_test(engine_ == Engine::Oracle,
                            [=](const Text& t) { return t >= low && (t <= high || t.starts_with(high)); })};
 }
 

@@ -17,12 +17,12 @@ void speak(TestThread& thread, UserLanguage language) {
   thread.locale.day_first = language != kEnglish;
 }
 
-Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search) {
+Text interpreted(const query::SearchColumn& column, Engine engine, TextView search) {
   const auto found = query::interpret_search(engine, column, search, label_of(column));
   return found ? join({found->condition, u" | ", found->criterion}) : Text(u"no search");
 }
 
-void SpanishSearch::expect(const query::SearchColumn& column, dialect::Engine engine,
+void SpanishSearch::expect(const query::SearchColumn& column, Engine engine,
                            std::initializer_list<SearchRow> rows) {
   for (const SearchRow& row : rows) {
     const Text expected = row.condition.empty() ? Text(u"no search") : join({row.condition, u" | ", row.criterion});

@@ -15,9 +15,9 @@ enum class UserLanguage { Spanish, English, French };
 inline constexpr UserLanguage kSpanish = UserLanguage::Spanish, kEnglish = UserLanguage::English,
                               kFrench = UserLanguage::French;
 
-using dialect::kJet;
-using dialect::kOracle;
-using dialect::kSqlServer;
+using Engine::Jet;
+using Engine::Oracle;
+using Engine::SqlServer;
 
 // What the column is called in the criteria.
 TextView label_of(const query::SearchColumn& column);
@@ -26,7 +26,7 @@ TextView label_of(const query::SearchColumn& column);
 void speak(TestThread& thread, UserLanguage language);
 
 // "condition | criterion", or "no search".
-Text interpreted(const query::SearchColumn& column, dialect::Engine engine, TextView search);
+Text interpreted(const query::SearchColumn& column, Engine engine, TextView search);
 
 struct SearchRow {
   TextView search, condition, criterion = {};  // no condition: no search
@@ -36,7 +36,7 @@ struct SearchRow {
 class SpanishSearch : public ::testing::Test {
  protected:
   SpanishSearch() { speak(thread, kSpanish); }
-  static void expect(const query::SearchColumn& column, dialect::Engine engine, std::initializer_list<SearchRow> rows);
+  static void expect(const query::SearchColumn& column, Engine engine, std::initializer_list<SearchRow> rows);
 
   TestThread thread;
 };

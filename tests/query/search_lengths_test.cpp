@@ -8,13 +8,13 @@ namespace {
 class SearchLengths : public SpanishSearch {
  protected:
   static void expect_none(const query::SearchColumn& column, TextView typed) {
-    EXPECT_EQ(interpreted(column, kJet, typed), u"no search");
+    EXPECT_EQ(interpreted(column, Engine::Jet, typed), u"no search");
   }
   // A search, which is the same when it is typed as it is shown.
   static void expect_search(TextView typed) {
-    const auto found = query::interpret_search(kJet, kNombre, typed, u"X");
+    const auto found = query::interpret_search(Engine::Jet, kNombre, typed, u"X");
     ASSERT_TRUE(found) << to_utf8(typed);
-    const auto again = query::interpret_search(kJet, kNombre, TextView(found->criterion).substr(2), u"X");
+    const auto again = query::interpret_search(Engine::Jet, kNombre, TextView(found->criterion).substr(2), u"X");
     ASSERT_TRUE(again) << to_utf8(found->criterion);
     EXPECT_EQ(again->condition, found->condition);
   }
@@ -39,10 +39,10 @@ TEST_F(SearchLengths, OperandsAreNoLongerThanPeopleType) {
 TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
   expect_none(kPrecio, Text(29, u'1'));
   const Text blanks(1000, u' '), fewer(900, u' ');
-  expect(kPrecio, kJet,
+  expect(kPrecio, Engine::Jet,
          {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
           {join({u"1", blanks, u"2..15"}), u""}});
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
            u"Alta >= 04/01/2011 y <= 05/01/2011"},
           {join({u"hoy", blanks, u"-1..hoy"}), u""}});
@@ -73,14 +73,14 @@ TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
 TEST_F(SearchLengths, LongTextsAreGoneThroughOnce) {
   constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
   const Text blanks(std::size_t{1} << 21, u' ');
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
           {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
           {join({u"a", blanks, u"b"}), u""}});
-  expect(kPrecio, kJet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
+  expect(kPrecio, Engine::Jet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
   Text likes;
   for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";
-  expect(kNombre, kJet, {{likes, u""}});
+  expect(kNombre, Engine::Jet, {{likes, u""}});
 }
 
 }  // namespace

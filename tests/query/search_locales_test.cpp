@@ -47,21 +47,21 @@ TEST_P(SearchLocales, ReadTheirOwnNumbers) {
                         {u"12,345,678.9", u" 12345678.9"}};
   for (const auto& number : kNumbers) {
     const Text typed = at_home(number.typed);
-    const auto found = query::interpret_search(kSqlServer, kPrecio, typed, u"Precio");
+    const auto found = query::interpret_search(Engine::SqlServer, kPrecio, typed, u"Precio");
     ASSERT_TRUE(found) << ::testing::PrintToString(typed);
     EXPECT_EQ(found->condition, join({u"P.Precio=", number.literal}));
-    const auto again = query::interpret_search(kSqlServer, kPrecio, TextView(found->criterion).substr(7), u"Precio");
+    const auto again = query::interpret_search(Engine::SqlServer, kPrecio, TextView(found->criterion).substr(7), u"Precio");
     ASSERT_TRUE(again) << ::testing::PrintToString(found->criterion);
     EXPECT_EQ(again->condition, found->condition);
   }
-  EXPECT_EQ(interpreted(kPrecio, kJet, join({GetParam().currency, u" ", at_home(u"9.5")})),
+  EXPECT_EQ(interpreted(kPrecio, Engine::Jet, join({GetParam().currency, u" ", at_home(u"9.5")})),
             join({u"P.Precio= 9.5 | Precio = ", at_home(u"9.5")}));
 }
 
 // A mark that cannot stand between thousands is taken for the decimal one, never dropped.
 TEST_P(SearchLocales, NeverReadANumberTenTimesTooLarge) {
   for (const TextView typed : {u"1.5", u"1,5"}) {
-    const Text found = interpreted(kPrecio, kJet, typed);
+    const Text found = interpreted(kPrecio, Engine::Jet, typed);
     EXPECT_EQ(found, join({u"P.Precio= 1.5 | Precio = ", at_home(u"1.5")}));
   }
 }
@@ -72,8 +72,8 @@ TEST_P(SearchLocales, ReadTheirOwnDates) {
   const Text typed = home.day_first ? join({u"13", mark, u"02", mark, u"2011"})
                                     : join({u"02", mark, u"13", mark, u"2011"});
   const Text condition = u"C.Alta>=#2011-02-13# And C.Alta<#2011-02-14# | Alta = ";
-  EXPECT_EQ(interpreted(kAlta, kJet, typed), condition + typed);
-  EXPECT_EQ(interpreted(kAlta, kJet, u"2011-02-13"), condition + typed);
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, typed), condition + typed);
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"2011-02-13"), condition + typed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Homes, SearchLocales, ::testing::ValuesIn(kHomes), [](const auto& each) {

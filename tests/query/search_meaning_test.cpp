@@ -11,12 +11,12 @@ constexpr int kRounds = 1500;
 
 struct Column {
   char16_t letter;
-  dialect::Engine engine;
+  Engine engine;
 };
 
 std::string name_of(const ::testing::TestParamInfo<Column>& info) {
   constexpr const char* kEngines[] = {"Jet", "SqlServer", "Oracle"};
-  return std::string(1, static_cast<char>(info.param.letter)) + kEngines[info.param.engine - 1];
+  return std::string(1, static_cast<char>(info.param.letter)) + kEngines[number_of(info.param.engine) - 1];
 }
 
 class SearchMeaning : public ::testing::TestWithParam<Column> {
@@ -77,13 +77,14 @@ TEST_P(SearchMeaning, IsNeverLostBehindAnotherSearch) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Columns, SearchMeaning,
-                         ::testing::Values(Column{u'T', kJet}, Column{u'T', kSqlServer}, Column{u'T', kOracle},
-                                           Column{u'M', kJet}, Column{u'M', kSqlServer}, Column{u'M', kOracle},
-                                           Column{u'N', kJet}, Column{u'N', kSqlServer}, Column{u'N', kOracle},
-                                           Column{u'F', kJet}, Column{u'F', kSqlServer}, Column{u'F', kOracle},
-                                           Column{u'L', kJet}, Column{u'L', kSqlServer}, Column{u'L', kOracle}),
-                         name_of);
+INSTANTIATE_TEST_SUITE_P(
+    Columns, SearchMeaning,
+    ::testing::Values(Column{u'T', Engine::Jet}, Column{u'T', Engine::SqlServer}, Column{u'T', Engine::Oracle},
+                      Column{u'M', Engine::Jet}, Column{u'M', Engine::SqlServer}, Column{u'M', Engine::Oracle},
+                      Column{u'N', Engine::Jet}, Column{u'N', Engine::SqlServer}, Column{u'N', Engine::Oracle},
+                      Column{u'F', Engine::Jet}, Column{u'F', Engine::SqlServer}, Column{u'F', Engine::Oracle},
+                      Column{u'L', Engine::Jet}, Column{u'L', Engine::SqlServer}, Column{u'L', Engine::Oracle}),
+    name_of);
 
 }  // namespace
 }  // namespace qvr::tests

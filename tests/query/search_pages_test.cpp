@@ -63,7 +63,7 @@ TEST_P(SearchPages, ShowWhatIsShown) {
     const std::string label = row.shown.substr(0, row.shown.find(' '));
     const char16_t type = type_of(GetParam(), label);
     ASSERT_NE(type, u'?') << row.typed << " is shown as " << row.shown;
-    for (const dialect::Engine engine : {kJet, kSqlServer, kOracle}) {
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
       const Text typed = from_utf8(row.typed).value(), name = from_utf8(label).value();
       const auto found = query::interpret_search(engine, {u"X", type}, typed, name);
       ASSERT_TRUE(found) << row.typed;

@@ -7,7 +7,7 @@ namespace {
 class SearchRanges : public SpanishSearch {};
 
 TEST_F(SearchRanges, EndWhereTheirLastPeriodEnds) {
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{u"15/02/2011..2011", u"C.Alta>=#2011-02-15# And C.Alta<#2012-01-01#", u"Alta >= 15/02/2011 y <= 31/12/2011"},
           {u"hoy..2011", u"C.Alta>=#2011-01-05# And C.Alta<#2012-01-01#", u"Alta >= 05/01/2011 y <= 31/12/2011"},
           {u"02/2011..2011", u"C.Alta>=#2011-02-01# And C.Alta<#2012-01-01#", u"Alta >= 01/02/2011 y <= 31/12/2011"},
@@ -16,13 +16,13 @@ TEST_F(SearchRanges, EndWhereTheirLastPeriodEnds) {
           {u"2011..15/02/2011", u"C.Alta>=#2011-01-01# And C.Alta<#2011-02-16#", u"Alta >= 01/01/2011 y <= 15/02/2011"},
           {u"!15/02/2011..2011", u"C.Alta<#2011-02-15# Or C.Alta>=#2012-01-01# Or (C.Alta Is Null)",
            u"Alta < 15/02/2011; > 31/12/2011; Es Nulo"}});
-  expect(kAlta, kSqlServer,
+  expect(kAlta, Engine::SqlServer,
          {{u"05/01/2011 14:07..05/01/2011", u"C.Alta>={ ts '2011-01-05 14:07:00'} And C.Alta<{ d '2011-01-06'}",
            u"Alta >= 05/01/2011 14:07 y <= 05/01/2011"}});
 }
 
 TEST_F(SearchRanges, ThatWouldBeEmptyAreReversed) {
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{u"2011..2010", u"C.Alta>=#2010-01-01# And C.Alta<#2012-01-01#", u"Alta >= 01/01/2010 y <= 31/12/2011"},
           {u"2011..31/12/2010", u"C.Alta>=#2010-12-31# And C.Alta<#2012-01-01#",
            u"Alta >= 31/12/2010 y <= 31/12/2011"}});
@@ -30,7 +30,7 @@ TEST_F(SearchRanges, ThatWouldBeEmptyAreReversed) {
 
 // The last end stands for all that begins with it.
 TEST_F(SearchRanges, OfTextsEndBehindAllThatBeginsWithTheirLastEnd) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"martin..M", u"C.Nombre>='martin' And (C.Nombre<='M' Or C.Nombre LIKE 'M%')", u"Nombre >= martin y <= M*"},
           {u"martin..k", u"C.Nombre>='k' And (C.Nombre<='martin' Or C.Nombre LIKE 'martin%')",
            u"Nombre >= k y <= martin*"}});
@@ -40,7 +40,7 @@ TEST_F(SearchRanges, OfTextsEndBehindAllThatBeginsWithTheirLastEnd) {
 TEST_F(SearchRanges, InWordsAreNegatedByWordsToo) {
   constexpr TextView kOutside = u"P.Precio< 10 Or P.Precio> 20 Or (P.Precio Is Null)";
   constexpr TextView kShown = u"Precio < 10; > 20; Es Nulo";
-  expect(kPrecio, kJet,
+  expect(kPrecio, Engine::Jet,
          {{u"!entre 10 y 20", kOutside, kShown},
           {u"no entre 10 y 20", kOutside, kShown},
           {u"NOT  between 20 and 10", kOutside, kShown},
@@ -54,19 +54,19 @@ TEST_F(SearchRanges, InWordsAreNegatedByWordsToo) {
            u"Precio < 10 y < 15; > 20 y < 15; Es Nulo y < 15"},
           {u"no no entre 10 y 20", u""},
           {u"no entre 10", u""}});
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{u"no entre ayer y hoy", u"C.Alta<#2011-01-04# Or C.Alta>=#2011-01-06# Or (C.Alta Is Null)",
            u"Alta < 04/01/2011; > 05/01/2011; Es Nulo"},
           {u"non entre hier et aujourd'hui", u"C.Alta<#2011-01-04# Or C.Alta>=#2011-01-06# Or (C.Alta Is Null)",
            u"Alta < 04/01/2011; > 05/01/2011; Es Nulo"}});
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"no entre a", u"C.Nombre LIKE '%no%' And C.Nombre LIKE '%entre%' And C.Nombre LIKE '%a%'",
            u"Nombre es como '*no*' y es como '*entre*' y es como '*a*'"}});
 }
 
 TEST_F(SearchRanges, HaveTheirPointsOutsideQuotes) {
   constexpr TextView kContains = u"C.Nombre LIKE '%a..b%'", kShown = u"Nombre es como '*a..b*'";
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"\"a..b\"", kContains, kShown},
           {u"'a..b'", kContains, kShown},
           {u"\u2018a..b\u2019", kContains, kShown},
@@ -74,14 +74,14 @@ TEST_F(SearchRanges, HaveTheirPointsOutsideQuotes) {
           {u"'O'Neil..b'", u"C.Nombre LIKE '%O''Neil..b%'", u"Nombre es como '*O'Neil..b*'"},
           {u"'a..b'; 'c'", u"C.Nombre LIKE '%a..b%' Or C.Nombre LIKE '%c%'",
            u"Nombre es como '*a..b*'; es como '*c*'"}});
-  expect(kNotas, kSqlServer, {{u"'a..b'", u"C.Notas LIKE N'%a..b%'", u"Notas es como '*a..b*'"}, {u"'a'..'b'", u""}});
-  expect(kNotas, kOracle, {{u"'a..b'", u" UPPER(C.Notas) LIKE UPPER('%a..b%')", u"Notas es como '*a..b*'"}});
+  expect(kNotas, Engine::SqlServer, {{u"'a..b'", u"C.Notas LIKE N'%a..b%'", u"Notas es como '*a..b*'"}, {u"'a'..'b'", u""}});
+  expect(kNotas, Engine::Oracle, {{u"'a..b'", u" UPPER(C.Notas) LIKE UPPER('%a..b%')", u"Notas es como '*a..b*'"}});
 }
 
 TEST_F(SearchRanges, MayHaveQuotedEnds) {
   constexpr TextView kRange = u"C.Nombre>='a' And (C.Nombre<='c' Or C.Nombre LIKE 'c%')";
   constexpr TextView kShown = u"Nombre >= a y <= c*";
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"'a'..'c'", kRange, kShown},
           {u"'a' .. c", kRange, kShown},
           {u"a..'c'", kRange, kShown},

@@ -10,25 +10,26 @@ class SearchRules : public SpanishSearch {};
 
 TEST_F(SearchRules, NothingIsNoSearch) {
   for (const SearchColumn& column : {kNombre, kNotas, kPrecio, kAlta, kActivo}) {
-    expect(column, kJet, {{u"", u""}, {u"   ", u""}, {u"\t\r\n", u""}, {u"\u00a0", u""}, {u";", u""}, {u";;", u""}});
+    expect(column, Engine::Jet,
+           {{u"", u""}, {u"   ", u""}, {u"\t\r\n", u""}, {u"\u00a0", u""}, {u";", u""}, {u";;", u""}});
   }
 }
 
 TEST_F(SearchRules, BlanksOfAllKindsAreBlanks) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"\u00a0ana\tbea\r\n", u"C.Nombre LIKE '%ana%' And C.Nombre LIKE '%bea%'",
            u"Nombre es como '*ana*' y es como '*bea*'"}});
 }
 
 TEST_F(SearchRules, CurlyQuotesQuoteAsWell) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"\u201cana bea\u201d", u"C.Nombre LIKE '%ana bea%'", u"Nombre es como '*ana bea*'"},
           {u"=\u2018ana\u2019", u"C.Nombre='ana'", u"Nombre = ana"},
           {u"O\u2019Neil", u"C.Nombre LIKE '%O\u2019Neil%'", u"Nombre es como '*O\u2019Neil*'"}});
 }
 
 TEST_F(SearchRules, WordsInTextsAreText) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"like a prayer", u"C.Nombre LIKE '%like%' And C.Nombre LIKE '%a%' And C.Nombre LIKE '%prayer%'",
            u"Nombre es como '*like*' y es como '*a*' y es como '*prayer*'"},
           {u"Nulo, S.A.", u"C.Nombre LIKE '%Nulo,%' And C.Nombre LIKE '%S.A.%'",
@@ -44,7 +45,7 @@ TEST_F(SearchRules, WordsInTextsAreText) {
 }
 
 TEST_F(SearchRules, ConnectorsInTextsNeedAnOperatorOrBlanks) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u">a y <b", u"C.Nombre>'a' And C.Nombre<'b'", u"Nombre > a y < b"},
           {u"a|b", u"C.Nombre LIKE '%a|b%'", u"Nombre es como '*a|b*'"},
           {u"a | b", u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'", u"Nombre es como '*a*'; es como '*b*'"},
@@ -55,7 +56,7 @@ TEST_F(SearchRules, ConnectorsInTextsNeedAnOperatorOrBlanks) {
 // As the last end of a range is written, in parentheses all the same.
 TEST_F(SearchRules, AlternativesAreBareUnlessTheyReadAsABound) {
   constexpr TextView kBound = u"(C.Nombre<='C' Or C.Nombre LIKE 'C%')";
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"<=C; C*", kBound, u"Nombre <= C; es como 'C*'"},
           {u"<=C*", kBound, u"Nombre <= C*"},
           {u"C*; <=C", u"C.Nombre LIKE 'C%' Or C.Nombre<='C'", u"Nombre es como 'C*'; <= C"},
@@ -64,13 +65,13 @@ TEST_F(SearchRules, AlternativesAreBareUnlessTheyReadAsABound) {
 }
 
 TEST_F(SearchRules, NegationsKeepNull) {
-  expect(kNombre, kJet,
+  expect(kNombre, Engine::Jet,
          {{u"<>Ana*", u"(C.Nombre NOT LIKE 'Ana%' Or C.Nombre Is Null)", u"Nombre <> es como 'Ana*'"},
           {u"!=Ana", u"(C.Nombre<>'Ana' Or C.Nombre Is Null)", u"Nombre <> Ana"},
           {u"*", u"Not (C.Nombre='' Or C.Nombre Is Null)", u"Nombre <> ''"},
           {u"<>", u"Not (C.Nombre='' Or C.Nombre Is Null)", u"Nombre <> ''"},
           {u"!Es Nulo", u"Not (C.Nombre Is Null)", u"Nombre <> Es Nulo"}});
-  expect(kPrecio, kJet,
+  expect(kPrecio, Engine::Jet,
          {{u"!5", u"(P.Precio<> 5 Or P.Precio Is Null)", u"Precio <> 5"},
           {u"no 5", u"(P.Precio<> 5 Or P.Precio Is Null)", u"Precio <> 5"},
           {u"!>5", u"P.Precio<= 5 Or (P.Precio Is Null)", u"Precio <= 5; Es Nulo"},
@@ -82,19 +83,19 @@ TEST_F(SearchRules, NegationsKeepNull) {
 
 TEST_F(SearchRules, TwoNegationsAreNone) {
   constexpr TextView kFebruary = u"C.Alta>=#2011-02-01# And C.Alta<#2011-03-01#";
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{u"!<>2011", u"C.Alta>=#2011-01-01# And C.Alta<#2012-01-01#", u"Alta >= 01/01/2011 y <= 31/12/2011"},
           {u"no <>02/2011", kFebruary, u"Alta >= 01/02/2011 y <= 28/02/2011"},
           {u"!!=02/2011", kFebruary, u"Alta >= 01/02/2011 y <= 28/02/2011"},
           {u"!<>05/01/2011", u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-06#", u"Alta = 05/01/2011"}});
-  expect(kPrecio, kJet, {{u"!<>5", u"P.Precio= 5", u"Precio = 5"}});
-  expect(kNombre, kJet,
+  expect(kPrecio, Engine::Jet, {{u"!<>5", u"P.Precio= 5", u"Precio = 5"}});
+  expect(kNombre, Engine::Jet,
          {{u"!<>Ana*", u"C.Nombre LIKE 'Ana%'", u"Nombre es como 'Ana*'"},
           {u"!<>", u"(C.Nombre='' Or C.Nombre Is Null)", u"Nombre = ''"}});
 }
 
 TEST_F(SearchRules, NumbersAreThoseOfTheLocaleOrNone) {
-  expect(kPrecio, kSqlServer,
+  expect(kPrecio, Engine::SqlServer,
          {{u"1.5", u"P.Precio= 1.5", u"Precio = 1,5"},
           {u"1.500", u"P.Precio= 1500", u"Precio = 1500"},
           {u"1,500", u"P.Precio= 1.5", u"Precio = 1,5"},
@@ -117,7 +118,7 @@ TEST_F(SearchRules, NumbersAreThoseOfTheLocaleOrNone) {
 }
 
 TEST_F(SearchRules, RangesInWords) {
-  expect(kPrecio, kJet,
+  expect(kPrecio, Engine::Jet,
          {{u"between 10 and 20", u"P.Precio>= 10 And P.Precio<= 20", u"Precio >= 10 y <= 20"},
           {u"desde 20 hasta 10", u"P.Precio>= 10 And P.Precio<= 20", u"Precio >= 10 y <= 20"},
           {u"from 1 to 2 or 5", u"P.Precio>= 1 And P.Precio<= 2 Or P.Precio= 5", u"Precio >= 1 y <= 2; = 5"},
@@ -125,7 +126,7 @@ TEST_F(SearchRules, RangesInWords) {
 }
 
 TEST_F(SearchRules, DatesAreWholePeriods) {
-  expect(kAlta, kJet,
+  expect(kAlta, Engine::Jet,
          {{u"2011-01-05", u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-06#", u"Alta = 05/01/2011"},
           {u">2011", u"C.Alta>=#2012-01-01#", u"Alta > 31/12/2011"},
           {u"<2011-02", u"C.Alta<#2011-02-01#", u"Alta < 01/02/2011"},
@@ -141,7 +142,7 @@ TEST_F(SearchRules, DatesAreWholePeriods) {
           {u"99999", u""},
           {u"13/2011", u""},
           {u"31/12/9999", u""}});
-  expect(kAlta, kSqlServer,
+  expect(kAlta, Engine::SqlServer,
          {{u"05/01/2011 14:07:09..", u"C.Alta>={ ts '2011-01-05 14:07:09'}", u"Alta >= 05/01/2011 14:07:09"},
           {u"05/01/2011 23:59", u"C.Alta>={ ts '2011-01-05 23:59:00'} And C.Alta<{ ts '2011-01-06 00:00:00'}",
            u"Alta = 05/01/2011 23:59"}});
@@ -149,12 +150,12 @@ TEST_F(SearchRules, DatesAreWholePeriods) {
 
 TEST_F(SearchRules, TruthInThreeLanguages) {
   for (const TextView word : {u"s\u00ed", u"SI", u"yes", u"oui", u"verdadero", u"true", u"vrai", u"1", u"-1", u"x"}) {
-    EXPECT_EQ(interpreted(kActivo, kJet, word), u" C.Activo<>0  | Activo = s\u00ed");
+    EXPECT_EQ(interpreted(kActivo, Engine::Jet, word), u" C.Activo<>0  | Activo = s\u00ed");
   }
   for (const TextView word : {u"no", u"N", u"non", u"falso", u"false", u"faux", u"0"}) {
-    EXPECT_EQ(interpreted(kActivo, kOracle, word), u" C.Activo=0  | Activo = no");
+    EXPECT_EQ(interpreted(kActivo, Engine::Oracle, word), u" C.Activo=0  | Activo = no");
   }
-  expect(kActivo, kJet,
+  expect(kActivo, Engine::Jet,
          {{u"quiz\u00e1s", u""},
           {u">1", u""},
           {u"s\u00ed..no", u""},
@@ -162,28 +163,28 @@ TEST_F(SearchRules, TruthInThreeLanguages) {
 }
 
 TEST_F(SearchRules, LongTextsKnowOnlyLikeOnTwoEngines) {
-  expect(kNotas, kSqlServer,
+  expect(kNotas, Engine::SqlServer,
          {{u"<>a", u"(C.Notas NOT LIKE N'a' Or C.Notas Is Null)", u"Notas <> a"},
           {u"a..b", u""},
           {u"<a", u""},
           {u"=50%", u"C.Notas LIKE N'50!%' ESCAPE '!'", u"Notas = 50%"},
           {u"=", u"(C.Notas LIKE N'' Or C.Notas Is Null)", u"Notas = ''"}});
-  expect(kNotas, kOracle, {{u"=a", u" UPPER(C.Notas) LIKE UPPER('a')", u"Notas = a"}, {u">a", u""}});
-  expect(kNotas, kJet, {{u">a", u"C.Notas>'a'", u"Notas > a"}});
+  expect(kNotas, Engine::Oracle, {{u"=a", u" UPPER(C.Notas) LIKE UPPER('a')", u"Notas = a"}, {u">a", u""}});
+  expect(kNotas, Engine::Jet, {{u">a", u"C.Notas>'a'", u"Notas > a"}});
 }
 
 TEST_F(SearchRules, PatternsSayWhatTheyMeanToEachEngine) {
   constexpr TextView kAllCandidates = u"#!&/()$=|%";
-  expect(kNombre, kSqlServer,
+  expect(kNombre, Engine::SqlServer,
          {{kAllCandidates, u" UPPER(C.Nombre) LIKE UPPER(N'%#!&/()$=|[%]%')", u"Nombre es como '*#!&/()$=|%*'"},
           {u"a[b%", u" UPPER(C.Nombre) LIKE UPPER(N'%a[[]b!%%') ESCAPE '!'", u"Nombre es como '*a[b%*'"}});
-  expect(kNombre, kJet, {{u"\"a?\"#[_", u"C.Nombre LIKE '%a[?][#][[][_]%'", u"Nombre es como '*\"a?#[_\"*'"}});
+  expect(kNombre, Engine::Jet, {{u"\"a?\"#[_", u"C.Nombre LIKE '%a[?][#][[][_]%'", u"Nombre es como '*\"a?#[_\"*'"}});
 }
 
 TEST_F(SearchRules, OtherTypesAndEnginesAreNotSearched) {
-  EXPECT_FALSE(query::interpret_search(kJet, {u"C.X", u'Z'}, u"a", u"X"));
-  EXPECT_FALSE(query::interpret_search(0, kNombre, u"a", u"X"));
-  EXPECT_TRUE(query::interpret_search(kJet, {u"C.X", u't'}, u"a", u"X"));
+  EXPECT_FALSE(query::interpret_search(Engine::Jet, {u"C.X", u'Z'}, u"a", u"X"));
+  EXPECT_FALSE(query::interpret_search(Engine::None, kNombre, u"a", u"X"));
+  EXPECT_TRUE(query::interpret_search(Engine::Jet, {u"C.X", u't'}, u"a", u"X"));
 }
 
 }  // namespace

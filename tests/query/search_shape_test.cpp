@@ -106,7 +106,7 @@ TEST_P(SearchShape, DoesNotDependOnWhatIsTyped) {
   int searches = 0;
   for (int round = 0; round < QVR_TESTS_RANDOM_SEARCHES; ++round) {
     const Text text = typed();
-    const dialect::Engine engine = 1 + round % 3;
+    const Engine engine = static_cast<Engine>(1 + round % 3);
     const auto found = query::interpret_search(engine, {u"X", GetParam()}, text, u"X");
     if (!found) continue;
     ++searches;

@@ -93,7 +93,7 @@ void SelectModel::AdoptaComoOriginal(bool where, bool having, bool order) {
 
 Text SelectModel::ParteWhere(bool alone) const {
   const SelectParts& p = parts_;
-  const bool limited = p.engine == 3 && p.top > 0;
+  const bool limited = p.engine == Engine::Oracle && p.top > 0;
   const Text limit = limited ? u" (RowNum<=" + number(p.top) + u") " : Text();
   const Text further = limited ? u" And (RowNum<=" + number(p.top) + u") " : Text();
   if (!blank(p.where)) {

@@ -71,11 +71,12 @@ bool SelectModel::Crear(const QueryRequest& r) {
     p.list += (i > 0 ? u", " : u"") + pairs[i] + (named ? alias(p.engine, p.columns.back().field) : Text());
   }
   p.select = Text(u"SELECT ") + (p.distinct ? u"DISTINCT " : u"") + top_mark(p.engine, p.top) + p.list;
-  const bool related = r.RelacionTablas.is<Array>(), joins = related && (p.engine == 1 || p.engine == 2);
+  const bool related = r.RelacionTablas.is<Array>(),
+             joins = related && (p.engine == Engine::Jet || p.engine == Engine::SqlServer);
   p.from = u" FROM " + (joins ? joins_of(r.TablasFROM, texts_of(r.RelacionTablas)) : r.TablasFROM) + u" ";
   p.where = r.CondicionWHEREInicial;
   if (related && !joins) {
-    p.where = (p.engine == 3 ? conditions_of(texts_of(r.RelacionTablas)) : Text()) +
+    p.where = (p.engine == Engine::Oracle ? conditions_of(texts_of(r.RelacionTablas)) : Text()) +
               (p.where.empty() ? Text() : u" And (" + p.where + u")");
   }
   for (int i = 0; i < r.NumColumnasGROUPBY; ++i) {

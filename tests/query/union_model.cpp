@@ -100,9 +100,9 @@ void UnionModel::Idioma(std::int32_t language) {
   for (SelectModel& member : members_) member.Idioma(language);
 }
 
-dialect::Engine UnionModel::MotorBD() const { return Creado() ? members_.front().MotorBD() : 0; }
+Engine UnionModel::MotorBD() const { return Creado() ? members_.front().MotorBD() : Engine::None; }
 
-void UnionModel::MotorBD(dialect::Engine engine) {
+void UnionModel::MotorBD(Engine engine) {
   for (SelectModel& member : members_) member.MotorBD(engine);
 }
 

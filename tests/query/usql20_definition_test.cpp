@@ -10,7 +10,7 @@ class Usql20DefinitionTest : public QueryTest {
   // Texts with the union's own marks inside must not tear it apart.
   void SetUp() override {
     for (const TextView table : {u"t1", u"t2 <*uSQL_TD*>", u"t3"}) {
-      QueryRequest wanted = request(kSqlServer, list({u"a", u"T>a", u"b", u"N>b"}), Text(table));
+      QueryRequest wanted = request(Engine::SqlServer, list({u"a", u"T>a", u"b", u"N>b"}), Text(table));
       wanted.TextoORDERBYInicial = u"a";
       ASSERT_TRUE(query.Crear(wanted));
       ASSERT_TRUE(query.AmpliarCondicionWhere(join({u"a='<*uSQL_CRI*>", table, u"'"}), table));

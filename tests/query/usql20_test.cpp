@@ -9,7 +9,7 @@ namespace {
 class Usql20Test : public QueryTest {
  protected:
   // Members over the tables t1, t2 and so on, the first in an order.
-  void create(int members, Engine engine = kJet) {
+  void create(int members, Engine engine = Engine::Jet) {
     for (int i = 1; i <= members; ++i) {
       QueryRequest wanted = request(engine, list({u"a", u"T>a", u"b", u"F>b"}), u"t" + decimal(i));
       wanted.TextoORDERBYInicial = i == 1 ? u"a" : u"z";
@@ -32,7 +32,7 @@ TEST_F(Usql20Test, IsEmptyBeforeThereIsAMember) {
   query.CriterioActualCompleto(u"");
   query.TOP(5);
   query.Idioma(3);
-  query.MotorBD(kOracle);
+  query.MotorBD(Engine::Oracle);
   EXPECT_EQ(query.Name(), u"uSQL20");
   EXPECT_FALSE(query.Creado());
   for (const Text& text : {query.SQL(), query.SQLOriginal(), query.SQLSinOrden(), query.SQLOriginalSinOrden(),
@@ -78,11 +78,11 @@ TEST_F(Usql20Test, JoinsTheStatementsInTheOrderOfTheFirst) {
 
 TEST_F(Usql20Test, ARefusedMemberIsDropped) {
   create(1);
-  EXPECT_FALSE(query.Crear(request(kJet, u"a")));
-  EXPECT_FALSE(showing({failed(u"ConstruirSelect", 9)}, [&] { return query.Crear(request(kJet, list({u"a"}))); }));
+  EXPECT_FALSE(query.Crear(request(Engine::Jet, u"a")));
+  EXPECT_FALSE(showing({failed(u"ConstruirSelect", 9)}, [&] { return query.Crear(request(Engine::Jet, list({u"a"}))); }));
   EXPECT_EQ(query.SQLSinOrden(), select(1));
   uSQL20 other;
-  EXPECT_FALSE(other.Crear(request(kJet, u"a")));
+  EXPECT_FALSE(other.Crear(request(Engine::Jet, u"a")));
   EXPECT_FALSE(other.Creado());
   EXPECT_EQ(other.TOP(), 0);
 }
@@ -123,7 +123,7 @@ TEST_F(Usql20Test, AdoptsAndRestoresEveryMember) {
 // All members are asked, also behind one that does not know the column, and all have to agree.
 TEST_F(Usql20Test, SearchesInEveryMember) {
   create(1);
-  ASSERT_TRUE(query.Crear(request(kJet, list({u"c", u"T"}), u"t2")));
+  ASSERT_TRUE(query.Crear(request(Engine::Jet, list({u"c", u"T"}), u"t2")));
   create(1);
   EXPECT_FALSE(showing({failed(u"TipoCampo(a)", 5)}, [&] { return query.InterpretarBusqueda(u"a", u"=x", u"col"); }));
   EXPECT_EQ(query.SQLSinOrden(),
@@ -133,7 +133,7 @@ TEST_F(Usql20Test, SearchesInEveryMember) {
 
 TEST_F(Usql20Test, TheFirstMemberAnswers) {
   create(1);
-  ASSERT_TRUE(query.Crear(request(kJet, list({u"c", u"N"}), u"t2")));
+  ASSERT_TRUE(query.Crear(request(Engine::Jet, list({u"c", u"N"}), u"t2")));
   EXPECT_EQ(query.NumColumnas(), 2);
   EXPECT_EQ(query.NumColumna(u"B"), 2);
   EXPECT_EQ(query.NumColumna(u"c"), 0);
@@ -144,22 +144,22 @@ TEST_F(Usql20Test, TheFirstMemberAnswers) {
 }
 
 TEST_F(Usql20Test, LimitLanguageAndEngineGoToEveryMember) {
-  create(2, kSqlServer);
+  create(2, Engine::SqlServer);
   query.TOP(7);
   EXPECT_EQ(query.TOP(), 7);
   EXPECT_EQ(query.SQLSinOrden(), join({select(1, u"", u" TOP 7 "), u" UNION ", select(2, u"", u" TOP 7 ")}));
-  query.MotorBD(kOracle);
-  EXPECT_EQ(query.MotorBD(), kOracle);
+  query.MotorBD(Engine::Oracle);
+  EXPECT_EQ(query.MotorBD(), Engine::Oracle);
   EXPECT_EQ(query.SQLSinOrden(), join({select(1, u"WHERE  (RowNum<=7) ", u" TOP 7 "), u" UNION ",
                                        select(2, u"WHERE  (RowNum<=7) ", u" TOP 7 ")}));
-  query.MotorBD(kJet);
-  EXPECT_EQ(query.MotorBD(), kJet);
+  query.MotorBD(Engine::Jet);
+  EXPECT_EQ(query.MotorBD(), Engine::Jet);
   query.Idioma(1);
   EXPECT_EQ(thread_state().idioma.Idioma(), 1);
 }
 
 TEST_F(Usql20Test, ReadingTheLanguageLimitsTheRows) {
-  create(2, kSqlServer);
+  create(2, Engine::SqlServer);
   query.Idioma(3);
   EXPECT_EQ(query.TOP(), 0);
   EXPECT_EQ(query.Idioma(), 0);

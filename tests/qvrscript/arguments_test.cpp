@@ -17,7 +17,7 @@ TEST(Arguments, OfCheck) {
   const Arguments arguments = parse({u"check", u"--json", u"a", u"--engine", u"Oracle", u"b c"});
   EXPECT_EQ(arguments.action, Action::Check);
   EXPECT_EQ(arguments.operands, (std::vector<Text>{u"a", u"b c"}));
-  EXPECT_EQ(arguments.engine, kOracle);
+  EXPECT_EQ(arguments.engine, Engine::Oracle);
   EXPECT_TRUE(arguments.json);
 }
 
@@ -26,7 +26,7 @@ TEST(Arguments, OfList) {
   EXPECT_EQ(arguments.action, Action::List);
   EXPECT_EQ(arguments.operands, (std::vector<Text>{u"folder", u"Gestion"}));
   EXPECT_EQ(arguments.from, 10024);
-  EXPECT_EQ(arguments.engine, kJet);
+  EXPECT_EQ(arguments.engine, Engine::Jet);
   EXPECT_FALSE(arguments.json);
 }
 

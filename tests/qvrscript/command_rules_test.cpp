@@ -13,7 +13,7 @@ TEST(CommandRules, TellOfEmptyCommands) {
       {"only comments, which SQL Server takes", "-- a|GO|select 1|GO|", {}},
   });
   expect_rules({{"only comments, which Oracle refuses", "-- a|GO|select 1 from dual|GO|", {"1 comment-command"}}},
-               script_tool::kOracle);
+               Engine::Oracle);
 }
 
 TEST(CommandRules, TellOfWhatIsNeverRun) {

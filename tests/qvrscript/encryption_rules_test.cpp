@@ -46,7 +46,7 @@ TEST(EncryptionRules, TellOfClausesThatDoNotFit) {
 
 TEST(EncryptionRules, AreSqlServersOnly) {
   expect_rules({{"the engine's own", "create or replace procedure P|AS |begin null; end;|GO|", {}}},
-               script_tool::kOracle);
+               Engine::Oracle);
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ namespace {
 using namespace script_tool;
 
 TEST(Engines, HaveWords) {
-  for (const std::int32_t engine : kEngines) EXPECT_EQ(engine_named(engine_word(engine)), engine);
-  EXPECT_EQ(engine_named(u"SQLServer"), kSqlServer);
+  for (const Engine engine : kEngines) EXPECT_EQ(engine_named(engine_word(engine)), engine);
+  EXPECT_EQ(engine_named(u"SQLServer"), Engine::SqlServer);
   EXPECT_EQ(engine_named(u""), std::nullopt);
   EXPECT_EQ(engine_named(u"sql"), std::nullopt);
 }
@@ -20,17 +20,17 @@ TEST(Engines, HaveWords) {
 TEST(Engines, AreToldByTheNamesOfFiles) {
   const struct {
     TextView name;
-    std::int32_t engine;
+    Engine engine;
   } rows[] = {
-      {u"GestionJET1.cfc", kJet},
-      {u"gestionsqlA.CFC", kSqlServer},
-      {u"GestionORA\u00f1.cfc", kOracle},
-      {u"Gestion10024a10025SQL.cfc", kSqlServer},
-      {u"GestionORA.cfc", kOracle},
-      {u"GestionSQL10.cfc", kUnknownEngine},
-      {u"GestionSQL1.txt", kUnknownEngine},
-      {u"SQL", kUnknownEngine},
-      {u"", kUnknownEngine},
+      {u"GestionJET1.cfc", Engine::Jet},
+      {u"gestionsqlA.CFC", Engine::SqlServer},
+      {u"GestionORA\u00f1.cfc", Engine::Oracle},
+      {u"Gestion10024a10025SQL.cfc", Engine::SqlServer},
+      {u"GestionORA.cfc", Engine::Oracle},
+      {u"GestionSQL10.cfc", Engine::None},
+      {u"GestionSQL1.txt", Engine::None},
+      {u"SQL", Engine::None},
+      {u"", Engine::None},
   };
   for (const auto& row : rows) EXPECT_EQ(engine_of_file(row.name), row.engine) << to_utf8(row.name);
 }

@@ -13,7 +13,7 @@ TEST(PlaceholderRules, KnowWhatIsReplaced) {
       {"names", "select [Nombre], [order] from [dbo].[Clientes de hoy]|GO|", {}},
       {"names that are a little alike", "select [NombreES], [NombreFR], [Usuario], [Clave]|GO|", {}},
   });
-  expect_rules({{"the one of Oracle", "x [NombreBD] [LogFile]|GO|", {}}}, script_tool::kOracle);
+  expect_rules({{"the one of Oracle", "x [NombreBD] [LogFile]|GO|", {}}}, Engine::Oracle);
 }
 
 TEST(PlaceholderRules, TellOfWordsThatStay) {
@@ -27,7 +27,7 @@ TEST(PlaceholderRules, TellOfWordsThatStay) {
       {"in a comment", "select 1 -- [NombreDB]|GO|", {}},
   });
   expect_rules({{"any name in brackets", "select [Nombre] from dual|GO|", {"1 placeholder-unknown"}}},
-               script_tool::kOracle);
+               Engine::Oracle);
 }
 
 }  // namespace

@@ -32,12 +32,12 @@ TEST(SeparatorRules, TellOfSeparatorsInCommentsAndStrings) {
 }
 
 TEST(SeparatorRules, DoNotNestCommentsForOracle) {
-  expect_rules({{"closed by the first mark", "/* a /* b */|select 1|GO|", {}}}, script_tool::kOracle);
+  expect_rules({{"closed by the first mark", "/* a /* b */|select 1|GO|", {}}}, Engine::Oracle);
   expect_rules({{"still open", "/* a /* b */|select 1|GO|", {"1 unclosed-comment", "3 go-in-comment"}}});
 }
 
 TEST(SeparatorRules, KnowThatJetHasNoComments) {
-  expect_rules({{"an apostrophe behind two hyphens", "select 1 --'|GO|x'|GO|", {"2 go-in-string"}}}, script_tool::kJet);
+  expect_rules({{"an apostrophe behind two hyphens", "select 1 --'|GO|x'|GO|", {"2 go-in-string"}}}, Engine::Jet);
   expect_rules({{"the same for SQL Server", "select 1 --'|GO|select 2|GO|", {}}});
 }
 

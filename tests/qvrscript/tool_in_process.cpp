@@ -27,7 +27,7 @@ std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findi
   return rules;
 }
 
-std::vector<std::string> rules_in(std::string_view bytes, std::int32_t engine) {
+std::vector<std::string> rules_in(std::string_view bytes, Engine engine) {
   return rules_of(script_tool::findings_in(u"x.cfc", std::string(bytes), engine));
 }
 
@@ -37,7 +37,7 @@ std::string lines(std::string_view text) {
   return whole;
 }
 
-void expect_rules(const std::vector<RuleRow>& rows, std::int32_t engine) {
+void expect_rules(const std::vector<RuleRow>& rows, Engine engine) {
   for (const RuleRow& row : rows) EXPECT_EQ(rules_in(lines(row.text), engine), row.rules) << row.name;
 }
 

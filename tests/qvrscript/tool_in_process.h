@@ -20,7 +20,7 @@ ToolAnswer run_tool(std::vector<Text> words, bool terminal = false,
                     script_tool::MakeAdo make_ado = environment().make_ado);
 
 // What is found in a script, as "line rule", in order.
-std::vector<std::string> rules_in(std::string_view bytes, std::int32_t engine = script_tool::kSqlServer);
+std::vector<std::string> rules_in(std::string_view bytes, Engine engine = Engine::SqlServer);
 std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findings);
 
 // The text with CR LF for each "|".
@@ -35,6 +35,6 @@ struct RuleRow {
 };
 
 // Each row's text has exactly these findings.
-void expect_rules(const std::vector<RuleRow>& rows, std::int32_t engine = script_tool::kSqlServer);
+void expect_rules(const std::vector<RuleRow>& rows, Engine engine = Engine::SqlServer);
 
 }  // namespace qvr::tests

@@ -30,8 +30,8 @@ TEST(TransactionRules, KnowWhatIsNoStatement) {
 }
 
 TEST(TransactionRules, AreSqlServersOnly) {
-  expect_rules({{"another engine", "alter database x|GO|", {}}}, script_tool::kOracle);
-  expect_rules({{"an unknown one", "alter database x|GO|", {"1 no-transaction"}}}, script_tool::kUnknownEngine);
+  expect_rules({{"another engine", "alter database x|GO|", {}}}, Engine::Oracle);
+  expect_rules({{"an unknown one", "alter database x|GO|", {"1 no-transaction"}}}, Engine::None);
 }
 
 }  // namespace

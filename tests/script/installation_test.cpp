@@ -15,7 +15,6 @@
 namespace qvr::tests {
 namespace {
 
-constexpr std::int32_t kJet = 1, kSqlServer = 2, kOracle = 3;
 constexpr std::int32_t kFirstVersion = 10000;
 
 struct Events final : ScriptEvents {
@@ -30,20 +29,20 @@ class InstallationTest : public testing::Test {
   InstallationTest() { thread.make_ado = odbc::make_odbc_ado; }
 
   Text scripts(TextView below = {}) const { return join({*from_utf8(QVR_TESTS_SCRIPTS), below}); }
-  Text definition(std::int32_t engine, TextView from, bool encrypt = false) {
+  Text definition(Engine engine, TextView from, bool encrypt = false) {
     return runner.CargarDefinicion(u"app", engine, from, u"Gestion", accounts, encrypt);
   }
-  Text update(std::int32_t engine, TextView from, std::int32_t version, bool encrypt = false) {
+  Text update(Engine engine, TextView from, std::int32_t version, bool encrypt = false) {
     return runner.CargarActualizacion(u"app", engine, from, u"Gestion", version, accounts, encrypt);
   }
 
   bool run(TextView commands) {
     Text id = u"app", shown = u"Hecho: ";
-    return runner.EjecutarComandos(id, kJet, commands,
+    return runner.EjecutarComandos(id, Engine::Jet, commands,
                                    join({u"Provider=MSDASQL;Extended Properties=\"", driver_string(), u"\""}), shown);
   }
-  bool install() { return run(definition(kJet, scripts(u"\\sqlite"))); }
-  bool bring_up_to_date(std::int32_t version) { return run(update(kJet, scripts(u"\\sqlite"), version)); }
+  bool install() { return run(definition(Engine::Jet, scripts(u"\\sqlite"))); }
+  bool bring_up_to_date(std::int32_t version) { return run(update(Engine::Jet, scripts(u"\\sqlite"), version)); }
 
   Text driver_string() const {
     return join({u"DRIVER={SQLite3};Database=", folder.file(u"gestion.db").u16string(), u";"});
@@ -107,7 +106,8 @@ TEST_F(InstallationTest, TheUpdatesLeadToTheLastVersionAndFillWhatIsNew) {
 TEST_F(InstallationTest, AnUpdateFromTheMiddleTakesOnlyWhatIsLeft) {
   ASSERT_TRUE(install());
   const auto update_by_hand = [&](std::int32_t from, std::int32_t to) {
-    const Text all = update(kJet, scripts(u"\\sqlite"), from), rest = update(kJet, scripts(u"\\sqlite"), to);
+    const Text all = update(Engine::Jet, scripts(u"\\sqlite"), from),
+               rest = update(Engine::Jet, scripts(u"\\sqlite"), to);
     return run(TextView(all).substr(0, all.size() - rest.size()));
   };
   ASSERT_TRUE(update_by_hand(10000, 10010));
@@ -119,14 +119,14 @@ TEST_F(InstallationTest, AnUpdateFromTheMiddleTakesOnlyWhatIsLeft) {
 }
 
 TEST_F(InstallationTest, ThereIsNothingBehindTheLastVersion) {
-  EXPECT_EQ(update(kJet, scripts(u"\\sqlite"), 10100), u"");
+  EXPECT_EQ(update(Engine::Jet, scripts(u"\\sqlite"), 10100), u"");
   EXPECT_EQ(events.ends, std::vector<bool>{false});
 }
 
 struct ScriptSet {
   const char* name;
   TextView below;
-  std::int32_t engine;
+  Engine engine;
   std::int32_t definition_commands, update_commands;
 };
 
@@ -145,10 +145,10 @@ TEST_P(InstallationSetTest, IsLoadedWholeAndWithoutBracketedAccounts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, InstallationSetTest,
-                         testing::Values(ScriptSet{"Jet", u"", kJet, 105, 25},
-                                         ScriptSet{"SqlServer", u"", kSqlServer, 132, 22},
-                                         ScriptSet{"Oracle", u"", kOracle, 122, 23},
-                                         ScriptSet{"Sqlite", u"\\sqlite", kJet, 260, 20}),
+                         testing::Values(ScriptSet{"Jet", u"", Engine::Jet, 105, 25},
+                                         ScriptSet{"SqlServer", u"", Engine::SqlServer, 132, 22},
+                                         ScriptSet{"Oracle", u"", Engine::Oracle, 122, 23},
+                                         ScriptSet{"Sqlite", u"\\sqlite", Engine::Jet, 260, 20}),
                          [](const auto& set) { return set.param.name; });
 
 }  // namespace

@@ -33,18 +33,21 @@ TEST_F(LoadingFilesTest, ADefinitionIsNameTagAndOneCharacter) {
 
 TEST_F(LoadingFilesTest, EachEngineHasItsTagAndAnyOtherNumberNone) {
   struct Row {
-    std::int32_t motor;
+    Engine motor;
     TextView definition, update;
   };
-  constexpr Row kRows[] = {
-      {1, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},   {2, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
-      {3, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},   {0, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-      {4, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},         {-1, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-      {INT32_MAX, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}, {INT32_MIN, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}};
+  constexpr Row kRows[] = {{Engine::Jet, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},
+                           {Engine::SqlServer, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
+                           {Engine::Oracle, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},
+                           {Engine::None, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+                           {Engine{4}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+                           {Engine{-1}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+                           {Engine{INT32_MAX}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+                           {Engine{INT32_MIN}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}};
   put_names({u"GestionJET1.cfc", u"GestionSQL1.cfc", u"GestionORA1.cfc", u"Gestion1.cfc", u"Gestion10024a10025JET.cfc",
              u"Gestion10024a10025SQL.cfc", u"Gestion10024a10025ORA.cfc", u"Gestion10024a10025.cfc"});
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.motor);
+    SCOPED_TRACE(number_of(row.motor));
     motor = row.motor;
     EXPECT_EQ(definition(), joined({row.definition}));
     EXPECT_EQ(update(10024), joined({row.update}));

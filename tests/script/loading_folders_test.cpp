@@ -72,10 +72,10 @@ TEST_F(LoadingFoldersTest, BlankLinesAreText) {
 class LoadingFromDiskTest : public ScriptTest {
  protected:
   Text definition(TextView ruta, TextView name = u"Gestion") {
-    return runner.CargarDefinicion(id, 2, ruta, name, ScriptAccounts(), false);
+    return runner.CargarDefinicion(id, Engine::SqlServer, ruta, name, ScriptAccounts(), false);
   }
   Text update(TextView ruta, std::int32_t version, TextView application = u"Gestion") {
-    return runner.CargarActualizacion(id, 2, ruta, application, version, ScriptAccounts(), false);
+    return runner.CargarActualizacion(id, Engine::SqlServer, ruta, application, version, ScriptAccounts(), false);
   }
   void fill(TextView subfolder) const {
     folder.write(join({subfolder, u"GestionSQL2.cfc"}), "second");

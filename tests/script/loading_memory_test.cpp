@@ -99,8 +99,9 @@ TEST_P(LoadingMemory, OfADefinitionIsAtMostThreeTexts) {
   const Row& row = GetParam();
   std::vector<Text> names;
   for (int i = 1; i <= row.files; ++i) names.push_back(join({u"GestionSQL", decimal(i), u".cfc"}));
-  expect_little(row, names,
-                [&] { return runner.CargarDefinicion(u"app", 2, folder.text(), u"Gestion", row.accounts, true); });
+  expect_little(row, names, [&] {
+    return runner.CargarDefinicion(u"app", Engine::SqlServer, folder.text(), u"Gestion", row.accounts, true);
+  });
 }
 
 TEST_P(LoadingMemory, OfAnUpdateIsAtMostThreeTexts) {
@@ -110,7 +111,7 @@ TEST_P(LoadingMemory, OfAnUpdateIsAtMostThreeTexts) {
     names.push_back(join({u"Gestion1000", decimal(i), u"a1000", decimal(i + 1), u"SQL.cfc"}));
   }
   expect_little(row, names, [&] {
-    return runner.CargarActualizacion(u"app", 2, folder.text(), u"Gestion", 10001, row.accounts, true);
+    return runner.CargarActualizacion(u"app", Engine::SqlServer, folder.text(), u"Gestion", 10001, row.accounts, true);
   });
 }
 

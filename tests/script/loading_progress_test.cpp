@@ -24,20 +24,24 @@ class LoadingProgressTest : public LoadingTest {
 
 TEST_F(LoadingProgressTest, StepsInOrderForEachEngine) {
   struct Row {
-    std::int32_t motor;
+    Engine motor;
     bool encrypt;
     const char* tag;
     Lines steps;
   };
   const Row kRows[] = {
-      {1, false, "JET", kAccounts},       {1, true, "JET", kAccounts},
-      {2, false, "SQL", kAccounts},       {2, true, "SQL", together({kEncryption, kAccounts})},
-      {3, false, "ORA", kOracleAccounts}, {3, true, "ORA", kOracleAccounts},
-      {0, false, "", kAccounts},          {0, true, "", kAccounts},
-      {5, true, "", kAccounts},
+      {Engine::Jet, false, "JET", kAccounts},
+      {Engine::Jet, true, "JET", kAccounts},
+      {Engine::SqlServer, false, "SQL", kAccounts},
+      {Engine::SqlServer, true, "SQL", together({kEncryption, kAccounts})},
+      {Engine::Oracle, false, "ORA", kOracleAccounts},
+      {Engine::Oracle, true, "ORA", kOracleAccounts},
+      {Engine::None, false, "", kAccounts},
+      {Engine::None, true, "", kAccounts},
+      {Engine{5}, true, "", kAccounts},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(testing::Message() << "engine " << row.motor << (row.encrypt ? ", encrypted" : ""));
+    SCOPED_TRACE(testing::Message() << "engine " << number_of(row.motor) << (row.encrypt ? ", encrypted" : ""));
     motor = row.motor, encrypt = row.encrypt;
     const Text tag = *from_utf8(row.tag);
     const Text one = join({u"Gestion", tag, u"1.cfc"}), two = join({u"Gestion", tag, u"2.cfc"});
@@ -124,7 +128,7 @@ TEST_F(LoadingProgressTest, AClockOutsideTheCalendarFailsForOracleOnly) {
   thread.clock.moment = Date{1e10};
   EXPECT_EQ(definition(), definition_text);
   taken();
-  motor = 3;
+  motor = Engine::Oracle;
   put_names({u"GestionORA1.cfc"});
   EXPECT_EQ(definition(), u"");
   EXPECT_EQ(taken(), together({file_lines(u"GestionORA1.cfc"), kFailed}));
@@ -136,7 +140,7 @@ TEST_F(LoadingProgressTest, NoOtherRunBeginsFromInside) {
   const auto intrude = [&] {
     if (++entered > 50) return;  // a run that is let in must not go on for ever
     Text other_id = u"EvitarTransaccionOther", shown;
-    const bool ran = runner.EjecutarComandos(other_id, 1, u"B\r\nGO\r\n", u"other", shown);
+    const bool ran = runner.EjecutarComandos(other_id, Engine::Jet, u"B\r\nGO\r\n", u"other", shown);
     const bool loaded = !definition().empty() || !update(10024).empty();
     if (!ran && !loaded && other_id == u"EvitarTransaccionOther" && shown.empty()) ++refused;
   };
@@ -180,7 +184,9 @@ TEST_F(LoadingProgressTest, AnotherObjectMayLoadFromInside) {
   LoggingEvents other_events(thread.log);
   QVRScr other(other_events);
   Text inner;
-  events.on_end = [&] { inner = other.CargarActualizacion(id, 2, folder, u"Gestion", 10024, accounts, false); };
+  events.on_end = [&] {
+    inner = other.CargarActualizacion(id, Engine::SqlServer, folder, u"Gestion", 10024, accounts, false);
+  };
   EXPECT_EQ(definition(), definition_text);
   EXPECT_EQ(inner, joined({kUpdate}));
   EXPECT_EQ(taken(), together({whole_definition(), whole_update()}));

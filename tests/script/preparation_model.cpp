@@ -35,9 +35,10 @@ Text plainly_encrypted(Text text) {
   return text;
 }
 
-Text plainly_filled(Text text, std::int32_t motor, const ScriptAccounts& accounts, TextView hour) {
+Text plainly_filled(Text text, Engine motor, const ScriptAccounts& accounts, TextView hour) {
   text = plainly_replaced(text, u"[NombreBD]", accounts.NombreBaseOTablespace);
-  if (motor == 3) text = plainly_replaced(text, u"[LogFile]", join({accounts.NombreBaseOTablespace, hour}));
+  if (motor == Engine::Oracle)
+    text = plainly_replaced(text, u"[LogFile]", join({accounts.NombreBaseOTablespace, hour}));
   text = plainly_replaced(text, u"[UsuarioQVRAdm]", accounts.UsuarioQVRAdm);
   text = plainly_replaced(text, u"[ClaveUsuarioQVRAdm]", accounts.ClaveUsuarioQVRAdm);
   text = plainly_replaced(text, u"[UsuarioQVRCli]", accounts.UsuarioQVRCli);

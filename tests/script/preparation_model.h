@@ -8,6 +8,6 @@ namespace qvr::tests {
 Text plainly_replaced(TextView text, TextView what, TextView by);
 Text plainly_encrypted(Text text);
 // `hour` is what a log file's name ends in.
-Text plainly_filled(Text text, std::int32_t motor, const ScriptAccounts& accounts, TextView hour);
+Text plainly_filled(Text text, Engine motor, const ScriptAccounts& accounts, TextView hour);
 
 }  // namespace qvr::tests

@@ -78,7 +78,7 @@ TEST_F(PreparationModelTest, FillsInAsThePlainPassesDo) {
   for (int round = 0; round < 20000; ++round) {
     const auto value = [&] { return random_text(random, kPieces, 3); };
     accounts = {value(), value(), value(), value(), value()};
-    motor = round % 5;
+    motor = static_cast<Engine>(round % 5);
     const Text text = random_text(random, kPieces, 12), expected = plainly_filled(text, motor, accounts, u"1200");
     ASSERT_EQ(with_accounts(text, motor, accounts, events), expected) << testing::PrintToString(text);
     changed += text != expected;
@@ -108,7 +108,7 @@ TEST_F(PreparationModelTest, PreparesALargeTextFullOfReplacements) {
 }
 
 TEST_F(PreparationModelTest, GetsThroughLargeTextsOfNearMisses) {
-  motor = 3;
+  motor = Engine::Oracle;
   for (const TextView piece :
        {u"[", u"\r\n", u"\r\nA", u"\r\nAS\r", u"[ClaveUsuarioQVRCl", u"\r\nFOR INSERT, UPDATE\r\n"}) {
     SCOPED_TRACE(testing::PrintToString(piece));

@@ -67,12 +67,13 @@ TEST_F(PreparationTest, TheEncryptionClauseStandsWhereTheServerWantsIt) {
 }
 
 TEST_F(PreparationTest, OnlySqlServerEncryptsAndOnlyWhenAsked) {
-  for (std::int32_t engine : {1, 2, 3}) {
+  for (Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
     for (const bool asked : {false, true}) {
-      SCOPED_TRACE(testing::Message() << "engine " << engine << (asked ? ", asked" : ""));
+      SCOPED_TRACE(testing::Message() << "engine " << number_of(engine) << (asked ? ", asked" : ""));
       motor = engine, encrypt = asked;
       for (TextView tag : {u"JET", u"SQL", u"ORA"}) put(join({u"Gestion", tag, u"1.cfc"}), "create\nas\nx");
-      EXPECT_EQ(definition(), lines(engine == 2 && asked ? u"create|WITH ENCRYPTION AS|x|" : u"create|as|x|"));
+      EXPECT_EQ(definition(),
+                lines(engine == Engine::SqlServer && asked ? u"create|WITH ENCRYPTION AS|x|" : u"create|as|x|"));
     }
   }
 }
@@ -90,15 +91,16 @@ constexpr TextView kWords[] = {u"[NombreBD]",           u"[LogFile]",       u"[U
                                u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]"};
 
 TEST_F(PreparationTest, EachWordInAnyCaseForEachEngine) {
-  for (std::int32_t engine : {0, 1, 2, 3, 4, -3}) {
+  for (Engine engine : {Engine::None, Engine::Jet, Engine::SqlServer, Engine::Oracle, Engine{4}, Engine{-3}}) {
     motor = engine;
-    const Text values[] = {u"Ventas", engine == 3 ? u"Ventas1200" : u"", u"adm", u"adm clave", u"cli", u"cli clave"};
+    const Text values[] = {u"Ventas",   engine == Engine::Oracle ? u"Ventas1200" : u"", u"adm", u"adm clave", u"cli",
+                           u"cli clave"};
     for (std::size_t i = 0; i < std::size(kWords); ++i) {
       Text upper(kWords[i]), lower(kWords[i]);
       for (char16_t& unit : upper) unit = fold(unit);
       for (char16_t& unit : lower) unit = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
       for (const Text& word : {Text(kWords[i]), upper, lower}) {
-        SCOPED_TRACE(testing::Message() << "engine " << engine << " " << to_utf8(word));
+        SCOPED_TRACE(testing::Message() << "engine " << number_of(engine) << " " << to_utf8(word));
         const Text expected = values[i].empty() ? word : values[i];
         EXPECT_EQ(filled(word), expected);
         EXPECT_EQ(filled(join({u"a ", word, word, u"\r\n[", word, u"]"})),
@@ -109,7 +111,7 @@ TEST_F(PreparationTest, EachWordInAnyCaseForEachEngine) {
 }
 
 TEST_F(PreparationTest, WhatIsNoSuchWordStays) {
-  motor = 3;
+  motor = Engine::Oracle;
   for (const TextView text :
        {u"", u"[]", u"[Otro]", u"[NombreBD", u"NombreBD]", u"[ NombreBD]", u"[Nombre BD]", u"[NombreBD ]",
         u"(NombreBD)", u"[NombreBDs]", u"[Usuario]", u"[N\u00f3mbreBD]", u"[LogFil\u00e9]", u"[Nombre\r\nBD]"}) {
@@ -131,7 +133,7 @@ TEST_F(PreparationTest, TheLogFileHasTheHourAndMinute) {
       {"last minute", 40548 + 86399 / 86400.0, u"2359"},
       {"before the first day", -1.25, u"0600"},
   };
-  motor = 3;
+  motor = Engine::Oracle;
   for (const Moment& moment : kMoments) {
     SCOPED_TRACE(moment.name);
     thread.clock.moment = Date{moment.days};
@@ -164,7 +166,7 @@ TEST_F(PreparationTest, ValuesAreSeenByLaterPassesOnly) {
       {"line breaks", {u"a\r\nGO\r\nb", u"", u"", u"", u""}, u"[NombreBD]", u"a\r\nGO\r\nb"},
       {"other letters", {u"\u00f1 \u65e5 \U0001F4C1", u"", u"", u"", u""}, u"[NombreBD]", u"\u00f1 \u65e5 \U0001F4C1"},
   };
-  motor = 3;
+  motor = Engine::Oracle;
   for (const Chain& chain : kChains) {
     SCOPED_TRACE(chain.name);
     accounts = chain.accounts;

@@ -29,7 +29,7 @@ class RunIntoDatabase : public testing::Test {
 
   bool run(TextView commands, Text id = u"app") {
     Text shown = u"Hecho: ";
-    return runner.EjecutarComandos(id, 2, commands, connection(), shown);
+    return runner.EjecutarComandos(id, Engine::SqlServer, commands, connection(), shown);
   }
   Text connection() const { return join({u"Provider=MSDASQL;Extended Properties=\"", driver_string(), u"\""}); }
   Text driver_string() const {
@@ -90,8 +90,8 @@ TEST_F(RunIntoDatabase, KeepsWhatRanWithoutATransaction) {
 TEST_F(RunIntoDatabase, ReportsADatabaseThatCannotBeOpened) {
   thread.boxes.answer(BoxAnswer::Ok);
   Text id, shown;
-  EXPECT_FALSE(
-      runner.EjecutarComandos(id, 2, u"select 1\r\nGO\r\n", u"Provider=MSDASQL;Data Source=NoSuchDsn;", shown));
+  EXPECT_FALSE(runner.EjecutarComandos(id, Engine::SqlServer, u"select 1\r\nGO\r\n",
+                                       u"Provider=MSDASQL;Data Source=NoSuchDsn;", shown));
   EXPECT_TRUE(thread.boxes.shown[0].starts_with(u"Servidor no encontrado\r\n\r\nError "))
       << to_utf8(thread.boxes.shown[0]);
   EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: EjecutarComandos"))
@@ -114,8 +114,8 @@ TEST_F(RunIntoDatabase, LeavesTheCallersConnectionToTheCaller) {
   own->set_connection_string(connection());
   own->open();
   own->begin_trans();
-  EXPECT_TRUE(runner.Ejecutar1Comando(own.get(), u"create table T(N int)", 2));
-  EXPECT_TRUE(runner.Ejecutar1Comando(own.get(), u"insert into T values(1)", 2));
+  EXPECT_TRUE(runner.Ejecutar1Comando(own.get(), u"create table T(N int)", Engine::SqlServer));
+  EXPECT_TRUE(runner.Ejecutar1Comando(own.get(), u"insert into T values(1)", Engine::SqlServer));
   own->commit_trans();
   own->close();
   EXPECT_EQ(ask(u"select count(*) from T"), u"1");

@@ -9,7 +9,7 @@ class RunEventsTest : public ScriptTest {
   bool nested_run() {
     if (++attempts > 5) return true;  // a run that is let in must not go on for ever
     Text nested_id = u"EvitarTransaccionOther", nested_text;
-    const bool result = runner.EjecutarComandos(nested_id, 1, u"B\r\nGO\r\n", u"other", nested_text);
+    const bool result = runner.EjecutarComandos(nested_id, Engine::Jet, u"B\r\nGO\r\n", u"other", nested_text);
     EXPECT_EQ(nested_id, u"EvitarTransaccionOther") << "a refused run leaves its arguments alone";
     EXPECT_EQ(nested_text, u"");
     return result;
@@ -96,7 +96,7 @@ TEST_F(RunEventsTest, AnotherObjectMayRunFromInside) {
   bool inner_result = false;
   events.on_end = [&] {
     Text other_id = u"x", other_text;
-    inner_result = other.EjecutarComandos(other_id, 1, u"", u"Provider=P;", other_text);
+    inner_result = other.EjecutarComandos(other_id, Engine::Jet, u"", u"Provider=P;", other_text);
   };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_TRUE(inner_result);
@@ -107,7 +107,9 @@ TEST_F(RunEventsTest, OneCommandMayRunFromInside) {
   const auto connection = thread.ado.new_connection();
   taken();
   bool inner_result = false;
-  thread.host_events.on_process = [&] { inner_result = runner.Ejecutar1Comando(connection.get(), u"X", 2); };
+  thread.host_events.on_process = [&] {
+    inner_result = runner.Ejecutar1Comando(connection.get(), u"X", Engine::SqlServer);
+  };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_TRUE(inner_result);
   EXPECT_EQ(taken(), together({opening(),

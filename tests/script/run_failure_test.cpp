@@ -41,10 +41,11 @@ TEST_F(RunFailureTest, EachFailingCallEndsTheRunOnce) {
     QVRScr inner_runner(inner_events);
     inner.ado.fail(row.operation, 1, refusal());
     Text shown;
-    EXPECT_FALSE(inner_runner.EjecutarComandos(id, 2, u"A\r\nGO\r\n", u"Provider=P;", shown));
+    EXPECT_FALSE(inner_runner.EjecutarComandos(id, Engine::SqlServer, u"A\r\nGO\r\n", u"Provider=P;", shown));
     EXPECT_EQ(inner.log.take(), row.lines);
     shown.clear();
-    EXPECT_TRUE(inner_runner.EjecutarComandos(id, 2, u"A\r\nGO\r\n", u"Provider=P;", shown)) << "usable again";
+    EXPECT_TRUE(inner_runner.EjecutarComandos(id, Engine::SqlServer, u"A\r\nGO\r\n", u"Provider=P;", shown))
+        << "usable again";
     EXPECT_EQ(inner.log.take(), together({opening(), kCommand, closing()}));
   }
 }
@@ -62,7 +63,7 @@ TEST_F(RunFailureTest, EachFailingCallOfACommandIsAFailedCommand) {
     inner.ado.fail(kOperations[i], 1, refusal());
     inner.boxes.answer(BoxAnswer::No);
     Text shown;
-    EXPECT_FALSE(inner_runner.EjecutarComandos(id, 2, u"A\r\nGO\r\n", u"Provider=P;", shown));
+    EXPECT_FALSE(inner_runner.EjecutarComandos(id, Engine::SqlServer, u"A\r\nGO\r\n", u"Provider=P;", shown));
     Lines made(command.begin(), command.begin() + static_cast<std::ptrdiff_t>(i) + 1);
     if (i > 0) made.push_back("Command released");
     EXPECT_EQ(inner.log.take(), together({opening(),

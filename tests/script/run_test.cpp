@@ -203,7 +203,7 @@ TEST_F(RunTest, CountsThousandsOfCommands) {
 }
 
 TEST_F(RunTest, EnginesAreOnlyPassedOnToTheReport) {
-  motor = -7;
+  motor = Engine{-7};
   thread.ado.fail("Command.Execute", 1, refusal());
   thread.boxes.answer(BoxAnswer::No);
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));

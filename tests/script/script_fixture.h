@@ -33,7 +33,7 @@ class ScriptTest : public ::testing::Test {
   QVRScr runner{events};
   Text id = u"id";
   Text shown_text;
-  std::int32_t motor = 2;
+  Engine motor = Engine::SqlServer;
 };
 
 // The lines of one command that succeeds, up to where its execution fails, and before one that fails earlier.

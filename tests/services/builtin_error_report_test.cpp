@@ -11,7 +11,7 @@ using services::AdoError;
 using services::BuiltinErrorReport;
 using services::ErrorNotice;
 
-ErrorNotice notice_of(std::int32_t motor, FailureDetail failure, std::vector<AdoError> errors = {}) {
+ErrorNotice notice_of(Engine motor, FailureDetail failure, std::vector<AdoError> errors = {}) {
   ErrorNotice notice;
   notice.failure = std::move(failure);
   notice.motor = motor;
@@ -31,30 +31,32 @@ Text box_for(const ErrorNotice& notice) {
 }
 
 TEST(BuiltinErrorReport, ShowsAFailureWithoutDatabaseErrors) {
-  EXPECT_EQ(box_for(notice_of(1, {13, u"Type mismatch", u"QVRlib21"})),
+  EXPECT_EQ(box_for(notice_of(Engine::Jet, {13, u"Type mismatch", u"QVRlib21"})),
             u"Error indeterminado\r\n\r\nError 13: Type mismatch (QVRlib21)\r\n\r\nM\u00e9todo: EjecutarComandos");
-  EXPECT_EQ(box_for(notice_of(0, {429, u"No object", u""})),
+  EXPECT_EQ(box_for(notice_of(Engine::None, {429, u"No object", u""})),
             u"Error indeterminado\r\n\r\nError 429: No object\r\n\r\nM\u00e9todo: EjecutarComandos");
 }
 
 TEST(BuiltinErrorReport, ShowsADuplicateRecord) {
   const FailureDetail failure{-2147217873, u"Duplicate key", u"Provider"};
-  EXPECT_EQ(box_for(notice_of(2, failure, {{-2147217873, u"Duplicate key", u"Provider", u"23000", 2627}})),
+  EXPECT_EQ(box_for(
+                notice_of(Engine::SqlServer, failure, {{-2147217873, u"Duplicate key", u"Provider", u"23000", 2627}})),
             u"Registro duplicado\r\n\r\nError -2147217873: Duplicate key (Provider)\r\n\r\n"
             u"M\u00e9todo: EjecutarComandos");
 }
 
 TEST(BuiltinErrorReport, ShowsAMissingServer) {
   const FailureDetail failure{-2147467259, u"Server not there", u"Provider"};
-  EXPECT_EQ(box_for(notice_of(3, failure, {{-2147467259, u"Server not there", u"Provider", u"", 12154}})),
+  EXPECT_EQ(box_for(notice_of(Engine::Oracle, failure, {{-2147467259, u"Server not there", u"Provider", u"", 12154}})),
             u"Servidor no encontrado\r\n\r\nError -2147467259: Server not there (Provider)\r\n\r\n"
             u"M\u00e9todo: EjecutarComandos");
 }
 
 TEST(BuiltinErrorReport, ShowsEveryErrorOfTheConnectionInOrder) {
   const FailureDetail failure{5, u"first", u"P"};
-  const Text box = box_for(notice_of(
-      2, failure, {{5, u"first", u"P", u"", 0}, {6, u"second", u"P", u"", 0}, {7, u"third", u"", u"", 2601}}));
+  const Text box = box_for(
+      notice_of(Engine::SqlServer, failure,
+                {{5, u"first", u"P", u"", 0}, {6, u"second", u"P", u"", 0}, {7, u"third", u"", u"", 2601}}));
   EXPECT_EQ(box,
             u"Registro duplicado\r\n\r\nError 5: first (P)\r\nError 6: second (P)\r\nError 7: third\r\n\r\n"
             u"M\u00e9todo: EjecutarComandos");
@@ -62,24 +64,30 @@ TEST(BuiltinErrorReport, ShowsEveryErrorOfTheConnectionInOrder) {
 
 TEST(BuiltinErrorReport, TellsTheKindsOfErrorByEngine) {
   struct Row {
-    std::int32_t motor, native;
+    Engine motor;
+    std::int32_t native;
     TextView sql_state, caption;
   };
   constexpr TextView kDuplicate = u"Registro duplicado", kServer = u"Servidor no encontrado",
                      kUnknown = u"Error indeterminado";
   constexpr Row kRows[] = {
-      {1, -1605, u"", kDuplicate},  {1, -105121349, u"", kDuplicate}, {1, -1811, u"", kServer},
-      {2, 2601, u"", kDuplicate},   {2, 2627, u"", kDuplicate},       {2, 17, u"", kServer},
-      {2, 53, u"", kServer},        {3, 1, u"", kDuplicate},          {3, 12154, u"", kServer},
-      {3, 12170, u"", kServer},     {3, 12514, u"", kServer},         {3, 12535, u"", kServer},
-      {3, 12541, u"", kServer},     {1, 2627, u"", kUnknown},         {2, 1, u"", kUnknown},
-      {3, 2601, u"", kUnknown},     {0, 2627, u"", kUnknown},         {99, 1, u"", kUnknown},
-      {0, 0, u"23505", kDuplicate}, {1, 0, u"3022", kDuplicate},      {2, 0, u"08001", kServer},
-      {3, 0, u"08004", kServer},    {0, 0, u"08S01", kServer},        {0, 0, u"08s01", kServer},
-      {0, 0, u"IM002", kServer},    {0, 0, u"42000", kUnknown},       {0, 0, u"", kUnknown},
+      {Engine::Jet, -1605, u"", kDuplicate},      {Engine::Jet, -105121349, u"", kDuplicate},
+      {Engine::Jet, -1811, u"", kServer},         {Engine::SqlServer, 2601, u"", kDuplicate},
+      {Engine::SqlServer, 2627, u"", kDuplicate}, {Engine::SqlServer, 17, u"", kServer},
+      {Engine::SqlServer, 53, u"", kServer},      {Engine::Oracle, 1, u"", kDuplicate},
+      {Engine::Oracle, 12154, u"", kServer},      {Engine::Oracle, 12170, u"", kServer},
+      {Engine::Oracle, 12514, u"", kServer},      {Engine::Oracle, 12535, u"", kServer},
+      {Engine::Oracle, 12541, u"", kServer},      {Engine::Jet, 2627, u"", kUnknown},
+      {Engine::SqlServer, 1, u"", kUnknown},      {Engine::Oracle, 2601, u"", kUnknown},
+      {Engine::None, 2627, u"", kUnknown},        {Engine{99}, 1, u"", kUnknown},
+      {Engine::None, 0, u"23505", kDuplicate},    {Engine::Jet, 0, u"3022", kDuplicate},
+      {Engine::SqlServer, 0, u"08001", kServer},  {Engine::Oracle, 0, u"08004", kServer},
+      {Engine::None, 0, u"08S01", kServer},       {Engine::None, 0, u"08s01", kServer},
+      {Engine::None, 0, u"IM002", kServer},       {Engine::None, 0, u"42000", kUnknown},
+      {Engine::None, 0, u"", kUnknown},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(::testing::Message() << "engine " << row.motor << ", error " << row.native << ", state "
+    SCOPED_TRACE(::testing::Message() << "engine " << number_of(row.motor) << ", error " << row.native << ", state "
                                       << to_utf8(row.sql_state));
     const Text text = services::error_report_text(
         notice_of(row.motor, {5, u"d", u""}, {{5, u"d", u"", Text(row.sql_state), row.native}}));
@@ -88,7 +96,7 @@ TEST(BuiltinErrorReport, TellsTheKindsOfErrorByEngine) {
 }
 
 TEST(BuiltinErrorReport, AbbreviatesALongCommand) {
-  ErrorNotice notice = notice_of(2, {5, u"d", u"s"});
+  ErrorNotice notice = notice_of(Engine::SqlServer, {5, u"d", u"s"});
   notice.label = u"Ejecutar1Comando: INSERT\r\nINTO " + Text(1000, u'x');
   const Text head = u"Ejecutar1Comando: INSERT INTO ";
   EXPECT_EQ(box_for(notice), u"Error indeterminado\r\n\r\nError 5: d (s)\r\n\r\nM\u00e9todo: " + head +
@@ -96,7 +104,7 @@ TEST(BuiltinErrorReport, AbbreviatesALongCommand) {
 }
 
 TEST(BuiltinErrorReport, NamesTheObjectBeforeTheMethod) {
-  ErrorNotice notice = notice_of(2, {2812, u"No procedure", u"P"},
+  ErrorNotice notice = notice_of(Engine::SqlServer, {2812, u"No procedure", u"P"},
                                  {{2812, u"No procedure", u"P", u"", 2812}, {1, u"also", u"", u"", 0}});
   notice.label = u"EjecutarProc";
   notice.object = u"dbo.Alta";
@@ -112,7 +120,7 @@ TEST(BuiltinErrorReport, NamesTheObjectBeforeTheMethod) {
 }
 
 TEST(BuiltinErrorReport, UsesTheCaptionsOfTheNotice) {
-  ErrorNotice notice = notice_of(2, {5, u"d", u"s"}, {{5, u"d", u"s", u"", 17}});
+  ErrorNotice notice = notice_of(Engine::SqlServer, {5, u"d", u"s"}, {{5, u"d", u"s", u"", 17}});
   notice.captions.server_not_found = u"No server";
   notice.captions.method = u"Method";
   EXPECT_EQ(box_for(notice), u"No server\r\n\r\nError 5: d (s)\r\n\r\nMethod: EjecutarComandos");

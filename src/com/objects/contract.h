@@ -107,7 +107,7 @@ class Contract : public Dual<_iSQL20> {
     return answer_while_kept(*this, Resultado, [&] { return query().Idioma(); });
   }
   STDMETHODIMP put_MotorBD(MotoresBD Valor) noexcept override {
-    return perform_while_kept(*this, [&] { query().MotorBD(static_cast<std::int32_t>(Valor)); });
+    return perform_while_kept(*this, [&] { query().MotorBD(static_cast<Engine>(Valor)); });
   }
   STDMETHODIMP get_MotorBD(MotoresBD* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] { return query().MotorBD(); });

@@ -111,7 +111,7 @@ class PrefixedContract : public Dual<I> {
     return answer_while_kept(*this, Resultado, [&] { return this->query().Idioma(); });
   }
   STDMETHODIMP put_iSQL20_MotorBD(MotoresBD Valor) noexcept override {
-    return perform_while_kept(*this, [&] { this->query().MotorBD(static_cast<std::int32_t>(Valor)); });
+    return perform_while_kept(*this, [&] { this->query().MotorBD(static_cast<Engine>(Valor)); });
   }
   STDMETHODIMP get_iSQL20_MotorBD(MotoresBD* Resultado) noexcept override {
     return answer_while_kept(*this, Resultado, [&] { return this->query().MotorBD(); });

@@ -8,7 +8,7 @@ QueryRequest query_request(LONG* MotorBD, BSTR* NombreObjeto, VARIANT_BOOL* Usar
                            BSTR* TablasFROM, VARIANT* RelacionTablas, BSTR* CondicionWHEREInicial,
                            SHORT* NumColumnasGROUPBY, BSTR* CondicionHAVINGInicial, BSTR* TextoORDERBYInicial,
                            LONG* TOP, LONG* Idioma) {
-  return {.MotorBD = number_of(MotorBD),
+  return {.MotorBD = engine_of(MotorBD),
           .NombreObjeto = text_of(NombreObjeto),
           .UsarDistinct = truth_of(UsarDistinct),
           .ColumnasSELECT = value_of(ColumnasSELECT),

@@ -6,7 +6,7 @@ HRESULT QVRcfpObject::Asignar(BSTR* ID, MotoresBD* MotorBD, BSTR* Provider, BSTR
                               BSTR* InitialCatalogOTablespace, BSTR* UsuarioAdm, BSTR* ClaveAdm, BSTR* UsuarioCli,
                               BSTR* ClaveCli, BSTR* OtrosParametros, VARIANT_BOOL* Resultado) noexcept {
   return answer(Resultado, [&] {
-    const PassingParameters taken{{.MotorBD = number_of(MotorBD),
+    const PassingParameters taken{{.MotorBD = engine_of(MotorBD),
                                    .Archivo = {},
                                    .Provider = text_of(Provider),
                                    .DataSource = text_of(DataSource),

@@ -40,7 +40,7 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
       return RunTexts{id, shown, id, shown, text_of(TextosComandos), secret_of(CadenaConexion)};
     };
     return with_arguments(core_, make, [&](RunTexts& texts) {
-      const bool success = core_.EjecutarComandos(texts.id, number_of(MotorBD), texts.commands, texts.connection_string,
+      const bool success = core_.EjecutarComandos(texts.id, engine_of(MotorBD), texts.commands, texts.connection_string,
                                                   texts.shown);
       give_back(ID, texts.given_id, texts.id);
       give_back(TextoMostrar, texts.given_shown, texts.shown);
@@ -53,12 +53,12 @@ HRESULT QVRScrObject::Ejecutar1Comando(Connection** Conexion, BSTR* TextoComando
                                        VARIANT_BOOL* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] {
     const auto connection = wrap_connection(object_of(Conexion));
-    return core_.Ejecutar1Comando(connection.get(), text_of(TextoComando), number_of(MotorBD));
+    return core_.Ejecutar1Comando(connection.get(), text_of(TextoComando), engine_of(MotorBD));
   });
 }
 
 HRESULT QVRScrObject::UsuarioSegunMotor(LONG* MotorBD, BSTR* Resultado) noexcept {
-  return answer(Resultado, [&] { return core_.UsuarioSegunMotor(number_of(MotorBD)); });
+  return answer(Resultado, [&] { return core_.UsuarioSegunMotor(engine_of(MotorBD)); });
 }
 
 HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR* NombreDefinicion,
@@ -74,7 +74,7 @@ HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
     return with_arguments(core_, make, [&](const LoadTexts& texts) {
-      return core_.CargarDefinicion(texts.id, number_of(MotorBD), texts.folder, texts.name, texts.accounts,
+      return core_.CargarDefinicion(texts.id, engine_of(MotorBD), texts.folder, texts.name, texts.accounts,
                                     truth_of(Encri));
     });
   });
@@ -93,7 +93,7 @@ HRESULT QVRScrObject::CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, B
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
     return with_arguments(core_, make, [&](const LoadTexts& texts) {
-      return core_.CargarActualizacion(texts.id, number_of(MotorBD), texts.folder, texts.name, number_of(VersionActual),
+      return core_.CargarActualizacion(texts.id, engine_of(MotorBD), texts.folder, texts.name, number_of(VersionActual),
                                        texts.accounts, truth_of(Encri));
     });
   });

@@ -1,4 +1,4 @@
-#include "session/error_box.h"
+#include "session/message_box.h"
 
 #include "dialect/dialect_fixture.h"
 
@@ -8,7 +8,7 @@ namespace {
 class ErrorBoxTest : public DialectTest {
  protected:
   void expect_box(const FailureDetail& failure, TextView text) {
-    const auto call = [&] { return dialect::show_failure(u"QVRcfp", u"Metodo: @p(INT)", failure), Text(); };
+    const auto call = [&] { return show_failure(u"QVRcfp", u"Metodo: @p(INT)", failure), Text(); };
     expect_outcome(told(text), call);
   }
 };
