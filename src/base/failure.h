@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <exception>
-#include <new>
 #include <utility>
 
 #include "base/text.h"
@@ -59,18 +58,6 @@ template <class R, class Body>
 R or_default(R fallback, Body&& body) noexcept {
   try {
     return std::forward<Body>(body)();
-  } catch (...) {
-    return fallback;
-  }
-}
-
-// The same for what is kept or built upon: want of memory passes, since the next try may give another result.
-template <class R, class Body>
-R or_default_unless_memory(R fallback, Body&& body) {
-  try {
-    return std::forward<Body>(body)();
-  } catch (const std::bad_alloc&) {
-    throw;
   } catch (...) {
     return fallback;
   }

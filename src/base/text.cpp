@@ -53,8 +53,8 @@ Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t*
     result.append(by);
     from = at + what.size();
   }
-  if (position != nullptr) *position = place;
   result.append(text, from);
+  if (position != nullptr) *position = place;
   return result;
 }
 

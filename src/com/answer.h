@@ -34,11 +34,10 @@ IDispatch* object_of(Interface** argument) {
 }
 
 // Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
-// when the host wrote to the variable meanwhile; so does one for which there is no memory.
+// when the host wrote to the variable meanwhile.
 inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
   if (argument == nullptr || taken == left) return;
   OwnedBstr changed(left);
-  if (changed.get() == nullptr) return;
   std::swap(*argument, *changed.out());
 }
 
@@ -53,7 +52,7 @@ template <class Number>
 void put_result(Number* out, std::int32_t result) { *out = static_cast<Number>(result); }
 
 // Runs the body, which gives an HRESULT. A run-time failure becomes its HRESULT with error info; anything else, which
-// is want of memory, `otherwise`.
+// means out of memory, `otherwise`.
 template <class Body>
 HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
   try {
@@ -66,8 +65,8 @@ HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
   }
 }
 
-// Runs the member's body and hands over its result. Want of memory for an argument's copy leaves the default result,
-// like any other failure that the contract does not let reach the caller.
+// Runs the member's body and hands over its result. An argument that there is no memory to copy leaves the default
+// result, like any other failure that the contract does not let reach the caller.
 template <class Out, class Body>
 HRESULT answer(Out* out, Body&& body) noexcept {
   if (out == nullptr) return E_POINTER;

@@ -56,9 +56,8 @@ bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
   return or_default(false, [&] {
     if (!created_) return false;
     ThreadState& state = thread_state();
-    Text name(A);
     const auto file = state.platform().files.create(cfp_path(R, A));
-    if (fields_.Archivo.empty()) fields_.Archivo = std::move(name);
+    if (fields_.Archivo.empty()) fields_.Archivo = A;
     // All that can fail first, written after: a protection that fails leaves the file that is there alone.
     file->write(cfp_bytes(fields_, state.platform().files, state.text_protection(), ID));
     file->close();

@@ -25,22 +25,18 @@ std::optional<std::int16_t> small_number(TextView text) {
 void AddedOrder::click(std::int16_t column, bool ascending_at_first) {
   const bool again = !clicks_.empty() && clicks_.back().column == column;
   const Click last{column, again ? !clicks_.back().ascending : ascending_at_first};
-  Text list;
-  append_to_list(list, last);
-  std::ranges::for_each(clicks_.rbegin(), clicks_.rend(), [&](const Click& click) {
-    if (click.column != column) append_to_list(list, click);
-  });
-  clicks_.reserve(clicks_.size() + 1);
-  // Nothing fails from here on.
   std::erase_if(clicks_, [column](const Click& click) { return click.column == column; });
   clicks_.push_back(last);
-  list_ = std::move(list);
 }
 
-void AddedOrder::append_to_list(Text& list, const Click& click) {
-  if (!list.empty()) list += u',';
-  list += decimal(click.column);
-  if (!click.ascending) list += u" DESC";
+Text AddedOrder::list() const {
+  Text list;
+  for (auto click = clicks_.rbegin(); click != clicks_.rend(); ++click) {
+    if (!list.empty()) list += u',';
+    list += decimal(click->column);
+    if (!click->ascending) list += u" DESC";
+  }
+  return list;
 }
 
 Text AddedOrder::clicks() const {
@@ -62,9 +58,6 @@ std::optional<AddedOrder> AddedOrder::from_clicks(TextView text, std::size_t col
     if (column == 0 || column > columns || column > INT16_MAX || seen[column]) return std::nullopt;
     seen[column] = true;
     order.clicks_.push_back({static_cast<std::int16_t>(column), *number > 0});
-  }
-  for (auto click = order.clicks_.rbegin(); click != order.clicks_.rend(); ++click) {
-    append_to_list(order.list_, *click);
   }
   return order;
 }

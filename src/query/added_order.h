@@ -12,17 +12,14 @@ namespace qvr::query {
 class AddedOrder {
  public:
   bool empty() const { return clicks_.empty(); }
-  void clear() noexcept {
-    clicks_.clear();
-    list_.clear();
-  }
+  void clear() noexcept { clicks_.clear(); }
 
   // Another click: on the column clicked last it turns the direction round, on any other it makes that column the
-  // first. Throws without having changed anything.
+  // first.
   void click(std::int16_t column, bool ascending_at_first);
 
   // "2 DESC,5": positions in the select list, the last clicked first.
-  const Text& list() const { return list_; }
+  Text list() const;
 
   // "5,-2": columns as they were clicked, descending ones negative; and back, nothing for what is no such text or names
   // a column beyond the last.
@@ -35,11 +32,8 @@ class AddedOrder {
     bool ascending;
   };
 
-  static void append_to_list(Text& list, const Click& click);
-
   // One for each column: an older click has no effect left.
   std::vector<Click> clicks_;
-  Text list_;
 };
 
 }  // namespace qvr::query

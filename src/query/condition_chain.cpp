@@ -62,9 +62,7 @@ void ConditionChain::forget_index() noexcept {
 bool ConditionChain::add(TextView condition) {
   if (is_blank(condition)) return false;
   if (is_blank(text_)) {
-    text_.reserve(condition.size() + 2);  // the last that can fail; memory of former conditions serves again
-    clear();
-    ((text_ += u'(') += condition) += u')';
+    assign(join({u"(", condition, u")"}));
     return true;
   }
   const Text piece = join({kAnd, u"(", condition, u")"});

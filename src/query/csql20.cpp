@@ -118,7 +118,7 @@ Text cSQL20::Tag() const noexcept {
 }
 
 void cSQL20::Tag(TextView value) noexcept {
-  or_default(false, [&] { return fields_.tag = Text(value), true; });
+  or_default(false, [&] { return fields_.tag = value, true; });
 }
 
 void cSQL20::Idioma(std::int32_t value) noexcept {

@@ -14,32 +14,18 @@ namespace {
 constexpr TextView kClass = u"cSQL20";
 constexpr std::size_t kAfterSelect = 7, kAfterDistinct = 16;
 
-// Takes a text back to its length when what depends on it fails.
-class Extended {
- public:
-  explicit Extended(Text& text) : text_(text), before_(text.size()) {}
-  ~Extended() { text_.resize(before_); }
-  Extended(const Extended&) = delete;
-  Extended& operator=(const Extended&) = delete;
-  void keep() { before_ = text_.size(); }
-
- private:
-  Text& text_;
-  std::size_t before_;
-};
-
 Text top_mark(std::int32_t top) { return join({u" TOP ", decimal(top), u" "}); }
 
 }  // namespace
 
 bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView criterion) {
-  Extended readable(fields_.criterion);
+  Text longer = fields_.criterion;
   if (!criterion.empty()) {
-    if (!fields_.criterion.empty()) fields_.criterion += join({u" ", message(MsgY), u" "});
-    fields_.criterion += criterion;
+    if (!longer.empty()) longer += join({u" ", message(MsgY), u" "});
+    longer += criterion;
   }
   if (!chain.add(condition)) return false;
-  readable.keep();
+  fields_.criterion = std::move(longer);
   return true;
 }
 
@@ -71,9 +57,8 @@ bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
 
 void cSQL20::CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondicionHaving) noexcept {
   or_default(false, [&] {
-    Text where(NuevaCondicionWhere), having(NuevaCondicionHaving);
-    fields_.where = std::move(where);
-    fields_.having = std::move(having);
+    fields_.where = NuevaCondicionWhere;
+    fields_.having = NuevaCondicionHaving;
     RestauraOriginal(true, false);
     return true;
   });
@@ -81,7 +66,7 @@ void cSQL20::CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondici
 
 void cSQL20::CambiaOrden(TextView NuevoOrden) noexcept {
   or_default(false, [&] {
-    fields_.order = Text(NuevoOrden);
+    fields_.order = NuevoOrden;
     fields_.added_order.clear();
     return true;
   });
@@ -99,21 +84,16 @@ void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) n
 // The criterion stays: it still describes what was adopted.
 void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
   or_default(false, [&] {
-    Text where, having, order;
-    if (AdoptarWhere) where = current_where(true);
-    if (AdoptarHaving) having = current_having(true);
-    if (AdoptarOrder) order = current_order(true);
-    // Nothing fails from here on: all of it is adopted or none.
     if (AdoptarWhere) {
-      fields_.where = std::move(where);
+      fields_.where = current_where(true);
       fields_.added_where.clear();
     }
     if (AdoptarHaving) {
-      fields_.having = std::move(having);
+      fields_.having = current_having(true);
       fields_.added_having.clear();
     }
     if (AdoptarOrder) {
-      fields_.order = std::move(order);
+      fields_.order = current_order(true);
       fields_.added_order.clear();
     }
     return true;
@@ -144,14 +124,11 @@ void cSQL20::TOP(std::int32_t value) noexcept {
 // A limit written into the WHERE by its author changes along, but does not go.
 void cSQL20::replace_top(std::int32_t value) {
   const Text old_mark = top_mark(fields_.top), new_mark = value > 0 ? top_mark(value) : Text(u" ");
-  std::size_t columns_at = fields_.columns_at;
-  Text select = replace_all_no_case(fields_.select, old_mark, new_mark, &columns_at);
   if (value > 0) {
     const Text old_limit = join({u" ROWNUM<=", decimal(fields_.top), u" "});
     fields_.where = replace_all_no_case(fields_.where, old_limit, join({u" ROWNUM<=", decimal(value), u" "}));
   }
-  fields_.select = std::move(select);
-  fields_.columns_at = columns_at;
+  fields_.select = replace_all_no_case(fields_.select, old_mark, new_mark, &fields_.columns_at);
   fields_.top = value;
 }
 

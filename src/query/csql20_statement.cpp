@@ -40,7 +40,7 @@ void cSQL20::append_having(Text& statement, bool condition_only) const {
 }
 
 void cSQL20::append_order(Text& statement, bool list_only) const {
-  const TextView order = fields_.added_order.empty() ? fields_.order : fields_.added_order.list();
+  const Text order = fields_.added_order.empty() ? fields_.order : fields_.added_order.list();
   if (is_blank(order)) return;
   if (!list_only) statement += u"ORDER BY ";
   statement += order;
@@ -59,7 +59,7 @@ void cSQL20::append_statement(Text& statement) const {
 std::size_t cSQL20::longest_statement() const {
   const Fields& f = fields_;
   return f.select.size() + f.from.size() + f.where.size() + f.added_where.text().size() + f.group_by.size() +
-         f.having.size() + f.added_having.text().size() + f.order.size() + f.added_order.list().size() + kAroundClauses;
+         f.having.size() + f.added_having.text().size() + f.order.size() + kAroundClauses;
 }
 
 Text cSQL20::ParteWhere(bool SoloCondicion) const noexcept {

@@ -165,7 +165,7 @@ std::int32_t uSQL20::Idioma() const noexcept {
 }
 
 void uSQL20::Tag(TextView value) noexcept {
-  or_default(false, [&] { return tag_ = Text(value), true; });
+  or_default(false, [&] { return tag_ = value, true; });
 }
 
 Text uSQL20::Tag() const noexcept {

@@ -9,17 +9,8 @@ namespace qvr {
 namespace {
 
 double read_default_language(ThreadState& state) {
-  const Text system = decimal(state.idioma.language_of_system());
-  const Text setting = state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system);
-  return or_default_unless_memory(0.0, [&] { return number_prefix(setting); });
-}
-
-// Throws for want of memory only: a thread keeps what it is told here.
-std::int32_t default_language(ThreadState& state) {
-  return or_default_unless_memory(language::kSpanish, [&] {
-    if (!state.idioma_omision) state.idioma_omision = read_default_language(state);
-    return to_long(*state.idioma_omision);
-  });
+  const Text system = decimal(state.idioma.IdiomaDesdeSOP());
+  return number_prefix(state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system));
 }
 
 }  // namespace
@@ -29,15 +20,18 @@ void InicializarComun() noexcept {
     ThreadState& state = thread_state();
     if (state.idioma.Creado()) return true;
     CtesMensajes(state.mensajes);
-    const std::int32_t omision = default_language(state);
     std::vector<Value> carried;
     for (std::int32_t number = 0; number < language::kCarried; ++number) carried.emplace_back(number);
-    return state.idioma.CargarEnMemoria(omision, std::move(carried), state.mensajes);
+    return state.idioma.CargarEnMemoria(IdiomaOmision(), std::move(carried), state.mensajes);
   });
 }
 
 std::int32_t IdiomaOmision() noexcept {
-  return or_default(language::kSpanish, [] { return default_language(thread_state()); });
+  return or_default(language::kSpanish, [] {
+    ThreadState& state = thread_state();
+    if (!state.idioma_omision) state.idioma_omision = read_default_language(state);
+    return to_long(*state.idioma_omision);
+  });
 }
 
 Text message(Message row, std::span<const Value> arguments) {

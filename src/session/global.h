@@ -16,8 +16,8 @@ void InicializarComun() noexcept;
 // where there is none. Read once per thread.
 std::int32_t IdiomaOmision() noexcept;
 
-// A text for the user in this thread's language, with "|1", "|2"... replaced by the arguments. Loads the language where
-// the first object of the thread had no memory for that. Throws where there is no text.
+// A text for the user in this thread's language, which is loaded where it is not yet, with "|1", "|2"... replaced by
+// the arguments. Throws where there is no text.
 Text message(Message row, std::span<const Value> arguments = {});
 
 // Whether a directory search for the path with this attribute mask finds an entry; false for an empty path and on any

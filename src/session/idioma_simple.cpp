@@ -21,39 +21,27 @@ Text filled(Text text, std::size_t first_placeholder, std::span<const Value> val
 
 bool IdiomaSimple::CargarEnMemoria(std::int32_t Idioma, std::vector<Value> Idiomas,
                                    const TextTable& Mensajes) noexcept {
-  return or_default(false, [&] { return load(Idioma, std::move(Idiomas), Mensajes); });
+  loaded_ = false;
+  return or_default(false, [&] {
+    language_count_ = Mensajes.columns();
+    available_ = std::move(Idiomas);
+    message_count_ = Mensajes.rows();
+    catalogue_ = Mensajes;
+    return loaded_ = select(Idioma);
+  });
 }
 
-bool IdiomaSimple::load(std::int32_t idioma, std::vector<Value> idiomas, const TextTable& mensajes) {
-  loaded_ = false;
-  language_count_ = mensajes.columns();
-  available_ = std::move(idiomas);
-  message_count_ = mensajes.rows();
-  current_ = nearest_available(idioma);
-  catalogue_ = mensajes;
+bool IdiomaSimple::select(std::int32_t idioma) {
+  const std::int32_t nearest = nearest_available(idioma);
   const auto column = std::ranges::find_if(available_,
-                                           [this](const Value& number) { return to_number(number) == current_; });
-  if (column == available_.end()) return false;
-  std::vector<Text> texts;
-  texts.reserve(static_cast<std::size_t>(message_count_));
-  for (std::int32_t row = 0; row < message_count_; ++row) {
-    texts.push_back(catalogue_.at(row, static_cast<std::int32_t>(column - available_.begin())));
-  }
-  texts_ = std::move(texts);
-  return loaded_ = true;
+                                           [=](const Value& number) { return to_number(number) == nearest; });
+  current_ = nearest;
+  column_ = static_cast<std::int32_t>(column - available_.begin());
+  return column != available_.end() && column_ < language_count_;
 }
 
 void IdiomaSimple::Idioma(std::int32_t NuevoIdioma) noexcept {
-  or_default(false, [&] {
-    if (!loaded_) return false;
-    const std::int32_t wanted = nearest_available(NuevoIdioma);
-    if (wanted == current_) return true;
-    // Loaded elsewhere first: for want of memory the language in force stays.
-    IdiomaSimple changed(*user_language_);
-    changed.load(wanted, available_, catalogue_);
-    *this = std::move(changed);
-    return true;
-  });
+  if (loaded_) loaded_ = or_default(true, [&] { return select(NuevoIdioma); });
 }
 
 std::int32_t IdiomaSimple::nearest_available(std::int32_t idioma) const noexcept {
@@ -70,7 +58,7 @@ std::int32_t IdiomaSimple::nearest_available(std::int32_t idioma) const noexcept
 
 Text IdiomaSimple::text_of(std::int32_t row) const {
   if (!loaded_ || row < 0 || row >= message_count_) throw RuntimeFailure(failure_number::kSubscript);
-  return replace_all(texts_[static_cast<std::size_t>(row)], u"||", kLineBreak);
+  return replace_all(catalogue_.at(row, column_), u"||", kLineBreak);
 }
 
 Text IdiomaSimple::filled_text_of(std::int32_t row, std::span<const Value> values) const {
@@ -92,15 +80,11 @@ Text IdiomaSimple::CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const
   });
 }
 
-std::int32_t IdiomaSimple::language_of_system() const {
-  return or_default_unless_memory(language::kEnglish, [&] {
+std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
+  return or_default(language::kEnglish, [&] {
     const SystemLanguage system = system_language(user_language_->default_identifier());
     return system.needs_availability_check ? nearest_available(system.number) : system.number;
   });
-}
-
-std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
-  return or_default(language::kEnglish, [&] { return language_of_system(); });
 }
 
 std::vector<Value> IdiomaSimple::IdiomasDisponibles() const noexcept {

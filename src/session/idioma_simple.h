@@ -30,7 +30,7 @@ class IdiomaSimple {
   // CI with "|1", "|2"... replaced in ascending order, each over the result of the one before.
   Text CIp(std::int32_t row, std::span<const Value> Param) const noexcept;
   // The same for the library's own texts: an empty one would be shown, or become part of a longer one. Throws failure 9
-  // where CI would be empty, and for want of memory.
+  // where CI would be empty.
   Text text_of(std::int32_t row) const;
   Text filled_text_of(std::int32_t row, std::span<const Value> values) const;
   // The row when Cantidad is 1, else the one after it; "|1" is Cantidad, the list goes on at "|2".
@@ -42,18 +42,17 @@ class IdiomaSimple {
   // list give 0.
   std::int32_t IdiomaDesdeSOP() const noexcept;
   std::vector<Value> IdiomasDisponibles() const noexcept;
-  // IdiomaDesdeSOP, but want of memory is no answer: throws.
-  std::int32_t language_of_system() const;
 
  private:
-  bool load(std::int32_t idioma, std::vector<Value> idiomas, const TextTable& mensajes);
+  // Makes the language, or the nearest one that the list carries, the current one; false when it has no column.
+  bool select(std::int32_t idioma);
   std::int32_t nearest_available(std::int32_t idioma) const noexcept;
 
   std::int32_t current_ = 0;
   std::int32_t language_count_ = 0;
   std::vector<Value> available_;
   std::int32_t message_count_ = 0;
-  std::vector<Text> texts_;
+  std::int32_t column_ = 0;  // of the current language
   bool loaded_ = false;
   TextTable catalogue_;
   UserLanguage* user_language_;

@@ -58,4 +58,10 @@ inline const std::vector<NamedErrors>& ado_errors() {
   return kErrors;
 }
 
+// One of them for each failure of each call, so that every pair of the two comes about.
+inline const NamedErrors& ado_errors_at(int nth, const NamedFailure& failure) {
+  const auto position = nth + (&failure - ado_failures().data());
+  return ado_errors()[static_cast<std::size_t>(position) % ado_errors().size()];
+}
+
 }  // namespace qvr::tests

@@ -49,26 +49,25 @@ TEST(FailingProcedure, IsReportedOnceAndChangesNothing) {
   EXPECT_EQ(calls, kBefore + 11);
   for (int nth = kBefore + 1; nth <= calls; ++nth) {
     for (const NamedFailure& failure : ado_failures()) {
-      for (const NamedErrors& errors : ado_errors()) {
-        for (const Broken broken : {Broken::No, Broken::Yes}) {
-          SCOPED_TRACE(::testing::Message() << "call " << nth << ", " << failure.name << ", errors " << errors.name);
-          const std::size_t live = live_allocations();
-          {
-            Call call;
-            call.thread.ado.told_errors = errors.told;
-            call.thread.ado.fail_call(nth, failure.thrower, broken);
-            EXPECT_FALSE(call.call());
-            EXPECT_EQ(call.elements(), kIn);
-            const Lines log = call.thread.log.take();
-            EXPECT_EQ(lines_that_begin(log, "Report"), 1u);
-            EXPECT_EQ(lines_that_begin(log, "Connection"), 0u);
-            EXPECT_EQ(lines_that_begin(log, "Command released"), nth == kBefore + 1 ? 0u : 1u);
-            call.thread.ado.fail_call(0, nullptr, Broken::No);
-            EXPECT_TRUE(call.call());
-            EXPECT_EQ(call.elements(), kOut);
-          }
-          ASSERT_EQ(live_allocations(), live) << "not given back";
+      const NamedErrors& errors = ado_errors_at(nth, failure);
+      for (const Broken broken : {Broken::No, Broken::Yes}) {
+        SCOPED_TRACE(::testing::Message() << "call " << nth << ", " << failure.name << ", errors " << errors.name);
+        const std::size_t live = live_allocations();
+        {
+          Call call;
+          call.thread.ado.told_errors = errors.told;
+          call.thread.ado.fail_call(nth, failure.thrower, broken);
+          EXPECT_FALSE(call.call());
+          EXPECT_EQ(call.elements(), kIn);
+          const Lines log = call.thread.log.take();
+          EXPECT_EQ(lines_that_begin(log, "Report"), 1u);
+          EXPECT_EQ(lines_that_begin(log, "Connection"), 0u);
+          EXPECT_EQ(lines_that_begin(log, "Command released"), nth == kBefore + 1 ? 0u : 1u);
+          call.thread.ado.fail_call(0, nullptr, Broken::No);
+          EXPECT_TRUE(call.call());
+          EXPECT_EQ(call.elements(), kOut);
         }
+        ASSERT_EQ(live_allocations(), live) << "not given back";
       }
     }
   }

@@ -109,9 +109,8 @@ HRESULT QVRScrObject::FindConnectionPoint(REFIID id, IConnectionPoint** point) n
 
 void QVRScrObject::Progreso(const Text& Mensaje) noexcept {
   OwnedVariant argument;
-  argument->bstrVal = new_bstr(Mensaje);
-  if (argument->bstrVal == nullptr) return;  // no memory; an empty text would clear what the host shows
   argument->vt = VT_BSTR;
+  argument->bstrVal = new_bstr(Mensaje);
   point_.fire(kProgreso, *argument);
 }
 
