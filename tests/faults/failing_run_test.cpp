@@ -28,7 +28,7 @@ struct OneRun {
 
   bool run() {
     Text id = way.transaction ? u"id" : u"EvitarTransaccionid", shown_text;
-    return runner.EjecutarComandos(id, 2, kCommands, u"Provider=P;", shown_text);
+    return runner.EjecutarComandos(id, Engine::SqlServer, kCommands, u"Provider=P;", shown_text);
   }
   // The lines of a run into which nothing comes.
   static Lines good_log(Way way) {
@@ -136,7 +136,7 @@ TEST(FailingRun, NeedsNoMemoryToEnd) {
             Broken::Yes);
         {
           FailingAllocations failing(allocation, shortage);
-          success = run.runner.EjecutarComandos(id, 2, kCommands, u"Provider=P;", shown_text);
+          success = run.runner.EjecutarComandos(id, Engine::SqlServer, kCommands, u"Provider=P;", shown_text);
           failed = failing.failed();
         }
         EXPECT_FALSE(success);

@@ -64,6 +64,7 @@ inline std::string shown(TextView text) { return to_utf8(text); }
 inline std::string shown(const Text& text) { return to_utf8(text); }
 inline std::string shown(bool truth) { return truth ? "True" : "False"; }
 inline std::string shown(std::int32_t number) { return std::to_string(number); }
+inline std::string shown(Engine engine) { return std::to_string(number_of(engine)); }
 inline std::string shown(std::int16_t number) { return std::to_string(number); }
 inline std::string shown(const Value& value) { return describe(value); }
 inline std::string shown(Done) { return ""; }

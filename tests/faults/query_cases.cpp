@@ -53,9 +53,9 @@ struct QueryOn {
   TestThread thread;
   Query query;
 };
-using Select = QueryOn<cSQL20, kSqlServer, u'1'>;
-using FrenchSelect = QueryOn<cSQL20, kOracle, u'3'>;
-using Union = QueryOn<uSQL20, kSqlServer, u'1'>;
+using Select = QueryOn<cSQL20, Engine::SqlServer, u'1'>;
+using FrenchSelect = QueryOn<cSQL20, Engine::Oracle, u'3'>;
+using Union = QueryOn<uSQL20, Engine::SqlServer, u'1'>;
 
 // The members of the contract that both classes have.
 template <class On>
@@ -70,7 +70,7 @@ FaultCases contract_cases(const std::string& name) {
   other.query.AmpliarOrden(2);
   other.query.AmpliarCondicionWhere(u"C.Clase='A'", u"Clase = A");
   const Text criterion = other.query.CriterioActualCompleto(), definition = Select().query.TextoDefinicion();
-  const QueryRequest plain = full(kSqlServer);
+  const QueryRequest plain = full(Engine::SqlServer);
   return {
       on(".Name", [](auto& q) { return q.Name(); }),
       on(".SQL", [](auto& q) { return q.SQL(); }),
@@ -102,7 +102,7 @@ FaultCases contract_cases(const std::string& name) {
       changing(".Tag=", [](auto& q) { q.Tag(u"another tag of the host"); }),
       changing(".TOP=", [](auto& q) { q.TOP(10); }),
       changing(".Idioma=", [](auto& q) { q.Idioma(0); }),
-      changing(".MotorBD=", [](auto& q) { q.MotorBD(3); }),
+      changing(".MotorBD=", [](auto& q) { q.MotorBD(Engine::Oracle); }),
   };
 }
 
@@ -118,7 +118,7 @@ FaultCases cases_of_the_class() {
          [](cSQL20& q) { return q.AmpliarCondicionHaving(u"Count(*)>10", u"Cuenta > 10"); }),
       fault_case_of_change<Select>("cSQL20.CambiaCondicion",
                                    [](Select& s) { s.query.CambiaCondicion(u"C.Id=1000000", u"Sum(P.Imp)=1"); }),
-      on("cSQL20.Crear, Oracle", [request = limited(kOracle)](cSQL20& q) { return q.Crear(request); }),
+      on("cSQL20.Crear, Oracle", [request = limited(Engine::Oracle)](cSQL20& q) { return q.Crear(request); }),
   };
 }
 

@@ -121,16 +121,11 @@ FaultCases property_cases() {
 }
 
 FaultCases file_cases() {
-  static const ConnectionParameters kOther{3,
-                                           u"",
-                                           u"MSDAORA.1 as provider",
-                                           u"A data source",
-                                           u"A tablespace",
-                                           u"An administrator",
-                                           u"A password of it",
-                                           u"A client",
-                                           u"Another password",
-                                           u"Mode=ReadWrite"};
+  static const ConnectionParameters kOther{Engine::Oracle,           u"",
+                                           u"MSDAORA.1 as provider", u"A data source",
+                                           u"A tablespace",          u"An administrator",
+                                           u"A password of it",      u"A client",
+                                           u"Another password",      u"Mode=ReadWrite"};
   const Text written = Protection().protection.Cifrar(kId, u"a text to protect");
   return {
       on("QVRcfp.Asignar", [](QVRcfp& f) { return f.Asignar(kId, kOther); }),
@@ -182,9 +177,9 @@ struct Sql {
   std::unique_ptr<services::AdoCommand> command = thread.ado.new_command();
   Value parameters = list({5, u"a text that goes there"});
 };
-using Jet = Sql<kJet>;
-using Server = Sql<kSqlServer>;
-using Oracle = Sql<kOracle>;
+using Jet = Sql<Engine::Jet>;
+using Server = Sql<Engine::SqlServer>;
+using Oracle = Sql<Engine::Oracle>;
 
 template <class Fixture, class Call>
 FaultCase sql(const char* name, Call call) {

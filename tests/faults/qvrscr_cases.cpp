@@ -45,8 +45,12 @@ struct ReportingRunner : Runner {
   }
 };
 
-bool run(Runner& r) { return r.runner.EjecutarComandos(r.id, 2, kCommands, u"Provider=P;", r.shown_text); }
-bool run_one(Runner& r) { return r.runner.Ejecutar1Comando(r.connection.get(), u"DELETE FROM Clientes", 2); }
+bool run(Runner& r) {
+  return r.runner.EjecutarComandos(r.id, Engine::SqlServer, kCommands, u"Provider=P;", r.shown_text);
+}
+bool run_one(Runner& r) {
+  return r.runner.Ejecutar1Comando(r.connection.get(), u"DELETE FROM Clientes", Engine::SqlServer);
+}
 
 void check_run(const Lines& log, const std::string& result) { expect_whole_run(log, result == "True"); }
 
@@ -81,14 +85,16 @@ FaultCases qvrscr_cases() {
       telling(fault_case<ReportingRunner>("QVRScr.Ejecutar1Comando, refused", run_one), check_command),
       loading(fault_case<Runner>("QVRScr.CargarDefinicion",
                                  [](Runner& r) {
-                                   return r.runner.CargarDefinicion(u"id", 2, kFolder, u"Gestion", r.accounts, true);
+                                   return r.runner.CargarDefinicion(u"id", Engine::SqlServer, kFolder, u"Gestion",
+                                                                    r.accounts, true);
                                  })),
       loading(fault_case<Runner>("QVRScr.CargarActualizacion",
                                  [](Runner& r) {
-                                   return r.runner.CargarActualizacion(u"id", 2, kFolder, u"Gestion", 10001, r.accounts,
-                                                                       false);
+                                   return r.runner.CargarActualizacion(u"id", Engine::SqlServer, kFolder, u"Gestion",
+                                                                       10001, r.accounts, false);
                                  })),
-      fault_case<Runner>("QVRScr.UsuarioSegunMotor", [](Runner& r) { return r.runner.UsuarioSegunMotor(3); }),
+      fault_case<Runner>("QVRScr.UsuarioSegunMotor",
+                         [](Runner& r) { return r.runner.UsuarioSegunMotor(Engine::Oracle); }),
   };
 }
 
