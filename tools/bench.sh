@@ -41,7 +41,7 @@ PY
 
 for subject in creation dispatch members; do
   say "bench: $subject"
-  timeout 300 "$root/tools/wine.sh" "$build/win32/bin/${subject}_bench.exe" >"$results/$subject.json"
+  timeout 1500 "$root/tools/wine.sh" "$build/win32/bin/${subject}_bench.exe" >"$results/$subject.json"
 done
 "$root/tools/wine.sh" --stop
 

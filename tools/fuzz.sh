@@ -37,7 +37,7 @@ failed=()
 for target in "${targets[@]}"; do
   mkdir -p "$fuzz/corpus/$target"
   log=$fuzz/$target.log
-  "$fuzz/bin/${target}_fuzz" -max_total_time="$seconds" -max_len=4000 -timeout=60 -print_final_stats=1 \
+  "$fuzz/bin/${target}_fuzz" -max_total_time="$seconds" -max_len=4000 -timeout=300 -print_final_stats=1 \
     -dict="$sources/dictionaries/$target.dict" -artifact_prefix="$fuzz/crashes/$target-" \
     "$fuzz/corpus/$target" "$sources/corpus/$target" >"$log" 2>&1 || failed+=("$target")
   executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")

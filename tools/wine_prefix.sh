@@ -8,4 +8,6 @@ export QVR_WINEPREFIX=$1
 "$root/tools/wine.sh" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
 # A program that crashes ends with its backtrace instead of waiting in a dialog.
 "$root/tools/wine.sh" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
-"$root/tools/wine.sh" --stop
+# Its server ends by itself soon after the last program. One that is told to end is killed where that takes long, as on a
+# busy machine, and has then not written the registry.
+WINEPREFIX=$1 wineserver -w

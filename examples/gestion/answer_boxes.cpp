@@ -13,7 +13,7 @@ namespace gestion {
 namespace {
 
 constexpr DWORD kPause = 50;
-constexpr UINT kPatience = 5'000;
+constexpr UINT kPatience = 60'000;
 constexpr int kTextOfBox = 0xFFFF;
 
 struct Button {
@@ -32,8 +32,9 @@ std::wstring text_of(HWND window) {
   wchar_t buffer[8192];
   DWORD_PTR length = 0;
   const LRESULT asked = SendMessageTimeoutW(window, WM_GETTEXT, std::size(buffer), reinterpret_cast<LPARAM>(buffer),
-                                            SMTO_ABORTIFHUNG, kPatience, &length);
-  return asked == 0 ? std::wstring() : std::wstring(buffer, length);
+                                            SMTO_NORMAL, kPatience, &length);
+  expect(asked != 0, L"A box does not tell its text");
+  return std::wstring(buffer, length);
 }
 
 // A box that is visible has got its buttons; before, it has those of every kind of box.
@@ -99,7 +100,7 @@ Order read_order(int count, wchar_t** arguments) {
   Order order;
   order.answer = answer == L"yes" ? IDYES : IDNO;
   if (count > 2) order.boxes = _wtoi(arguments[2]);
-  const int seconds = count > 3 ? _wtoi(arguments[3]) : 60;
+  const int seconds = count > 3 ? _wtoi(arguments[3]) : 300;
   order.until = GetTickCount64() + static_cast<ULONGLONG>(seconds) * 1000;
   return order;
 }

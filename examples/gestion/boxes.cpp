@@ -5,7 +5,7 @@
 namespace gestion {
 namespace {
 
-constexpr DWORD kPatience = 90'000;
+constexpr DWORD kPatience = 330'000;
 
 std::wstring beside_this_program(const wchar_t* name) {
   wchar_t own[4096];

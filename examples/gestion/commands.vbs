@@ -152,7 +152,7 @@ End Sub
 Sub ShowAnswered
   Dim tries
   If Answerer = "" Then Exit Sub
-  For tries = 1 To 100
+  For tries = 1 To 1000
     If Fso.FileExists(Folder & "\boxes.txt") Then Exit For
     CreateObject("WScript.Shell").Run "cmd /c exit", 0, True
   Next

@@ -2,7 +2,7 @@
 # Runs the example host against the libraries in a folder of programs. Usage: example.sh 32|64 BIN SCRIPTS
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 200 "$here/../../tools/wine.sh" "$@"; }
+wine() { timeout 600 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 system='C:\windows\system32'

@@ -151,23 +151,29 @@ TEST_F(QVRScrTest, TheObjectLivesThroughARunThatReleasesIt) {
   sink->reaction = nullptr;
 }
 
-int timer_ticks;
+constexpr UINT kHostsMessage = WM_APP;
+std::vector<std::string> seen;
 
-void CALLBACK on_timer(HWND, UINT, UINT_PTR, DWORD) { ++timer_ticks; }
+LRESULT CALLBACK on_message(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == kHostsMessage) seen.emplace_back("message");
+  return DefWindowProcW(window, message, first, second);
+}
 
+// Every event posts a message: two wait after the first command, one after the second.
 TEST_F(QVRScrTest, TheHostsMessagesAreProcessedBetweenCommands) {
   const HWND window = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-  timer_ticks = 0;
-  SetTimer(window, 1, USER_TIMER_MINIMUM, on_timer);
+  SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(on_message));
+  seen.clear();
   Connected connected(late);
-  connected.sink().reaction = [](DISPID, VARIANT&) {
-    Sleep(30);
+  connected.sink().reaction = [&](DISPID event, VARIANT&) {
+    seen.emplace_back(event == kTerminado ? "Terminado" : "Progreso");
+    PostMessageW(window, kHostsMessage, 0, 0);
     return S_OK;
   };
   run_late(L"app", kTwoCommands);
-  KillTimer(window, 1);
   DestroyWindow(window);
-  EXPECT_GE(timer_ticks, 2) << "once after each command";
+  EXPECT_EQ(seen, (std::vector<std::string>{"Progreso", "Progreso", "message", "message", "Progreso", "message",
+                                            "Terminado"}));
 }
 
 TEST_F(QVRScrTest, AQuitMessageIsLeftToTheHost) {

@@ -3,7 +3,7 @@
 # Usage: registration_free.sh 32|64 BIN
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 60 "$tools/wine.sh" "$@"; }
+wine() { timeout 300 "$tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 [ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64

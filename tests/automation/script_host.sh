@@ -4,7 +4,7 @@
 # Usage: script_host.sh 32|64 LIBRARY SCRIPT
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 60 "$here/../../tools/wine.sh" "$@"; }
+wine() { timeout 300 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 system='C:\windows\system32'

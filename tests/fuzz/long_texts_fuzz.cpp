@@ -27,6 +27,7 @@ namespace {
 // takes long enough to be noticed is compared.
 constexpr std::size_t kShort = 1 << 13, kLong = kShort * 8;
 constexpr double kNoticed = 0.5, kMostTimes = 24;
+constexpr int kMeasurements = 5;
 
 struct NoEvents final : ScriptEvents {
   void Progreso(const Text&) noexcept override {}
@@ -125,7 +126,8 @@ constexpr std::string_view kKinds = "sgpdtclw";
 constexpr void (*kCalls[])(const Text&) = {search, split_commands, prepare,        decode,
                                            define, take_criterion, write_literals, write_lists};
 
-// The processor's seconds for this text.
+// The processor's seconds for this text. They vary with what else the machine does, so that a text is only found too
+// dear when it is in each of several measurements.
 double cost(std::size_t kind, const Text& text) {
   const std::clock_t begun = std::clock();
   try {
@@ -143,10 +145,13 @@ void fuzz(FuzzInput& input) {
   fuzz_thread().speak(0);
   const std::size_t kind = input.choice(kKinds);
   const Text head = input.text(), piece = input.text(), tail = input.text();
-  const double short_cost = cost(kind, repeated(head, piece, tail, kShort));
-  const double long_cost = cost(kind, repeated(head, piece, tail, kLong));
-  require(long_cost < kNoticed || long_cost < kMostTimes * short_cost, "a long text costs what its length says",
-          {head, piece, tail});
+  const Text short_text = repeated(head, piece, tail, kShort), long_text = repeated(head, piece, tail, kLong);
+  bool as_its_length_says = false;
+  for (int i = 0; i < kMeasurements && !as_its_length_says; ++i) {
+    const double short_cost = cost(kind, short_text), long_cost = cost(kind, long_text);
+    as_its_length_says = long_cost < kNoticed || long_cost < kMostTimes * short_cost;
+  }
+  require(as_its_length_says, "a long text costs what its length says", {head, piece, tail});
   static_cast<void>(fuzz_thread().take_boxes());
 }
 

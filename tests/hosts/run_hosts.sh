@@ -3,7 +3,7 @@
 # Usage: run_hosts.sh 32|64 BIN SOURCES
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 60 "$here/../../tools/wine.sh" "$@"; }
+wine() { timeout 300 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 width=$1

@@ -18,7 +18,7 @@ sha256sum --check --quiet --strict SHA256SUMS
 # run COMMAND: a line of the README in a command prompt of this folder.
 run() {
   printf '@echo off\r\n%s\r\n' "$1" >"$work/line.bat"
-  timeout 60 "$tools/wine.sh" cmd /c "Z:${work//\//\\}\\line.bat" </dev/null | tr -d '\r'
+  timeout 300 "$tools/wine.sh" cmd /c "Z:${work//\//\\}\\line.bat" </dev/null | tr -d '\r'
 }
 
 # The commands of one width, one a line; both languages have the same ones, and the same expected output.

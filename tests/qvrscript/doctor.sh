@@ -2,7 +2,7 @@
 # Runs the doctor on real registrations and compares what it says of them. Usage: doctor.sh 32|64 BIN
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 60 "$here/../../tools/wine.sh" "$@"; }
+wine() { timeout 300 "$here/../../tools/wine.sh" "$@"; }
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 width=$1

@@ -1,13 +1,9 @@
 #!/usr/bin/python3
 """A picture of one page: screenshot.py SITE PAGE FILE.png WIDTH HEIGHT."""
-import base64
 import pathlib
 import sys
-import time
 
 from browser import Browser
-
-SETTLED = 0.7  # seconds; the search adds its hits one by one, the theme scrolls to the anchor
 
 
 def main(site, page, file, width, height):
@@ -15,9 +11,9 @@ def main(site, page, file, width, height):
     try:
         browser.resize(int(width), int(height))
         browser.open(page)
-        time.sleep(SETTLED)
-        picture = browser.driver.execute_cdp_cmd("Page.captureScreenshot", {"format": "png"})
-        pathlib.Path(file).write_bytes(base64.b64decode(picture["data"]))
+        if "?q=" in page:
+            browser.search_summary()
+        pathlib.Path(file).write_bytes(browser.picture())
     finally:
         browser.close()
 

@@ -48,19 +48,20 @@ class SitePages(unittest.TestCase):
 
     def test_the_browser_tells_what_is_wrong_with_a_page(self):
         page = site.folder.parent / "wrong.html"
-        page.write_text("<html><body><script src='none.js'></script><img src='https://example.invalid/a.png'>"
-                        "<div class=wide style='width: 900px'>wide</div><script>nothing()</script></body></html>")
+        page.write_text("<meta name=viewport content='width=device-width'><script src='none.js'></script>"
+                        "<img src='https://example.invalid/a.png'><div class=main><p>narrow</p>"
+                        "<div class=wide style='width: 900px'>wide</div></div><script>nothing()</script>")
         browser.open("../wrong.html")
-        complaints, requests = "\n".join(browser.complaints()), browser.requests()
-        self.assertIn("none.js", complaints)
-        self.assertIn("nothing is not defined", complaints)
-        self.assertIn("https://example.invalid/a.png", requests)
+        for complaint in ("none.js", "nothing is not defined"):
+            browser.wait(lambda: any(complaint in each for each in browser.complaints()), f"{complaint} is told")
+        browser.wait(lambda: "https://example.invalid/a.png" in browser.requests(), "the request is told")
         browser.resize(NARROW)
         self.assertGreater(browser.run("return document.documentElement.scrollWidth"), NARROW)
+        self.assertEqual(browser.run(OVERFLOWING), ["DIV.wide"])
 
     def look_at(self, page):
         browser.open(page)
-        self.assertTrue(browser.run("return document.body.innerText.trim().length") > 0)
+        self.assertGreater(browser.run("return document.body.innerText.trim().length"), 0)
         self.assertEqual(browser.complaints(), [])
         requests = browser.requests()
         self.assertIn(browser.address(page), requests)
@@ -78,30 +79,25 @@ class SitePages(unittest.TestCase):
         field = browser.find(".sidebar-search")
         field.send_keys(words)
         field.submit()
-        browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
-                                         "return s && s.innerText"), "the search is finished")
+        browser.search_summary()
         self.assertEqual(browser.find("input[type=search]").get_attribute("value"), words)
         address = browser.address(expected)
         hits = browser.run("return [...document.querySelectorAll('ul.search a')].map((a) => a.href)")
         self.assertIn(address, hits)
         browser.run("[...document.querySelectorAll('ul.search a')].find((a) => a.href === arguments[0]).click()",
                     address)
-        browser.wait(lambda: browser.place() == expected, f"{expected} is open")
+        browser.arrive(expected)
         self.assertEqual(browser.complaints(), [])
         self.assertEqual([each for each in browser.requests() if not each.startswith(("file:", "data:"))], [])
 
     def test_the_search_tells_when_nothing_is_found(self):
         browser.open("es/search.html?q=xyzzyx")
-        text = browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
-                                                "return s && s.innerText"), "the search is finished")
-        self.assertIn("no coincide", text)
+        self.assertIn("no coincide", browser.search_summary())
         self.assertEqual(browser.run("return document.querySelectorAll('ul.search a').length"), 0)
 
     def test_the_search_counts_in_the_language_of_the_page(self):
         browser.open("es/search.html?q=fecha")
-        text = browser.wait(lambda: browser.run("const s = document.querySelector('.search-summary');"
-                                                "return s && s.innerText"), "the search is finished")
-        self.assertRegex(text, r"^La búsqueda encontró \d+ resultados\.$")
+        self.assertRegex(browser.search_summary(), r"^La búsqueda encontró \d+ resultados\.$")
 
     def test_the_theme_speaks_the_language_of_the_page(self):
         for language, words in {"en": "Back to top", "es": "Volver arriba", "fr": "Haut de page"}.items():
@@ -117,15 +113,15 @@ class SitePages(unittest.TestCase):
     def test_a_page_leads_to_the_same_page_in_the_other_language(self):
         browser.open("en/reference/QVRcfp.html")
         browser.find(".languages a[lang=es]").click()
-        self.assertEqual(browser.place(), "es/reference/QVRcfp.html")
+        browser.arrive("es/reference/QVRcfp.html")
         self.assertEqual(browser.run("return document.documentElement.lang"), "es")
         browser.find(".languages a[lang=en]").click()
-        self.assertEqual(browser.place(), "en/reference/QVRcfp.html")
+        browser.arrive("en/reference/QVRcfp.html")
 
     def test_a_page_that_another_language_lacks_leads_to_its_first(self):
         browser.open("en/reference/QVRcfp.html")
         browser.find(".languages a[lang=fr]").click()
-        self.assertEqual(browser.place(), "fr/index.html")
+        browser.arrive("fr/index.html")
 
     def test_the_menu_opens_on_a_narrow_screen(self):
         browser.resize(NARROW)
@@ -137,7 +133,7 @@ class SitePages(unittest.TestCase):
         link = browser.find(".sidebar-tree a[href='reference/index.html']")
         self.assertTrue(link.is_displayed())
         link.click()
-        self.assertEqual(browser.place(), "es/reference/index.html")
+        browser.arrive("es/reference/index.html")
 
     def test_light_and_dark_can_be_chosen_and_stay(self):
         browser.open("en/index.html")
@@ -152,7 +148,7 @@ class SitePages(unittest.TestCase):
             button.click()
         dark = browser.run(colour)
         browser.open("es/index.html")
-        self.assertEqual(browser.run(colour), dark)
+        browser.wait(lambda: browser.run(colour) == dark, "the next page is dark as well")
 
     def test_every_help_context_leads_to_its_member(self):
         lines = (site.folder / "contexts.ini").read_text(encoding="utf-8").split()

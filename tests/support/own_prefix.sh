@@ -10,4 +10,3 @@ tidy_up() {
 }
 trap tidy_up EXIT
 "$tools/wine_prefix.sh" "$QVR_WINEPREFIX" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-WINEPREFIX=$QVR_WINEPREFIX wineserver -w

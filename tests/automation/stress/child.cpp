@@ -17,7 +17,7 @@ Child::Child(const wchar_t* role, const std::wstring& argument) {
     CloseHandle(started.hThread);
     process_ = started.hProcess;
     const HANDLE either[] = {event, process_};
-    begun_ = WaitForMultipleObjects(2, either, FALSE, 60000) == WAIT_OBJECT_0;
+    begun_ = WaitForMultipleObjects(2, either, FALSE, 300000) == WAIT_OBJECT_0;
   }
   CloseHandle(event);
 }
