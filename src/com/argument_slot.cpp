@@ -22,6 +22,7 @@ HRESULT take_object(VARIANT& target, const VARIANT& source) {
   if (value->vt == VT_EMPTY) return S_OK;  // a script's variable that no object was assigned to
   if (value->vt != VT_DISPATCH && value->vt != VT_UNKNOWN) return DISP_E_TYPEMISMATCH;
   if (value->punkVal == nullptr) return S_OK;
+  const HostFloatingPoint host;
   return SUCCEEDED(value->punkVal->QueryInterface(IID_PPV_ARGS(&target.pdispVal))) ? S_OK : DISP_E_TYPEMISMATCH;
 }
 
@@ -69,7 +70,7 @@ HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
 HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
   const auto given = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
   if (given == type && passes_on(type)) return take_same(target, source, type);
-  const HRESULT result = VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  const HRESULT result = convert_content(target, source, type, locale);
   return SUCCEEDED(result) ? S_OK : refusal(result);
 }
 
@@ -182,6 +183,7 @@ void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
       store(type, target->byref, *converted.get());
     return;
   }
+  const HostFloatingPoint host;
   VariantCopy(target, held_.get());
 }
 
