@@ -1,4 +1,4 @@
-// One pointer per thread, of which the system keeps the place until the process ends: the library is not unloaded.
+// One pointer per thread. Nothing here runs when a thread ends.
 #pragma once
 
 #include <windows.h>
@@ -8,6 +8,9 @@ namespace qvr::windows {
 class ThreadPointer {
  public:
   ThreadPointer() noexcept : number_(TlsAlloc()) {}
+  ~ThreadPointer() {
+    if (number_ != TLS_OUT_OF_INDEXES) TlsFree(number_);
+  }
   ThreadPointer(const ThreadPointer&) = delete;
   ThreadPointer& operator=(const ThreadPointer&) = delete;
 
@@ -22,7 +25,7 @@ class ThreadPointer {
   bool set(void* pointer) const noexcept { return TlsSetValue(number_, pointer) != FALSE; }
 
  private:
-  DWORD number_;
+  const DWORD number_;
 };
 
 }  // namespace qvr::windows
