@@ -158,16 +158,12 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   return result;
 }
 
-Word* ArgumentSlot::put_words(Word* words) noexcept {
-  void* address = passed_on_;
-  if (address == nullptr) address = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
-  const std::size_t count = by_reference_ ? 1 : words_by_value(type_).value_or(0);
-  if (by_reference_ || (type_ == VT_VARIANT && count == 1)) {
-    *words = reinterpret_cast<Word>(address);
-  } else {
-    std::memcpy(words, address, count * sizeof(Word));
-  }
-  return words + count;
+ArgumentSlot::Passed ArgumentSlot::passed() noexcept {
+  if (!by_reference_) return {type_, passed_on_ != nullptr ? &before_ : held_.get()};
+  reference_.vt = static_cast<VARTYPE>(VT_BYREF | type_);
+  reference_.byref = passed_on_;
+  if (passed_on_ == nullptr) reference_.byref = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
+  return {reference_.vt, &reference_};
 }
 
 bool ArgumentSlot::changed() const noexcept { return std::memcmp(&before_, &*held_, sizeof before_) != 0; }
