@@ -1,19 +1,16 @@
 // What a late-bound call of each member costs beside the same call by the system's dispatch and beside the one through
-// the member's slot. Members, objects and arguments are those of the tests; every argument goes by reference and of the
-// very type, since the system's dispatch takes no other. What works with files, databases or the user is left out.
-#include <cstring>
-
+// the member's slot (with DispCallFunc, which the late-bound call needs too). Members, objects and arguments are those
+// of the tests; every argument goes by reference and of the very type, since the system's dispatch takes no other. What
+// works with files, databases or the user is left out.
 #include "automation/boxes.h"
 #include "automation/library.h"
 #include "automation/stress/subjects.h"
 #include "automation/timing.h"
-#include "com/slot_call.h"
 
 namespace {
 
 using namespace qvr::tests;
 using qvr::bench::Times;
-using qvr::com::Word;
 
 constexpr double kLongest = 20e-6, kRound = 1e-3;  // seconds
 
@@ -22,8 +19,10 @@ class MemberCalls {
   MemberCalls(const Subject& subject, const DescribedMember& member)
       : object_(subject.object()), member_(member), values_(subject.good_arguments(member)) {
     for (std::size_t i = values_.size(); i-- > 0;) passed_.push_back(as_passed(i));
-    for (std::size_t i = 0; i < values_.size(); ++i) add_words(passed_[values_.size() - 1 - i], member.parameters[i]);
-    if (member.gives_result()) words_.push_back(reinterpret_cast<Word>(&result_));
+    for (std::size_t i = 0; i < values_.size(); ++i) add(passed_[values_.size() - 1 - i], member.parameters[i]);
+    result_place_.vt = static_cast<VARTYPE>(VT_BYREF | member.result_type);
+    result_place_.byref = &result_;
+    if (member.gives_result()) add(result_place_, {{}, member.result_type, true, false});
     const bool put = member.writes_property();
     parameters_ = {passed_.data(), put ? &put_name_ : nullptr, static_cast<UINT>(passed_.size()), put ? 1u : 0u};
     object_.GetTypeInfo(0, LOCALE_USER_DEFAULT, &info_);
@@ -33,8 +32,10 @@ class MemberCalls {
 
   bool by_slot() {
     result_ = {};
-    const HRESULT called = qvr::com::call_slot(&object_, static_cast<std::size_t>(member_.slot_offset), words_.data(),
-                                               words_.size());
+    VARIANT answer{};
+    HRESULT called = DispCallFunc(&object_, static_cast<ULONG_PTR>(member_.slot_offset), CC_STDCALL, VT_ERROR,
+                                  static_cast<UINT>(types_.size()), types_.data(), places_.data(), &answer);
+    if (SUCCEEDED(called)) called = answer.scode;
     if (member_.result_type == VT_BSTR) SysFreeString(result_.text);
     if (member_.result_type == VT_VARIANT) VariantClear(&result_.value);
     return SUCCEEDED(called);
@@ -63,20 +64,18 @@ class MemberCalls {
     passed.byref = parameter.type == VT_VARIANT ? static_cast<void*>(&value) : &value.byref;
     return passed;
   }
-  void add_words(VARIANT& passed, const MemberParameter& parameter) {
-    const std::size_t count = parameter.by_reference ? 1 : qvr::com::words_by_value(parameter.type).value_or(0);
-    const bool whole = !parameter.by_reference && parameter.type == VT_VARIANT;
-    if (whole && count == 1) return words_.push_back(reinterpret_cast<Word>(&passed));
-    words_.resize(words_.size() + count);
-    std::memcpy(&words_[words_.size() - count], whole ? static_cast<void*>(&passed) : &passed.byref,
-                count * sizeof(Word));
+  void add(VARIANT& passed, const MemberParameter& parameter) {
+    types_.push_back(static_cast<VARTYPE>(parameter.by_reference ? VT_BYREF | parameter.type : parameter.type));
+    places_.push_back(&passed);
   }
 
   IDispatch& object_;
   const DescribedMember& member_;
   std::vector<Var> values_;
   std::vector<VARIANT> passed_;  // last to first
-  std::vector<Word> words_;
+  std::vector<VARTYPE> types_;
+  std::vector<VARIANT*> places_;
+  VARIANT result_place_{};
   DISPID put_name_ = DISPID_PROPERTYPUT;
   DISPPARAMS parameters_{};
   ComPtr<ITypeInfo> info_;

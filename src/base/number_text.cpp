@@ -1,43 +1,18 @@
 #include "base/number_text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <iterator>
 
 #include "base/failure.h"
-#include "base/float_digits.h"
 
 namespace qvr {
 namespace {
 
-// The digits with the point behind the one of the magnitude 0, and zeros where there are no digits.
-Text plain(const DecimalDigits& number) {
-  Text text(number.digits.begin(), number.digits.end());
-  if (number.magnitude < 0) {
-    text.insert(0, static_cast<std::size_t>(-number.magnitude), u'0');
-    text.insert(1, 1, u'.');
-    return text;
-  }
-  const auto whole = static_cast<std::size_t>(number.magnitude) + 1;
-  if (text.size() < whole) text.resize(whole, u'0');
-  if (text.size() > whole) text.insert(whole, 1, u'.');
-  return text;
-}
-
-// One digit before the point, and at least two digits of exponent.
-Text with_exponent(const DecimalDigits& number) {
-  Text text(number.digits.begin(), number.digits.end());
-  if (text.size() > 1) text.insert(1, 1, u'.');
-  text.append(number.magnitude < 0 ? u"E-" : u"E+");
-  const std::string exponent = std::to_string(std::abs(number.magnitude));
-  if (exponent.size() < 2) text.push_back(u'0');
-  return text.append(exponent.begin(), exponent.end());
-}
-
-Text with_sign(bool negative, Text text) {
-  if (negative) text.insert(0, 1, u'-');
+Text as_text(const char* first, const char* last) {
+  Text text(first, last);
+  std::ranges::replace(text, u'e', u'E');
   return text;
 }
 
@@ -49,12 +24,20 @@ bool reads_well_in_digits(Float magnitude) {
   return magnitude >= Float(1e-5) && magnitude <= kUpper;
 }
 
-template <class Float>
-Text shortest(Float number) {
+// As the standard library writes it in these arguments' way.
+template <class Float, class... Precision>
+Text written(Float number, std::chars_format format, Precision... precision) {
   if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
   if (number == 0) return u"0";  // also for negative zero
-  const DecimalDigits digits = shortest_digits(number);
-  return with_sign(number < 0, reads_well_in_digits(std::fabs(number)) ? plain(digits) : with_exponent(digits));
+  std::array<char, 64> buffer;
+  const auto end = std::to_chars(buffer.begin(), buffer.end(), number, format, precision...).ptr;
+  return as_text(buffer.begin(), end);
+}
+
+template <class Float>
+Text shortest(Float number) {
+  const bool in_digits = reads_well_in_digits(std::fabs(number));
+  return written(number, in_digits ? std::chars_format::fixed : std::chars_format::scientific);
 }
 
 // Digits of an integer magnitude with the decimal point put `scale` digits from the right, without trailing zeros.
@@ -89,21 +72,14 @@ long long exponent_in(std::string_view text) {
   return negative ? -exponent : exponent;
 }
 
-// The digits of a number as `number_length` knows them, with the power of ten of the first that is not 0.
-DecimalDigits decimal_digits(std::string_view number) {
+// Whether the number, written as `number_length` knows them and not 0, is nearer to 0 than 1.
+bool is_fraction(std::string_view number) {
   const std::size_t exponent_at = std::min(number.find_first_of("eE"), number.size());
   const std::string_view mantissa = number.substr(0, exponent_at);
-  const std::size_t first = mantissa.find_first_of("123456789");
-  if (first == std::string_view::npos) return {};
-  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-  auto power = static_cast<long long>(point) - static_cast<long long>(first) - (first < point ? 1 : 0);
-  if (exponent_at < number.size()) power += exponent_in(number.substr(exponent_at + 1));
-
-  constexpr long long kFarBeyondAnyNumber = 1'000'000;
-  DecimalDigits result{{}, static_cast<int>(std::clamp(power, -kFarBeyondAnyNumber, kFarBeyondAnyNumber))};
-  const std::string_view significant = mantissa.substr(first, mantissa.find_last_not_of("0.") - first + 1);
-  std::ranges::copy_if(significant, std::back_inserter(result.digits), [](char unit) { return unit != '.'; });
-  return result;
+  const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
+  const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+  const long long power = point - first - (first < point ? 1 : 0);
+  return power + (exponent_at < number.size() ? exponent_in(number.substr(exponent_at + 1)) : 0) < 0;
 }
 
 bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
@@ -135,12 +111,7 @@ Text shortest_number(const Decimal& number) {
 }
 
 Text rounded_number(double number, int significant_digits) {
-  if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
-  if (number == 0) return u"0";  // also for negative zero
-  const DecimalDigits digits = rounded_digits(number, significant_digits);
-  constexpr int kSmallestInDigits = -4;  // the magnitude
-  const bool in_digits = digits.magnitude >= kSmallestInDigits && digits.magnitude < significant_digits;
-  return with_sign(number < 0, in_digits ? plain(digits) : with_exponent(digits));
+  return written(number, std::chars_format::general, significant_digits);
 }
 
 std::size_t number_length(TextView text) {
@@ -169,11 +140,15 @@ double number_prefix(TextView text) {
   const std::size_t start = text.find_first_not_of(u" \t\r\n");
   if (start == TextView::npos) return 0;
   text.remove_prefix(start);
+  text = text.substr(0, number_length(text));
+  if (text.starts_with(u'+')) text.remove_prefix(1);
   std::string narrow;
-  for (char16_t unit : text.substr(0, number_length(text))) narrow.push_back(static_cast<char>(unit));
-  const auto number = nearest_double(decimal_digits(narrow));
-  if (!number) throw RuntimeFailure(failure_number::kOverflow);
-  return narrow.starts_with('-') && *number != 0 ? -*number : *number;  // no negative zero
+  for (char16_t unit : text) narrow.push_back(static_cast<char>(unit));
+  double number = 0;
+  const auto read = std::from_chars(narrow.data(), narrow.data() + narrow.size(), number);
+  if (read.ec != std::errc::result_out_of_range) return number != 0 ? number : 0;  // no negative zero
+  if (!is_fraction(narrow)) throw RuntimeFailure(failure_number::kOverflow);
+  return 0;
 }
 
 double number_of(Currency amount) { return static_cast<double>(amount.scaled) / 10000; }

@@ -7,6 +7,7 @@
 #include "com/late_failure.h"
 #include "com/text_bstr.h"
 #include "com/variant.h"
+#include "platform/windows/floating_point.h"
 
 namespace qvr::com {
 
@@ -47,14 +48,14 @@ inline void put_result(SHORT* out, std::int16_t result) { *out = result; }
 inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
 inline void put_result(BSTR* out, const SecretText& result) { *out = new_bstr(result); }
 inline void put_result(VARIANT* out, const Value& result) { put_value(*out, result); }
-template <class Number>
-  requires(std::is_enum_v<Number> || std::is_same_v<Number, LONG>)
-void put_result(Number* out, std::int32_t result) { *out = static_cast<Number>(result); }
+inline void put_result(LONG* out, std::int32_t result) { *out = result; }
+inline void put_result(MotoresBD* out, Engine result) { *out = static_cast<MotoresBD>(result); }
 
-// Runs the body, which gives an HRESULT. A run-time failure becomes its HRESULT with error info; anything else, which
-// means out of memory, `otherwise`.
+// Runs the body, which gives an HRESULT, under the default floating-point state. A run-time failure becomes its HRESULT
+// with error info; anything else, which means out of memory, `otherwise`.
 template <class Body>
 HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
+  const windows::DefaultFloatingPoint calculating;
   try {
     return std::forward<Body>(body)();
   } catch (const RuntimeFailure& failure) {

@@ -22,6 +22,7 @@ HRESULT take_object(VARIANT& target, const VARIANT& source) {
   if (value->vt == VT_EMPTY) return S_OK;  // a script's variable that no object was assigned to
   if (value->vt != VT_DISPATCH && value->vt != VT_UNKNOWN) return DISP_E_TYPEMISMATCH;
   if (value->punkVal == nullptr) return S_OK;
+  const HostFloatingPoint host;
   return SUCCEEDED(value->punkVal->QueryInterface(IID_PPV_ARGS(&target.pdispVal))) ? S_OK : DISP_E_TYPEMISMATCH;
 }
 
@@ -69,7 +70,7 @@ HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
 HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID locale) {
   const auto given = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
   if (given == type && passes_on(type)) return take_same(target, source, type);
-  const HRESULT result = VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  const HRESULT result = convert_content(target, source, type, locale);
   return SUCCEEDED(result) ? S_OK : refusal(result);
 }
 
@@ -157,16 +158,12 @@ HRESULT ArgumentSlot::take(const Parameter& parameter, const VARIANT* argument, 
   return result;
 }
 
-Word* ArgumentSlot::put_words(Word* words) noexcept {
-  void* address = passed_on_;
-  if (address == nullptr) address = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
-  const std::size_t count = by_reference_ ? 1 : words_by_value(type_).value_or(0);
-  if (by_reference_ || (type_ == VT_VARIANT && count == 1)) {
-    *words = reinterpret_cast<Word>(address);
-  } else {
-    std::memcpy(words, address, count * sizeof(Word));
-  }
-  return words + count;
+ArgumentSlot::Passed ArgumentSlot::passed() noexcept {
+  if (!by_reference_) return {type_, passed_on_ != nullptr ? &before_ : held_.get()};
+  reference_.vt = static_cast<VARTYPE>(VT_BYREF | type_);
+  reference_.byref = passed_on_;
+  if (passed_on_ == nullptr) reference_.byref = type_ == VT_VARIANT ? static_cast<void*>(held_.get()) : &held_->llVal;
+  return {reference_.vt, &reference_};
 }
 
 bool ArgumentSlot::changed() const noexcept { return std::memcmp(&before_, &*held_, sizeof before_) != 0; }
@@ -182,6 +179,7 @@ void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
       store(type, target->byref, *converted.get());
     return;
   }
+  const HostFloatingPoint host;
   VariantCopy(target, held_.get());
 }
 

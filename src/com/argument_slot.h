@@ -2,7 +2,6 @@
 #pragma once
 
 #include "com/signature.h"
-#include "com/slot_call.h"
 #include "com/variant.h"
 
 namespace qvr::com {
@@ -14,9 +13,13 @@ class ArgumentSlot {
   // Converts the argument (null or "missing": left out) to the parameter's type.
   HRESULT take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept;
 
-  // Writes what the member is called with: the value, or its address where the parameter is by reference. Valid as long
-  // as the slot stays where it is. The place behind the last word.
-  Word* put_words(Word* words) noexcept;
+  // What the member is called with, as DispCallFunc takes it: the value, or its address where the parameter is by
+  // reference. Valid as long as the slot stays where it is.
+  struct Passed {
+    VARTYPE type;
+    VARIANT* value;
+  };
+  Passed passed() noexcept;
 
   // Writes the value to the caller's variable when the argument came by reference and the member changed it.
   void give_back(VARIANT& argument, LCID locale) noexcept;
@@ -30,6 +33,7 @@ class ArgumentSlot {
 
   OwnedVariant held_;
   VARIANT before_;             // bits of the value as it was taken, never released; by reference, they are compared
+  VARIANT reference_;          // where the value is, for a parameter by reference
   void* passed_on_ = nullptr;  // instead of what is held: the caller's variable or bits
   VARTYPE type_ = VT_EMPTY;
   bool by_reference_ = false;

@@ -1,36 +1,15 @@
 #include "com/arguments.h"
 
 #include <algorithm>
-#include <array>
-#include <memory>
+#include <vector>
 
 #include "com/argument_slot.h"
 
 namespace qvr::com {
 namespace {
 
-constexpr std::size_t kMost = Signatures::kMostParameters;
-
-// Where each parameter's argument is in rgvarg; -1 for one that was left out. As many as the member has parameters.
-using Positions = std::array<int, kMost>;
-
-// As many slots as the member has parameters: to make and end all that there is room for would cost more than the call.
-class Slots {
- public:
-  explicit Slots(std::size_t count) noexcept : count_(count) {
-    std::uninitialized_default_construct_n(&slots_[0], count_);
-  }
-  ~Slots() { std::destroy_n(&slots_[0], count_); }
-  Slots(const Slots&) = delete;
-  Slots& operator=(const Slots&) = delete;
-  ArgumentSlot& operator[](std::size_t at) noexcept { return slots_[at]; }
-
- private:
-  union {
-    ArgumentSlot slots_[kMost];
-  };
-  std::size_t count_;
-};
+// Where each parameter's argument is in rgvarg; -1 for one that was left out.
+using Positions = std::vector<int>;
 
 HRESULT refuse(HRESULT result, UINT index, const LateCall& call) {
   if (call.wrong_argument != nullptr) *call.wrong_argument = index;
@@ -61,7 +40,6 @@ HRESULT place_named(const Member& member, const LateCall& call, Positions& posit
 // Named arguments come first in rgvarg, the others behind them, last one first.
 HRESULT place_arguments(const Member& member, const LateCall& call, Positions& positions) {
   const DISPPARAMS& given = *call.arguments;
-  std::fill_n(positions.begin(), member.parameters.size(), -1);
   if (given.cNamedArgs > given.cArgs || given.cArgs > member.parameters.size()) return DISP_E_BADPARAMCOUNT;
   if (given.cArgs > 0 && given.rgvarg == nullptr) return E_INVALIDARG;
   if (given.cNamedArgs > 0 && given.rgdispidNamedArgs == nullptr) return E_INVALIDARG;
@@ -77,7 +55,8 @@ HRESULT place_arguments(const Member& member, const LateCall& call, Positions& p
 
 class Call {
  public:
-  Call(const Member& member, const LateCall& late) : member_(member), late_(late), slots_(member.parameters.size()) {}
+  Call(const Member& member, const LateCall& late)
+      : member_(member), late_(late), positions_(member.parameters.size(), -1), slots_(member.parameters.size()) {}
 
   HRESULT run(void* object) {
     HRESULT result = place_arguments(member_, late_, positions_);
@@ -99,18 +78,29 @@ class Call {
   }
 
   HRESULT dispatch(void* object) {
-    std::array<Word, kMostWords> words;
-    Word* end = words.data();
-    for (std::size_t i = 0; i < member_.parameters.size(); ++i) end = slots_[i].put_words(end);
-    OwnedVariant answer;
-    if (member_.result == VT_VARIANT) {
-      *end++ = reinterpret_cast<Word>(answer.get());
-    } else if (member_.result != VT_EMPTY) {
-      answer->vt = member_.result;
-      *end++ = reinterpret_cast<Word>(&answer->llVal);
+    std::vector<VARTYPE> types;
+    std::vector<VARIANT*> values;
+    types.reserve(slots_.size() + 1);
+    values.reserve(slots_.size() + 1);
+    for (ArgumentSlot& slot : slots_) {
+      const ArgumentSlot::Passed passed = slot.passed();
+      types.push_back(passed.type);
+      values.push_back(passed.value);
     }
-    const auto count = static_cast<std::size_t>(end - words.data());
-    const HRESULT result = call_slot(object, member_.slot_offset, words.data(), count);
+    OwnedVariant answer;
+    VARIANT reference;
+    if (member_.result != VT_EMPTY) {
+      reference.vt = static_cast<VARTYPE>(VT_BYREF | member_.result);
+      reference.byref = member_.result == VT_VARIANT ? static_cast<void*>(answer.get()) : &answer->llVal;
+      if (member_.result != VT_VARIANT) answer->vt = member_.result;
+      types.push_back(reference.vt);
+      values.push_back(&reference);
+    }
+    VARIANT returned{};
+    HRESULT result = DispCallFunc(object, member_.slot_offset, CC_STDCALL, VT_ERROR, static_cast<UINT>(types.size()),
+                                  types.data(), values.data(), &returned);
+    if (FAILED(result)) return result;
+    result = returned.scode;
     if (FAILED(result)) return raise(result);
     if (late_.result != nullptr) *late_.result = answer.release();
     return S_OK;
@@ -140,7 +130,7 @@ class Call {
   const Member& member_;
   const LateCall& late_;
   Positions positions_;
-  Slots slots_;
+  std::vector<ArgumentSlot> slots_;
 };
 
 }  // namespace

@@ -9,12 +9,17 @@
 
 namespace qvr::com {
 
-template <class I>
+// What is there while code of the object runs; nothing for objects of the library and of the system.
+struct AsItIs {};
+
+template <class I, class Around = AsItIs>
 class ComPtr {
  public:
   ComPtr() = default;
   explicit ComPtr(I* object) noexcept : object_(object) {
-    if (object_ != nullptr) object_->AddRef();
+    if (object_ == nullptr) return;
+    [[maybe_unused]] const Around around;
+    object_->AddRef();
   }
   ComPtr(const ComPtr& other) noexcept : ComPtr(other.object_) {}
   ComPtr(ComPtr&& other) noexcept : object_(other.Detach()) {}
@@ -40,11 +45,15 @@ class ComPtr {
   }
   I* Detach() noexcept { return std::exchange(object_, nullptr); }
   void Reset() noexcept {
-    if (I* const object = Detach()) object->Release();
+    I* const object = Detach();
+    if (object == nullptr) return;
+    [[maybe_unused]] const Around around;
+    object->Release();
   }
   // The object's other interface.
   template <class Other>
   HRESULT As(Other** other) const noexcept {
+    [[maybe_unused]] const Around around;
     return object_->QueryInterface(__uuidof(Other), reinterpret_cast<void**>(other));
   }
 

@@ -11,8 +11,8 @@ namespace {
 struct Connections {
   using Interface = IEnumConnections;
   using Item = CONNECTDATA;
-  using Stored = std::pair<ComPtr<IUnknown>, DWORD>;
-  static CONNECTDATA give(const Stored& sink) noexcept { return {ComPtr<IUnknown>(sink.first).Detach(), sink.second}; }
+  using Stored = std::pair<HostPtr<IUnknown>, DWORD>;
+  static CONNECTDATA give(const Stored& sink) noexcept { return {HostPtr<IUnknown>(sink.first).Detach(), sink.second}; }
 };
 
 struct Points {
@@ -37,6 +37,7 @@ void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcep
   DISPPARAMS arguments{&passed, nullptr, 1, 0};
   OwnedVariant result;
   EXCEPINFO exception{};
+  const HostFloatingPoint host;
   if (FAILED(sink.Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, result.get(), &exception,
                          nullptr))) {
     SysFreeString(exception.bstrSource);
@@ -61,7 +62,7 @@ void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument)
                                            [=](const Sink& sink) { return sink.cookie > told && sink.cookie < end; });
     if (next == sinks_.end()) return;
     told = next->cookie;
-    const ComPtr<IDispatch> kept = next->dispatch;
+    const HostPtr<IDispatch> kept = next->dispatch;
     invoke_sink(*kept.Get(), event, argument);
   }
 }
@@ -91,12 +92,13 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
   if (sink == nullptr || cookie == nullptr) return E_POINTER;
   *cookie = 0;
   return guarded(E_OUTOFMEMORY, [&] {
-    ComPtr<IDispatch> dispatch;
+    HostPtr<IDispatch> dispatch;
     void** const out = reinterpret_cast<void**>(&dispatch);
     // Script hosts answer to the event interface's own id; some sinks know only IDispatch.
-    if (FAILED(sink->QueryInterface(events_, out)) && FAILED(sink->QueryInterface(IID_IDispatch, out))) {
-      return CONNECT_E_CANNOTCONNECT;
-    }
+    const auto answers_to = [&](REFIID id) {
+      return SUCCEEDED(by_host([&] { return sink->QueryInterface(id, out); }));
+    };
+    if (!answers_to(events_) && !answers_to(IID_IDispatch)) return CONNECT_E_CANNOTCONNECT;
     sinks_.push_back({next_cookie_, std::move(dispatch)});
     *cookie = next_cookie_++;
     return S_OK;
@@ -116,7 +118,7 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) noexcep
   *connections = nullptr;
   return guarded(E_OUTOFMEMORY, [&] {
     std::vector<Connections::Stored> items;
-    for (const Sink& sink : sinks_) items.emplace_back(ComPtr<IUnknown>(sink.dispatch.Get()), sink.cookie);
+    for (const Sink& sink : sinks_) items.emplace_back(HostPtr<IUnknown>(sink.dispatch.Get()), sink.cookie);
     return new_enumerator<Connections>(std::move(items), connections);
   });
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "com/com.h"
+#include "com/host_ptr.h"
 
 namespace qvr::com {
 
@@ -37,7 +38,7 @@ class ConnectionPoint final : public IConnectionPoint {
  private:
   struct Sink {
     DWORD cookie;
-    ComPtr<IDispatch> dispatch;
+    HostPtr<IDispatch> dispatch;
   };
 
   void fire_without_memory(DISPID event, const VARIANT& argument) noexcept;

@@ -42,8 +42,7 @@ class Counted : public First, public Others... {
   STDMETHODIMP_(ULONG) AddRef() noexcept override { return static_cast<ULONG>(InterlockedIncrement(&count_)); }
 
   STDMETHODIMP_(ULONG) Release() noexcept override {
-    // Nobody else can be counting where the caller has the only reference; that saves waiting for other processors.
-    const LONG left = count_ == 1 ? 0 : InterlockedDecrement(&count_);
+    const LONG left = InterlockedDecrement(&count_);
     if (left == 0) {
       count_ = 1;  // a reference taken and given back while the object goes must not end it a second time
       delete this;

@@ -15,10 +15,10 @@ using namespace qvr::com;
 
 }  // namespace
 
-BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID process_ends) {
-  // At the end of the process the memory goes anyway, and what the state refers to may be gone already.
-  const bool unloading = reason == DLL_PROCESS_DETACH && process_ends == nullptr;
-  if (reason == DLL_THREAD_DETACH || unloading) exchange_thread_state(nullptr);
+// At the end of the process the memory goes anyway, and what a thread's state refers to may be gone already. A library
+// that is unloaded before that has given nobody an object, so that no thread has a state.
+BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+  if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
   return TRUE;
 }
 
@@ -26,6 +26,7 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID interface_id, void** found) {
   return class_object(id, interface_id, found);
 }
 
+// Whether objects live. The system lets go of the library after S_OK, which stays all the same once it has been used.
 STDAPI DllCanUnloadNow() { return ModuleLock::any() ? S_FALSE : S_OK; }
 
 STDAPI DllRegisterServer() { return register_library(Scope::Machine); }

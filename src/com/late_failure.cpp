@@ -1,6 +1,7 @@
 #include "com/late_failure.h"
 
 #include "com/text_bstr.h"
+#include "platform/windows/floating_point.h"
 
 namespace qvr::com {
 namespace {
@@ -40,6 +41,7 @@ void set_error_info(const FailureDetail& failure) noexcept {
   const OwnedBstr description(failure.description), source(failure.source);
   created->SetDescription(description.get());
   created->SetSource(source.get());
+  const windows::HostFloatingPoint host;  // the former one is released
   SetErrorInfo(0, info.Get());
 }
 

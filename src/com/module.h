@@ -21,4 +21,7 @@ class ModuleLock {
   static inline volatile LONG count_ = 0;
 };
 
+// From now on the library stays loaded until the process ends, whoever lets go of it.
+void keep_loaded() noexcept;
+
 }  // namespace qvr::com

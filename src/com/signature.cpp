@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "com/late_failure.h"
-#include "com/slot_call.h"
 #include "com/text_bstr.h"
 #include "com/type_library.h"
 
@@ -77,31 +76,18 @@ void add_parameters(Member& member, ITypeInfo& info, const FUNCDESC& function, c
   }
 }
 
-// What the call's own storage has room for, and passes.
-void require_callable(const Member& member) {
-  std::size_t words = 1;  // of the result
-  for (const Parameter& parameter : member.parameters) {
-    const auto needed = parameter.by_reference ? 1 : words_by_value(parameter.type);
-    if (!needed) throw RuntimeFailure(failure_number::kTypeMismatch);
-    words += *needed;
-  }
-  const bool fits = member.parameters.size() <= Signatures::kMostParameters && words <= kMostWords;
-  if (!fits) throw RuntimeFailure(failure_number::kSubscript);
-}
-
 Member read_member(ITypeInfo& info, const FUNCDESC& function) {
   Member member;
   member.id = function.memid;
   member.kind = static_cast<WORD>(function.invkind);
   member.slot_offset = static_cast<std::size_t>(function.oVft & ~3);
-  OwnedBstr names[Signatures::kMostParameters + 2];
-  BSTR raw[std::size(names)] = {};
+  std::vector<OwnedBstr> names(static_cast<std::size_t>(function.cParams) + 1);
+  std::vector<BSTR> raw(names.size());
   UINT count = 0;
-  require(info.GetNames(function.memid, raw, static_cast<UINT>(std::size(raw)), &count));
+  require(info.GetNames(function.memid, raw.data(), static_cast<UINT>(raw.size()), &count));
   for (UINT i = 0; i < count; ++i) *names[i].out() = raw[i];
   member.name.assign(raw[0], SysStringLen(raw[0]));
-  add_parameters(member, info, function, raw, count);
-  require_callable(member);
+  add_parameters(member, info, function, raw.data(), count);
   return member;
 }
 

@@ -31,8 +31,6 @@ struct Member {
 
 class Signatures {
  public:
-  static constexpr std::size_t kMostParameters = 16;
-
   // Of the dual interface with this id. Throws when the type library cannot be read.
   explicit Signatures(REFIID id);
   Signatures(const Signatures&) = delete;

@@ -47,6 +47,11 @@ class Locked {
 Value value_inside(const VARIANT& variant, const Reading* outer);
 Value scalar_from(const VARIANT& v);
 
+HRESULT get_element(SAFEARRAY* array, LONG index, void* target) noexcept {
+  const HostFloatingPoint host;  // of an object, a reference is taken
+  return SafeArrayGetElement(array, &index, target);
+}
+
 // An element into a variant of its own type. Records have no value of ours, and without their description they could
 // not even be released.
 Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& reading) {
@@ -62,7 +67,7 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& re
   if (type == VT_VARIANT) target = item.get();
   if (type == VT_DECIMAL) target = &item->decVal;
   if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
-  if (FAILED(SafeArrayGetElement(array, &index, target))) throw std::bad_alloc();
+  if (FAILED(get_element(array, index, target))) throw std::bad_alloc();
   if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
   return value_inside(*item, &reading);
 }
@@ -136,6 +141,15 @@ Value scalar_from(const VARIANT& v) {
   }
 }
 
+HRESULT default_property(VARIANT& value, const VARIANT& of_object) noexcept {
+  IDispatch* const object = of_object.vt & VT_BYREF ? *of_object.ppdispVal : of_object.pdispVal;
+  if (object == nullptr) return DISP_E_TYPEMISMATCH;
+  const HostFloatingPoint host;
+  DISPPARAMS none{};
+  return object->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr,
+                        nullptr);
+}
+
 SAFEARRAY* array_of(const VARIANT& variant) {
   if (!(variant.vt & VT_BYREF)) return variant.parray;
   return variant.pparray != nullptr ? *variant.pparray : nullptr;
@@ -147,12 +161,13 @@ void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value)
   put_value(*element.get(), value);
   void* content = element.get();
   if (type != VT_VARIANT) {
-    if (FAILED(VariantChangeType(converted.get(), element.get(), VARIANT_ALPHABOOL, type))) return;
+    if (FAILED(convert_content(*converted.get(), *element, type, LOCALE_USER_DEFAULT))) return;
     // Texts and objects are handed over as the pointer, everything else by its address.
     const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
     content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
     if (type == VT_DECIMAL) content = &converted->decVal;
   }
+  const HostFloatingPoint host;  // an object that was there is released
   if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
 }
 
@@ -171,6 +186,18 @@ Value value_inside(const VARIANT& variant, const Reading* outer) {
 }
 
 }  // namespace
+
+HRESULT convert_content(VARIANT& to, const VARIANT& from, VARTYPE type, LCID locale) noexcept {
+  const auto convert = [&](const VARIANT& source) {
+    return VariantChangeTypeEx(&to, const_cast<VARIANT*>(&source), locale, VARIANT_ALPHABOOL, type);
+  };
+  const bool to_object = type == VT_DISPATCH || type == VT_UNKNOWN;
+  if ((from.vt & ~VT_BYREF) != VT_DISPATCH || to_object) return convert(from);
+  // Asked for here, since the system would do both under one floating-point state.
+  OwnedVariant value;
+  const HRESULT asked = default_property(*value.get(), from);
+  return SUCCEEDED(asked) ? convert(*value) : asked;
+}
 
 const VARIANT* innermost(const VARIANT& variant) noexcept {
   const VARIANT* at = &variant;
@@ -197,8 +224,9 @@ void put_elements(VARIANT& variant, const Value& value) {
 }
 
 void OwnedVariant::let_go() noexcept {
-  if (held_.vt != VT_BSTR) VariantClear(&held_);
-  else free_wiped(held_.bstrVal);
+  if (held_.vt == VT_BSTR) return free_wiped(held_.bstrVal);
+  const HostFloatingPoint host;
+  VariantClear(&held_);
 }
 
 }  // namespace qvr::com

@@ -3,6 +3,7 @@
 
 #include "base/value.h"
 #include "com/com.h"
+#include "com/host_ptr.h"
 
 namespace qvr::com {
 
@@ -38,13 +39,17 @@ class OwnedVariant {
 // An object that a host handed over, kept alive by the value that holds it.
 struct DispatchObject : Object {
   explicit DispatchObject(IUnknown* held) : object(held) {}
-  ComPtr<IUnknown> object;
+  HostPtr<IUnknown> object;
 };
 
 // A deep copy of what the variant holds or refers to.
 inline HRESULT copy_content(VARIANT& to, const VARIANT& from) noexcept {
+  const HostFloatingPoint host;
   return VariantCopyInd(&to, const_cast<VARIANT*>(&from));
 }
+
+// Converts as Visual Basic hosts do. An object stands for the value of its default property.
+HRESULT convert_content(VARIANT& to, const VARIANT& from, VARTYPE type, LCID locale) noexcept;
 
 // Variants of variants by reference lead to the value in the end; null for one that leads nowhere or into itself.
 const VARIANT* innermost(const VARIANT& variant) noexcept;

@@ -39,8 +39,8 @@ struct Put {
     v.vt = VT_DISPATCH, v.pdispVal = nullptr;
     const auto* object = dynamic_cast<const DispatchObject*>(held.get());
     if (object == nullptr) return;
-    if (SUCCEEDED(object->object->QueryInterface(IID_PPV_ARGS(&v.pdispVal)))) return;
-    v.vt = VT_UNKNOWN, v.punkVal = ComPtr<IUnknown>(object->object).Detach();
+    if (SUCCEEDED(object->object.As(&v.pdispVal))) return;
+    v.vt = VT_UNKNOWN, v.punkVal = HostPtr<IUnknown>(object->object).Detach();
   }
   void operator()(const Array& held) const {
     // Bytes are binary data, which ADO takes in this form only.
@@ -54,6 +54,7 @@ struct Put {
       OwnedVariant element;
       put_value(*element.get(), item);
       void* content = binary ? static_cast<void*>(&element->bVal) : element.get();
+      const HostFloatingPoint host;  // of an object, a reference is taken
       if (FAILED(SafeArrayPutElement(array, &index, content))) throw std::bad_alloc();
       ++index;
     }

@@ -116,12 +116,12 @@ std::unique_ptr<services::AdoParameter> ComAdo::new_parameter() {
 
 std::unique_ptr<services::AdoCommand> wrap_command(IDispatch* command) {
   if (command == nullptr) return nullptr;
-  return std::make_unique<ComCommand>(LateObject(ComPtr<IDispatch>(command)));
+  return std::make_unique<ComCommand>(LateObject(HostPtr<IDispatch>(command)));
 }
 
 std::unique_ptr<services::AdoConnection> wrap_connection(IDispatch* connection) {
   if (connection == nullptr) return nullptr;
-  return std::make_unique<ComConnection>(LateObject(ComPtr<IDispatch>(connection)));
+  return std::make_unique<ComConnection>(LateObject(HostPtr<IDispatch>(connection)));
 }
 
 }  // namespace qvr::com

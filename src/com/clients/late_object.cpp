@@ -22,7 +22,10 @@ struct Exception : EXCEPINFO {
 };
 
 [[noreturn]] void raise(Exception& exception) {
-  if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+  if (exception.pfnDeferredFillIn != nullptr) {
+    const HostFloatingPoint host;
+    exception.pfnDeferredFillIn(&exception);
+  }
   const std::int32_t number = exception.wCode != 0 ? exception.wCode : failure_number_of(exception.scode);
   throw RuntimeFailure(number, text_from(exception.bstrDescription), text_from(exception.bstrSource));
 }
@@ -71,10 +74,10 @@ class Arguments {
 }  // namespace
 
 LateObject LateObject::create(REFCLSID id) {
-  ComPtr<IDispatch> object;
-  if (FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(&object)))) {
-    throw RuntimeFailure(failure_number::kCannotCreateObject);
-  }
+  HostPtr<IDispatch> object;
+  const HRESULT created = by_host(
+      [&] { return CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(&object)); });
+  if (FAILED(created)) throw RuntimeFailure(failure_number::kCannotCreateObject);
   return LateObject(std::move(object));
 }
 
@@ -87,12 +90,14 @@ Value LateObject::invoke(const wchar_t* name, WORD flags, std::span<const Value>
 Value LateObject::invoke(const wchar_t* name, WORD flags, DISPPARAMS& parameters) const {
   DISPID id = DISPID_UNKNOWN;
   LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
-  require(object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id));
+  require(by_host([&] { return object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id); }));
   const bool wants_result = parameters.cNamedArgs == 0;
   OwnedVariant result;
   Exception exception;
-  const HRESULT called = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                         wants_result ? result.get() : nullptr, &exception, nullptr);
+  const HRESULT called = by_host([&] {
+    return object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, wants_result ? result.get() : nullptr,
+                           &exception, nullptr);
+  });
   if (called == DISP_E_EXCEPTION) raise(exception);
   require(called);
   return value_from(*result);
@@ -147,7 +152,7 @@ LateObject object_in(const Value& value) {
   if (reference == nullptr) throw RuntimeFailure(failure_number::kTypeMismatch);
   const auto* held = dynamic_cast<const DispatchObject*>(reference->get());
   if (held == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
-  ComPtr<IDispatch> dispatch;
+  HostPtr<IDispatch> dispatch;
   require(held->object.As(&dispatch));
   return LateObject(std::move(dispatch));
 }

@@ -12,7 +12,7 @@ namespace qvr::com {
 // Every call throws RuntimeFailure with what the object said of its error.
 class LateObject {
  public:
-  explicit LateObject(ComPtr<IDispatch> object) : object_(std::move(object)) {}
+  explicit LateObject(HostPtr<IDispatch> object) : object_(std::move(object)) {}
 
   // A new object of the class; throws failure 429 when it cannot be created.
   static LateObject create(REFCLSID id);
@@ -36,7 +36,7 @@ class LateObject {
   Value invoke(const wchar_t* name, WORD flags, std::span<const Value> arguments) const;
   Value invoke(const wchar_t* name, WORD flags, DISPPARAMS& parameters) const;
 
-  ComPtr<IDispatch> object_;
+  HostPtr<IDispatch> object_;
 };
 
 // The class registered under this program id; nothing when there is none.

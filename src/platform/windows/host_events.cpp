@@ -1,3 +1,4 @@
+#include "platform/windows/floating_point.h"
 #include "platform/windows/parts.h"
 
 namespace qvr::windows {
@@ -6,6 +7,7 @@ namespace {
 class MessageLoop final : public HostEvents {
  public:
   void process_pending() override {
+    const HostFloatingPoint host;
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
       if (message.message == WM_QUIT) {

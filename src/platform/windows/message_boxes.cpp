@@ -1,3 +1,4 @@
+#include "platform/windows/floating_point.h"
 #include "platform/windows/parts.h"
 
 namespace qvr::windows {
@@ -25,6 +26,7 @@ class SystemBoxes final : public MessageBoxes {
     // With another application in front no window of the thread is active: the box still has to stop all of them.
     const UINT reach = owner == nullptr ? MB_TASKMODAL : 0;
     const UINT style = question ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONEXCLAMATION;
+    const HostFloatingPoint host;  // its windows get messages meanwhile
     const int answer = MessageBoxW(owner, wide(text).c_str(), kLibraryName, style | reach);
     if (!question) return BoxAnswer::Ok;
     return answer == IDYES ? BoxAnswer::Yes : BoxAnswer::No;

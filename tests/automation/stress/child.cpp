@@ -29,6 +29,13 @@ Child::~Child() {
   CloseHandle(process_);
 }
 
+int Child::answer() {
+  constexpr DWORD kLongest = 300000;
+  DWORD code = 0;
+  const bool ended = begun_ && WaitForSingleObject(process_, kLongest) == WAIT_OBJECT_0;
+  return ended && GetExitCodeProcess(process_, &code) ? static_cast<int>(code) : -1;
+}
+
 bool Child::end_after(DWORD milliseconds) {
   if (!begun_ || WaitForSingleObject(process_, milliseconds) != WAIT_TIMEOUT) return false;
   constexpr DWORD kEnded = 9;

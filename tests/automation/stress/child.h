@@ -18,6 +18,9 @@ class Child {
   // Lets it work so long and ends it where it is. False when it had ended by itself.
   bool end_after(DWORD milliseconds);
 
+  // Lets it work until it ends by itself: what it says then; the longest wait is five minutes.
+  int answer();
+
  private:
   HANDLE process_ = nullptr;
   bool begun_ = false;

@@ -4,7 +4,10 @@
 
 #include <shellapi.h>
 
+#include <cstdio>
+
 #include "QVRlib21.h"
+#include "automation/in_use.h"
 #include "automation/library.h"
 #include "automation/stress/classes.h"
 
@@ -59,6 +62,67 @@ int register_again_and_again() {
   }
 }
 
+bool loaded() { return GetModuleHandleW(L"QVRlib21.dll") != nullptr; }
+
+// Whether the library says that it is in use exactly while it is.
+bool load_use_and_let_go(const ClassUnderStress& row) {
+  const Server server(beside_program(L"QVRlib21.dll"));
+  if (!server.loaded() || server.can_unload() != S_OK) return false;
+  ComPtr<IClassFactory> factory;
+  if (server.class_object(row.id, __uuidof(IClassFactory), reinterpret_cast<void**>(&factory)) != S_OK) return false;
+  if (server.can_unload() != S_FALSE) return false;
+  {
+    const LateObject object(created_by(*factory.Get()));
+    factory.Reset();
+    if (!row.works(object) || server.can_unload() != S_FALSE) return false;
+  }
+  return server.can_unload() == S_OK;
+}
+
+bool load_and_let_go(const ClassUnderStress&) {
+  const Server server(beside_program(L"QVRlib21.dll"));
+  return server.loaded() && server.can_unload() == S_OK;
+}
+
+DWORD next_slot() {
+  const DWORD slot = TlsAlloc();
+  TlsFree(slot);
+  return slot;
+}
+
+// What one load may leave behind when no object of the library's is asked for, and is never asked for again: memory
+// that the compiler's run-time keeps for exceptions when there is no other. A library that was used stays, with what it
+// has.
+constexpr std::size_t kKeptByRuntime = 80000;
+
+int load_again_and_again() {
+  constexpr std::size_t kRounds = 1200;  // more than a process has slots of thread-local storage
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  tell_begun();
+  stop_string_cache();
+  const bool used = words()[2] == L"used";
+  const auto round = used ? load_use_and_let_go : load_and_let_go;
+  const auto rows = classes_under_stress();
+  const auto all = [&](std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+      if (!round(rows[i % rows.size()]) || loaded() != used) return false;
+    }
+    return true;
+  };
+  if (!all(60)) return 1;
+  const InUse before = in_use();
+  const DWORD slot = next_slot();
+  if (!all(kRounds)) return 2;
+  const InUse after = in_use();
+  std::printf("%s: %ld blocks, %ld bytes, %ld handles and %ld slots more\n", used ? "used" : "unused",
+              static_cast<long>(after.blocks - before.blocks), static_cast<long>(after.bytes - before.bytes),
+              static_cast<long>(after.handles - before.handles), static_cast<long>(next_slot() - slot));
+  if (next_slot() != slot || after.handles > before.handles + 20) return 3;
+  const std::size_t may_stay = used ? 0 : kRounds;
+  const bool few = after.blocks < before.blocks + may_stay + 50;
+  return few && after.bytes < before.bytes + may_stay * kKeptByRuntime + 5000 ? 0 : 4;
+}
+
 }  // namespace
 
 Role child_role() {
@@ -66,6 +130,7 @@ Role child_role() {
   if (given.size() < 2) return nullptr;
   if (given[1] == kSaves) return save_again_and_again;
   if (given[1] == kRegisters) return register_again_and_again;
+  if (given[1] == kLoads) return load_again_and_again;
   return nullptr;
 }
 

@@ -1,4 +1,4 @@
-// What this program does as a process that a test ends before its time: one thing again and again.
+// What this program does as a process of its own, most of them one thing again and again until a test ends them.
 #pragma once
 
 namespace qvr::tests {
@@ -7,6 +7,9 @@ namespace qvr::tests {
 inline constexpr wchar_t kSaves[] = L"--saves";
 // Followed by "user" or "machine": registers and unregisters.
 inline constexpr wchar_t kRegisters[] = L"--registers";
+// Followed by "used" or "unused": loads the library a thousand times and more. 0 when nothing more stays behind than
+// may; what does is printed.
+inline constexpr wchar_t kLoads[] = L"--loads";
 
 // What the two files hold; the identification of both is "id", their name "ended".
 inline constexpr const wchar_t* kProviders[] = {L"first", L"second"};
