@@ -2,6 +2,8 @@
 // an HRESULT.
 #pragma once
 
+#include "QVRlib21.h"
+#include "base/engine.h"
 #include "base/secret_text.h"
 #include "com/com.h"
 #include "com/late_failure.h"

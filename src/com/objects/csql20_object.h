@@ -1,7 +1,6 @@
 #pragma once
 
 #include "com/object.h"
-#include "com/objects/contract.h"
 #include "com/objects/prefixed_contract.h"
 #include "query/csql20.h"
 
@@ -33,6 +32,7 @@ class cSQL20Object final : public Object<::cSQL20, PrefixedContract<_cSQL20>, Co
 
  private:
   qvr::iSQL20& query() noexcept override { return core_; }
+  Contract& contract() noexcept override { return *this; }
 
   qvr::cSQL20 core_;
 };

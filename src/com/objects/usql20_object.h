@@ -1,7 +1,6 @@
 #pragma once
 
 #include "com/object.h"
-#include "com/objects/contract.h"
 #include "com/objects/prefixed_contract.h"
 #include "query/usql20.h"
 
@@ -15,6 +14,7 @@ class uSQL20Object final : public Object<::uSQL20, PrefixedContract<_uSQL20>, Co
 
  private:
   qvr::iSQL20& query() noexcept override { return core_; }
+  Contract& contract() noexcept override { return *this; }
 
   qvr::uSQL20 core_;
 };
