@@ -12,9 +12,9 @@ constexpr ByEngine kPieces{u"one", u"two", u"three"};
 constexpr Engine kStrangers[] = {Engine::None, Engine{-1}, Engine{4}, Engine{99}, Engine{INT32_MAX}, Engine{INT32_MIN}};
 
 TEST_F(EngineTest, HasTheContractsNumbers) {
-  EXPECT_EQ(Engine::Jet, 1);
-  EXPECT_EQ(Engine::SqlServer, 2);
-  EXPECT_EQ(Engine::Oracle, 3);
+  EXPECT_EQ(number_of(Engine::Jet), 1);
+  EXPECT_EQ(number_of(Engine::SqlServer), 2);
+  EXPECT_EQ(number_of(Engine::Oracle), 3);
 }
 
 TEST_F(EngineTest, PickGivesTheEnginesPiece) {

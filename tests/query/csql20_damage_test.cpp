@@ -24,7 +24,7 @@ class Csql20DamageTest : public QueryTest {
     EXPECT_FALSE(query.Creado());
     EXPECT_EQ(query.SQL(), u"     ");
     EXPECT_EQ(query.SQLOriginal(), u"     ");
-    EXPECT_EQ(query.MotorBD(), 0);
+    EXPECT_EQ(query.MotorBD(), Engine::None);
     EXPECT_EQ(query.NumColumna(u"Nombre"), 0);
     EXPECT_EQ(query.TextoDefinicion(), u"");
   }

@@ -11,7 +11,7 @@ TEST_F(Csql20PropertiesTest, AreEmptyAtFirst) {
   cSQL20 query;
   EXPECT_EQ(query.Name(), u"cSQL20");
   EXPECT_FALSE(query.Creado());
-  EXPECT_EQ(query.MotorBD(), 0);
+  EXPECT_EQ(query.MotorBD(), Engine::None);
   EXPECT_EQ(query.TOP(), 0);
   EXPECT_EQ(query.Tag(), u"");
   EXPECT_EQ(query.CriterioActual(), u"");

@@ -42,7 +42,7 @@ TEST_F(Usql20Test, IsEmptyBeforeThereIsAMember) {
   }
   EXPECT_EQ(query.TOP(), 0);
   EXPECT_EQ(query.Idioma(), 0);
-  EXPECT_EQ(query.MotorBD(), 0);
+  EXPECT_EQ(query.MotorBD(), Engine::None);
   EXPECT_EQ(query.NumColumna(u"a"), 0);
   EXPECT_EQ(query.NumColumnas(), 0);
   EXPECT_FALSE(query.AmpliarCondicionWhere(u"a=1", u"a"));
