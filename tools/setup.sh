@@ -74,7 +74,7 @@ make_wine_prefix() {
 }
 
 copy_wine_prefix() {
-  "$root/tools/wine.sh" --stop >>"$log" 2>&1
+  WINEPREFIX=$build/wine wineserver -w  # what it has written is whole then
   rm -rf "${build:?}/$1"
   cp -a --reflink=auto "$build/wine" "$build/$1" || fail "the Wine prefix could not be copied"
 }
