@@ -37,8 +37,8 @@ missing_packages() {
 # need PURPOSE...: installs the packages of these purposes.
 need() {
   local missing
-  missing=$(missing_packages "$@")
-  [ -z "$missing" ] || timed "setup: installing $(echo $missing)" install_packages "$@"
+  missing=$(missing_packages always "$@")
+  [ -z "$missing" ] || timed "setup: installing $(echo $missing)" install_packages always "$@"
 }
 
 install_packages() {
