@@ -2,8 +2,11 @@
 # Runs every benchmark, each beside what it is measured against in the same run, and writes the figures into
 # docs/performance.md. Leave the machine alone meanwhile.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$root/tools/setup.sh" native win32
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+need windows native bench
+need_wine
+need_built native $(printf '%s_bench ' connection inserts loading query splitting)
+need_built win32 QVRlib21 testado $(printf '%s_bench ' creation dispatch members)
 
 results=$build/bench peers=$build/peers
 mkdir -p "$results" "$peers"

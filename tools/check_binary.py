@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks a built library file: what it imports and exports, how it may be loaded, how large it is, and that it tells
-nothing of the machine that built it. Usage: check_binary.py OBJDUMP DLL SOURCE_FOLDER"""
+"""Checks a built library file: what it imports and exports, how it may be loaded, and that it tells nothing of
+the machine that built it. Usage: check_binary.py OBJDUMP DLL SOURCE_FOLDER"""
 import re
 import subprocess
 import sys
@@ -8,10 +8,6 @@ import sys
 SYSTEM_LIBRARIES = {"advapi32.dll", "bcrypt.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleaut32.dll", "user32.dll"}
 EXPORTS = {"DllCanUnloadNow", "DllGetClassObject", "DllInstall", "DllRegisterServer", "DllUnregisterServer"}
 HIGH_ENTROPY, DYNAMIC_BASE, NO_EXECUTE = 0x20, 0x40, 0x100
-
-# Bytes of a stripped file, in either width. What is above this has usually taken some part of the run-time along that
-# nobody meant to use, such as streams, locales or std::to_chars for floating point; docs/performance.md has the parts.
-LARGEST = 700_000
 
 
 def characteristics(headers):
@@ -45,8 +41,6 @@ def main():
     exports = exported_names(headers)
     if exports != EXPORTS:
         problems.append(f"exports {sorted(exports)}")
-    if ".debug_info" not in sections and len(content) > LARGEST:
-        problems.append(f"has {len(content)} bytes, {len(content) - LARGEST} too many")
     wanted = DYNAMIC_BASE | NO_EXECUTE | (HIGH_ENTROPY if "pei-x86-64" in headers else 0)
     if characteristics(headers) & wanted != wanted:
         problems.append(f"characteristics {characteristics(headers):#x} lack some of {wanted:#x}")

@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Sets the machine up, builds the library and shows its main job: examples/gestion as a C++ host and as VBScript.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$root/tools/setup.sh" win32
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+need windows
+need_wine
+need_built win32 QVRlib21 testado gestion answer_boxes
 
 work=$build/demo
 rm -rf "$work"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the fuzz targets: tools/fuzz.sh MINUTES [TARGET...]. The minutes are shared out equally over the targets named,
-# or over all. New inputs are kept in build/fuzz/corpus and begin the next run; what a target failed on is named at the
+# or over all. New inputs are kept in build/asan/corpus and begin the next run; what a target failed on is named at the
 # end, with exit code 1.
 set -euo pipefail
 
@@ -10,8 +10,8 @@ if [[ $# -eq 0 || ! $1 =~ ^[0-9]+$ || $1 -eq 0 ]]; then
 fi
 minutes=$1
 shift
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-fuzz=$root/build/fuzz
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+fuzz=$build/asan
 sources=$root/tests/fuzz
 
 targets=("$@")
@@ -22,9 +22,8 @@ for target in "${targets[@]}"; do
   [[ -e $sources/${target}_fuzz.cpp ]] || { echo "fuzz.sh: there is no target $target" >&2; exit 2; }
 done
 
-cd "$root"
-[[ -e $fuzz/build.ninja ]] || cmake --preset fuzz
-cmake --build --preset fuzz
+need native clang
+need_built asan "${targets[@]/%/_fuzz}"
 
 seconds=$((minutes * 60 / ${#targets[@]}))
 [[ $seconds -gt 0 ]] || seconds=1

@@ -2,13 +2,14 @@
 # Builds the manual's site: build/manual/site/, to be opened from its index.html; nothing in it needs a network.
 # tools/manual.sh --check only looks whether the reference is complete, and diagrams and excerpts are current.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 manual=$root/build/manual
 settings=$root/docs/manual/site
 
 "$root/tools/manual/reference.py" --check
 [ "${1:-}" = --check ] && exit 0
 
+need manual
 rm -rf "$manual"
 mkdir -p "$manual"
 "$root/tools/manual/reference.py" "$manual/reference"

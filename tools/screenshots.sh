@@ -2,7 +2,8 @@
 # Takes the pictures in docs/images/ with a headless browser: of the manual's site, which tools/manual.sh has to have
 # built, and of what tools/demo.sh printed when it last ran.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+need browser
 site=$root/build/manual/site
 told=$root/build/demo/gestion.txt
 images=$root/docs/images

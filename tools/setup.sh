@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# Makes this machine ready and builds: packages, a Wine prefix in the build folder, the presets given as arguments.
-# Sourced by demo.sh and test.sh; quick when everything is there already.
+# Makes this machine ready; sourced by the other scripts, which call what they need of it. Quick when all is there.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -17,21 +16,34 @@ fail() {
   exit 1
 }
 
-packages() { sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$root/tools/packages.txt"; }
+# timed WORDS COMMAND...: says what is being done, and how long it took.
+timed() {
+  local words=$1 began=$SECONDS
+  shift
+  say "$words ..."
+  "$@"
+  say "$words: $((SECONDS - began)) s"
+}
 
-# The packages of the list that are not installed.
+# The packages of these purposes that are not installed.
 missing_packages() {
   local package
-  for package in $(packages); do
+  for package in $(awk -v wanted=" $* " '/^#|^$/ { next } /^\[/ { gsub(/[][]/, ""); inside = index(wanted, " " $0 " ")
+                   next } inside' "$root/tools/packages.txt"); do
     dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || echo "$package"
   done
 }
 
+# need PURPOSE...: installs the packages of these purposes.
+need() {
+  local missing
+  missing=$(missing_packages always "$@")
+  [ -z "$missing" ] || timed "setup: installing $(echo $missing)" install_packages always "$@"
+}
+
 install_packages() {
   local missing
-  missing=$(missing_packages)
-  [ -z "$missing" ] && return 0
-  say "setup: installing" $missing
+  missing=$(missing_packages "$@")
   [ "$(id -u)" = 0 ] || fail "packages are missing and only root can install them"
   export DEBIAN_FRONTEND=noninteractive
   dpkg --add-architecture i386
@@ -42,31 +54,41 @@ install_packages() {
   # shellcheck disable=SC2086
   $install $missing >>"$log" 2>&1 || $install -t bookworm $missing >>"$log" 2>&1 ||
     fail "the packages could not be installed, neither plainly nor from the release itself"
-  missing=$(missing_packages)
+  missing=$(missing_packages "$@")
   [ -z "$missing" ] || fail "still missing after installing:" $missing
 }
 
+# A prefix for people and programs, and with names of folders in build/ copies of it for tests that run side by side.
+need_wine() {
+  [ -e "$build/wine/ready" ] || timed "setup: making the Wine prefix" make_wine_prefix
+  local name
+  for name in "$@"; do
+    [ -e "$build/$name/ready" ] || timed "setup: copying the Wine prefix to $name" copy_wine_prefix "$name"
+  done
+}
+
 make_wine_prefix() {
-  [ -e "$build/wine/ready" ] && return 0
-  say "setup: making the Wine prefix"
   rm -rf "$build/wine"
   "$root/tools/wine_prefix.sh" "$build/wine" >>"$log" 2>&1 || fail "the Wine prefix could not be made"
   touch "$build/wine/ready"
 }
 
+copy_wine_prefix() {
+  WINEPREFIX=$build/wine wineserver -w  # what it has written is whole then
+  rm -rf "${build:?}/$1"
+  cp -a --reflink=auto "$build/wine" "$build/$1" || fail "the Wine prefix could not be copied"
+}
+
+# need_built PRESET [TARGET...]: builds these targets, or all.
+need_built() { timed "setup: building $*" build_preset "$@"; }
+
 build_preset() {
   local preset=$1
+  shift
   rm -f "$build/$preset-build.log"
   (cd "$root" && { [ -e "$build/$preset/build.ninja" ] || cmake --preset "$preset" >>"$log" 2>&1; } &&
-    cmake --build --preset "$preset" >"$build/$preset-build.log" 2>&1) || {
+    cmake --build --preset "$preset" ${1:+--target "$@"} >"$build/$preset-build.log" 2>&1) || {
     tail -n 40 "$build/$preset-build.log" >&2 || true
     fail "building preset $preset failed"
   }
 }
-
-install_packages
-make_wine_prefix
-for preset in "$@"; do
-  say "setup: building $preset"
-  build_preset "$preset"
-done

@@ -1,61 +1,58 @@
 #!/usr/bin/env bash
-# Sets the machine up, builds everything and passes every test. The last line is "N passed, N failed".
+# Sets the machine up, builds everything and passes every test. Says what each part took; the last line is
+# "N passed, N failed".
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$root/tools/setup.sh" native asan fuzz win32 win64 package
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+began=$SECONDS
+need windows win64 native bench clang tests manual browser
+need_wine wine-core wine64
 
 results=$build/test-results
 mkdir -p "$results"
-rm -f "$results"/*.xml
-failed_suites=0
+rm -rf "$results"/*.xml "$build"/*/cases
+failed_suites=$results/failed
+: >"$failed_suites"
 
-# run NAME PRESET [VARIABLE=VALUE...]: one suite, its outcome kept for the count at the end.
-run() {
-  local name=$1 preset=$2
-  shift 2
-  say "test: $name"
-  (cd "$root" && env "$@" ctest --preset "$preset" -j2 --output-junit "$results/$name.xml" \
-    >"$results/$name.log" 2>&1) || {
-    failed_suites=$((failed_suites + 1))
-    sed -n '/The following tests FAILED/,$p' "$results/$name.log"
-    grep -v -E '^ *[0-9]+/[0-9]+ Test .*Passed|^ *Start ' "$results/$name.log" | tail -n 150
-  }
+# suite NAME COMMAND...: one suite, its log shown when it fails.
+suite() {
+  local name=$1
+  shift
+  "$@" >"$results/$name.log" 2>&1 && return
+  echo "$name" >>"$failed_suites"
+  sed -n '/The following tests FAILED/,$p' "$results/$name.log"
+  grep -v -E '^ *[0-9]+/[0-9]+ Test .*Passed|^ *Start ' "$results/$name.log" | tail -n 150 || true
 }
 
-run native native
-run asan asan
-run fuzz fuzz
-run win32 win32
-run win64 win64
-run package package
-"$root/tools/wine.sh" --stop
+# tests PRESET CORES: a preset's tests.
+tests() { timed "test: $1" suite "$1" preset_tests "$1" "$2"; }
+preset_tests() { (cd "$root" && ctest --preset "$1" -j"$2" --output-junit "$results/$1.xml"); }
 
-# The manual's site as a browser shows it; building it fails when the reference is not complete.
-say "test: site"
-{ "$root/tools/manual.sh" && "$root/tests/site/site_test.py" "$build/manual/site" "$results/site.xml"; } \
-  >"$results/site.log" 2>&1 || {
-  failed_suites=$((failed_suites + 1))
-  tail -n 150 "$results/site.log"
+format() {
+  local outcome=run
+  find "$root"/{bench,examples,programs,src,tests} \( -name '*.cpp' -o -name '*.h' \) -print0 |
+    xargs -0 -n 40 -P 2 clang-format --dry-run --Werror || outcome=fail
+  echo "<testsuite><testcase name=\"sources_are_formatted\" status=\"$outcome\"/></testsuite>" >"$results/format.xml"
+  [ "$outcome" = run ]
 }
 
-# Adds up the suites; one that left no result file counts as a failure.
-python3 - "$results" "$failed_suites" native asan fuzz win32 win64 package site <<'PY'
-import pathlib
-import sys
-import xml.etree.ElementTree as xml
+# The manual's site, which is packed too, as a browser shows it.
+site() { "$root/tests/site/site_test.py" "$build/manual/site" "$results/site.xml"; }
 
-folder, failed_suites, *names = sys.argv[1:]
-passed = failed = 0
-for name in names:
-    path = pathlib.Path(folder, name + ".xml")
-    suite = xml.parse(path).getroot() if path.exists() else None
-    cases = list(suite.iter("testcase")) if suite is not None else []
-    bad = sum(case.get("status") != "run" for case in cases) if cases else 1
-    print(f"{name}: {len(cases) - bad if cases else 0} passed, {bad} failed")
-    passed += len(cases) - bad if cases else 0
-    failed += bad
-if failed_suites != "0" and failed == 0:
-    failed = int(failed_suites)
-print(f"{passed} passed, {failed} failed")
-sys.exit(1 if failed else 0)
-PY
+timed "test: format" suite format format
+need_built native
+tests native 2
+need_built asan
+tests asan 2
+need_built win32
+need_built win64
+# Each in Wine prefixes of its own.
+tests win32 2 &
+tests win64 1
+wait
+need_built package
+tests package 1
+for prefix in wine wine-core wine64; do QVR_WINEPREFIX=$build/$prefix "$root/tools/wine.sh" --stop; done
+timed "test: site" suite site site
+
+say "test: everything: $((SECONDS - began)) s"
+"$root/tools/count_cases.py" "$build" "$failed_suites" format native asan win32 win64 package site

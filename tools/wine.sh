@@ -8,4 +8,8 @@ if [ "${1:-}" = --stop ]; then
   wineserver -k || true  # there may be none
   exit
 fi
+[ -d "$WINEPREFIX" ] || [ "${1:-}" = wineboot ] || {
+  echo "wine.sh: there is no prefix $WINEPREFIX; tools/wine_prefix.sh makes one" >&2
+  exit 1
+}
 exec "${QVR_WINE:-wine}" "$@"

@@ -61,7 +61,7 @@ class Value {
   Value() = default;
   template <class T>
     requires(!std::is_same_v<std::remove_cvref_t<T>, Value> && std::is_constructible_v<Storage, T>)
-  Value(T&& held) : storage_(std::forward<T>(held)) {}  // NOLINT: a value is what it holds
+  Value(T&& held) : storage_(std::forward<T>(held)) {}  // implicit: a value is what it holds
 
   template <class T>
   const T* as() const {

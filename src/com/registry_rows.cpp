@@ -28,15 +28,15 @@ void add_class(RegistryRows& rows, const ClassRow& row, const std::wstring& file
   const std::wstring program_id = std::wstring(windows::kLibraryName) + L"." + row.name;
   const std::wstring key = L"CLSID\\" + text_of(row.id);
   rows.values.insert(rows.values.end(), {
-                                            {key, L"", program_id},
-                                            {key + L"\\InprocServer32", L"", file},
+                                            {key, {}, program_id},
+                                            {key + L"\\InprocServer32", {}, file},
                                             {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-                                            {key + L"\\ProgID", L"", program_id},
-                                            {key + L"\\Programmable", L"", L""},
-                                            {key + L"\\TypeLib", L"", text_of(LIBID_QVRlib21)},
-                                            {key + L"\\Version", L"", kTypeLibraryVersion},
-                                            {program_id, L"", program_id},
-                                            {program_id + L"\\CLSID", L"", text_of(row.id)},
+                                            {key + L"\\ProgID", {}, program_id},
+                                            {key + L"\\Programmable", {}, {}},
+                                            {key + L"\\TypeLib", {}, text_of(LIBID_QVRlib21)},
+                                            {key + L"\\Version", {}, kTypeLibraryVersion},
+                                            {program_id, {}, program_id},
+                                            {program_id + L"\\CLSID", {}, text_of(row.id)},
                                         });
   rows.trees.push_back({key, false});
   rows.trees.push_back({program_id, true});
@@ -46,9 +46,9 @@ void add_interface(RegistryRows& rows, REFGUID id, const std::wstring& name, boo
   const std::wstring key = L"Interface\\" + text_of(id);
   rows.values.insert(rows.values.end(),
                      {
-                         {key, L"", name},
-                         {key + L"\\ProxyStubClsid32", L"", dual ? kDualMarshaller : kDispatchMarshaller},
-                         {key + L"\\TypeLib", L"", text_of(LIBID_QVRlib21)},
+                         {key, {}, name},
+                         {key + L"\\ProxyStubClsid32", {}, dual ? kDualMarshaller : kDispatchMarshaller},
+                         {key + L"\\TypeLib", {}, text_of(LIBID_QVRlib21)},
                          {key + L"\\TypeLib", L"Version", kTypeLibraryVersion},
                      });
   rows.trees.push_back({key, false});
@@ -76,10 +76,10 @@ void add_type_library(RegistryRows& rows, const std::wstring& file) {
   const std::wstring key = L"TypeLib\\" + text_of(LIBID_QVRlib21);
   const std::wstring version = key + L"\\" + kTypeLibraryVersion;
   rows.values.insert(rows.values.end(), {
-                                            {version, L"", windows::kLibraryName},
-                                            {version + L"\\0\\" + kPlatform, L"", file},
-                                            {version + L"\\FLAGS", L"", L"0"},
-                                            {version + L"\\HELPDIR", L"", folder_of(file)},
+                                            {version, {}, windows::kLibraryName},
+                                            {version + L"\\0\\" + kPlatform, {}, file},
+                                            {version + L"\\FLAGS", {}, L"0"},
+                                            {version + L"\\HELPDIR", {}, folder_of(file)},
                                         });
   rows.trees.push_back({version + L"\\0\\" + kPlatform, false});
   rows.trees.push_back({key, true});

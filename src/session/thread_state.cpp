@@ -9,6 +9,8 @@ namespace {
 
 ThreadState* current() { return static_cast<ThreadState*>(thread_slot::get()); }
 
+void destroy(void* state) noexcept { delete static_cast<ThreadState*>(state); }
+
 template <class Service>
 Service& made_once(std::unique_ptr<Service>& service, std::unique_ptr<Service> (*make)(const Platform&),
                    const Platform& platform) {
@@ -44,7 +46,7 @@ ThreadState& thread_state() {
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {
   ThreadState* const former = current();
   // A leaving thread that has none asks the system for nothing; one that has a place for it can be sure of it.
-  if (state.get() != former && !thread_slot::set(state.get())) throw std::bad_alloc();
+  if (state.get() != former && !thread_slot::set(state.get(), destroy)) throw std::bad_alloc();
   static_cast<void>(state.release());
   return std::unique_ptr<ThreadState>(former);
 }

@@ -1,14 +1,14 @@
 #include "platform/thread_slot.h"
 
-#include "session/thread_state.h"
-
 namespace qvr::thread_slot {
 namespace {
 
-// Takes the state along when the thread ends.
 struct Slot {
-  ~Slot() { delete static_cast<ThreadState*>(pointer); }
+  ~Slot() {
+    if (pointer != nullptr) destroy(pointer);
+  }
   void* pointer = nullptr;
+  Destroy destroy = nullptr;
 };
 
 thread_local Slot slot;
@@ -17,8 +17,9 @@ thread_local Slot slot;
 
 void* get() noexcept { return slot.pointer; }
 
-bool set(void* pointer) noexcept {
+bool set(void* pointer, Destroy destroy) noexcept {
   slot.pointer = pointer;
+  slot.destroy = destroy;
   return true;
 }
 

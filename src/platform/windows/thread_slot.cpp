@@ -11,6 +11,6 @@ const windows::ThreadPointer pointer_of_thread;
 
 void* get() noexcept { return pointer_of_thread.get(); }
 
-bool set(void* pointer) noexcept { return pointer_of_thread.set(pointer); }
+bool set(void* pointer, Destroy) noexcept { return pointer_of_thread.set(pointer); }
 
 }  // namespace qvr::thread_slot
