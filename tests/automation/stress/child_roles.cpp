@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "QVRlib21.h"
+#include "automation/floating_point_state.h"
 #include "automation/in_use.h"
 #include "automation/library.h"
 #include "automation/stress/classes.h"
@@ -123,6 +124,23 @@ int load_again_and_again() {
   return few && after.bytes < before.bytes + may_stay * kKeptByRuntime + 5000 ? 0 : 4;
 }
 
+int load_in_state() {
+  const HostState& state = kHostStates[std::stoul(words()[2])];
+  const std::wstring path = beside_program(L"QVRlib21.dll");
+  tell_begun();
+  bool found = false;
+  const StateAround around = in_state(state, [&] {
+    const Server server(path);
+    ComPtr<IClassFactory> factory;
+    found = server.loaded() && server.can_unload() == S_OK &&
+            server.class_object(CLSID_QVRcfp, __uuidof(IClassFactory), reinterpret_cast<void**>(&factory)) == S_OK;
+  });
+  if (around.before == around.after) return found ? 0 : 1;
+  std::printf("%s: %s before, %s after\n", state.name, to_string(around.before).c_str(),
+              to_string(around.after).c_str());
+  return 2;
+}
+
 }  // namespace
 
 Role child_role() {
@@ -131,6 +149,7 @@ Role child_role() {
   if (given[1] == kSaves) return save_again_and_again;
   if (given[1] == kRegisters) return register_again_and_again;
   if (given[1] == kLoads) return load_again_and_again;
+  if (given[1] == kLoadsInState) return load_in_state;
   return nullptr;
 }
 

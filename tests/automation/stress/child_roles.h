@@ -11,6 +11,10 @@ inline constexpr wchar_t kRegisters[] = L"--registers";
 // may; what does is printed.
 inline constexpr wchar_t kLoads[] = L"--loads";
 
+// Followed by the number of a host's floating-point state: loads the library in it, asks for a class object and lets
+// go. 0 when the state is there afterwards.
+inline constexpr wchar_t kLoadsInState[] = L"--loads-in-state";
+
 // What the two files hold; the identification of both is "id", their name "ended".
 inline constexpr const wchar_t* kProviders[] = {L"first", L"second"};
 inline constexpr int kOptionsLengths[] = {10, 40000};

@@ -1,6 +1,9 @@
 // A host lets go of the library as often as it likes. One that has been used stays until the process ends.
 #include <gtest/gtest.h>
 
+#include <iterator>
+
+#include "automation/floating_point_state.h"
 #include "automation/stress/child.h"
 #include "automation/stress/child_roles.h"
 
@@ -11,6 +14,15 @@ namespace {
 TEST(Unloading, AThousandTimesAfterUseLeavesNothingBehind) { EXPECT_EQ(Child(kLoads, L"used").answer(), 0); }
 
 TEST(Unloading, AThousandTimesWithoutUseLeavesWhatTheRuntimeKeeps) { EXPECT_EQ(Child(kLoads, L"unused").answer(), 0); }
+
+class LoadingInState : public testing::TestWithParam<std::size_t> {};
+
+TEST_P(LoadingInState, LeavesTheStateToTheHost) {
+  EXPECT_EQ(Child(kLoadsInState, std::to_wstring(GetParam())).answer(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(States, LoadingInState, testing::Range(std::size_t{0}, std::size(kHostStates)),
+                         [](const auto& row) { return std::string(kHostStates[row.param].name); });
 
 }  // namespace
 }  // namespace qvr::tests
