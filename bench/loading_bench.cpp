@@ -4,11 +4,11 @@
 
 #include <filesystem>
 #include <fstream>
-#include <vector>
 
 #include "base/utf8.h"
 #include "run.h"
 #include "script/qvrscr.h"
+#include "script/script_preparation.h"
 #include "support/peak_memory.h"
 
 namespace {
