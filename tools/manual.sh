@@ -22,7 +22,6 @@ for sources in "$manual"/sources/*/; do
   rm -f "$manual/site/$language/.buildinfo" "$manual/site/$language/objects.inv"
 done
 cp "$settings/index.html" "$manual/site/"
-cp "$manual/reference/contexts.ini" "$manual/site/"
 "$root/tools/manual/offline.py" "$manual/site"
 
 # The terms of what the theme and the search bring along.

@@ -18,8 +18,8 @@ take() {
   [ "$(stat -c %s "$images/$1.png")" -le 153600 ] || { echo "screenshots: $1.png is too large" >&2; exit 1; }
 }
 
-take site-en en/reference/QVRcfp.html#help-2038 1280 860
-take site-es-narrow es/reference/QVRcfp.html#help-2038 360 720
+take site-en en/reference/QVRcfp.html#sqlinsert 1280 860
+take site-es-narrow es/reference/QVRcfp.html#sqlinsert 360 720
 take site-search 'es/search.html?q=fecha' 1280 720
 
 terminal=$(mktemp -d)

@@ -21,11 +21,10 @@ class Times {
 
   // Calls the body often; the quickest of some rounds counts, as the others were disturbed.
   template <class Body>
-  void take(const std::string& what, const std::string& argument, Body&& body, int calls = 4000) {
-    constexpr int kRounds = 15;
+  void take(const std::string& what, const std::string& argument, Body&& body, int calls, int rounds = 15) {
     for (int i = 0; i < calls / 10; ++i) body();
     double best = 1e300;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
       const double start = now();
       for (int i = 0; i < calls; ++i) body();
       best = std::min(best, (now() - start) / calls);

@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <cstdlib>
 
 #include "automation.h"
 #include "console.h"

@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <utility>
 
 #include "automation.h"
 #include "console.h"

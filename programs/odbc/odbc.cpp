@@ -1,7 +1,6 @@
 #include "odbc/odbc.h"
 
 #include <array>
-#include <string>
 
 #include "odbc/odbc_api.h"
 

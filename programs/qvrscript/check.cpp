@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "base/utf8.h"
 #include "base/wildcards.h"
 #include "qvrscript/engines.h"
 #include "qvrscript/json.h"

@@ -1,4 +1,3 @@
-#include <algorithm>
 
 #include "qvrscript/rules.h"
 #include "script/command_splitter.h"

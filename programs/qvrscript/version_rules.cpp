@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 
-#include "base/number_text.h"
 #include "base/wildcards.h"
 #include "qvrscript/engines.h"
 #include "script/script_files.h"

@@ -1,6 +1,5 @@
 // What the library exports.
 
-#include <memory>
 
 #include "com/answer.h"
 #include "com/class_object.h"

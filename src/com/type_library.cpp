@@ -1,7 +1,6 @@
 #include "com/type_library.h"
 
 #include "com/late_failure.h"
-#include "com/text_bstr.h"
 #include "platform/platform.h"
 
 namespace qvr::com {

@@ -1,7 +1,6 @@
 #include "connection/cfp_file.h"
 
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "base/failure.h"

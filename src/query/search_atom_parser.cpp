@@ -1,6 +1,5 @@
 #include "query/search_atom_parser.h"
 
-#include <algorithm>
 
 #include "query/search_split.h"
 

@@ -1,5 +1,4 @@
 // What a negated piece of a search means.
-#include <algorithm>
 
 #include "query/search_atom_parser.h"
 

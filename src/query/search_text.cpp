@@ -1,6 +1,5 @@
 #include "query/search_text.h"
 
-#include "base/failure.h"
 #include "query/search_condition.h"
 #include "query/search_criterion.h"
 #include "query/search_parser.h"

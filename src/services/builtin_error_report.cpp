@@ -1,7 +1,5 @@
 #include "services/builtin_error_report.h"
 
-#include <algorithm>
-#include <iterator>
 
 namespace qvr::services {
 namespace {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 
 #include "services/siv.h"
 #include "services/text_protection.h"

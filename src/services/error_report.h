@@ -1,7 +1,6 @@
 // Reporting of failed commands and procedure calls to the user.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <vector>
 

@@ -6,8 +6,6 @@
 #include <initializer_list>
 #include <memory>
 #include <optional>
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/platform.h"

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 
-#include "base/text.h"
 
 namespace qvr {
 

@@ -1,4 +1,4 @@
-// What type-library browsers show of each type and member, and where their F1 leads to.
+// What type-library browsers show of each type and member.
 #include <map>
 
 #include "automation/both.h"
@@ -8,32 +8,15 @@ namespace {
 
 struct Help {
   std::string name, text;
-  DWORD context = 0;
 };
 
 Help help_of(ITypeInfo& info, MEMBERID member) {
   Bstr name, text;
   Help help;
-  EXPECT_EQ(info.GetDocumentation(member, &name, &text, &help.context, nullptr), S_OK);
+  EXPECT_EQ(info.GetDocumentation(member, &name, &text, nullptr, nullptr), S_OK);
   help.name = narrow(name.text());
   help.text = narrow(text.text());
   return help;
-}
-
-// The thousands of each type's numbers. A class has those of its default interface.
-DWORD thousands(const std::string& type) {
-  const std::map<std::string, DWORD> numbers = {{"Ov", 1},     {"QVRcfp", 2},  {"iSQL20", 3},
-                                                {"cSQL20", 4}, {"uSQL20", 5},  {"QVRScr", 6},
-                                                {"QVRprp", 7}, {"_QVRScr", 8}, {"MotoresBD", 9}};
-  const auto found = numbers.find(type.starts_with("_") ? type.substr(1) : type);
-  return found != numbers.end() ? found->second * 1000 : 0;
-}
-
-// Where the member stands among the others: the low half of its id, but for events and for the default member.
-DWORD position(MEMBERID id, bool event) {
-  constexpr DWORD kDefaultMember = 2;
-  if (event) return static_cast<DWORD>(id) - 1;
-  return id == DISPID_VALUE ? kDefaultMember : static_cast<DWORD>(id) & 0xFFFF;
 }
 
 // Checks the type's own members; how many there are.
@@ -50,12 +33,11 @@ int expect_members_to_have_help(ITypeInfo& info, const TYPEATTR& type, const Hel
     ++members;
     SCOPED_TRACE(own.name + "." + help.name);
     EXPECT_NE(help.text, "");
-    EXPECT_EQ(help.context, thousands(own.name) + 1 + position(id, own.name == "__QVRScr"));
   }
   return members;
 }
 
-TEST(Help, EveryTypeAndMemberHasATextAndItsNumber) {
+TEST(Help, EveryTypeAndMemberHasAText) {
   ComPtr<ITypeLib> library;
   ASSERT_EQ(LoadTypeLibEx(beside_program(L"QVRlib21.dll").c_str(), REGKIND_NONE, &library), S_OK);
   std::map<std::string, int> members;
@@ -66,8 +48,6 @@ TEST(Help, EveryTypeAndMemberHasATextAndItsNumber) {
     ASSERT_EQ(info->GetTypeAttr(&type), S_OK);
     const Help own = help_of(*info.Get(), MEMBERID_NIL);
     EXPECT_NE(own.text, "") << own.name;
-    EXPECT_NE(own.context, 0u) << own.name;
-    EXPECT_EQ(own.context, thousands(own.name)) << own.name;
     const int count = expect_members_to_have_help(*info.Get(), *type, own);
     if (count > 0) members[own.name] = count;
     info->ReleaseTypeAttr(type);

@@ -3,7 +3,6 @@
 
 #include <map>
 #include <random>
-#include <tuple>
 
 #include "connection/sample_parameters.h"
 #include "support/test_thread.h"

@@ -15,7 +15,6 @@ SOURCES = {
     "csharp/Dynamic.cs": (set(), {"CreateInstance", "GetTypeFromProgID", "Error", "Length", "WriteLine"}),
     "csharp/Early.cs": (set(), {"Error", "Length", "WriteLine", "OpenParameters", "ShowQuery", "RunScript",
                                 "ShowProperties", "folder", "provider", "options"}),
-    "cpp-early/import.cpp": (None, {"GetBSTR", "ErrorMessage", "Add", "Detach", "parray", "vt", "what"}),
 }
 
 

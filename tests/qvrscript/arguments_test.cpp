@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/utf8.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {

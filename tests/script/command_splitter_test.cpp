@@ -5,7 +5,6 @@
 #include <random>
 #include <vector>
 
-#include "base/utf8.h"
 
 namespace qvr::tests {
 namespace {

@@ -8,7 +8,6 @@
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"
 #include "session/value_convert.h"
-#include "support/describe.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 

@@ -6,7 +6,6 @@
 #include "script/qvrscr.h"
 #include "services/builtin_error_report.h"
 #include "session/value_convert.h"
-#include "support/describe.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 

@@ -10,29 +10,28 @@ from check import problems  # noqa: E402
 from declarations import declarations  # noqa: E402
 from entries import Entries  # noqa: E402
 from idl import read_library  # noqa: E402
-from index import contexts_ini  # noqa: E402
 
 IDL = """
 library L
 {
   importlib("x.tlb");
-  [uuid(1), helpcontext(9000), helpstring("Kinds")] typedef enum Kinds { One = 1, Two = 2 } Kinds;
-  [object, helpcontext(1000), helpstring("An interface")]
+  [uuid(1), helpstring("Kinds")] typedef enum Kinds { One = 1, Two = 2 } Kinds;
+  [object, helpstring("An interface")]
   interface _C : IDispatch
   {
     // a comment; [with brackets]
-    [id(0x60030000), helpcontext(1001), helpstring("Adds, (really) [so]; yes")]
+    [id(0x60030000), helpstring("Adds, (really) [so]; yes")]
     HRESULT Add([in, out] BSTR* Text, [in, out, optional, defaultvalue(0)] VARIANT_BOOL* Twice, [out, retval] long* R);
-    [propget, id(0x68030001), helpcontext(1002), helpstring("Mark")] HRESULT Mark([out, retval] BSTR* R);
-    [propput, id(0x68030001), helpcontext(1002), helpstring("Sets it")] HRESULT Mark([in] BSTR V);
+    [propget, id(0x68030001), helpstring("Mark")] HRESULT Mark([out, retval] BSTR* R);
+    [propput, id(0x68030001), helpstring("Sets it")] HRESULT Mark([in] BSTR V);
   }
-  [uuid(2), helpcontext(2000), helpstring("Events")] dispinterface __C
+  [uuid(2), helpstring("Events")] dispinterface __C
   {
     properties:
     methods:
-      [id(1), helpcontext(2001), helpstring("Told")] void Told([in, out] BSTR* Text);
+      [id(1), helpstring("Told")] void Told([in, out] BSTR* Text);
   }
-  [uuid(3), helpcontext(1000), helpstring("A class")] coclass C
+  [uuid(3), helpstring("A class")] coclass C
   {
     [default] interface _C;
     [default, source] dispinterface __C;
@@ -101,12 +100,7 @@ ENTRY_ROWS = {
 }
 
 IDL_ROWS = {
-    "a number that is taken": ("helpcontext(1002)", "helpcontext(1001)",
-                               "C.Mark: the help context 1001 is that of C.Add"),
-    "a member without a number": ("helpcontext(2001), ", "", "C.Told: the IDL gives it no help context"),
     "a member without a help string": (', helpstring("Told")', "", "C.Told: the IDL has no help string"),
-    "a class without its interface's number": ("[uuid(3), helpcontext(1000)", "[uuid(3), helpcontext(1500)",
-                                               "C: its default interface has another help context"),
 }
 
 
@@ -123,12 +117,6 @@ class ReferenceCheck(unittest.TestCase):
                          ["Property Get Mark() As String", "Property Let Mark(V As String)"])
         self.assertEqual(list(declarations(library.interfaces["__C"].members["Told"], True)),
                          ["Event Told(Text As String)"])
-
-    def test_leads_every_number_to_its_page(self):
-        self.assertEqual(contexts_ini(read_library(IDL)).splitlines(), [
-            "[contexts]", "0=reference/index.html", "1000=reference/C.html#help-1000",
-            "1001=reference/C.html#help-1001", "1002=reference/C.html#help-1002", "2000=reference/C.html#help-2000",
-            "2001=reference/C.html#help-2001", "9000=reference/Kinds.html#help-9000"])
 
 
 def add_rows():

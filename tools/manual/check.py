@@ -71,29 +71,6 @@ def class_problems(name, members, entries):
             yield f"{name}: no parameter {argument}"
 
 
-def context_problems(library):
-    """Every number leads to one place."""
-    taken = {}
-    for name, coclass, members in documented(library):
-        numbers = {name: coclass.context} | {f"{name}.{each.name}": each.context for each in members.values()}
-        if coclass.source:
-            numbers[f"{name} events"] = library.interfaces[coclass.source].context
-        for where, number in numbers.items():
-            if number == 0:
-                yield f"{where}: the IDL gives it no help context"
-            elif number in taken:
-                yield f"{where}: the help context {number} is that of {taken[number]}"
-            taken[number] = where
-        if library.interfaces[coclass.default].context != coclass.context:
-            yield f"{name}: its default interface has another help context"
-        for member in members.values():
-            if len({each.context for each in member.accessors}) > 1:
-                yield f"{name}.{member.name}: its accessors have different help contexts"
-    for name, (enum, _) in library.enums.items():
-        if enum.context == 0 or enum.context in taken:
-            yield f"{name}: its help context {enum.context} is none or taken"
-
-
 def enum_problems(name, enum, values, entries):
     yield from help_of(name, entries.of_class(name), "help", enum.help)
     for constant in values:
@@ -117,7 +94,6 @@ def problems(library, entries):
         yield from class_problems(name, members, entries)
     for name, (enum, values) in library.enums.items():
         yield from enum_problems(name, enum, values, entries)
-    yield from context_problems(library)
     for name, members in ((name, members) for name, _, members in documented(library) if name != CONTRACT):
         for member in members:
             if member.startswith(PREFIX) and not entries.members(CONTRACT).get(member.removeprefix(PREFIX)):

@@ -17,7 +17,6 @@ class Parameter:
 class Accessor:
     kind: str  # "method", "get", "put"
     id: int
-    context: int
     help: str
     parameters: list[Parameter]
     result: str | None
@@ -38,15 +37,10 @@ class Member:
     def is_property(self):
         return self.first.kind != "method"
 
-    @property
-    def context(self):
-        return self.first.context
-
 
 @dataclass
 class Interface:
     name: str
-    context: int
     help: str
     members: dict[str, Member] = field(default_factory=dict)
 
@@ -54,7 +48,6 @@ class Interface:
 @dataclass
 class Coclass:
     name: str
-    context: int
     help: str
     creatable: bool
     default: str
@@ -140,13 +133,12 @@ def read_member(reader, attributes, interface):
     reader.take(")")
     reader.take(";")
     kind = "get" if "propget" in attributes else "put" if "propput" in attributes else "method"
-    accessor = Accessor(kind, int(attributes["id"], 0), int(attributes.get("helpcontext", 0)), text_of(attributes),
-                        parameters, result)
+    accessor = Accessor(kind, int(attributes["id"], 0), text_of(attributes), parameters, result)
     interface.members.setdefault(name, Member(name)).accessors.append(accessor)
 
 
 def read_interface(reader, attributes):
-    interface = Interface(reader.take(), int(attributes.get("helpcontext", 0)), text_of(attributes))
+    interface = Interface(reader.take(), text_of(attributes))
     reader.skip_to("{")
     while reader.peek() != "}":
         if reader.peek() in ("properties", "methods"):
@@ -173,8 +165,7 @@ def read_class(reader, attributes):
         else:
             others.append(implemented)
     reader.take("}")
-    return Coclass(name, int(attributes.get("helpcontext", 0)), text_of(attributes), "noncreatable" not in attributes,
-                   default, source, others)
+    return Coclass(name, text_of(attributes), "noncreatable" not in attributes, default, source, others)
 
 
 def read_enum(reader, attributes):
@@ -188,7 +179,7 @@ def read_enum(reader, attributes):
         if reader.peek() == ",":
             reader.take(",")
     reader.skip_to(";")
-    return Interface(name, int(attributes.get("helpcontext", 0)), text_of(attributes)), values
+    return Interface(name, text_of(attributes)), values
 
 
 def read_library(text):

@@ -2,8 +2,7 @@
 """Writes the reference of every member from the IDL and the entries: reference.py [--check] [FOLDER].
 
 Without a folder, or with --check, it only looks for what is missing or out of date, in the pages' diagrams and excerpts
-of examples too. The pages of a language go to FOLDER/<language>/, the table of help contexts also to
-FOLDER/contexts.ini.
+of examples too. The pages of a language go to FOLDER/<language>/.
 """
 import pathlib
 import sys
@@ -15,7 +14,7 @@ from entries import LANGUAGES, Entries, documented
 from examples import by_member
 from guides import Guides
 from idl import read_library
-from index import contexts_ini, contexts_page, index_page
+from index import index_page
 from render import ClassPage
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -35,7 +34,7 @@ def guide_problems(library, entries, guides):
 
 def write(folder, library, entries, language):
     pages = ClassPage(library, entries, by_member(MANUAL / "en"), Guides(MANUAL, language), language)
-    written = {"README.md": index_page(library, entries, language), "contexts.md": contexts_page(library, language)}
+    written = {"README.md": index_page(library, entries, language)}
     for name, coclass, members in documented(library):
         written[f"{name}.md"] = pages.page(name, coclass, members)
     for name, (enum, values) in library.enums.items():
@@ -58,10 +57,8 @@ def main(arguments):
         return 1
     folders = [each for each in arguments if each != "--check"]
     if folders and "--check" not in arguments:
-        folder = pathlib.Path(folders[0])
         for language in LANGUAGES:
-            write(folder, library, entries, language)
-        (folder / "contexts.ini").write_text(contexts_ini(library), encoding="utf-8", newline="\r\n")
+            write(pathlib.Path(folders[0]), library, entries, language)
     return 0
 
 

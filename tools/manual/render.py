@@ -50,7 +50,6 @@ class ClassPage:
 
     def member(self, class_name, coclass, member):
         entry, event = self.entries.member(class_name, member.name), is_event(self.library, coclass, member.name)
-        yield f"(help-{member.context})="
         yield f"## {member.name}"
         yield sentence(text(entry, "help", self.language))
         if event:
@@ -72,8 +71,7 @@ class ClassPage:
             yield from engine_table(self.examples.get(own_name, []) if self.own_examples(class_name) else [],
                                     self.language)
         yield f"{self.words['guide']}: {self.guides.link(entry['guide'])}."
-        yield self.words["ids"].format(f"0x{member.first.id:08X}" if member.first.id > 9 else member.first.id,
-                                       member.context)
+        yield self.words["id"].format(f"0x{member.first.id:08X}" if member.first.id > 9 else member.first.id)
 
     @staticmethod
     def own_examples(class_name):
@@ -82,12 +80,9 @@ class ClassPage:
 
     def page(self, class_name, coclass, members):
         head = self.entries.of_class(class_name)
-        parts = [f"(help-{coclass.context})=", f"# {class_name}", sentence(text(head, "help", self.language)),
-                 text(head, "about", self.language), f"{self.words['guide']}: {self.guides.link(head['guide'])}.",
-                 self.words["class id"].format(coclass.context)]
+        parts = [f"# {class_name}", sentence(text(head, "help", self.language)), text(head, "about", self.language),
+                 f"{self.words['guide']}: {self.guides.link(head['guide'])}."]
         for member in members.values():
-            if is_event(self.library, coclass, member.name) and member.first.id == 1:
-                parts.append(f"(help-{self.library.interfaces[coclass.source].context})=")
             parts += self.member(class_name, coclass, member)
         return "\n\n".join(parts) + "\n"
 
@@ -96,8 +91,6 @@ class ClassPage:
         rows = "\n".join(
             f"| `{constant}` | {value} | {text(self.entries.members(name)[constant], 'result', self.language)} |"
             for constant, value in values.items())
-        parts = [f"(help-{enum.context})=", f"# {name}", sentence(text(head, "help", self.language)),
-                 text(head, "about", self.language),
-                 f"| {words['constant']} | {words['value']} | {words['meaning']} |\n|---|---|---|\n{rows}",
-                 words["class id"].format(enum.context)]
+        parts = [f"# {name}", sentence(text(head, "help", self.language)), text(head, "about", self.language),
+                 f"| {words['constant']} | {words['value']} | {words['meaning']} |\n|---|---|---|\n{rows}"]
         return "\n\n".join(parts) + "\n"

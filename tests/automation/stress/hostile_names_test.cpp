@@ -1,5 +1,4 @@
 // Names and ids that there are not, and the slots themselves with null pointers.
-#include <algorithm>
 #include <limits>
 
 #include "automation/stress/hostile_caller.h"
