@@ -1,4 +1,4 @@
-// What late-bound callers do most often asks for no memory.
+// Names are found without asking for memory: scripts look them up before each call.
 #include "automation/stress/allocations.h"
 #include "automation/both.h"
 #include "automation/in_use.h"
@@ -53,35 +53,6 @@ TEST(AllocationsOfLateCalls, NoNameNeedsOne) {
       EXPECT_EQ(ids.front(), member.id);
     }
   }
-}
-
-void expect_no_allocation(const LateObject& object, const wchar_t* name, WORD kind, DISPPARAMS parameters) {
-  SCOPED_TRACE(narrow(name));
-  auto* member = const_cast<LPOLESTR>(name);
-  DISPID id = 0;
-  ASSERT_EQ(object.get()->GetIDsOfNames(IID_NULL, &member, 1, LOCALE_USER_DEFAULT, &id), S_OK);
-  Var result;
-  const Allocations allocations;
-  const HRESULT called = object.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result.raw(),
-                                              nullptr, nullptr);
-  EXPECT_EQ(allocations.count(), 0u);
-  EXPECT_EQ(called, S_OK);
-}
-
-TEST(AllocationsOfLateCalls, NoCallNeedsOneWhoseMemberNeedsNone) {
-  stop_string_cache();
-  const LateObject cfp(L"QVRlib21.QVRcfp"), query(L"QVRlib21.cSQL20"), list(L"QVRlib21.QVRprp");
-  DISPPARAMS none{};
-  expect_no_allocation(cfp, L"MotorBD", DISPATCH_PROPERTYGET, none);
-  expect_no_allocation(list, L"NumPropiedades", DISPATCH_PROPERTYGET, none);
-  expect_no_allocation(list, L"Borra", DISPATCH_METHOD, none);
-  Var number(3);
-  DISPID put = DISPID_PROPERTYPUT;
-  expect_no_allocation(query, L"iSQL20_MotorBD", DISPATCH_PROPERTYPUT, {&number.raw(), &put, 1, 1});
-  VARIANT_BOOL no = VARIANT_FALSE;
-  VARIANT truths[2];
-  for (VARIANT& truth : truths) truth.vt = VT_BYREF | VT_BOOL, truth.pboolVal = &no;
-  expect_no_allocation(query, L"iSQL20_RestauraOriginal", DISPATCH_METHOD, {truths, nullptr, 2, 0});
 }
 
 }  // namespace
