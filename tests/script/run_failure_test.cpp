@@ -115,7 +115,7 @@ TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
   const services::ErrorNotice& notice = thread.report.notices[0];
   EXPECT_EQ(notice.failure.number, -2147217900);
   EXPECT_EQ(notice.failure.source, u"Provider");
-  EXPECT_EQ(notice.motor, 2);
+  EXPECT_EQ(notice.motor, Engine::SqlServer);
   EXPECT_EQ(notice.label, u"EjecutarComandos");
   EXPECT_EQ(notice.captions.object, u"Objeto");
   ASSERT_EQ(notice.errors.size(), 2u);

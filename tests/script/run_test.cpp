@@ -208,7 +208,7 @@ TEST_F(RunTest, EnginesAreOnlyPassedOnToTheReport) {
   thread.boxes.answer(BoxAnswer::No);
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   ASSERT_EQ(thread.report.notices.size(), 1u);
-  EXPECT_EQ(thread.report.notices[0].motor, -7);
+  EXPECT_EQ(thread.report.notices[0].motor, Engine{-7});
 }
 
 }  // namespace
