@@ -3,7 +3,7 @@
 # Leave the machine alone meanwhile.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
-need windows native bench
+need windows win64 native bench
 need_wine
 need_built native $(printf '%s_bench ' connection inserts loading query splitting)
 need_built win32 QVRlib21 testado host_bench
