@@ -6,19 +6,22 @@
 #include <random>
 
 #include "base/failure.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
+
 constexpr double kSecond = 1.0 / 86400;
 
-struct Row {
+struct Moment {
   const char* name;
   double days;
   CalendarTime time;
 };
 
-constexpr Row kRows[] = {
+constexpr Moment kMoments[] = {
     {"day zero", 0, {1899, 12, 30, 0, 0, 0}},
     {"the day after", 1, {1899, 12, 31, 0, 0, 0}},
     {"the day before", -1, {1899, 12, 29, 0, 0, 0}},
@@ -46,25 +49,39 @@ void expect_equal(const CalendarTime& a, const CalendarTime& b) {
   EXPECT_EQ(a.second, b.second);
 }
 
-TEST(CalendarTime, TakesDatesApart) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    expect_equal(calendar_time(Date{row.days}), row.time);
+using CalendarTimeOf = Rows<testing::Test, Moment>;
+
+TEST_P(CalendarTimeOf, IsTheDateTakenApart) { expect_equal(calendar_time(Date{GetParam().days}), GetParam().time); }
+
+INSTANTIATE_TEST_SUITE_P(, CalendarTimeOf, testing::ValuesIn(kMoments), row_name);
+
+struct NoMoment {
+  const char* name;
+  double days;
+};
+
+constexpr NoMoment kNoMoments[] = {
+    {"the day before the first", -657435.0},
+    {"the day after the last", 2958466.0},
+    {"rounding up to the day after the last", 2958465 + 86399.6 * kSecond},
+    {"huge", 1e300},
+    {"huge and negative", -1e300},
+    {"infinite", std::numeric_limits<double>::infinity()},
+    {"no number", std::numeric_limits<double>::quiet_NaN()},
+};
+
+using CalendarTimeOutside = Rows<testing::Test, NoMoment>;
+
+TEST_P(CalendarTimeOutside, TheYears100To9999Overflows) {
+  try {
+    const CalendarTime time = calendar_time(Date{GetParam().days});
+    ADD_FAILURE() << "year " << time.year;
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.detail().number, failure_number::kOverflow);
   }
 }
 
-TEST(CalendarTime, OverflowsOutsideTheYears100To9999) {
-  for (double days : {-657435.0, 2958466.0, 2958465 + 86399.6 * kSecond, 1e300, -1e300,
-                      std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
-    SCOPED_TRACE(days);
-    try {
-      const CalendarTime time = calendar_time(Date{days});
-      ADD_FAILURE() << "year " << time.year;
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(failure.detail().number, failure_number::kOverflow);
-    }
-  }
-}
+INSTANTIATE_TEST_SUITE_P(, CalendarTimeOutside, testing::ValuesIn(kNoMoments), row_name);
 
 TEST(DateFrom, GivesBackWhatCalendarTimeTookApart) {
   std::mt19937 random(5);
@@ -78,37 +95,38 @@ TEST(DateFrom, GivesBackWhatCalendarTimeTookApart) {
   }
 }
 
-TEST(DateFrom, HasNothingForPartsOutOfRange) {
-  struct Bad {
-    const char* name;
-    CalendarTime time;
-  };
-  constexpr Bad kBad[] = {
-      {"year 99", {99, 12, 31}},
-      {"year 10000", {10000, 1, 1}},
-      {"month 0", {2000, 0, 1}},
-      {"month 13", {2000, 13, 1}},
-      {"day 0", {2000, 1, 0}},
-      {"day 32", {2000, 1, 32}},
-      {"30 February", {2000, 2, 30}},
-      {"29 February 1900", {1900, 2, 29}},
-      {"31 April", {2001, 4, 31}},
-      {"hour 24", {2000, 1, 1, 24}},
-      {"hour -1", {2000, 1, 1, -1}},
-      {"minute 60", {2000, 1, 1, 0, 60}},
-      {"second 60", {2000, 1, 1, 0, 0, 60}},
-      {"month -1", {2000, -1, 1}},
-      {"month 257", {2000, 257, 1}},
-      {"day 257", {2000, 1, 257}},
-      {"year far away", {100000, 1, 1}},
-  };
-  for (const Bad& row : kBad) {
-    SCOPED_TRACE(row.name);
-    EXPECT_FALSE(date_from(row.time));
-  }
-}
+struct NoDate {
+  const char* name;
+  CalendarTime time;
+};
 
-TEST(YearMonthDay, WritesFourTwoAndTwoDigits) {
+constexpr NoDate kNoDates[] = {
+    {"year 99", {99, 12, 31}},
+    {"year 10000", {10000, 1, 1}},
+    {"month 0", {2000, 0, 1}},
+    {"month 13", {2000, 13, 1}},
+    {"day 0", {2000, 1, 0}},
+    {"day 32", {2000, 1, 32}},
+    {"30 February", {2000, 2, 30}},
+    {"29 February 1900", {1900, 2, 29}},
+    {"31 April", {2001, 4, 31}},
+    {"hour 24", {2000, 1, 1, 24}},
+    {"hour -1", {2000, 1, 1, -1}},
+    {"minute 60", {2000, 1, 1, 0, 60}},
+    {"second 60", {2000, 1, 1, 0, 0, 60}},
+    {"month -1", {2000, -1, 1}},
+    {"month 257", {2000, 257, 1}},
+    {"day 257", {2000, 1, 257}},
+    {"year far away", {100000, 1, 1}},
+};
+
+using DateFromParts = Rows<testing::Test, NoDate>;
+
+TEST_P(DateFromParts, OutOfRangeIsNone) { EXPECT_FALSE(date_from(GetParam().time)); }
+
+INSTANTIATE_TEST_SUITE_P(, DateFromParts, testing::ValuesIn(kNoDates), row_name);
+
+TEST(FormattedDate, WritesPartsAtTheirFullWidth) {
   EXPECT_EQ(formatted_date(Date{36526}, u"yyyy/mm/dd"), u"2000/01/01");
   EXPECT_EQ(formatted_date(Date{-657434}, u"yyyy-mm-dd hh:nn:ss"), u"0100-01-01 00:00:00");
   EXPECT_EQ(formatted_date(Date{2958465.75}, u"yyyy-mm-dd hh:nn:ss"), u"9999-12-31 18:00:00");

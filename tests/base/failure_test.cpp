@@ -5,8 +5,12 @@
 #include <new>
 #include <stdexcept>
 
+#include "support/rows.h"
+
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 template <class Thrown>
 FailureDetail seen_when(const Thrown& thrown) {
@@ -37,28 +41,30 @@ TEST(CurrentFailure, NamesWhatOthersThrow) {
   expect_detail(seen_when(42), 5, u"Invalid procedure call or argument", u"QVRlib21");
 }
 
-TEST(DescriptionOf, HasTheHostsTexts) {
-  struct Row {
-    std::int32_t number;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {5, u"Invalid procedure call or argument"},
-      {6, u"Overflow"},
-      {7, u"Out of memory"},
-      {9, u"Subscript out of range"},
-      {13, u"Type mismatch"},
-      {75, u"Path/File access error"},
-      {91, u"Object variable or With block variable not set"},
-      {94, u"Invalid use of Null"},
-      {429, u"ActiveX component can't create object"},
-      {12345, u"Application-defined or object-defined error"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.number);
-    EXPECT_EQ(description_of(row.number), Text(row.text));
-  }
-}
+struct Description {
+  const char* name;
+  std::int32_t number;
+  TextView text;
+};
+
+constexpr Description kDescriptions[] = {
+    {"invalid argument", 5, u"Invalid procedure call or argument"},
+    {"overflow", 6, u"Overflow"},
+    {"out of memory", 7, u"Out of memory"},
+    {"subscript", 9, u"Subscript out of range"},
+    {"type mismatch", 13, u"Type mismatch"},
+    {"file", 75, u"Path/File access error"},
+    {"object not set", 91, u"Object variable or With block variable not set"},
+    {"use of Null", 94, u"Invalid use of Null"},
+    {"cannot create object", 429, u"ActiveX component can't create object"},
+    {"any other number", 12345, u"Application-defined or object-defined error"},
+};
+
+using DescriptionOf = Rows<testing::Test, Description>;
+
+TEST_P(DescriptionOf, IsTheHostsText) { EXPECT_EQ(description_of(GetParam().number), Text(GetParam().text)); }
+
+INSTANTIATE_TEST_SUITE_P(, DescriptionOf, testing::ValuesIn(kDescriptions), row_name);
 
 TEST(OrDefault, GivesTheResultOrTheFallback) {
   EXPECT_EQ(or_default(1, [] { return 2; }), 2);

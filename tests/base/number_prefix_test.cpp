@@ -4,9 +4,12 @@
 
 #include "base/failure.h"
 #include "base/number_text.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 struct Row {
   const char* name;
@@ -55,16 +58,11 @@ const Row kRows[] = {
     {"long digits brought back by the exponent", u"1" + Text(310, u'0') + u"E-310", 1},
 };
 
-TEST(NumberPrefix, ReadsTheNumberInFront) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    try {
-      EXPECT_EQ(number_prefix(row.text), row.number);
-    } catch (const RuntimeFailure& failure) {
-      ADD_FAILURE() << "failure " << failure.detail().number;
-    }
-  }
-}
+using NumberPrefixOf = Rows<testing::Test, Row>;
+
+TEST_P(NumberPrefixOf, IsTheNumberInFront) { EXPECT_EQ(number_prefix(GetParam().text), GetParam().number); }
+
+INSTANTIATE_TEST_SUITE_P(, NumberPrefixOf, testing::ValuesIn(kRows), row_name);
 
 TEST(NumberPrefix, HasNoNegativeZero) {
   EXPECT_FALSE(std::signbit(number_prefix(u"-0")));
@@ -84,21 +82,39 @@ TEST(NumberPrefix, OverflowsBeyondADouble) {
   }
 }
 
-TEST(NumberLength, CountsTheUnitsOfTheNumber) {
-  struct Length {
-    TextView text;
-    std::size_t units;
-  };
-  constexpr Length kLengths[] = {
-      {u"", 0},      {u"x", 0},     {u"-", 0},   {u".", 0},     {u"-.", 0},  {u".e5", 0}, {u" 1", 0},
-      {u"12", 2},    {u"-1.5x", 4}, {u"+.5", 3}, {u"5.", 2},    {u"1e5", 3}, {u"1e", 1},  {u"1e-", 1},
-      {u"1e-5z", 4}, {u"1.2.3", 3}, {u"1,5", 1}, {u"1E+05", 5}, {u"0x1", 1},
-  };
-  for (const Length& row : kLengths) {
-    SCOPED_TRACE(::testing::PrintToString(Text(row.text)));
-    EXPECT_EQ(number_length(row.text), row.units);
-  }
-}
+struct Length {
+  const char* name;
+  TextView text;
+  std::size_t units;
+};
+
+constexpr Length kLengths[] = {
+    {"empty", u"", 0},
+    {"letter", u"x", 0},
+    {"sign alone", u"-", 0},
+    {"point alone", u".", 0},
+    {"sign and point", u"-.", 0},
+    {"exponent behind a point alone", u".e5", 0},
+    {"blank before", u" 1", 0},
+    {"whole", u"12", 2},
+    {"negative with decimals", u"-1.5x", 4},
+    {"no digit before the point", u"+.5", 3},
+    {"no digit behind the point", u"5.", 2},
+    {"exponent", u"1e5", 3},
+    {"exponent without digits", u"1e", 1},
+    {"exponent with sign only", u"1e-", 1},
+    {"negative exponent", u"1e-5z", 4},
+    {"second point ends it", u"1.2.3", 3},
+    {"comma ends it", u"1,5", 1},
+    {"exponent with plus", u"1E+05", 5},
+    {"hexadecimal", u"0x1", 1},
+};
+
+using NumberLength = Rows<testing::Test, Length>;
+
+TEST_P(NumberLength, CountsTheUnitsOfTheNumber) { EXPECT_EQ(number_length(GetParam().text), GetParam().units); }
+
+INSTANTIATE_TEST_SUITE_P(, NumberLength, testing::ValuesIn(kLengths), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -9,74 +9,80 @@
 #include <random>
 
 #include "base/failure.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
-TEST(ShortestNumber, WritesDoubles) {
-  struct Row {
-    double number;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {0.0, u"0"},
-      {-0.0, u"0"},
-      {1, u"1"},
-      {-1.5, u"-1.5"},
-      {0.1, u"0.1"},
-      {0.25, u"0.25"},
-      {-0.5, u"-0.5"},
-      {2.5, u"2.5"},
-      {100, u"100"},
-      {1234567.875, u"1234567.875"},
-      {0.1 + 0.2, u"0.30000000000000004"},
-      {1.0 / 3, u"0.3333333333333333"},
-      {0.001, u"0.001"},
-      {0.00001, u"0.00001"},
-      {0.000012345, u"0.000012345"},
-      {9.99e-6, u"9.99E-06"},
-      {1e-7, u"1E-07"},
-      {999999999999999.0, u"999999999999999"},
-      {1e15, u"1E+15"},
-      {-1e15, u"-1E+15"},
-      {123456789012345680.0, u"1.2345678901234568E+17"},
-      {9007199254740992.0, u"9.007199254740992E+15"},
-      {1e300, u"1E+300"},
-      {1.5e-300, u"1.5E-300"},
-      {5e-324, u"5E-324"},
-      {std::numeric_limits<double>::max(), u"1.7976931348623157E+308"},
-      {std::numeric_limits<double>::min(), u"2.2250738585072014E-308"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.number);
-    EXPECT_EQ(shortest_number(row.number), Text(row.text));
-  }
+using tests::PrintTo;
+
+template <class Number>
+struct Written {
+  const char* name;
+  Number number;
+  TextView text;
+};
+
+constexpr Written<double> kDoubles[] = {
+    {"zero", 0.0, u"0"},
+    {"negative zero", -0.0, u"0"},
+    {"one", 1, u"1"},
+    {"minus one and a half", -1.5, u"-1.5"},
+    {"tenth", 0.1, u"0.1"},
+    {"quarter", 0.25, u"0.25"},
+    {"minus a half", -0.5, u"-0.5"},
+    {"two and a half", 2.5, u"2.5"},
+    {"hundred", 100, u"100"},
+    {"seven digits and three decimals", 1234567.875, u"1234567.875"},
+    {"sum of tenths", 0.1 + 0.2, u"0.30000000000000004"},
+    {"third", 1.0 / 3, u"0.3333333333333333"},
+    {"thousandth", 0.001, u"0.001"},
+    {"smallest power of ten without exponent", 0.00001, u"0.00001"},
+    {"a little more than that", 0.000012345, u"0.000012345"},
+    {"a little less than that", 9.99e-6, u"9.99E-06"},
+    {"exponent of one digit has two", 1e-7, u"1E-07"},
+    {"largest without exponent", 999999999999999.0, u"999999999999999"},
+    {"first with exponent", 1e15, u"1E+15"},
+    {"first with exponent below zero", -1e15, u"-1E+15"},
+    {"seventeen digits", 123456789012345680.0, u"1.2345678901234568E+17"},
+    {"last of the exact whole numbers", 9007199254740992.0, u"9.007199254740992E+15"},
+    {"huge", 1e300, u"1E+300"},
+    {"tiny", 1.5e-300, u"1.5E-300"},
+    {"smallest", 5e-324, u"5E-324"},
+    {"largest", std::numeric_limits<double>::max(), u"1.7976931348623157E+308"},
+    {"smallest normal", std::numeric_limits<double>::min(), u"2.2250738585072014E-308"},
+};
+
+using ShortestDouble = Rows<testing::Test, Written<double>>;
+
+TEST_P(ShortestDouble, HasTheDigitsThatReadBack) {
+  EXPECT_EQ(shortest_number(GetParam().number), Text(GetParam().text));
 }
 
-TEST(ShortestNumber, WritesSinglesWithTheirOwnPrecision) {
-  struct Row {
-    float number;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {0.0f, u"0"},
-      {-0.0f, u"0"},
-      {0.1f, u"0.1"},
-      {-2.5f, u"-2.5"},
-      {1.0f / 3, u"0.33333334"},
-      {16777216.0f, u"16777216"},
-      {0.00001f, u"0.00001"},
-      {1e-6f, u"1E-06"},
-      {1e15f, u"1E+15"},
-      {1e20f, u"1E+20"},
-      {std::numeric_limits<float>::max(), u"3.4028235E+38"},
-      {1e-45f, u"1E-45"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.number);
-    EXPECT_EQ(shortest_number(row.number), Text(row.text));
-  }
+INSTANTIATE_TEST_SUITE_P(, ShortestDouble, testing::ValuesIn(kDoubles), row_name);
+
+constexpr Written<float> kSingles[] = {
+    {"zero", 0.0f, u"0"},
+    {"negative zero", -0.0f, u"0"},
+    {"tenth", 0.1f, u"0.1"},
+    {"minus two and a half", -2.5f, u"-2.5"},
+    {"third", 1.0f / 3, u"0.33333334"},
+    {"last of the exact whole numbers", 16777216.0f, u"16777216"},
+    {"smallest power of ten without exponent", 0.00001f, u"0.00001"},
+    {"millionth", 1e-6f, u"1E-06"},
+    {"first with exponent", 1e15f, u"1E+15"},
+    {"large", 1e20f, u"1E+20"},
+    {"largest", std::numeric_limits<float>::max(), u"3.4028235E+38"},
+    {"smallest", 1e-45f, u"1E-45"},
+};
+
+using ShortestSingle = Rows<testing::Test, Written<float>>;
+
+TEST_P(ShortestSingle, HasTheDigitsOfItsOwnPrecision) {
+  EXPECT_EQ(shortest_number(GetParam().number), Text(GetParam().text));
 }
+
+INSTANTIATE_TEST_SUITE_P(, ShortestSingle, testing::ValuesIn(kSingles), row_name);
 
 template <class Float>
 Float read_back(const Text& text) {
@@ -137,79 +143,77 @@ TEST(ShortestNumber, RefusesWhatIsNotFinite) {
   }
 }
 
-TEST(ShortestNumber, WritesAmounts) {
-  struct Row {
-    std::int64_t scaled;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {0, u"0"},
-      {10000, u"1"},
-      {12345, u"1.2345"},
-      {12340, u"1.234"},
-      {-25000, u"-2.5"},
-      {1, u"0.0001"},
-      {-1, u"-0.0001"},
-      {500, u"0.05"},
-      {1000000, u"100"},
-      {INT64_MAX, u"922337203685477.5807"},
-      {INT64_MIN, u"-922337203685477.5808"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.scaled);
-    EXPECT_EQ(shortest_number(Currency{row.scaled}), Text(row.text));
-  }
+constexpr Written<std::int64_t> kAmounts[] = {
+    {"zero", 0, u"0"},
+    {"one", 10000, u"1"},
+    {"four decimals", 12345, u"1.2345"},
+    {"three decimals", 12340, u"1.234"},
+    {"minus two and a half", -25000, u"-2.5"},
+    {"smallest", 1, u"0.0001"},
+    {"smallest below zero", -1, u"-0.0001"},
+    {"two decimals", 500, u"0.05"},
+    {"hundred", 1000000, u"100"},
+    {"largest", INT64_MAX, u"922337203685477.5807"},
+    {"least", INT64_MIN, u"-922337203685477.5808"},
+};
+
+using ShortestAmount = Rows<testing::Test, Written<std::int64_t>>;
+
+TEST_P(ShortestAmount, HasUpToFourDecimals) {
+  EXPECT_EQ(shortest_number(Currency{GetParam().number}), Text(GetParam().text));
 }
 
-TEST(ShortestNumber, WritesDecimals) {
-  constexpr std::uint32_t kAll = 0xFFFFFFFF;
-  struct Row {
-    const char* name;
-    Decimal number;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {"zero", {0, 0, 0, 0, false}, u"0"},
-      {"negative zero with decimals", {0, 0, 0, 5, true}, u"0"},
-      {"one", {0, 0, 1, 0, false}, u"1"},
-      {"one with two decimals", {0, 0, 100, 2, false}, u"1"},
-      {"hundred", {0, 0, 100, 0, true}, u"-100"},
-      {"quarter", {0, 0, 25, 2, false}, u"0.25"},
-      {"middle part", {0, 1, 0, 0, false}, u"4294967296"},
-      {"high part", {1, 0, 0, 0, false}, u"18446744073709551616"},
-      {"largest", {kAll, kAll, kAll, 0, false}, u"79228162514264337593543950335"},
-      {"most negative", {kAll, kAll, kAll, 0, true}, u"-79228162514264337593543950335"},
-      {"largest, one decimal", {kAll, kAll, kAll, 1, false}, u"7922816251426433759354395033.5"},
-      {"largest, all decimals", {kAll, kAll, kAll, 28, false}, u"7.9228162514264337593543950335"},
-      {"smallest", {0, 0, 1, 28, true}, u"-0.0000000000000000000000000001"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(shortest_number(row.number), Text(row.text));
-  }
+INSTANTIATE_TEST_SUITE_P(, ShortestAmount, testing::ValuesIn(kAmounts), row_name);
+
+constexpr std::uint32_t kAll = 0xFFFFFFFF;
+
+constexpr Written<Decimal> kDecimals[] = {
+    {"zero", {0, 0, 0, 0, false}, u"0"},
+    {"negative zero with decimals", {0, 0, 0, 5, true}, u"0"},
+    {"one", {0, 0, 1, 0, false}, u"1"},
+    {"one with two decimals", {0, 0, 100, 2, false}, u"1"},
+    {"hundred", {0, 0, 100, 0, true}, u"-100"},
+    {"quarter", {0, 0, 25, 2, false}, u"0.25"},
+    {"middle part", {0, 1, 0, 0, false}, u"4294967296"},
+    {"high part", {1, 0, 0, 0, false}, u"18446744073709551616"},
+    {"largest", {kAll, kAll, kAll, 0, false}, u"79228162514264337593543950335"},
+    {"most negative", {kAll, kAll, kAll, 0, true}, u"-79228162514264337593543950335"},
+    {"largest, one decimal", {kAll, kAll, kAll, 1, false}, u"7922816251426433759354395033.5"},
+    {"largest, all decimals", {kAll, kAll, kAll, 28, false}, u"7.9228162514264337593543950335"},
+    {"smallest", {0, 0, 1, 28, true}, u"-0.0000000000000000000000000001"},
+};
+
+using ShortestDecimal = Rows<testing::Test, Written<Decimal>>;
+
+TEST_P(ShortestDecimal, HasNoZerosAtItsEnd) { EXPECT_EQ(shortest_number(GetParam().number), Text(GetParam().text)); }
+
+INSTANTIATE_TEST_SUITE_P(, ShortestDecimal, testing::ValuesIn(kDecimals), row_name);
+
+struct Rounded {
+  const char* name;
+  double number;
+  int digits;
+  TextView text;
+};
+
+constexpr Rounded kRounded[] = {
+    {"third", 1.0 / 3, 15, u"0.333333333333333"},
+    {"sum of tenths", 0.1 + 0.2, 15, u"0.3"},
+    {"rounded up to a whole number", 1234567.8, 7, u"1234568"},
+    {"negative zero", -0.0, 15, u"0"},
+    {"exponent", 1e20, 15, u"1E+20"},
+    {"all fifteen digits", 123456789012345.0, 15, u"123456789012345"},
+    {"fewer digits than asked", 2.5, 7, u"2.5"},
+    {"minus hundred", -100, 7, u"-100"},
+};
+
+using RoundedNumber = Rows<testing::Test, Rounded>;
+
+TEST_P(RoundedNumber, KeepsThatManyDigits) {
+  EXPECT_EQ(rounded_number(GetParam().number, GetParam().digits), Text(GetParam().text));
 }
 
-TEST(RoundedNumber, KeepsThatManyDigits) {
-  struct Row {
-    double number;
-    int digits;
-    TextView text;
-  };
-  constexpr Row kRows[] = {
-      {1.0 / 3, 15, u"0.333333333333333"},
-      {0.1 + 0.2, 15, u"0.3"},
-      {1234567.8, 7, u"1234568"},
-      {-0.0, 15, u"0"},
-      {1e20, 15, u"1E+20"},
-      {123456789012345.0, 15, u"123456789012345"},
-      {2.5, 7, u"2.5"},
-      {-100, 7, u"-100"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.number);
-    EXPECT_EQ(rounded_number(row.number, row.digits), Text(row.text));
-  }
-}
+INSTANTIATE_TEST_SUITE_P(, RoundedNumber, testing::ValuesIn(kRounded), row_name);
 
 TEST(NumberOf, ReadsAmountsAndDecimals) {
   EXPECT_EQ(number_of(Currency{12345}), 1.2345);

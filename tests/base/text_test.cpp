@@ -2,40 +2,47 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
+
 namespace qvr::tests {
 namespace {
 
-TEST(Fold, FollowsSimpleUpperCaseMapping) {
-  struct Row {
-    const char* name;
-    char16_t unit, folded;
-  };
-  constexpr Row kRows[] = {
-      {"lower ascii", u'a', u'A'},
-      {"last lower ascii", u'z', u'Z'},
-      {"upper ascii", u'A', u'A'},
-      {"before a", u'`', u'`'},
-      {"behind z", u'{', u'{'},
-      {"digit", u'7', u'7'},
-      {"a acute", u'\u00e1', u'\u00c1'},
-      {"n tilde", u'\u00f1', u'\u00d1'},
-      {"u diaeresis", u'\u00fc', u'\u00dc'},
-      {"division sign", u'\u00f7', u'\u00f7'},
-      {"y diaeresis", u'\u00ff', u'\u0178'},
-      {"sharp s has none of one unit", u'\u00df', u'\u00df'},
-      {"s caron", u'\u0161', u'\u0160'},
-      {"greek alpha", u'\u03b1', u'\u0391'},
-      {"final sigma", u'\u03c2', u'\u03a3'},
-      {"cyrillic ya", u'\u044f', u'\u042f'},
-      {"surrogate", u'\xd801', u'\xd801'},
-      {"last unit", u'\xffff', u'\xffff'},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(fold(row.unit), row.folded);
-    EXPECT_EQ(fold(row.folded), row.folded);
-  }
+using tests::PrintTo;
+
+struct Folded {
+  const char* name;
+  char16_t unit, folded;
+};
+
+constexpr Folded kFolded[] = {
+    {"lower ascii", u'a', u'A'},
+    {"last lower ascii", u'z', u'Z'},
+    {"upper ascii", u'A', u'A'},
+    {"before a", u'`', u'`'},
+    {"behind z", u'{', u'{'},
+    {"digit", u'7', u'7'},
+    {"a acute", u'\u00e1', u'\u00c1'},
+    {"n tilde", u'\u00f1', u'\u00d1'},
+    {"u diaeresis", u'\u00fc', u'\u00dc'},
+    {"division sign", u'\u00f7', u'\u00f7'},
+    {"y diaeresis", u'\u00ff', u'\u0178'},
+    {"sharp s has none of one unit", u'\u00df', u'\u00df'},
+    {"s caron", u'\u0161', u'\u0160'},
+    {"greek alpha", u'\u03b1', u'\u0391'},
+    {"final sigma", u'\u03c2', u'\u03a3'},
+    {"cyrillic ya", u'\u044f', u'\u042f'},
+    {"surrogate", u'\xd801', u'\xd801'},
+    {"last unit", u'\xffff', u'\xffff'},
+};
+
+using FoldOf = Rows<testing::Test, Folded>;
+
+TEST_P(FoldOf, IsItsSimpleCapital) {
+  EXPECT_EQ(fold(GetParam().unit), GetParam().folded);
+  EXPECT_EQ(fold(GetParam().folded), GetParam().folded);
 }
+
+INSTANTIATE_TEST_SUITE_P(, FoldOf, testing::ValuesIn(kFolded), row_name);
 
 TEST(Fold, IsSettledAfterOnce) {
   for (std::uint32_t unit = 0; unit <= 0xFFFF; ++unit) {
@@ -44,29 +51,32 @@ TEST(Fold, IsSettledAfterOnce) {
   }
 }
 
-TEST(EqualNoCase, ComparesWholeTexts) {
-  struct Row {
-    const char* name;
-    TextView a, b;
-    bool equal;
-  };
-  constexpr Row kRows[] = {
-      {"both empty", u"", u"", true},
-      {"empty and not", u"", u"a", false},
-      {"case", u"Jet", u"jET", true},
-      {"accents and case", u"\u00d1and\u00da", u"\u00f1AND\u00fa", true},
-      {"accent is no case", u"a", u"\u00e1", false},
-      {"prefix", u"abc", u"ab", false},
-      {"trailing blank", u"abc", u"abc ", false},
-      {"sharp s is not ss", u"\u00df", u"SS", false},
-      {"zero units count", TextView(u"a\0b", 3), TextView(u"A\0c", 3), false},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(equal_no_case(row.a, row.b), row.equal);
-    EXPECT_EQ(equal_no_case(row.b, row.a), row.equal);
-  }
+struct Compared {
+  const char* name;
+  TextView a, b;
+  bool equal;
+};
+
+constexpr Compared kCompared[] = {
+    {"both empty", u"", u"", true},
+    {"empty and not", u"", u"a", false},
+    {"case", u"Jet", u"jET", true},
+    {"accents and case", u"\u00d1and\u00da", u"\u00f1AND\u00fa", true},
+    {"accent is no case", u"a", u"\u00e1", false},
+    {"prefix", u"abc", u"ab", false},
+    {"trailing blank", u"abc", u"abc ", false},
+    {"sharp s is not ss", u"\u00df", u"SS", false},
+    {"zero units count", TextView(u"a\0b", 3), TextView(u"A\0c", 3), false},
+};
+
+using EqualNoCase = Rows<testing::Test, Compared>;
+
+TEST_P(EqualNoCase, ComparesWholeTexts) {
+  EXPECT_EQ(equal_no_case(GetParam().a, GetParam().b), GetParam().equal);
+  EXPECT_EQ(equal_no_case(GetParam().b, GetParam().a), GetParam().equal);
 }
+
+INSTANTIATE_TEST_SUITE_P(, EqualNoCase, testing::ValuesIn(kCompared), row_name);
 
 TEST(StartsWithNoCase, LooksAtTheBeginningOnly) {
   EXPECT_TRUE(starts_with_no_case(u"EVITARtransaccion rest", u"EvitarTransaccion"));
@@ -77,23 +87,26 @@ TEST(StartsWithNoCase, LooksAtTheBeginningOnly) {
   EXPECT_FALSE(starts_with_no_case(u"", u"a"));
 }
 
-TEST(ReplaceAll, GoesLeftToRightOverTheOriginal) {
-  struct Row {
-    const char* name;
-    TextView text, what, by, result;
-  };
-  constexpr Row kRows[] = {
-      {"none", u"abc", u"x", u"y", u"abc"},        {"every one", u"a||b||", u"||", u"\r\n", u"a\r\nb\r\n"},
-      {"three bars", u"|||", u"||", u"-", u"-|"},  {"not what it wrote", u"aa", u"a", u"aa", u"aaaa"},
-      {"overlapping", u"aaa", u"aa", u"b", u"ba"}, {"exact in case", u"aA", u"a", u"b", u"bA"},
-      {"by nothing", u"axbx", u"x", u"", u"ab"},   {"empty what", u"abc", u"", u"x", u"abc"},
-      {"empty text", u"", u"a", u"b", u""},        {"whole text", u"ab", u"ab", u"", u""},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(replace_all(row.text, row.what, row.by), Text(row.result));
-  }
+struct Replacement {
+  const char* name;
+  TextView text, what, by, result;
+};
+
+constexpr Replacement kReplacements[] = {
+    {"none", u"abc", u"x", u"y", u"abc"},        {"every one", u"a||b||", u"||", u"\r\n", u"a\r\nb\r\n"},
+    {"three bars", u"|||", u"||", u"-", u"-|"},  {"not what it wrote", u"aa", u"a", u"aa", u"aaaa"},
+    {"overlapping", u"aaa", u"aa", u"b", u"ba"}, {"exact in case", u"aA", u"a", u"b", u"bA"},
+    {"by nothing", u"axbx", u"x", u"", u"ab"},   {"empty what", u"abc", u"", u"x", u"abc"},
+    {"empty text", u"", u"a", u"b", u""},        {"whole text", u"ab", u"ab", u"", u""},
+};
+
+using ReplaceAll = Rows<testing::Test, Replacement>;
+
+TEST_P(ReplaceAll, GoesLeftToRightOverTheOriginal) {
+  EXPECT_EQ(replace_all(GetParam().text, GetParam().what, GetParam().by), Text(GetParam().result));
 }
+
+INSTANTIATE_TEST_SUITE_P(, ReplaceAll, testing::ValuesIn(kReplacements), row_name);
 
 TEST(DecimalDigits, CoverTheWholeRange) {
   EXPECT_EQ(decimal(0), u"0");

@@ -4,8 +4,12 @@
 
 #include <random>
 
+#include "support/rows.h"
+
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using namespace std::string_view_literals;
 
@@ -40,42 +44,44 @@ constexpr Row kRows[] = {
     {"a half before a pair", kHighThenPair, "\xed\xa0\xbd\xf0\x9f\x98\x80"},
 };
 
-TEST(Utf8, WritesAndReadsEachForm) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(to_utf8(row.text), row.bytes);
-    const auto back = from_utf8(row.bytes);
-    ASSERT_TRUE(back);
-    EXPECT_EQ(*back, row.text);
-  }
+using Utf8Form = Rows<testing::Test, Row>;
+
+TEST_P(Utf8Form, IsWrittenAndRead) {
+  EXPECT_EQ(to_utf8(GetParam().text), GetParam().bytes);
+  const auto back = from_utf8(GetParam().bytes);
+  ASSERT_TRUE(back);
+  EXPECT_EQ(*back, GetParam().text);
 }
 
-TEST(Utf8, RefusesWhatItDoesNotWrite) {
-  struct Bad {
-    const char* name;
-    std::string_view bytes;
-  };
-  constexpr Bad kBad[] = {
-      {"continuation alone", "\x80"},
-      {"overlong slash in two", "\xc0\xaf"},
-      {"overlong in two, last", "\xc1\xbf"},
-      {"overlong in three", "\xe0\x9f\xbf"},
-      {"overlong in four", "\xf0\x8f\xbf\xbf"},
-      {"beyond the last code point", "\xf4\x90\x80\x80"},
-      {"first byte f5", "\xf5\x80\x80\x80"},
-      {"first byte ff", "\xff"},
-      {"two cut", "a\xc3"},
-      {"three cut", "\xe2\x82"},
-      {"four cut", "\xf0\x9f\x98"},
-      {"letter instead of continuation", "\xc3z"},
-      {"first byte instead of continuation", "\xe2\x82\xc3\xb1"},
-      {"pair as two threes", "\xed\xa0\xbd\xed\xb8\x80"},
-  };
-  for (const Bad& row : kBad) {
-    SCOPED_TRACE(row.name);
-    EXPECT_FALSE(from_utf8(row.bytes));
-  }
-}
+INSTANTIATE_TEST_SUITE_P(, Utf8Form, testing::ValuesIn(kRows), row_name);
+
+struct NoForm {
+  const char* name;
+  std::string_view bytes;
+};
+
+constexpr NoForm kNoForms[] = {
+    {"continuation alone", "\x80"},
+    {"overlong slash in two", "\xc0\xaf"},
+    {"overlong in two, last", "\xc1\xbf"},
+    {"overlong in three", "\xe0\x9f\xbf"},
+    {"overlong in four", "\xf0\x8f\xbf\xbf"},
+    {"beyond the last code point", "\xf4\x90\x80\x80"},
+    {"first byte f5", "\xf5\x80\x80\x80"},
+    {"first byte ff", "\xff"},
+    {"two cut", "a\xc3"},
+    {"three cut", "\xe2\x82"},
+    {"four cut", "\xf0\x9f\x98"},
+    {"letter instead of continuation", "\xc3z"},
+    {"first byte instead of continuation", "\xe2\x82\xc3\xb1"},
+    {"pair as two threes", "\xed\xa0\xbd\xed\xb8\x80"},
+};
+
+using NoUtf8 = Rows<testing::Test, NoForm>;
+
+TEST_P(NoUtf8, IsRefused) { EXPECT_FALSE(from_utf8(GetParam().bytes)); }
+
+INSTANTIATE_TEST_SUITE_P(, NoUtf8, testing::ValuesIn(kNoForms), row_name);
 
 TEST(Utf8, GivesEveryTextBackUnchanged) {
   std::mt19937 random(20240517);

@@ -6,78 +6,83 @@
 #include <random>
 
 #include "base/utf8.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
+
 struct Row {
-  TextView name, pattern;
+  const char* name;
+  TextView file, pattern;
   bool fits;
 };
 
 constexpr Row kRows[] = {
-    {u"", u"", true},
-    {u"", u"*", true},
-    {u"", u"**", true},
-    {u"", u"?", false},
-    {u"", u"a", false},
-    {u"a", u"", false},
-    {u"abc", u"abc", true},
-    {u"aBc", u"AbC", true},
-    {u"abc", u"abcd", false},
-    {u"abcd", u"abc", false},
-    {u"a\u00f1o", u"A\u00d1O", true},
-    {u"a\u00f1o", u"ano", false},
-    {u"a", u"?", true},
-    {u"ab", u"?", false},
-    {u"ab", u"??", true},
-    {u"abc", u"a?c", true},
-    {u"ac", u"a?c", false},
-    {u"abc", u"ab?", true},
-    {u"ab", u"ab?", false},
-    {u"\u65e5", u"?", true},
-    {u"\U0001F4C1", u"?", false},  // two code units
-    {u"\U0001F4C1", u"??", true},
-    {u"abc", u"*", true},
-    {u"abc", u"a*", true},
-    {u"abc", u"*c", true},
-    {u"abc", u"*b*", true},
-    {u"abc", u"a*c", true},
-    {u"ac", u"a*c", true},
-    {u"abcx", u"a*c", false},
-    {u"xabc", u"a*c", false},
-    {u"abcbc", u"a*bc", true},
-    {u"aXbXc", u"a*b*c", true},
-    {u"aXcXb", u"a*b*c", false},
-    {u"abab", u"*ab", true},
-    {u"aab", u"*ab", true},
-    {u"abc", u"*?", true},
-    {u"", u"*?", false},
-    {u"abc", u"?*?*?", true},
-    {u"ab", u"?*?*?", false},
-    {u"abc", u"***c", true},
-    {u"abc", u"abc***", true},
-    {u"a.b", u"a.b", true},
-    {u"axb", u"a.b", false},
-    {u"abc", u"*.*", false},  // no rules of old file names
-    {u"abc.", u"*.*", true},
-    {u"a", u"[a]", false},
-    {u"[a]", u"[A]", true},
-    {u"#1", u"#1", true},
-    {u"11", u"#1", false},
-    {u"a?b", u"a?b", true},
-    {u"a*b", u"a*b", true},
-    {u"C:\\x\\y.cfc", u"c:\\X\\?.CFC", true},
-    {u"GestionSQL1.cfc", u"GestionSQL?.cfc", true},
-    {u"GestionSQL.cfc", u"GestionSQL?.cfc", false},
+    {"empty and empty", u"", u"", true},
+    {"empty and asterisk", u"", u"*", true},
+    {"empty and two asterisks", u"", u"**", true},
+    {"empty and question mark", u"", u"?", false},
+    {"empty and letter", u"", u"a", false},
+    {"letter and empty", u"a", u"", false},
+    {"same text", u"abc", u"abc", true},
+    {"letters in another case", u"aBc", u"AbC", true},
+    {"pattern goes on", u"abc", u"abcd", false},
+    {"name goes on", u"abcd", u"abc", false},
+    {"accents in another case", u"a\u00f1o", u"A\u00d1O", true},
+    {"accent is no case", u"a\u00f1o", u"ano", false},
+    {"one of one", u"a", u"?", true},
+    {"one of two", u"ab", u"?", false},
+    {"two of two", u"ab", u"??", true},
+    {"question mark inside", u"abc", u"a?c", true},
+    {"question mark inside for nothing", u"ac", u"a?c", false},
+    {"question mark at the end", u"abc", u"ab?", true},
+    {"question mark at the end for nothing", u"ab", u"ab?", false},
+    {"question mark for a wide sign", u"\u65e5", u"?", true},
+    {"one question mark for a pair", u"\U0001F4C1", u"?", false},  // two code units
+    {"two question marks for a pair", u"\U0001F4C1", u"??", true},
+    {"asterisk for all", u"abc", u"*", true},
+    {"asterisk behind", u"abc", u"a*", true},
+    {"asterisk before", u"abc", u"*c", true},
+    {"asterisks around", u"abc", u"*b*", true},
+    {"asterisk inside", u"abc", u"a*c", true},
+    {"asterisk inside for nothing", u"ac", u"a*c", true},
+    {"more behind the last letter", u"abcx", u"a*c", false},
+    {"more before the first letter", u"xabc", u"a*c", false},
+    {"second place of the end", u"abcbc", u"a*bc", true},
+    {"two asterisks inside", u"aXbXc", u"a*b*c", true},
+    {"two asterisks in another order", u"aXcXb", u"a*b*c", false},
+    {"repeated end", u"abab", u"*ab", true},
+    {"repeated first letter", u"aab", u"*ab", true},
+    {"asterisk and question mark", u"abc", u"*?", true},
+    {"asterisk and question mark for nothing", u"", u"*?", false},
+    {"three question marks with asterisks", u"abc", u"?*?*?", true},
+    {"too few for three question marks", u"ab", u"?*?*?", false},
+    {"three asterisks before", u"abc", u"***c", true},
+    {"three asterisks behind", u"abc", u"abc***", true},
+    {"point", u"a.b", u"a.b", true},
+    {"point is no wildcard", u"axb", u"a.b", false},
+    {"point of old file names", u"abc", u"*.*", false},  // no rules of old file names
+    {"point at the end of a name", u"abc.", u"*.*", true},
+    {"brackets are no list", u"a", u"[a]", false},
+    {"brackets are themselves", u"[a]", u"[A]", true},
+    {"number sign", u"#1", u"#1", true},
+    {"number sign is no digit", u"11", u"#1", false},
+    {"question mark for itself", u"a?b", u"a?b", true},
+    {"asterisk for itself", u"a*b", u"a*b", true},
+    {"whole path", u"C:\\x\\y.cfc", u"c:\\X\\?.CFC", true},
+    {"script of a definition", u"GestionSQL1.cfc", u"GestionSQL?.cfc", true},
+    {"script without its place", u"GestionSQL.cfc", u"GestionSQL?.cfc", false},
 };
 
-TEST(MatchesWildcards, ForEachPattern) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(join({row.name, u" / ", row.pattern})));
-    EXPECT_EQ(matches_wildcards(row.name, row.pattern), row.fits);
-  }
+using WildcardPattern = Rows<testing::Test, Row>;
+
+TEST_P(WildcardPattern, FitsThatNameOrNot) {
+  EXPECT_EQ(matches_wildcards(GetParam().file, GetParam().pattern), GetParam().fits);
 }
+
+INSTANTIATE_TEST_SUITE_P(, WildcardPattern, testing::ValuesIn(kRows), row_name);
 
 TEST(MatchesWildcards, AZeroUnitIsACharacter) {
   const Text zero(1, u'\0');

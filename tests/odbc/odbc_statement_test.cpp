@@ -6,10 +6,13 @@
 #include "base/utf8.h"
 #include "odbc/odbc_api.h"
 #include "session/value_convert.h"
+#include "support/rows.h"
 #include "support/temporary_folder.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 struct Command {
   const char* name;
@@ -69,23 +72,25 @@ class OdbcStatement : public testing::Test {
   TemporaryFolder folder;
 };
 
-TEST_F(OdbcStatement, ExecutesEveryCommandAsAFreshOneDoesWhateverCameBefore) {
+using OdbcStatementAfter = Rows<OdbcStatement, Command>;
+
+TEST_P(OdbcStatementAfter, ThisExecutesEveryCommandAsAFreshOneDoes) {
   std::int64_t pair = 0;
-  for (const Command& before : kCommands) {
-    for (const Command& then : kCommands) {
-      SCOPED_TRACE(std::string(then.name) + " after " + before.name);
-      const Text number = decimal(++pair);
-      odbc::Connection used, first, fresh;
-      open_with_table(used, join({number, u"used.db"}));
-      described(used, before);
-      open_with_table(first, join({number, u"fresh.db"}));
-      described(first, before);
-      first.close();
-      open(fresh, join({number, u"fresh.db"}));
-      EXPECT_EQ(described(used, then), described(fresh, then));
-    }
+  for (const Command& then : kCommands) {
+    SCOPED_TRACE(then.name);
+    const Text number = decimal(++pair);
+    odbc::Connection used, first, fresh;
+    open_with_table(used, join({number, u"used.db"}));
+    described(used, GetParam());
+    open_with_table(first, join({number, u"fresh.db"}));
+    described(first, GetParam());
+    first.close();
+    open(fresh, join({number, u"fresh.db"}));
+    EXPECT_EQ(described(used, then), described(fresh, then));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, OdbcStatementAfter, testing::ValuesIn(kCommands), row_name);
 
 TEST_F(OdbcStatement, IsKeptForTheSameTimeLimitOnly) {
   odbc::Connection connection;

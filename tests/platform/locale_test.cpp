@@ -6,9 +6,12 @@
 #include "base/date_text.h"
 #include "base/utf8.h"
 #include "platform/platform.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 Locale& locale() { return system_platform().locale; }
 
@@ -22,14 +25,29 @@ TEST(SystemLocale, ReadsNumbersWithItsOwnSeparator) {
   EXPECT_EQ(locale().parse_number(u"1E3"), 1000.0);
 }
 
-TEST(SystemLocale, HasNothingForWhatIsNoNumber) {
-  const Text kTexts[] = {u"",    u" ",   u"abc",    u"12abc",          u"-",
-                         u"1 2", u"--1", u"\u0661", Text(u"12\0x", 4), Text(1, u'\0')};
-  for (const Text& text : kTexts) {
-    SCOPED_TRACE(::testing::PrintToString(text));
-    EXPECT_EQ(locale().parse_number(text), std::nullopt);
-  }
-}
+struct Refused {
+  const char* name;
+  Text text;
+};
+
+const Refused kNoNumbers[] = {
+    {"empty", u""},
+    {"blank", u" "},
+    {"letters", u"abc"},
+    {"letters behind", u"12abc"},
+    {"sign alone", u"-"},
+    {"two numbers", u"1 2"},
+    {"two signs", u"--1"},
+    {"digit of another script", u"\u0661"},
+    {"zero unit behind", Text(u"12\0x", 4)},
+    {"zero unit alone", Text(1, u'\0')},
+};
+
+using SystemLocaleNumber = Rows<testing::Test, Refused>;
+
+TEST_P(SystemLocaleNumber, IsNoneOfWhatIsNoNumber) { EXPECT_EQ(locale().parse_number(GetParam().text), std::nullopt); }
+
+INSTANTIATE_TEST_SUITE_P(, SystemLocaleNumber, testing::ValuesIn(kNoNumbers), row_name);
 
 TEST(SystemLocale, ReadsTheDatesThatItWrites) {
   const auto first = date_from({1930, 1, 1}), last = date_from({2029, 12, 31});
@@ -63,17 +81,25 @@ TEST(SystemLocale, ReadsAYearInFrontAsYearMonthDay) {
   }
 }
 
-TEST(SystemLocale, HasNothingForWhatIsNoDate) {
-  const Text kTexts[] = {u"",           u"abc",
-                         u"32/13/2000", u"30/02/2000",
-                         u"0/0/2000",   u"1/1/2000 25:00:00",
-                         u"1/2/3/4/5",  Text(u"1/1/2000\0x", 10)};
-  for (const Text& text : kTexts) {
-    SCOPED_TRACE(::testing::PrintToString(text));
-    const auto date = locale().parse_date(text);
-    EXPECT_FALSE(date) << date->days;
-  }
+const Refused kNoDates[] = {
+    {"empty", u""},
+    {"letters", u"abc"},
+    {"day 32 of month 13", u"32/13/2000"},
+    {"30 February", u"30/02/2000"},
+    {"day 0", u"0/0/2000"},
+    {"hour 25", u"1/1/2000 25:00:00"},
+    {"five numbers", u"1/2/3/4/5"},
+    {"zero unit behind", Text(u"1/1/2000\0x", 10)},
+};
+
+using SystemLocaleDate = Rows<testing::Test, Refused>;
+
+TEST_P(SystemLocaleDate, IsNoneOfWhatIsNoDate) {
+  const auto date = locale().parse_date(GetParam().text);
+  EXPECT_FALSE(date) << date->days;
 }
+
+INSTANTIATE_TEST_SUITE_P(, SystemLocaleDate, testing::ValuesIn(kNoDates), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

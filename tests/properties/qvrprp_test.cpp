@@ -6,10 +6,13 @@
 #include <limits>
 
 #include "support/describe.h"
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class QVRprpTest : public testing::Test {
  protected:
@@ -117,62 +120,60 @@ struct Position {
   const char* value;
 };
 
-std::vector<Position> positions() {
-  const double infinite = std::numeric_limits<double>::infinity();
-  return {
-      {"Byte", std::uint8_t{1}, "String second"},
-      {"Integer", std::int16_t{2}, "String third"},
-      {"64 bits", std::int64_t{3}, "String fourth"},
-      {"64 bits beyond 32", std::int64_t{4294967296}, "Empty"},
-      {"Single", 1.0f, "String second"},
-      {"half to the even position", 0.5, "String first"},
-      {"half to the even position above", 1.5, "String third"},
-      {"below the half", 1.49, "String second"},
-      {"rounded to zero from below", -0.4, "String first"},
-      {"half below zero", -0.5, "String first"},
-      {"rounded below zero", -0.6, "Empty"},
-      {"Currency", Currency{19999}, "String third"},
-      {"Decimal", Decimal{0, 0, 25, 1, false}, "String third"},
-      {"negative Decimal", Decimal{0, 0, 1, 0, true}, "Empty"},
-      {"too large", 1e300, "Empty"},
-      {"infinite", infinite, "Empty"},
-      {"no number", std::nan(""), "Empty"},
-      {"false is position 0", false, "String first"},
-      {"true is position -1", true, "Empty"},
-      {"Empty is position 0", Empty{}, "String first"},
-      {"text of a position", u"2", "String third"},
-      {"text of a position, never a name", u"0", "String first"},
-      {"text with decimals", u"2.4", "String third"},
-      {"text with a half", u"2.5", "String third"},
-      {"text with an exponent", u"1e0", "String second"},
-      {"text with a plus sign", u"+3", "String fourth"},
-      {"text below zero", u"-1", "Empty"},
-      {"text beyond the end", u"4", "Empty"},
-      {"text of a huge number", u"99999999999", "Empty"},
-      {"text that only begins as a number", u"1x", "Empty"},
-      {"Null", Null{}, "Empty"},
-      {"missing", Missing{}, "Empty"},
-      {"Nothing", ObjectRef(), "Empty"},
-      {"array", Array{{Value(1)}, 0, 1}, "Empty"},
-      {"error value", ErrorValue{1}, "Empty"},
-      {"date is no number", Date{1}, "Empty"},
-  };
-}
+const Position kPositions[] = {
+    {"Byte", std::uint8_t{1}, "String second"},
+    {"Integer", std::int16_t{2}, "String third"},
+    {"64 bits", std::int64_t{3}, "String fourth"},
+    {"64 bits beyond 32", std::int64_t{4294967296}, "Empty"},
+    {"Single", 1.0f, "String second"},
+    {"half to the even position", 0.5, "String first"},
+    {"half to the even position above", 1.5, "String third"},
+    {"below the half", 1.49, "String second"},
+    {"rounded to zero from below", -0.4, "String first"},
+    {"half below zero", -0.5, "String first"},
+    {"rounded below zero", -0.6, "Empty"},
+    {"Currency", Currency{19999}, "String third"},
+    {"Decimal", Decimal{0, 0, 25, 1, false}, "String third"},
+    {"negative Decimal", Decimal{0, 0, 1, 0, true}, "Empty"},
+    {"too large", 1e300, "Empty"},
+    {"infinite", std::numeric_limits<double>::infinity(), "Empty"},
+    {"no number", std::nan(""), "Empty"},
+    {"false is position 0", false, "String first"},
+    {"true is position -1", true, "Empty"},
+    {"Empty is position 0", Empty{}, "String first"},
+    {"text of a position", u"2", "String third"},
+    {"text of a position, never a name", u"0", "String first"},
+    {"text with decimals", u"2.4", "String third"},
+    {"text with a half", u"2.5", "String third"},
+    {"text with an exponent", u"1e0", "String second"},
+    {"text with a plus sign", u"+3", "String fourth"},
+    {"text below zero", u"-1", "Empty"},
+    {"text beyond the end", u"4", "Empty"},
+    {"text of a huge number", u"99999999999", "Empty"},
+    {"text that only begins as a number", u"1x", "Empty"},
+    {"Null", Null{}, "Empty"},
+    {"missing", Missing{}, "Empty"},
+    {"Nothing", ObjectRef(), "Empty"},
+    {"array", Array{{Value(1)}, 0, 1}, "Empty"},
+    {"error value", ErrorValue{1}, "Empty"},
+    {"date is no number", Date{1}, "Empty"},
+};
 
-TEST_F(QVRprpTest, NumbersAndTextsOfNumbersArePositions) {
+using QVRprpPosition = Rows<QVRprpTest, Position>;
+
+TEST_P(QVRprpPosition, IsThatOfANumberOrATextOfOne) {
   fill();
-  for (const Position& row : positions()) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(item(row.which), row.value);
-    QVRprp other;
-    for (int i = 0; i < 4; ++i) other.CreaPropiedad(u"N", list.NombrePropiedad(i), list.Item(i));
-    other.Item(row.which, u"changed");
-    for (int i = 0; i < 4; ++i) {
-      const std::string before = item(i);
-      EXPECT_EQ(describe(other.Item(i)), before == row.value ? "String changed" : before) << i;
-    }
+  EXPECT_EQ(item(GetParam().which), GetParam().value);
+  QVRprp other;
+  for (int i = 0; i < 4; ++i) other.CreaPropiedad(u"N", list.NombrePropiedad(i), list.Item(i));
+  other.Item(GetParam().which, u"changed");
+  for (int i = 0; i < 4; ++i) {
+    const std::string before = item(i);
+    EXPECT_EQ(describe(other.Item(i)), before == GetParam().value ? "String changed" : before) << i;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, QVRprpPosition, testing::ValuesIn(kPositions), row_name);
 
 TEST_F(QVRprpTest, TheLocaleTellsWhatIsANumber) {
   fill();

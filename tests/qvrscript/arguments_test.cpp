@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using namespace script_tool;
 
@@ -55,36 +58,48 @@ TEST(Arguments, AskForHelp) {
   EXPECT_EQ(parse({u"--version"}).action, Action::Version);
 }
 
-TEST(Arguments, AreRefused) {
-  const struct {
-    std::vector<Text> words;
-    const char* message;
-  } rows[] = {
-      {{}, "no command"},
-      {{u"Check"}, "no such command: Check"},
-      {{u"help", u"x"}, "no such command: x"},
-      {{u"check"}, "check wants a folder or files"},
-      {{u"check", u"x", u"--from", u"10024"}, "--from belongs to another command"},
-      {{u"check", u"x", u"--engine", u"mysql"}, "no such engine: mysql (jet, sqlserver or oracle)"},
-      {{u"check", u"x", u"--engine"}, "--engine wants a value"},
-      {{u"check", u"x", u"--json=1"}, "--json takes no value"},
-      {{u"check", u"x", u"--colour"}, "no such option: --colour"},
-      {{u"check", u"x", u"-j"}, "no such option: -j"},
-      {{u"list", u"x"}, "list wants a folder and the name of a definition or application"},
-      {{u"list", u"x", u"y", u"--from", u"1024"}, "no version: 1024 (five digits, the first no zero)"},
-      {{u"list", u"x", u"y", u"--from", u"01024"}, "no version: 01024 (five digits, the first no zero)"},
-      {{u"list", u"x", u"y", u"--from", u"1002x"}, "no version: 1002x (five digits, the first no zero)"},
-      {{u"run", u"--engine", u"jet", u"--connection", u"x"}, "run wants one file"},
-      {{u"run", u"--connection", u"x", u"f"}, "run wants --engine"},
-      {{u"run", u"--engine", u"jet", u"f"}, "run wants --connection"},
-  };
-  for (const auto& row : rows) {
-    const ToolAnswer answer = run_tool(row.words);
-    EXPECT_EQ(answer.code, 2) << row.message;
-    EXPECT_EQ(answer.out, "") << row.message;
-    EXPECT_EQ(answer.err, "qvrscript: " + std::string(row.message) + "; qvrscript --help tells more\n");
-  }
+struct Refused {
+  const char* name;
+  std::vector<Text> words;
+  std::string message;
+};
+
+const Refused kRefused[] = {
+    {"nothing", {}, "no command"},
+    {"command in another case", {u"Check"}, "no such command: Check"},
+    {"help of no command", {u"help", u"x"}, "no such command: x"},
+    {"check of nothing", {u"check"}, "check wants a folder or files"},
+    {"option of another command", {u"check", u"x", u"--from", u"10024"}, "--from belongs to another command"},
+    {"unknown engine", {u"check", u"x", u"--engine", u"mysql"}, "no such engine: mysql (jet, sqlserver or oracle)"},
+    {"option without its value", {u"check", u"x", u"--engine"}, "--engine wants a value"},
+    {"option with a value too many", {u"check", u"x", u"--json=1"}, "--json takes no value"},
+    {"unknown option", {u"check", u"x", u"--colour"}, "no such option: --colour"},
+    {"unknown short option", {u"check", u"x", u"-j"}, "no such option: -j"},
+    {"list without a name", {u"list", u"x"}, "list wants a folder and the name of a definition or application"},
+    {"version of four digits",
+     {u"list", u"x", u"y", u"--from", u"1024"},
+     "no version: 1024 (five digits, the first no zero)"},
+    {"version with a zero in front",
+     {u"list", u"x", u"y", u"--from", u"01024"},
+     "no version: 01024 (five digits, the first no zero)"},
+    {"version with a letter",
+     {u"list", u"x", u"y", u"--from", u"1002x"},
+     "no version: 1002x (five digits, the first no zero)"},
+    {"run of nothing", {u"run", u"--engine", u"jet", u"--connection", u"x"}, "run wants one file"},
+    {"run without an engine", {u"run", u"--connection", u"x", u"f"}, "run wants --engine"},
+    {"run without a connection", {u"run", u"--engine", u"jet", u"f"}, "run wants --connection"},
+};
+
+using RefusedArguments = Rows<testing::Test, Refused>;
+
+TEST_P(RefusedArguments, AreToldAndNothingIsDone) {
+  const ToolAnswer answer = run_tool(GetParam().words);
+  EXPECT_EQ(answer.code, 2);
+  EXPECT_EQ(answer.out, "");
+  EXPECT_EQ(answer.err, "qvrscript: " + GetParam().message + "; qvrscript --help tells more\n");
 }
+
+INSTANTIATE_TEST_SUITE_P(, RefusedArguments, testing::ValuesIn(kRefused), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -5,9 +5,12 @@
 
 #include "base/utf8.h"
 #include "machine.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using namespace script_tool;
 
@@ -79,65 +82,69 @@ TEST(Doctor, LooksAtTheFileBesideIt) {
   });
 }
 
-TEST(Doctor, LooksAtWhatIsRegistered) {
-  expect_found({
-      {"stale path",
-       [](Facts& f) {
-         f.registrations[0].file = {u"D:\\old.dll", false, 0, u""};
-       },
-       {"error registration: 32-bit programs, for the user: leads to D:\\old.dll, which is not there -> Register the "
-        "library where it is now, which writes the same keys: " +
-        kRegsvr32 + kOwn}},
-      {"stale path of the other width, of the machine",
-       [](Facts& f) {
-         f.registrations[1].scope = RegistrationScope::Machine;
-         f.registrations[1].file = {u"D:\\old.dll", false, 0, u""};
-       },
-       {"error registration: 64-bit programs, for the machine: leads to D:\\old.dll, which is not there -> Register "
-        "the library where it is now, which writes the same keys: " +
-        kRegsvr64 + "\"win64\\QVRlib21.dll\""}},
-      {"wrong width",
-       [](Facts& f) { f.registrations[0].file.width = 64; },
-       {"error registration: 32-bit programs, for the user: leads to C:\\q\\win32\\QVRlib21.dll, which is a library "
-        "for 64-bit programs -> Register the library of the right width in its place: " +
-        kRegsvr32 + kOwn}},
-      {"no library",
-       [](Facts& f) { f.registrations[0].file.width = 0; },
-       {"error registration: 32-bit programs, for the user: leads to C:\\q\\win32\\QVRlib21.dll, which is no library "
-        "-> Register the library of the right width in its place: " +
-        kRegsvr32 + kOwn}},
-      {"not whole",
-       [](Facts& f) { f.registrations[0].classes = 5; },
-       {"error registration: 32-bit programs, for the user: 5 of 6 classes -> Register it again, which makes the keys "
-        "whole: " +
-        kRegsvr32 + kOwn}},
-      {"several files",
-       [](Facts& f) { f.registrations[0].one_file = false; },
-       {"error registration: 32-bit programs, for the user: the classes lead to several files -> Register it again, "
-        "which makes the keys whole: " +
-        kRegsvr32 + kOwn}},
-      {"another version",
-       [](Facts& f) { f.registrations[0].file.version = u"2.9.1"; },
-       {"error registration: 32-bit programs, for the user: C:\\q\\win32\\QVRlib21.dll has version 2.9.1, the library "
-        "beside this program 2.10.24 -> Register the one that the applications are meant to use: " +
-        kRegsvr32 + kOwn}},
-      {"stale names",
-       [](Facts& f) {
-         f.stale_names = {u"QVRlib21.Ov", u"QVRlib21.QVRcfp"};
-       },
-       {"error registration: Names without a class: QVRlib21.Ov, QVRlib21.QVRcfp -> Register and unregister the "
-        "library of either width once, which takes them away."}},
-      {"two scopes",
-       [](Facts& f) {
-         f.registrations.push_back(f.registrations[0]);
-         f.registrations.back().scope = RegistrationScope::Machine;
-         f.registrations.back().file.path = u"C:\\other\\QVRlib21.dll";
-       },
-       {"note registration: User and machine have different files; the user's counts, but not for programs run as "
-        "administrator -> Take away the one that is not meant: regsvr32 with /u, and for the user's with /n /i:user "
-        "as well."}},
-  });
-}
+const Row kRegistrations[] = {
+    {"stale path",
+     [](Facts& f) {
+       f.registrations[0].file = {u"D:\\old.dll", false, 0, u""};
+     },
+     {"error registration: 32-bit programs, for the user: leads to D:\\old.dll, which is not there -> Register the "
+      "library where it is now, which writes the same keys: " +
+      kRegsvr32 + kOwn}},
+    {"stale path of the other width, of the machine",
+     [](Facts& f) {
+       f.registrations[1].scope = RegistrationScope::Machine;
+       f.registrations[1].file = {u"D:\\old.dll", false, 0, u""};
+     },
+     {"error registration: 64-bit programs, for the machine: leads to D:\\old.dll, which is not there -> Register "
+      "the library where it is now, which writes the same keys: " +
+      kRegsvr64 + "\"win64\\QVRlib21.dll\""}},
+    {"wrong width",
+     [](Facts& f) { f.registrations[0].file.width = 64; },
+     {"error registration: 32-bit programs, for the user: leads to C:\\q\\win32\\QVRlib21.dll, which is a library "
+      "for 64-bit programs -> Register the library of the right width in its place: " +
+      kRegsvr32 + kOwn}},
+    {"no library",
+     [](Facts& f) { f.registrations[0].file.width = 0; },
+     {"error registration: 32-bit programs, for the user: leads to C:\\q\\win32\\QVRlib21.dll, which is no library "
+      "-> Register the library of the right width in its place: " +
+      kRegsvr32 + kOwn}},
+    {"not whole",
+     [](Facts& f) { f.registrations[0].classes = 5; },
+     {"error registration: 32-bit programs, for the user: 5 of 6 classes -> Register it again, which makes the keys "
+      "whole: " +
+      kRegsvr32 + kOwn}},
+    {"several files",
+     [](Facts& f) { f.registrations[0].one_file = false; },
+     {"error registration: 32-bit programs, for the user: the classes lead to several files -> Register it again, "
+      "which makes the keys whole: " +
+      kRegsvr32 + kOwn}},
+    {"another version",
+     [](Facts& f) { f.registrations[0].file.version = u"2.9.1"; },
+     {"error registration: 32-bit programs, for the user: C:\\q\\win32\\QVRlib21.dll has version 2.9.1, the library "
+      "beside this program 2.10.24 -> Register the one that the applications are meant to use: " +
+      kRegsvr32 + kOwn}},
+    {"stale names",
+     [](Facts& f) {
+       f.stale_names = {u"QVRlib21.Ov", u"QVRlib21.QVRcfp"};
+     },
+     {"error registration: Names without a class: QVRlib21.Ov, QVRlib21.QVRcfp -> Register and unregister the "
+      "library of either width once, which takes them away."}},
+    {"two scopes",
+     [](Facts& f) {
+       f.registrations.push_back(f.registrations[0]);
+       f.registrations.back().scope = RegistrationScope::Machine;
+       f.registrations.back().file.path = u"C:\\other\\QVRlib21.dll";
+     },
+     {"note registration: User and machine have different files; the user's counts, but not for programs run as "
+      "administrator -> Take away the one that is not meant: regsvr32 with /u, and for the user's with /n /i:user "
+      "as well."}},
+};
+
+using DoctorsRegistration = Rows<testing::Test, Row>;
+
+TEST_P(DoctorsRegistration, IsLookedAt) { EXPECT_EQ(wrong_after(GetParam().change), GetParam().found); }
+
+INSTANTIATE_TEST_SUITE_P(, DoctorsRegistration, testing::ValuesIn(kRegistrations), row_name);
 
 TEST(Doctor, TellsHowToRegister) {
   const std::string kOther =

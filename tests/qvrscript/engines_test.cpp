@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "base/utf8.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using namespace script_tool;
 
@@ -17,23 +19,29 @@ TEST(Engines, HaveWords) {
   EXPECT_EQ(engine_named(u"sql"), std::nullopt);
 }
 
-TEST(Engines, AreToldByTheNamesOfFiles) {
-  const struct {
-    TextView name;
-    Engine engine;
-  } rows[] = {
-      {u"GestionJET1.cfc", Engine::Jet},
-      {u"gestionsqlA.CFC", Engine::SqlServer},
-      {u"GestionORA\u00f1.cfc", Engine::Oracle},
-      {u"Gestion10024a10025SQL.cfc", Engine::SqlServer},
-      {u"GestionORA.cfc", Engine::Oracle},
-      {u"GestionSQL10.cfc", Engine::None},
-      {u"GestionSQL1.txt", Engine::None},
-      {u"SQL", Engine::None},
-      {u"", Engine::None},
-  };
-  for (const auto& row : rows) EXPECT_EQ(engine_of_file(row.name), row.engine) << to_utf8(row.name);
-}
+struct File {
+  const char* name;
+  TextView file;
+  Engine engine;
+};
+
+constexpr File kFiles[] = {
+    {"definition of Jet", u"GestionJET1.cfc", Engine::Jet},
+    {"definition in another case", u"gestionsqlA.CFC", Engine::SqlServer},
+    {"definition of Oracle", u"GestionORA\u00f1.cfc", Engine::Oracle},
+    {"update", u"Gestion10024a10025SQL.cfc", Engine::SqlServer},
+    {"no place", u"GestionORA.cfc", Engine::Oracle},
+    {"two places", u"GestionSQL10.cfc", Engine::None},
+    {"another extension", u"GestionSQL1.txt", Engine::None},
+    {"tag alone", u"SQL", Engine::None},
+    {"nothing", u"", Engine::None},
+};
+
+using EngineOfFile = Rows<testing::Test, File>;
+
+TEST_P(EngineOfFile, IsToldByItsName) { EXPECT_EQ(engine_of_file(GetParam().file), GetParam().engine); }
+
+INSTANTIATE_TEST_SUITE_P(, EngineOfFile, testing::ValuesIn(kFiles), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

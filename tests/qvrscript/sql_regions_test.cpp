@@ -5,9 +5,12 @@
 
 #include "base/utf8.h"
 #include "qvrscript/engines.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 std::vector<std::string> regions(TextView text, Engine engine) {
   std::vector<std::string> found;
@@ -17,38 +20,44 @@ std::vector<std::string> regions(TextView text, Engine engine) {
   return found;
 }
 
-TEST(SqlRegions, AreFoundByEngine) {
-  using namespace script_tool;
-  struct Row {
-    TextView text;
-    Engine engine;
-    std::vector<std::string> regions;
-  };
-  const Row rows[] = {
-      {u"a 'b' c", Engine::SqlServer, {"'b'"}},
-      {u"'a''b'", Engine::SqlServer, {"'a''b'"}},
-      {u"'' ''", Engine::SqlServer, {"''", "''"}},
-      {u"'a", Engine::SqlServer, {"'a (open)"}},
-      {u"a --b'\r\n'c'", Engine::SqlServer, {"--b'", "'c'"}},
-      {u"/*a/*b*/c*/d", Engine::SqlServer, {"/*a/*b*/c*/"}},
-      {u"/*a/*b*/c*/d", Engine::Oracle, {"/*a/*b*/"}},
-      {u"/*/ a */", Engine::SqlServer, {"/*/ a */"}},
-      {u"/*", Engine::SqlServer, {"/* (open)"}},
-      {u"/*a*", Engine::SqlServer, {"/*a* (open)"}},
-      {u"[a'b] [c]]d]", Engine::SqlServer, {"[a'b]", "[c]]d]"}},
-      {u"[a\r\n]", Engine::SqlServer, {}},
-      {u"x[1]", Engine::Oracle, {}},
-      {u"[a] --'b'", Engine::Jet, {"[a]", "'b'"}},
-      {u"/*'a'*/", Engine::Jet, {"'a'"}},
-      {u"\"a\"\"'\" 'b'", Engine::Oracle, {"\"a\"\"'\"", "'b'"}},
-      {u"q'[it's]' 'a'", Engine::Oracle, {"q'[it's]'", "'a'"}},
-      {u"Q'!it's!' q'(a)' 'b", Engine::Oracle, {"Q'!it's!'", "q'(a)'", "'b (open)"}},
-      {u"nq'[a' q'[b", Engine::Oracle, {"'[a'", "q'[b (open)"}},
-      {u"q'[it's", Engine::SqlServer, {"'[it'"}},
-      {u"", Engine::SqlServer, {}},
-  };
-  for (const Row& row : rows) EXPECT_EQ(regions(row.text, row.engine), row.regions) << to_utf8(row.text);
+struct Row {
+  const char* name;
+  TextView text;
+  Engine engine;
+  std::vector<std::string> regions;
+};
+
+const Row kRows[] = {
+    {"string", u"a 'b' c", Engine::SqlServer, {"'b'"}},
+    {"doubled apostrophe", u"'a''b'", Engine::SqlServer, {"'a''b'"}},
+    {"empty strings", u"'' ''", Engine::SqlServer, {"''", "''"}},
+    {"string never closed", u"'a", Engine::SqlServer, {"'a (open)"}},
+    {"line comment", u"a --b'\r\n'c'", Engine::SqlServer, {"--b'", "'c'"}},
+    {"nested comment", u"/*a/*b*/c*/d", Engine::SqlServer, {"/*a/*b*/c*/"}},
+    {"nested comment of Oracle", u"/*a/*b*/c*/d", Engine::Oracle, {"/*a/*b*/"}},
+    {"slash behind the mark", u"/*/ a */", Engine::SqlServer, {"/*/ a */"}},
+    {"comment never closed", u"/*", Engine::SqlServer, {"/* (open)"}},
+    {"comment half closed", u"/*a*", Engine::SqlServer, {"/*a* (open)"}},
+    {"names in brackets", u"[a'b] [c]]d]", Engine::SqlServer, {"[a'b]", "[c]]d]"}},
+    {"bracket over two lines", u"[a\r\n]", Engine::SqlServer, {}},
+    {"brackets of Oracle", u"x[1]", Engine::Oracle, {}},
+    {"line comment of Jet", u"[a] --'b'", Engine::Jet, {"[a]", "'b'"}},
+    {"comment of Jet", u"/*'a'*/", Engine::Jet, {"'a'"}},
+    {"quoted name", u"\"a\"\"'\" 'b'", Engine::Oracle, {"\"a\"\"'\"", "'b'"}},
+    {"other quotes of Oracle", u"q'[it's]' 'a'", Engine::Oracle, {"q'[it's]'", "'a'"}},
+    {"other quotes in capitals", u"Q'!it's!' q'(a)' 'b", Engine::Oracle, {"Q'!it's!'", "q'(a)'", "'b (open)"}},
+    {"other quotes never closed", u"nq'[a' q'[b", Engine::Oracle, {"'[a'", "q'[b (open)"}},
+    {"other quotes of SQL Server", u"q'[it's", Engine::SqlServer, {"'[it'"}},
+    {"nothing", u"", Engine::SqlServer, {}},
+};
+
+using SqlRegionsIn = Rows<testing::Test, Row>;
+
+TEST_P(SqlRegionsIn, TheTextAreFoundByEngine) {
+  EXPECT_EQ(regions(GetParam().text, GetParam().engine), GetParam().regions);
 }
+
+INSTANTIATE_TEST_SUITE_P(, SqlRegionsIn, testing::ValuesIn(kRows), row_name);
 
 TEST(SqlRegions, AreLookedUpByPosition) {
   const auto found = script_tool::regions_of(u"a 'b' c", Engine::SqlServer);

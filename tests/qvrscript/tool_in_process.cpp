@@ -37,8 +37,12 @@ std::string lines(std::string_view text) {
   return whole;
 }
 
+void expect_rules(const RuleRow& row, Engine engine) {
+  EXPECT_EQ(rules_in(lines(row.text), engine), row.rules) << row.name;
+}
+
 void expect_rules(const std::vector<RuleRow>& rows, Engine engine) {
-  for (const RuleRow& row : rows) EXPECT_EQ(rules_in(lines(row.text), engine), row.rules) << row.name;
+  for (const RuleRow& row : rows) expect_rules(row, engine);
 }
 
 }  // namespace qvr::tests

@@ -34,7 +34,8 @@ struct RuleRow {
   Rules rules;
 };
 
-// Each row's text has exactly these findings.
+// The row's text, or each row's, has exactly these findings.
+void expect_rules(const RuleRow& row, Engine engine = Engine::SqlServer);
 void expect_rules(const std::vector<RuleRow>& rows, Engine engine = Engine::SqlServer);
 
 }  // namespace qvr::tests

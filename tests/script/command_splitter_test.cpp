@@ -5,9 +5,12 @@
 #include <random>
 #include <vector>
 
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 std::vector<Text> commands_of(TextView text) {
   std::vector<Text> commands;
@@ -53,13 +56,14 @@ const Row kRows[] = {
     {"zero units", Text(u"A\0\r\nGO\r\n", 8), 1, {Text(u"A\0", 2)}},
 };
 
-TEST(CommandSplitter, CountsAndWalks) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(count_separators(row.text), row.separators);
-    EXPECT_EQ(commands_of(row.text), row.commands);
-  }
+using CommandsOf = Rows<testing::Test, Row>;
+
+TEST_P(CommandsOf, AreCountedAndWalked) {
+  EXPECT_EQ(count_separators(GetParam().text), GetParam().separators);
+  EXPECT_EQ(commands_of(GetParam().text), GetParam().commands);
 }
+
+INSTANTIATE_TEST_SUITE_P(, CommandsOf, testing::ValuesIn(kRows), row_name);
 
 TEST(CommandSplitter, StaysAtItsEnd) {
   CommandSplitter splitter(u"A\r\nGO\r\n");

@@ -1,58 +1,81 @@
 // Which files of a folder are taken, and in which order.
 #include "script/loading_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
+
 class LoadingFilesTest : public LoadingTest {};
 
-TEST_F(LoadingFilesTest, ADefinitionIsNameTagAndOneCharacter) {
-  struct Row {
-    TextView file;
-    bool taken;
-  };
-  constexpr Row kRows[] = {
-      {u"GestionSQL1.cfc", true},       {u"GestionSQLA.cfc", true},
-      {u"gestionsqlz.CFC", true},       {u"GestionSQL .cfc", true},
-      {u"GestionSQL..cfc", true},       {u"GestionSQL\u00f1.cfc", true},
-      {u"GestionSQL[.cfc", true},       {u"GestionSQL.cfc", false},
-      {u"GestionSQL10.cfc", false},     {u"GestionSQL\U0001F4C1.cfc", false},
-      {u"GestionJET1.cfc", false},      {u"GestionORA1.cfc", false},
-      {u"Gestion1.cfc", false},         {u"OtraGestionSQL1.cfc", false},
-      {u"Gestion SQL1.cfc", false},     {u"GestionSQL1.cfcx", false},
-      {u"GestionSQL1.cfc.bak", false},  {u"GestionSQL1.cf", false},
-      {u"GestionSQL1cfc", false},       {u"GestionSQL1,cfc", false},
-      {u"Gesti\u00f3nSQL1.cfc", false},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.file));
-    put_names({row.file});
-    EXPECT_EQ(definition(), row.taken ? joined({row.file}) : Text());
-  }
+struct Named {
+  const char* name;
+  TextView file;
+  bool taken;
+};
+
+constexpr Named kDefinitions[] = {
+    {"digit", u"GestionSQL1.cfc", true},
+    {"capital", u"GestionSQLA.cfc", true},
+    {"letter, all in another case", u"gestionsqlz.CFC", true},
+    {"blank", u"GestionSQL .cfc", true},
+    {"point", u"GestionSQL..cfc", true},
+    {"accented letter", u"GestionSQL\u00f1.cfc", true},
+    {"bracket", u"GestionSQL[.cfc", true},
+    {"no character", u"GestionSQL.cfc", false},
+    {"two characters", u"GestionSQL10.cfc", false},
+    {"character of two units", u"GestionSQL\U0001F4C1.cfc", false},
+    {"tag of Jet", u"GestionJET1.cfc", false},
+    {"tag of Oracle", u"GestionORA1.cfc", false},
+    {"no tag", u"Gestion1.cfc", false},
+    {"more before the name", u"OtraGestionSQL1.cfc", false},
+    {"blank behind the name", u"Gestion SQL1.cfc", false},
+    {"more behind the extension", u"GestionSQL1.cfcx", false},
+    {"another extension behind", u"GestionSQL1.cfc.bak", false},
+    {"extension cut", u"GestionSQL1.cf", false},
+    {"extension without its point", u"GestionSQL1cfc", false},
+    {"extension behind a comma", u"GestionSQL1,cfc", false},
+    {"name with an accent", u"Gesti\u00f3nSQL1.cfc", false},
+};
+
+using DefinitionFile = Rows<LoadingTest, Named>;
+
+TEST_P(DefinitionFile, IsNameTagAndOneCharacter) {
+  put_names({GetParam().file});
+  EXPECT_EQ(definition(), GetParam().taken ? joined({GetParam().file}) : Text());
 }
 
-TEST_F(LoadingFilesTest, EachEngineHasItsTagAndAnyOtherNumberNone) {
-  struct Row {
-    Engine motor;
-    TextView definition, update;
-  };
-  constexpr Row kRows[] = {{Engine::Jet, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},
-                           {Engine::SqlServer, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
-                           {Engine::Oracle, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},
-                           {Engine::None, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {Engine{4}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {Engine{-1}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {Engine{INT32_MAX}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
-                           {Engine{INT32_MIN}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"}};
+INSTANTIATE_TEST_SUITE_P(, DefinitionFile, testing::ValuesIn(kDefinitions), row_name);
+
+struct Tagged {
+  const char* name;
+  Engine motor;
+  TextView definition, update;
+};
+
+constexpr Tagged kTagged[] = {
+    {"Jet", Engine::Jet, u"GestionJET1.cfc", u"Gestion10024a10025JET.cfc"},
+    {"SQL Server", Engine::SqlServer, u"GestionSQL1.cfc", u"Gestion10024a10025SQL.cfc"},
+    {"Oracle", Engine::Oracle, u"GestionORA1.cfc", u"Gestion10024a10025ORA.cfc"},
+    {"none", Engine::None, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+    {"unknown", Engine{4}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+    {"below zero", Engine{-1}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+    {"greatest", Engine{INT32_MAX}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+    {"least", Engine{INT32_MIN}, u"Gestion1.cfc", u"Gestion10024a10025.cfc"},
+};
+
+using EngineTag = Rows<LoadingTest, Tagged>;
+
+TEST_P(EngineTag, IsInTheNamesOfItsFiles) {
   put_names({u"GestionJET1.cfc", u"GestionSQL1.cfc", u"GestionORA1.cfc", u"Gestion1.cfc", u"Gestion10024a10025JET.cfc",
              u"Gestion10024a10025SQL.cfc", u"Gestion10024a10025ORA.cfc", u"Gestion10024a10025.cfc"});
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(number_of(row.motor));
-    motor = row.motor;
-    EXPECT_EQ(definition(), joined({row.definition}));
-    EXPECT_EQ(update(10024), joined({row.update}));
-  }
+  motor = GetParam().motor;
+  EXPECT_EQ(definition(), joined({GetParam().definition}));
+  EXPECT_EQ(update(10024), joined({GetParam().update}));
 }
+
+INSTANTIATE_TEST_SUITE_P(, EngineTag, testing::ValuesIn(kTagged), row_name);
 
 TEST_F(LoadingFilesTest, FilesAreJoinedInTheOrderOfTheirNamesInAnyCase) {
   put_names({u"GestionSQLb.cfc", u"gestionSQLC.cfc", u"GestionSQL_.cfc", u"GestionSQL\u00f1.cfc", u"GESTIONSQLA.cfc",
@@ -113,59 +136,70 @@ TEST_F(LoadingFilesTest, GapsAndOverlapsOfAnUpdateAreNotLookedAt) {
                     u"X10030a10040SQL.cfc", u"X10050a10001SQL.cfc", u"X10060a-----SQL.cfc"}));
 }
 
-TEST_F(LoadingFilesTest, AnUpdateIsApplicationTwoVersionsAndTag) {
-  for (const TextView file :
-       {u"X10024a1002SQL.cfc", u"X10024a100255SQL.cfc", u"X10024b10025SQL.cfc", u"X10024-10025SQL.cfc",
-        u"X10024a10025JET.cfc", u"X10024a10025SQL1.cfc", u"X10024a10025SQL.cfc2", u"XX10024a10025SQL.cfc",
-        u"X 10024a10025SQL.cfc", u"10024a10025SQL.cfc"}) {
-    SCOPED_TRACE(to_utf8(file));
-    put_names({file});
-    EXPECT_EQ(update(10024, u"X"), u"");
-  }
+constexpr Named kNoUpdates[] = {
+    {"second version of four digits", u"X10024a1002SQL.cfc", false},
+    {"second version of six digits", u"X10024a100255SQL.cfc", false},
+    {"b between", u"X10024b10025SQL.cfc", false},
+    {"hyphen between", u"X10024-10025SQL.cfc", false},
+    {"tag of another engine", u"X10024a10025JET.cfc", false},
+    {"one character behind", u"X10024a10025SQL1.cfc", false},
+    {"another extension", u"X10024a10025SQL.cfc2", false},
+    {"another application", u"XX10024a10025SQL.cfc", false},
+    {"blank behind the application", u"X 10024a10025SQL.cfc", false},
+    {"no application", u"10024a10025SQL.cfc", false},
+};
+
+using NoUpdateFile = Rows<LoadingTest, Named>;
+
+TEST_P(NoUpdateFile, IsWithoutApplicationTwoVersionsAndTag) {
+  put_names({GetParam().file});
+  EXPECT_EQ(update(10024, u"X"), u"");
 }
 
-TEST_F(LoadingFilesTest, VersionsOfEveryWidth) {
-  struct Row {
-    const char* name;
-    std::int32_t version;
-    std::vector<TextView> files;
-    std::vector<std::size_t> expected;
-  };
-  const Row kRows[] = {
-      {"least of five digits", 10000, {u"X09999a10000SQL.cfc", u"X10000a10001SQL.cfc"}, {1}},
-      {"greatest of five digits", 99999, {u"X99998a99999SQL.cfc", u"X99999a00000SQL.cfc"}, {1}},
-      {"four digits written with a zero", 1002, {u"X01002a01003SQL.cfc"}, {}},
-      {"four digits written so are no file of an update", 1002, {u"X1002a01003SQL.cfc"}, {}},
-      {"but let later ones through",
-       1002,
-       {u"X01001a01002SQL.cfc", u"X01002a01003SQL.cfc", u"X1002a01003SQL.cfc"},
-       {1}},
-      {"one digit", 7, {u"X7a00008SQL.cfc", u"X00006a00007SQL.cfc", u"X00007a00008SQL.cfc"}, {2}},
-      {"zero", 0, {u"X0a00001SQL.cfc", u"X00000a00001SQL.cfc", u"X00001a00002SQL.cfc"}, {1, 2}},
-      {"six digits", 100024, {u"X100024a10002SQL.cfc", u"X99999a10002SQL.cfc"}, {}},
-      {"negative of five characters",
-       -1002,
-       {u"X-1003a-1002SQL.cfc", u"X-1002a-1001SQL.cfc", u"X00001a00002SQL.cfc"},
-       {1, 2}},
-      {"negative of fewer", -5, {u"X-0005a-0004SQL.cfc"}, {}},
-      {"negative of more", -10024, {u"X-10024a10025SQL.cfc"}, {}},
-      {"negative of more, with later ones", -10024, {u"X-10024a10025SQL.cfc", u"X-9999a00000SQL.cfc"}, {1}},
-      {"greatest number", INT32_MAX, {u"X2147483647a10025SQL.cfc", u"X99999a10025SQL.cfc"}, {}},
-      {"least number", INT32_MIN, {u"X-2147483648a10025SQL.cfc", u"X-9999a10025SQL.cfc"}, {1}},
-      {"what is no number counts as 0", 10024, {u"X10024a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0}},
-      {"and is above a negative one", -1002, {u"X-1002a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0, 1}},
-      {"a number is read up to where it ends", 10024, {u"X10024a10025SQL.cfc", u"X1003xa10025SQL.cfc"}, {0}},
-      {"of too large a number nothing is known", 10024, {u"X10024a10025SQL.cfc", u"X1e999a10025SQL.cfc"}, {}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    thread.files.memory.clear();
-    for (TextView file : row.files) put(file, to_utf8(file));
-    Text expected;
-    for (std::size_t file : row.expected) expected += joined({row.files[file]});
-    EXPECT_EQ(update(row.version, u"X"), expected);
-  }
+INSTANTIATE_TEST_SUITE_P(, NoUpdateFile, testing::ValuesIn(kNoUpdates), row_name);
+
+struct Versions {
+  const char* name;
+  std::int32_t version;
+  std::vector<TextView> files;
+  std::vector<std::size_t> expected;
+};
+
+const Versions kVersions[] = {
+    {"least of five digits", 10000, {u"X09999a10000SQL.cfc", u"X10000a10001SQL.cfc"}, {1}},
+    {"greatest of five digits", 99999, {u"X99998a99999SQL.cfc", u"X99999a00000SQL.cfc"}, {1}},
+    {"four digits written with a zero", 1002, {u"X01002a01003SQL.cfc"}, {}},
+    {"four digits written so are no file of an update", 1002, {u"X1002a01003SQL.cfc"}, {}},
+    {"but let later ones through", 1002, {u"X01001a01002SQL.cfc", u"X01002a01003SQL.cfc", u"X1002a01003SQL.cfc"}, {1}},
+    {"one digit", 7, {u"X7a00008SQL.cfc", u"X00006a00007SQL.cfc", u"X00007a00008SQL.cfc"}, {2}},
+    {"zero", 0, {u"X0a00001SQL.cfc", u"X00000a00001SQL.cfc", u"X00001a00002SQL.cfc"}, {1, 2}},
+    {"six digits", 100024, {u"X100024a10002SQL.cfc", u"X99999a10002SQL.cfc"}, {}},
+    {"negative of five characters",
+     -1002,
+     {u"X-1003a-1002SQL.cfc", u"X-1002a-1001SQL.cfc", u"X00001a00002SQL.cfc"},
+     {1, 2}},
+    {"negative of fewer", -5, {u"X-0005a-0004SQL.cfc"}, {}},
+    {"negative of more", -10024, {u"X-10024a10025SQL.cfc"}, {}},
+    {"negative of more, with later ones", -10024, {u"X-10024a10025SQL.cfc", u"X-9999a00000SQL.cfc"}, {1}},
+    {"greatest number", INT32_MAX, {u"X2147483647a10025SQL.cfc", u"X99999a10025SQL.cfc"}, {}},
+    {"least number", INT32_MIN, {u"X-2147483648a10025SQL.cfc", u"X-9999a10025SQL.cfc"}, {1}},
+    {"what is no number counts as 0", 10024, {u"X10024a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0}},
+    {"and is above a negative one", -1002, {u"X-1002a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0, 1}},
+    {"a number is read up to where it ends", 10024, {u"X10024a10025SQL.cfc", u"X1003xa10025SQL.cfc"}, {0}},
+    {"of too large a number nothing is known", 10024, {u"X10024a10025SQL.cfc", u"X1e999a10025SQL.cfc"}, {}},
+};
+
+using VersionOfAnyWidth = Rows<LoadingTest, Versions>;
+
+TEST_P(VersionOfAnyWidth, IsComparedWithTheFilesOfAnUpdate) {
+  const Versions& row = GetParam();
+  for (TextView file : row.files) put(file, to_utf8(file));
+  Text expected;
+  for (std::size_t file : row.expected) expected += joined({row.files[file]});
+  EXPECT_EQ(update(row.version, u"X"), expected);
 }
+
+INSTANTIATE_TEST_SUITE_P(, VersionOfAnyWidth, testing::ValuesIn(kVersions), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

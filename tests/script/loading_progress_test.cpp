@@ -1,8 +1,11 @@
 // What loading tells its host, how it ends, and what the host may do meanwhile.
 #include "script/loading_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 constexpr TextView kFirst = u"GestionSQL1.cfc", kSecond = u"GestionSQL2.cfc", kUpdate = u"Gestion10024a10025SQL.cfc";
 const Lines kEncryption = {"Progreso: Procesando 1/5", "Progreso: Procesando 2/5", "Progreso: Procesando 3/5",
@@ -22,39 +25,44 @@ class LoadingProgressTest : public LoadingTest {
   const Text definition_text = joined({kFirst, kSecond});
 };
 
-TEST_F(LoadingProgressTest, StepsInOrderForEachEngine) {
-  struct Row {
-    Engine motor;
-    bool encrypt;
-    const char* tag;
-    Lines steps;
-  };
-  const Row kRows[] = {
-      {Engine::Jet, false, "JET", kAccounts},
-      {Engine::Jet, true, "JET", kAccounts},
-      {Engine::SqlServer, false, "SQL", kAccounts},
-      {Engine::SqlServer, true, "SQL", together({kEncryption, kAccounts})},
-      {Engine::Oracle, false, "ORA", kOracleAccounts},
-      {Engine::Oracle, true, "ORA", kOracleAccounts},
-      {Engine::None, false, "", kAccounts},
-      {Engine::None, true, "", kAccounts},
-      {Engine{5}, true, "", kAccounts},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(testing::Message() << "engine " << number_of(row.motor) << (row.encrypt ? ", encrypted" : ""));
-    motor = row.motor, encrypt = row.encrypt;
-    const Text tag = *from_utf8(row.tag);
-    const Text one = join({u"Gestion", tag, u"1.cfc"}), two = join({u"Gestion", tag, u"2.cfc"});
-    const Text next = join({u"Gestion10024a10025", tag, u".cfc"}), last = join({u"Gestion10025a10026", tag, u".cfc"});
-    put_names({one, two, next, last});
-    EXPECT_EQ(definition(), joined({one, two}));
-    EXPECT_EQ(taken(), together({file_lines(one), file_lines(two), row.steps, kSucceeded}));
-    EXPECT_EQ(update(10024), joined({next, last}));
-    EXPECT_EQ(taken(), together({file_lines(next), file_lines(last), row.steps, kSucceeded}));
-    EXPECT_EQ(update(10025), joined({last}));
-    EXPECT_EQ(taken(), together({file_lines(last), row.steps, kSucceeded})) << "a file that is skipped is not told";
-  }
+struct Steps {
+  const char* name;
+  Engine motor;
+  bool encrypt;
+  TextView tag;
+  Lines steps;
+};
+
+const Steps kSteps[] = {
+    {"Jet", Engine::Jet, false, u"JET", kAccounts},
+    {"Jet, encrypted", Engine::Jet, true, u"JET", kAccounts},
+    {"SQL Server", Engine::SqlServer, false, u"SQL", kAccounts},
+    {"SQL Server, encrypted", Engine::SqlServer, true, u"SQL", together({kEncryption, kAccounts})},
+    {"Oracle", Engine::Oracle, false, u"ORA", kOracleAccounts},
+    {"Oracle, encrypted", Engine::Oracle, true, u"ORA", kOracleAccounts},
+    {"none", Engine::None, false, u"", kAccounts},
+    {"none, encrypted", Engine::None, true, u"", kAccounts},
+    {"unknown, encrypted", Engine{5}, true, u"", kAccounts},
+};
+
+using LoadingSteps = Rows<LoadingTest, Steps>;
+
+TEST_P(LoadingSteps, AreToldInOrder) {
+  const Steps& row = GetParam();
+  motor = row.motor, encrypt = row.encrypt;
+  const Text one = join({u"Gestion", row.tag, u"1.cfc"}), two = join({u"Gestion", row.tag, u"2.cfc"});
+  const Text next = join({u"Gestion10024a10025", row.tag, u".cfc"}),
+             last = join({u"Gestion10025a10026", row.tag, u".cfc"});
+  put_names({one, two, next, last});
+  EXPECT_EQ(definition(), joined({one, two}));
+  EXPECT_EQ(taken(), together({file_lines(one), file_lines(two), row.steps, kSucceeded}));
+  EXPECT_EQ(update(10024), joined({next, last}));
+  EXPECT_EQ(taken(), together({file_lines(next), file_lines(last), row.steps, kSucceeded}));
+  EXPECT_EQ(update(10025), joined({last}));
+  EXPECT_EQ(taken(), together({file_lines(last), row.steps, kSucceeded})) << "a file that is skipped is not told";
 }
+
+INSTANTIATE_TEST_SUITE_P(, LoadingSteps, testing::ValuesIn(kSteps), row_name);
 
 TEST_F(LoadingProgressTest, TheTextsAreTheSameInEveryLanguage) {
   for (const TextView language : {u"0", u"1", u"2", u"3"}) {
@@ -93,15 +101,15 @@ class SecondFileReader final : public services::ScriptReader {
 };
 
 TEST_F(LoadingProgressTest, WhateverTheReaderFailsInEndsTheLoading) {
-  const std::function<std::optional<Text>()> failures[] = {
-      [] { return std::nullopt; },
-      [] { return Text(); },
-      []() -> std::optional<Text> { throw RuntimeFailure(failure_number::kFile); },
-      []() -> std::optional<Text> { throw std::bad_alloc(); },
-      []() -> std::optional<Text> { throw 7; },
+  const std::pair<const char*, std::function<std::optional<Text>()>> kFailures[] = {
+      {"nothing", [] { return std::nullopt; }},
+      {"no text", [] { return Text(); }},
+      {"a failure of a file", []() -> std::optional<Text> { throw RuntimeFailure(failure_number::kFile); }},
+      {"out of memory", []() -> std::optional<Text> { throw std::bad_alloc(); }},
+      {"something unknown", []() -> std::optional<Text> { throw 7; }},
   };
-  for (const auto& failure : failures) {
-    SCOPED_TRACE(&failure - failures);
+  for (const auto& [name, failure] : kFailures) {
+    SCOPED_TRACE(name);
     thread.make_script_reader = [&] { return std::make_unique<SecondFileReader>(failure); };
     thread.renew();
     EXPECT_EQ(definition(), u"");

@@ -1,7 +1,10 @@
 #include "script/script_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class OneCommandTest : public ScriptTest {
  protected:
@@ -50,20 +53,28 @@ TEST_F(OneCommandTest, AReportThatCannotBeMadeIsAFalseResult) {
   EXPECT_FALSE(runner.Ejecutar1Comando(connection.get(), u"A", Engine::Jet));
 }
 
-TEST_F(OneCommandTest, UsuarioSegunMotorNamesTheAdministrator) {
-  struct Row {
-    Engine motor;
-    TextView account;
-  };
-  constexpr Row kRows[] = {{Engine::Jet, u"Admin"}, {Engine::SqlServer, u"sa"}, {Engine::Oracle, u"System"},
-                           {Engine::None, u""},     {Engine{4}, u""},           {Engine{-1}, u""},
-                           {Engine{99}, u""},       {Engine{INT32_MAX}, u""},   {Engine{INT32_MIN}, u""}};
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(number_of(row.motor));
-    EXPECT_EQ(runner.UsuarioSegunMotor(row.motor), Text(row.account));
-  }
+struct Administrator {
+  const char* name;
+  Engine motor;
+  TextView account;
+};
+
+constexpr Administrator kAdministrators[] = {
+    {"Jet", Engine::Jet, u"Admin"},        {"SQL Server", Engine::SqlServer, u"sa"},
+    {"Oracle", Engine::Oracle, u"System"}, {"none", Engine::None, u""},
+    {"unknown", Engine{4}, u""},           {"below zero", Engine{-1}, u""},
+    {"far away", Engine{99}, u""},         {"greatest", Engine{INT32_MAX}, u""},
+    {"least", Engine{INT32_MIN}, u""},
+};
+
+using UsuarioSegunMotor = Rows<OneCommandTest, Administrator>;
+
+TEST_P(UsuarioSegunMotor, NamesTheAdministratorWithoutTheDatabase) {
+  EXPECT_EQ(runner.UsuarioSegunMotor(GetParam().motor), Text(GetParam().account));
   EXPECT_TRUE(taken().empty());
 }
+
+INSTANTIATE_TEST_SUITE_P(, UsuarioSegunMotor, testing::ValuesIn(kAdministrators), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

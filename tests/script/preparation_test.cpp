@@ -1,8 +1,11 @@
 // What is done to the text of scripts: the encryption clause and the bracketed words, pass by pass.
 #include "script/loading_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 // Rows show a line break as "|".
 Text lines(TextView text) { return replace_all(text, u"|", kLineBreak); }
@@ -58,13 +61,14 @@ constexpr Row kEncryption[] = {
      u"|WITH ENCRYPTION FOR INSERT AS|WITH ENCRYPTION FOR DELETE AS|WITH ENCRYPTION FOR UPDATE AS|"},
 };
 
-TEST_F(PreparationTest, TheEncryptionClauseStandsWhereTheServerWantsIt) {
-  for (const Row& row : kEncryption) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(encrypted(lines(row.before)), lines(row.after));
-    EXPECT_EQ(taken().size(), 5u) << "every step is told, whatever there is to do";
-  }
+using EncryptionClause = Rows<PreparationTest, Row>;
+
+TEST_P(EncryptionClause, StandsWhereTheServerWantsIt) {
+  EXPECT_EQ(encrypted(lines(GetParam().before)), lines(GetParam().after));
+  EXPECT_EQ(taken().size(), 5u) << "every step is told, whatever there is to do";
 }
+
+INSTANTIATE_TEST_SUITE_P(, EncryptionClause, testing::ValuesIn(kEncryption), row_name);
 
 TEST_F(PreparationTest, OnlySqlServerEncryptsAndOnlyWhenAsked) {
   for (Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
@@ -110,14 +114,36 @@ TEST_F(PreparationTest, EachWordInAnyCaseForEachEngine) {
   }
 }
 
-TEST_F(PreparationTest, WhatIsNoSuchWordStays) {
+struct NoWord {
+  const char* name;
+  TextView text;
+};
+
+constexpr NoWord kNoWords[] = {
+    {"nothing", u""},
+    {"brackets alone", u"[]"},
+    {"another word", u"[Otro]"},
+    {"not closed", u"[NombreBD"},
+    {"not opened", u"NombreBD]"},
+    {"blank before", u"[ NombreBD]"},
+    {"blank inside", u"[Nombre BD]"},
+    {"blank behind", u"[NombreBD ]"},
+    {"other brackets", u"(NombreBD)"},
+    {"letter behind", u"[NombreBDs]"},
+    {"part of a word", u"[Usuario]"},
+    {"accent", u"[N\u00f3mbreBD]"},
+    {"accent at the end", u"[LogFil\u00e9]"},
+    {"line break inside", u"[Nombre\r\nBD]"},
+};
+
+using NoSuchWord = Rows<PreparationTest, NoWord>;
+
+TEST_P(NoSuchWord, Stays) {
   motor = Engine::Oracle;
-  for (const TextView text :
-       {u"", u"[]", u"[Otro]", u"[NombreBD", u"NombreBD]", u"[ NombreBD]", u"[Nombre BD]", u"[NombreBD ]",
-        u"(NombreBD)", u"[NombreBDs]", u"[Usuario]", u"[N\u00f3mbreBD]", u"[LogFil\u00e9]", u"[Nombre\r\nBD]"}) {
-    EXPECT_EQ(filled(text), Text(text));
-  }
+  EXPECT_EQ(filled(GetParam().text), Text(GetParam().text));
 }
+
+INSTANTIATE_TEST_SUITE_P(, NoSuchWord, testing::ValuesIn(kNoWords), row_name);
 
 TEST_F(PreparationTest, TheLogFileHasTheHourAndMinute) {
   struct Moment {
@@ -141,38 +167,41 @@ TEST_F(PreparationTest, TheLogFileHasTheHourAndMinute) {
   }
 }
 
-TEST_F(PreparationTest, ValuesAreSeenByLaterPassesOnly) {
-  struct Chain {
-    const char* name;
-    ScriptAccounts accounts;
-    TextView before, after;
-  };
-  const Chain kChains[] = {
-      {"the next one", {u"[UsuarioQVRAdm]", u"adm", u"", u"", u""}, u"x [NombreBD]", u"x adm"},
-      {"through all of them",
-       {u"[LogFile]", u"[claveusuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]", u"end"},
-       u"[NombreBD]/[UsuarioQVRAdm]",
-       u"[LogFile]1200/end"},
-      {"an earlier one stays",
-       {u"base", u"", u"[NombreBD]", u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]"},
-       u"[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]/[ClaveUsuarioQVRCli]",
-       u"[NombreBD]/[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]"},
-      {"itself stays", {u"[NombreBD][NombreBD]", u"", u"", u"", u""}, u"[NombreBD]", u"[NombreBD][NombreBD]"},
-      {"a word put together", {u"Usuario", u"adm", u"", u"", u""}, u"[[NombreBD]QVRAdm]", u"adm"},
-      {"a word put together too late", {u"base", u"Nombre", u"", u"", u""}, u"[[UsuarioQVRAdm]BD]", u"[NombreBD]"},
-      {"a word inside a word", {u"", u"adm", u"", u"", u""}, u"[Usuario[NombreBD]QVRAdm]", u"adm"},
-      {"no values", {}, u"<[NombreBD]|[UsuarioQVRAdm]|[ClaveUsuarioQVRCli]>", u"<||>"},
-      {"signs of other languages", {u"$1 \\1 %s & 'x' \"", u"", u"", u"", u""}, u"[NombreBD]", u"$1 \\1 %s & 'x' \""},
-      {"line breaks", {u"a\r\nGO\r\nb", u"", u"", u"", u""}, u"[NombreBD]", u"a\r\nGO\r\nb"},
-      {"other letters", {u"\u00f1 \u65e5 \U0001F4C1", u"", u"", u"", u""}, u"[NombreBD]", u"\u00f1 \u65e5 \U0001F4C1"},
-  };
+struct Chain {
+  const char* name;
+  ScriptAccounts accounts;
+  TextView before, after;
+};
+
+const Chain kChains[] = {
+    {"the next one", {u"[UsuarioQVRAdm]", u"adm", u"", u"", u""}, u"x [NombreBD]", u"x adm"},
+    {"through all of them",
+     {u"[LogFile]", u"[claveusuarioQVRAdm]", u"[UsuarioQVRCli]", u"[ClaveUsuarioQVRCli]", u"end"},
+     u"[NombreBD]/[UsuarioQVRAdm]",
+     u"[LogFile]1200/end"},
+    {"an earlier one stays",
+     {u"base", u"", u"[NombreBD]", u"[ClaveUsuarioQVRAdm]", u"[UsuarioQVRCli]"},
+     u"[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]/[ClaveUsuarioQVRCli]",
+     u"[NombreBD]/[ClaveUsuarioQVRAdm]/[UsuarioQVRCli]"},
+    {"itself stays", {u"[NombreBD][NombreBD]", u"", u"", u"", u""}, u"[NombreBD]", u"[NombreBD][NombreBD]"},
+    {"a word put together", {u"Usuario", u"adm", u"", u"", u""}, u"[[NombreBD]QVRAdm]", u"adm"},
+    {"a word put together too late", {u"base", u"Nombre", u"", u"", u""}, u"[[UsuarioQVRAdm]BD]", u"[NombreBD]"},
+    {"a word inside a word", {u"", u"adm", u"", u"", u""}, u"[Usuario[NombreBD]QVRAdm]", u"adm"},
+    {"no values", {}, u"<[NombreBD]|[UsuarioQVRAdm]|[ClaveUsuarioQVRCli]>", u"<||>"},
+    {"signs of other languages", {u"$1 \\1 %s & 'x' \"", u"", u"", u"", u""}, u"[NombreBD]", u"$1 \\1 %s & 'x' \""},
+    {"line breaks", {u"a\r\nGO\r\nb", u"", u"", u"", u""}, u"[NombreBD]", u"a\r\nGO\r\nb"},
+    {"other letters", {u"\u00f1 \u65e5 \U0001F4C1", u"", u"", u"", u""}, u"[NombreBD]", u"\u00f1 \u65e5 \U0001F4C1"},
+};
+
+using FilledInValue = Rows<PreparationTest, Chain>;
+
+TEST_P(FilledInValue, IsSeenByLaterPassesOnly) {
   motor = Engine::Oracle;
-  for (const Chain& chain : kChains) {
-    SCOPED_TRACE(chain.name);
-    accounts = chain.accounts;
-    EXPECT_EQ(filled(chain.before), Text(chain.after));
-  }
+  accounts = GetParam().accounts;
+  EXPECT_EQ(filled(GetParam().before), Text(GetParam().after));
 }
+
+INSTANTIATE_TEST_SUITE_P(, FilledInValue, testing::ValuesIn(kChains), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -2,9 +2,12 @@
 #include <algorithm>
 
 #include "script/script_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using RunTest = ScriptTest;
 
@@ -21,7 +24,7 @@ TEST_F(RunTest, RunsEachCommandInOneTransaction) {
                                closing()}));
 }
 
-TEST_F(RunTest, ATextWithoutCommandsCommitsNothing) {
+TEST_F(RunTest, ATextWithoutCommandsCommitsAnEmptyTransaction) {
   for (TextView text : {TextView(u""), TextView(u"SELECT 1"), TextView(u"GO\r\n")}) {
     SCOPED_TRACE(to_utf8(text));
     EXPECT_TRUE(run(text));
@@ -47,33 +50,37 @@ TEST_F(RunTest, AnEmptyCommandIsRunAsItIs) {
             together({opening(), {"Progreso: Comandos ejecutados: 0/1"}, command_lines(""), {kHost}, closing()}));
 }
 
-TEST_F(RunTest, TheIdentificationCanAvoidTheTransaction) {
-  struct Row {
-    TextView given, left;
-    bool avoided;
-  };
-  constexpr Row kRows[] = {
-      {u"EvitarTransaccion", u"", true},
-      {u"evitartransaccionApp", u"App", true},
-      {u"EVITARTRANSACCION x", u" x", true},
-      {u"EvitarTransaccionEvitarTransaccion", u"EvitarTransaccion", true},
-      {u"EvitarTransacci\u00f3n", u"EvitarTransacci\u00f3n", false},
-      {u"", u"", false},
-      {u" EvitarTransaccion", u" EvitarTransaccion", false},
-      {u"EvitarTransaccio", u"EvitarTransaccio", false},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.given));
-    id = row.given;
-    EXPECT_TRUE(run(u"A\r\nGO\r\n"));
-    EXPECT_EQ(id, row.left);
-    EXPECT_EQ(taken(), together({opening(!row.avoided),
-                                 {"Progreso: Comandos ejecutados: 0/1"},
-                                 command_lines("A"),
-                                 {kHost},
-                                 closing(!row.avoided)}));
-  }
+struct Identification {
+  const char* name;
+  TextView given, left;
+  bool avoided;
+};
+
+constexpr Identification kIdentifications[] = {
+    {"the word alone", u"EvitarTransaccion", u"", true},
+    {"small letters", u"evitartransaccionApp", u"App", true},
+    {"capitals", u"EVITARTRANSACCION x", u" x", true},
+    {"the word twice", u"EvitarTransaccionEvitarTransaccion", u"EvitarTransaccion", true},
+    {"accent", u"EvitarTransacci\u00f3n", u"EvitarTransacci\u00f3n", false},
+    {"empty", u"", u"", false},
+    {"blank before", u" EvitarTransaccion", u" EvitarTransaccion", false},
+    {"last letter missing", u"EvitarTransaccio", u"EvitarTransaccio", false},
+};
+
+using RunIdentification = Rows<ScriptTest, Identification>;
+
+TEST_P(RunIdentification, AvoidsTheTransactionByItsFirstWord) {
+  id = GetParam().given;
+  EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(id, GetParam().left);
+  EXPECT_EQ(taken(), together({opening(!GetParam().avoided),
+                               {"Progreso: Comandos ejecutados: 0/1"},
+                               command_lines("A"),
+                               {kHost},
+                               closing(!GetParam().avoided)}));
 }
+
+INSTANTIATE_TEST_SUITE_P(, RunIdentification, testing::ValuesIn(kIdentifications), row_name);
 
 TEST_F(RunTest, AnAvoidedTransactionIsNotRolledBack) {
   id = u"EvitarTransaccionApp";

@@ -4,8 +4,12 @@
 
 #include <random>
 
+#include "support/rows.h"
+
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using services::append_base32;
 using services::from_base32;
@@ -47,21 +51,29 @@ TEST(Base32, GivesRandomBytesBack) {
   }
 }
 
-TEST(Base32, ReadsOnlyWhatItWrites) {
-  constexpr TextView kRefused[] = {
-      u"m",        u"mzx",     u"mzxw6y",               // lengths that no bytes have
-      u"a",        u"mya",     u"mzxw6a",               // the same with nothing but zeros in the digit too many
-      u"mz",       u"mzxr",    u"mzxw7",                // bits behind the last byte
-      u"MY",       u"mY",      u"mzxw6YTB",             // other case
-      u"my======", u"m y",     u" my",      u"my\r\n",  // padding and blanks
-      u"m0",       u"m1",      u"m8",       u"m9",      // digits of other alphabets
-      u"m\u00e9",  u"m\uff41",
-  };
-  for (TextView text : kRefused) {
-    SCOPED_TRACE(::testing::PrintToString(Text(text)));
-    EXPECT_FALSE(from_base32(text));
-  }
+struct Refused {
+  const char* name;
+  std::vector<TextView> texts;
+};
+
+const Refused kRefused[] = {
+    {"lengths that no bytes have", {u"m", u"mzx", u"mzxw6y"}},
+    {"zeros in a digit too many", {u"a", u"mya", u"mzxw6a"}},
+    {"bits behind the last byte", {u"mz", u"mzxr", u"mzxw7"}},
+    {"other case", {u"MY", u"mY", u"mzxw6YTB"}},
+    {"padding", {u"my======"}},
+    {"blanks", {u"m y", u" my", u"my\r\n"}},
+    {"digits of other alphabets", {u"m0", u"m1", u"m8", u"m9"}},
+    {"letters of other alphabets", {u"m\u00e9", u"m\uff41"}},
+};
+
+using NoBase32 = Rows<testing::Test, Refused>;
+
+TEST_P(NoBase32, IsRefused) {
+  for (TextView text : GetParam().texts) EXPECT_FALSE(from_base32(text)) << testing::PrintToString(Text(text));
 }
+
+INSTANTIATE_TEST_SUITE_P(, NoBase32, testing::ValuesIn(kRefused), row_name);
 
 TEST(Base32, HasOneSpellingForEachBytes) {
   constexpr TextView kAlphabet = u"abcdefghijklmnopqrstuvwxyz234567";

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using services::AdoError;
 using services::BuiltinErrorReport;
@@ -62,38 +65,55 @@ TEST(BuiltinErrorReport, ShowsEveryErrorOfTheConnectionInOrder) {
             u"M\u00e9todo: EjecutarComandos");
 }
 
-TEST(BuiltinErrorReport, TellsTheKindsOfErrorByEngine) {
-  struct Row {
-    Engine motor;
-    std::int32_t native;
-    TextView sql_state, caption;
-  };
-  constexpr TextView kDuplicate = u"Registro duplicado", kServer = u"Servidor no encontrado",
-                     kUnknown = u"Error indeterminado";
-  constexpr Row kRows[] = {
-      {Engine::Jet, -1605, u"", kDuplicate},      {Engine::Jet, -105121349, u"", kDuplicate},
-      {Engine::Jet, -1811, u"", kServer},         {Engine::SqlServer, 2601, u"", kDuplicate},
-      {Engine::SqlServer, 2627, u"", kDuplicate}, {Engine::SqlServer, 17, u"", kServer},
-      {Engine::SqlServer, 53, u"", kServer},      {Engine::Oracle, 1, u"", kDuplicate},
-      {Engine::Oracle, 12154, u"", kServer},      {Engine::Oracle, 12170, u"", kServer},
-      {Engine::Oracle, 12514, u"", kServer},      {Engine::Oracle, 12535, u"", kServer},
-      {Engine::Oracle, 12541, u"", kServer},      {Engine::Jet, 2627, u"", kUnknown},
-      {Engine::SqlServer, 1, u"", kUnknown},      {Engine::Oracle, 2601, u"", kUnknown},
-      {Engine::None, 2627, u"", kUnknown},        {Engine{99}, 1, u"", kUnknown},
-      {Engine::None, 0, u"23505", kDuplicate},    {Engine::Jet, 0, u"3022", kDuplicate},
-      {Engine::SqlServer, 0, u"08001", kServer},  {Engine::Oracle, 0, u"08004", kServer},
-      {Engine::None, 0, u"08S01", kServer},       {Engine::None, 0, u"08s01", kServer},
-      {Engine::None, 0, u"IM002", kServer},       {Engine::None, 0, u"42000", kUnknown},
-      {Engine::None, 0, u"", kUnknown},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(::testing::Message() << "engine " << number_of(row.motor) << ", error " << row.native << ", state "
-                                      << to_utf8(row.sql_state));
-    const Text text = services::error_report_text(
-        notice_of(row.motor, {5, u"d", u""}, {{5, u"d", u"", Text(row.sql_state), row.native}}));
-    EXPECT_EQ(text, join({row.caption, u"\r\n\r\nError 5: d\r\n\r\nM\u00e9todo: EjecutarComandos"}));
-  }
+struct Kind {
+  const char* name;
+  Engine motor;
+  std::int32_t native;
+  TextView sql_state, caption;
+};
+
+constexpr TextView kDuplicate = u"Registro duplicado", kServer = u"Servidor no encontrado",
+                   kUnknown = u"Error indeterminado";
+constexpr Kind kKinds[] = {
+    {"Jet duplicate", Engine::Jet, -1605, u"", kDuplicate},
+    {"Jet duplicate of a later version", Engine::Jet, -105121349, u"", kDuplicate},
+    {"Jet no server", Engine::Jet, -1811, u"", kServer},
+    {"SQL Server duplicate index", Engine::SqlServer, 2601, u"", kDuplicate},
+    {"SQL Server duplicate key", Engine::SqlServer, 2627, u"", kDuplicate},
+    {"SQL Server no server", Engine::SqlServer, 17, u"", kServer},
+    {"SQL Server no server by name", Engine::SqlServer, 53, u"", kServer},
+    {"Oracle duplicate", Engine::Oracle, 1, u"", kDuplicate},
+    {"Oracle no service name", Engine::Oracle, 12154, u"", kServer},
+    {"Oracle no answer in time", Engine::Oracle, 12170, u"", kServer},
+    {"Oracle no listener for the service", Engine::Oracle, 12514, u"", kServer},
+    {"Oracle timed out", Engine::Oracle, 12535, u"", kServer},
+    {"Oracle no listener", Engine::Oracle, 12541, u"", kServer},
+    {"Jet with a number of SQL Server", Engine::Jet, 2627, u"", kUnknown},
+    {"SQL Server with a number of Oracle", Engine::SqlServer, 1, u"", kUnknown},
+    {"Oracle with a number of SQL Server", Engine::Oracle, 2601, u"", kUnknown},
+    {"no engine with a number of SQL Server", Engine::None, 2627, u"", kUnknown},
+    {"unknown engine with a number of Oracle", Engine{99}, 1, u"", kUnknown},
+    {"state of a duplicate", Engine::None, 0, u"23505", kDuplicate},
+    {"state of a duplicate of Jet", Engine::Jet, 0, u"3022", kDuplicate},
+    {"state without a connection", Engine::SqlServer, 0, u"08001", kServer},
+    {"state of a refused connection", Engine::Oracle, 0, u"08004", kServer},
+    {"state of a lost connection", Engine::None, 0, u"08S01", kServer},
+    {"state in small letters", Engine::None, 0, u"08s01", kServer},
+    {"state without a driver", Engine::None, 0, u"IM002", kServer},
+    {"another state", Engine::None, 0, u"42000", kUnknown},
+    {"neither number nor state", Engine::None, 0, u"", kUnknown},
+};
+
+using KindOfError = Rows<testing::Test, Kind>;
+
+TEST_P(KindOfError, IsToldByEngine) {
+  const Kind& row = GetParam();
+  const Text text = services::error_report_text(
+      notice_of(row.motor, {5, u"d", u""}, {{5, u"d", u"", Text(row.sql_state), row.native}}));
+  EXPECT_EQ(text, join({row.caption, u"\r\n\r\nError 5: d\r\n\r\nM\u00e9todo: EjecutarComandos"}));
 }
+
+INSTANTIATE_TEST_SUITE_P(, KindOfError, testing::ValuesIn(kKinds), row_name);
 
 TEST(BuiltinErrorReport, AbbreviatesALongCommand) {
   ErrorNotice notice = notice_of(Engine::SqlServer, {5, u"d", u"s"});

@@ -8,9 +8,12 @@
 #include "base/failure.h"
 #include "base/utf8.h"
 #include "services/base32.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using services::BuiltinTextProtection;
 
@@ -85,29 +88,40 @@ TEST_F(BuiltinTextProtectionTest, DependsOnTheWholeKey) {
   for (const Text& key : kKeys) EXPECT_EQ(refused(key, text), key != u"a") << to_utf8(key);
 }
 
-TEST_F(BuiltinTextProtectionTest, GivesEveryKindOfTextBack) {
+struct Kept {
+  const char* name;
+  Text text;
+};
+
+Text every_unit() {
   Text large;
   for (int i = 0; i < 65536; ++i) large.push_back(static_cast<char16_t>(i * 31));
-  const Text kTexts[] = {
-      u"",
-      u"a",
-      u"SQLOLEDB",
-      u"\u00d1and\u00fa \u20ac \U0001f600",
-      Text(5, u'\0'),
-      u"comma, \"quote\" and blank ",
-      u"line\r\nbreak",
-      Text(1, 0xD800),
-      Text(31, u'x'),
-      Text(32, u'x'),
-      Text(33, u'x'),
-      u"\u0080",
-      large,
-  };
-  for (const Text& text : kTexts) {
-    SCOPED_TRACE(text.size());
-    EXPECT_EQ(protection.Descifrar(u"key", protection.Cifrar(u"key", text)), text);
-  }
+  return large;
 }
+
+const Kept kTexts[] = {
+    {"empty", u""},
+    {"letter", u"a"},
+    {"word", u"SQLOLEDB"},
+    {"characters of two, three and four bytes", u"\u00d1and\u00fa \u20ac \U0001f600"},
+    {"zero units", Text(5, u'\0')},
+    {"signs of a line of values", u"comma, \"quote\" and blank "},
+    {"line break", u"line\r\nbreak"},
+    {"lone surrogate", Text(1, 0xD800)},
+    {"a byte less than a step", Text(31, u'x')},
+    {"a whole step", Text(32, u'x')},
+    {"a byte more than a step", Text(33, u'x')},
+    {"the byte that marks the end", u"\u0080"},
+    {"every unit", every_unit()},
+};
+
+using ProtectedText = Rows<BuiltinTextProtectionTest, Kept>;
+
+TEST_P(ProtectedText, ComesBack) {
+  EXPECT_EQ(protection.Descifrar(u"key", protection.Cifrar(u"key", GetParam().text)), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ProtectedText, testing::ValuesIn(kTexts), row_name);
 
 TEST_F(BuiltinTextProtectionTest, GivesRandomTextsBackAndTellsThemApart) {
   std::mt19937 random(303);
@@ -179,21 +193,20 @@ TEST_F(BuiltinTextProtectionTest, RefusesOtherFormsOfATextItWrote) {
   const Text written = protection.Cifrar(u"key", u"secret");
   Text upper = written;
   for (char16_t& unit : upper) unit = fold(unit);
-  const Text kForms[] = {upper,
-                         u"",
-                         u"1",
-                         written.substr(1),
-                         u"2" + written.substr(1),
-                         u" " + written,
-                         written + u" ",
-                         written + u"a",
-                         written.substr(0, written.size() - 1),
-                         u"secret",
-                         written + written};
-  for (const Text& form : kForms) {
-    SCOPED_TRACE(to_utf8(form));
-    EXPECT_TRUE(refused(u"key", form));
-  }
+  const Kept kForms[] = {
+      {"capitals", upper},
+      {"nothing", u""},
+      {"scheme alone", u"1"},
+      {"without its scheme", written.substr(1)},
+      {"another scheme", u"2" + written.substr(1)},
+      {"blank before", u" " + written},
+      {"blank behind", written + u" "},
+      {"letter behind", written + u"a"},
+      {"last letter missing", written.substr(0, written.size() - 1)},
+      {"the text itself", u"secret"},
+      {"twice", written + written},
+  };
+  for (const Kept& form : kForms) EXPECT_TRUE(refused(u"key", form.text)) << form.name;
 }
 
 TEST_F(BuiltinTextProtectionTest, DerivesOncePerKeyInARow) {

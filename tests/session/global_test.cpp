@@ -6,11 +6,14 @@
 
 #include "connection/qvrcfp.h"
 #include "session/thread_state.h"
+#include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 TEST(InicializarComun, LoadsOncePerThread) {
   TestThread thread;
@@ -56,8 +59,8 @@ constexpr Row kRows[] = {
     {"none, French system before there is a list", nullptr, 0x040C, 0, 0},
     {"none, German system before there is a list", nullptr, 0x0407, 0, 0},
     {"none, Japanese system", nullptr, 0x0411, 1, 1},
-    {"3", u"3", 0x0409, 3, 3},
-    {"0", u"0", 0x0409, 0, 0},
+    {"French", u"3", 0x0409, 3, 3},
+    {"Spanish", u"0", 0x0409, 0, 0},
     {"letters", u"abc", 0x0409, 0, 0},
     {"empty", u"", 0x0409, 0, 0},
     {"leading number", u"3 French", 0x0409, 3, 3},
@@ -73,18 +76,19 @@ constexpr Row kRows[] = {
     {"beyond any number", u"1E+400", 0x0409, 0, 0},
 };
 
-TEST(IdiomaOmision, ReadsTheSetting) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    TestThread thread;
-    thread.user_language.identifier = row.system;
-    if (row.setting != nullptr) thread.settings.set_default_language(row.setting);
-    EXPECT_EQ(IdiomaOmision(), row.omision);
-    InicializarComun();
-    EXPECT_TRUE(thread_state().idioma.Creado());
-    EXPECT_EQ(thread_state().idioma.Idioma(), row.loaded);
-  }
+using IdiomaOmisionOf = Rows<testing::Test, Row>;
+
+TEST_P(IdiomaOmisionOf, TheSettingIsLoaded) {
+  TestThread thread;
+  thread.user_language.identifier = GetParam().system;
+  if (GetParam().setting != nullptr) thread.settings.set_default_language(GetParam().setting);
+  EXPECT_EQ(IdiomaOmision(), GetParam().omision);
+  InicializarComun();
+  EXPECT_TRUE(thread_state().idioma.Creado());
+  EXPECT_EQ(thread_state().idioma.Idioma(), GetParam().loaded);
 }
+
+INSTANTIATE_TEST_SUITE_P(, IdiomaOmisionOf, testing::ValuesIn(kRows), row_name);
 
 TEST(IdiomaOmision, IsReadOncePerThread) {
   TestThread thread;
@@ -143,25 +147,36 @@ TEST(ExisteArchivo, IsFalseWhenTheSearchFails) {
   EXPECT_EQ(thread.files.searches, 1);
 }
 
-TEST(ExisteArchivo, FindsFilesByNameAndPattern) {
+struct Sought {
+  const char* name;
+  TextView pattern;
+  bool exists;
+};
+
+constexpr Sought kSought[] = {
+    {"its name", u"alta 1.cfc", true},
+    {"another name", u"alta 2.cfc", false},
+    {"any name", u"*.cfc", true},
+    {"any sign", u"alta ?.cfc", true},
+    {"any sign for two", u"alta?.cfc", false},
+    {"another extension", u"*.txt", false},
+    {"a name with brackets", u"a\u00f1o[1].cfc", true},
+    {"another folder", u"nowhere\\alta 1.cfc", false},
+    {"brackets are no list", u"alta [1].cfc", false},
+    {"brackets are part of a name", u"a\u00f1o1.cfc", false},
+};
+
+using ExisteArchivoOf = Rows<testing::Test, Sought>;
+
+TEST_P(ExisteArchivoOf, FindsFilesByNameAndPattern) {
   TestThread thread;
   const TemporaryFolder folder;
   folder.write(u"alta 1.cfc", "x");
   folder.write(u"a\u00f1o[1].cfc", "x");
-  struct File {
-    TextView name;
-    bool exists;
-  };
-  constexpr File kFiles[] = {
-      {u"alta 1.cfc", true},    {u"alta 2.cfc", false},    {u"*.cfc", true},           {u"alta ?.cfc", true},
-      {u"alta?.cfc", false},    {u"*.txt", false},         {u"a\u00f1o[1].cfc", true}, {u"nowhere\\alta 1.cfc", false},
-      {u"alta [1].cfc", false}, {u"a\u00f1o1.cfc", false},
-  };
-  for (const File& row : kFiles) {
-    SCOPED_TRACE(::testing::PrintToString(Text(row.name)));
-    EXPECT_EQ(ExisteArchivo(folder.file_text(row.name), 0), row.exists);
-  }
+  EXPECT_EQ(ExisteArchivo(folder.file_text(GetParam().pattern), 0), GetParam().exists);
 }
+
+INSTANTIATE_TEST_SUITE_P(, ExisteArchivoOf, testing::ValuesIn(kSought), row_name);
 
 TEST(ExisteArchivo, FindsFoldersOnlyWhenTheMaskAsksForThem) {
   TestThread thread;

@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "support/describe.h"
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class IdiomaSimpleTest : public ::testing::Test {
  protected:
@@ -55,27 +58,44 @@ TEST_F(IdiomaSimpleTest, TellsWhatItLoaded) {
 }
 
 // Languages -1 to 9 and far ones: what they fall back to, when loaded with and when written later.
-TEST_F(IdiomaSimpleTest, FallsBackToALanguageThatItCarries) {
-  struct Row {
-    std::int32_t wanted, current;
-    TextView y;
-  };
-  constexpr Row kRows[] = {{-1, 1, u"and"}, {0, 0, u"y"},           {1, 1, u"and"},        {2, 2, u"y"}, {3, 3, u"et"},
-                           {4, 0, u"y"},    {5, 0, u"y"},           {6, 0, u"y"},          {7, 0, u"y"}, {8, 1, u"and"},
-                           {9, 1, u"and"},  {INT32_MIN, 1, u"and"}, {INT32_MAX, 1, u"and"}};
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.wanted);
-    EXPECT_TRUE(load(row.wanted));
-    EXPECT_EQ(idioma.Idioma(), row.current);
-    EXPECT_EQ(idioma.CI(MsgY), Text(row.y));
-    for (std::int32_t before = 0; before < 4; ++before) {
-      load(before);
-      idioma.Idioma(row.wanted);
-      EXPECT_EQ(idioma.Idioma(), row.current) << "from " << before;
-      EXPECT_EQ(idioma.CI(MsgY), Text(row.y)) << "from " << before;
-    }
+struct Wanted {
+  const char* name;
+  std::int32_t wanted, current;
+  TextView y;
+};
+
+constexpr Wanted kWanted[] = {
+    {"below zero", -1, 1, u"and"},
+    {"Spanish", 0, 0, u"y"},
+    {"English", 1, 1, u"and"},
+    {"Italian", 2, 2, u"y"},
+    {"French", 3, 3, u"et"},
+    {"Catalan", 4, 0, u"y"},
+    {"fifth", 5, 0, u"y"},
+    {"sixth", 6, 0, u"y"},
+    {"seventh", 7, 0, u"y"},
+    {"German", 8, 1, u"and"},
+    {"ninth", 9, 1, u"and"},
+    {"least", INT32_MIN, 1, u"and"},
+    {"greatest", INT32_MAX, 1, u"and"},
+};
+
+using IdiomaWanted = Rows<IdiomaSimpleTest, Wanted>;
+
+TEST_P(IdiomaWanted, FallsBackToALanguageThatItCarries) {
+  const Wanted& row = GetParam();
+  EXPECT_TRUE(load(row.wanted));
+  EXPECT_EQ(idioma.Idioma(), row.current);
+  EXPECT_EQ(idioma.CI(MsgY), Text(row.y));
+  for (std::int32_t before = 0; before < 4; ++before) {
+    load(before);
+    idioma.Idioma(row.wanted);
+    EXPECT_EQ(idioma.Idioma(), row.current) << "from " << before;
+    EXPECT_EQ(idioma.CI(MsgY), Text(row.y)) << "from " << before;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, IdiomaWanted, testing::ValuesIn(kWanted), row_name);
 
 TEST_F(IdiomaSimpleTest, ItalianReadsSpanish) {
   ASSERT_TRUE(load(3));

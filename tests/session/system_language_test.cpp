@@ -3,10 +3,13 @@
 #include <vector>
 
 #include "session/idioma_simple.h"
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 // Identifiers of one language, and what they give before and after the catalogue with its four languages is loaded.
 struct Row {
@@ -48,26 +51,24 @@ class SystemLanguageTest : public ::testing::Test {
   IdiomaSimple idioma{thread.user_language};
 };
 
-TEST_F(SystemLanguageTest, BeforeLoadingListsThatNeedTheCatalogueGiveSpanish) {
-  for (const Row& row : kRows) {
-    for (std::uint16_t identifier : row.identifiers) {
-      SCOPED_TRACE(::testing::Message() << row.name << " " << std::hex << identifier);
-      thread.user_language.identifier = identifier;
-      EXPECT_EQ(idioma.IdiomaDesdeSOP(), row.before);
-    }
+using SystemLanguageOf = Rows<SystemLanguageTest, Row>;
+
+TEST_P(SystemLanguageOf, IsSpanishBeforeLoadingWhereTheCatalogueIsNeeded) {
+  for (std::uint16_t identifier : GetParam().identifiers) {
+    thread.user_language.identifier = identifier;
+    EXPECT_EQ(idioma.IdiomaDesdeSOP(), GetParam().before) << std::hex << identifier;
   }
 }
 
-TEST_F(SystemLanguageTest, AfterLoadingTheyGiveTheNearestLanguage) {
+TEST_P(SystemLanguageOf, IsTheNearestOneAfterLoading) {
   ASSERT_TRUE(load());
-  for (const Row& row : kRows) {
-    for (std::uint16_t identifier : row.identifiers) {
-      SCOPED_TRACE(::testing::Message() << row.name << " " << std::hex << identifier);
-      thread.user_language.identifier = identifier;
-      EXPECT_EQ(idioma.IdiomaDesdeSOP(), row.after);
-    }
+  for (std::uint16_t identifier : GetParam().identifiers) {
+    thread.user_language.identifier = identifier;
+    EXPECT_EQ(idioma.IdiomaDesdeSOP(), GetParam().after) << std::hex << identifier;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, SystemLanguageOf, testing::ValuesIn(kRows), row_name);
 
 TEST_F(SystemLanguageTest, EveryOtherIdentifierIsEnglish) {
   std::vector<bool> listed(0x10000);

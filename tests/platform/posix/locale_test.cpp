@@ -3,9 +3,12 @@
 
 #include "platform/platform.h"
 #include "platform/posix/environment_variable.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 constexpr std::nullopt_t kNone = std::nullopt;
 
@@ -25,20 +28,22 @@ constexpr Row kRows[] = {
     {"xx_YY", u"03/05/2024", u"1234.5", 0x0409},
 };
 
-TEST(NativeLocale, FollowsTheName) {
+using NativeLocaleNamed = Rows<testing::Test, Row>;
+
+TEST_P(NativeLocaleNamed, FollowsTheName) {
   Locale& locale = system_platform().locale;
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    const EnvironmentVariable name("LC_ALL", row.name);
-    EXPECT_EQ(locale.date_text(Date{45356}), Text(row.date));
-    const auto date = locale.parse_date(row.date);
-    ASSERT_TRUE(date);
-    EXPECT_EQ(date->days, 45356);
-    EXPECT_EQ(locale.parse_number(row.number), 1234.5);
-    EXPECT_EQ(locale.decimal_separator(), row.number[4]);
-    EXPECT_EQ(system_platform().user_language.default_identifier(), row.language);
-  }
+  const Row& row = GetParam();
+  const EnvironmentVariable name("LC_ALL", row.name);
+  EXPECT_EQ(locale.date_text(Date{45356}), Text(row.date));
+  const auto date = locale.parse_date(row.date);
+  ASSERT_TRUE(date);
+  EXPECT_EQ(date->days, 45356);
+  EXPECT_EQ(locale.parse_number(row.number), 1234.5);
+  EXPECT_EQ(locale.decimal_separator(), row.number[4]);
+  EXPECT_EQ(system_platform().user_language.default_identifier(), row.language);
 }
+
+INSTANTIATE_TEST_SUITE_P(, NativeLocaleNamed, testing::ValuesIn(kRows), row_name);
 
 TEST(NativeLocale, TakesTheFirstVariableThatHasAName) {
   const EnvironmentVariable all("LC_ALL", ""), time("LC_TIME", "de_DE.UTF-8"), lang("LANG", "en_US.UTF-8");
@@ -51,49 +56,54 @@ TEST(NativeLocale, IsPlainWithoutAName) {
   EXPECT_EQ(system_platform().user_language.default_identifier(), 0x0409);
 }
 
-TEST(NativeLocale, ReadsOtherFormsOfADate) {
+struct Form {
+  const char* name;
+  TextView text;
+  double days;
+};
+
+constexpr Form kForms[] = {
+    {"year in front", u"2024-03-05", 45356},
+    {"hyphens", u"5-3-2024", 45356},
+    {"points and two digits of the year", u"5.3.24", 45356},
+    {"blanks around", u" 05/03/2024 ", 45356},
+    {"last year of this century", u"5/3/29", 47182},
+    {"first year of the last century", u"5/3/30", 11022},
+    {"hour and minute", u"05/03/2024 06:00", 45356.25},
+    {"hour, minute and second", u"05/03/2024 18:00:00", 45356.75},
+    {"time alone", u"6:00", 0.25},
+};
+
+using NativeLocaleForm = Rows<testing::Test, Form>;
+
+TEST_P(NativeLocaleForm, OfADateIsRead) {
   const EnvironmentVariable name("LC_ALL", "es_ES");
-  struct Form {
-    TextView text;
-    double days;
-  };
-  constexpr Form kForms[] = {
-      {u"2024-03-05", 45356},
-      {u"5-3-2024", 45356},
-      {u"5.3.24", 45356},
-      {u" 05/03/2024 ", 45356},
-      {u"5/3/29", 47182},
-      {u"5/3/30", 11022},
-      {u"05/03/2024 06:00", 45356.25},
-      {u"05/03/2024 18:00:00", 45356.75},
-      {u"6:00", 0.25},
-  };
-  for (const Form& form : kForms) {
-    SCOPED_TRACE(::testing::PrintToString(Text(form.text)));
-    const auto date = system_platform().locale.parse_date(form.text);
-    ASSERT_TRUE(date);
-    EXPECT_EQ(date->days, form.days);
-  }
+  const auto date = system_platform().locale.parse_date(GetParam().text);
+  ASSERT_TRUE(date);
+  EXPECT_EQ(date->days, GetParam().days);
 }
 
+INSTANTIATE_TEST_SUITE_P(, NativeLocaleForm, testing::ValuesIn(kForms), row_name);
+
 // A time is written alone on day zero only, also when it is only the rounding that leaves that day or midnight.
-TEST(NativeLocale, WritesATimeAloneOnDayZeroOnly) {
+constexpr Form kAroundDayZero[] = {
+    {"midnight", u"30/12/1899", 0},
+    {"rounded to midnight", u"30/12/1899", 1e-9},
+    {"morning", u"06:00:00", 0.25},
+    {"morning, counted back", u"06:00:00", -0.25},
+    {"rounded to the next day", u"31/12/1899", 0.999999},
+    {"next day", u"31/12/1899 06:00:00", 1.25},
+    {"day before", u"29/12/1899 06:00:00", -1.25},
+};
+
+using NativeLocaleTime = Rows<testing::Test, Form>;
+
+TEST_P(NativeLocaleTime, IsWrittenAloneOnDayZeroOnly) {
   const EnvironmentVariable name("LC_ALL", "es_ES");
-  struct Form {
-    double days;
-    TextView text;
-  };
-  constexpr Form kForms[] = {
-      {0, u"30/12/1899"},
-      {1e-9, u"30/12/1899"},
-      {0.25, u"06:00:00"},
-      {-0.25, u"06:00:00"},
-      {0.999999, u"31/12/1899"},
-      {1.25, u"31/12/1899 06:00:00"},
-      {-1.25, u"29/12/1899 06:00:00"},
-  };
-  for (const Form& form : kForms) EXPECT_EQ(system_platform().locale.date_text(Date{form.days}), form.text);
+  EXPECT_EQ(system_platform().locale.date_text(Date{GetParam().days}), GetParam().text);
 }
+
+INSTANTIATE_TEST_SUITE_P(, NativeLocaleTime, testing::ValuesIn(kAroundDayZero), row_name);
 
 TEST(NativeLocale, SkipsItsThousandsSeparator) {
   const EnvironmentVariable name("LC_ALL", "es_ES");
