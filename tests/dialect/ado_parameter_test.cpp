@@ -1,11 +1,13 @@
 #include "dialect/ado_parameter.h"
 
 #include "dialect/dialect_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
 using dialect::ParameterRequest;
+using tests::PrintTo;
 
 class AdoParameterTest : public DialectTest {
  protected:
@@ -33,37 +35,52 @@ Lines parameter_log(const Lines& type, const Lines& name_and_value = {"Parameter
 
 ParameterRequest request_for(TextView type, std::int32_t width = 0) { return {type, u"@p", Missing{}, width}; }
 
-TEST_F(AdoParameterTest, HasTheTypeThatFitsTheEngine) {
-  struct Row {
-    TextView type;
-    Lines sql_server, oracle;
-  };
-  const Row kRows[] = {
-      {u"INT",
-       {"Parameter.Type: 3", "Parameter.Precision: 10"},
-       {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
-      {u"BIT", {"Parameter.Type: 11"}, {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
-      {u"REAL", {"Parameter.Type: 4"}, {"Parameter.Type: 5", "Parameter.Precision: 15"}},
-      {u"NVARCHAR", {"Parameter.Type: 202", "Parameter.Size: 50"}, {"Parameter.Type: 200", "Parameter.Size: 100"}},
-      {u"nvarchar", {"Parameter.Type: 202", "Parameter.Size: 50"}, {"Parameter.Type: 200", "Parameter.Size: 100"}},
-      {u"DATETIME", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
-      {u"DateTime", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
-      {u"int",
-       {"Parameter.Type: 3", "Parameter.Precision: 10"},
-       {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.type));
-    EXPECT_TRUE(append(Engine::SqlServer, request_for(row.type, 50)));
-    EXPECT_EQ(thread.log.take(), parameter_log(row.sql_server));
-    EXPECT_TRUE(append(Engine::Oracle, request_for(row.type, 50)));
-    EXPECT_EQ(thread.log.take(), parameter_log(row.oracle));
-    for (const Engine engine : {Engine::Jet, kNoEngine, Engine{99}}) {
-      EXPECT_TRUE(append(engine, request_for(row.type, 50)));
-      EXPECT_EQ(thread.log.take(), parameter_log({}));
-    }
+struct AdoParameterTypeRow {
+  const char* name;
+  TextView type;
+  Lines sql_server, oracle;
+};
+const AdoParameterTypeRow kAdoParameterTypeRows[] = {
+    {"INT",
+     u"INT",
+     {"Parameter.Type: 3", "Parameter.Precision: 10"},
+     {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
+    {"BIT",
+     u"BIT",
+     {"Parameter.Type: 11"},
+     {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
+    {"REAL", u"REAL", {"Parameter.Type: 4"}, {"Parameter.Type: 5", "Parameter.Precision: 15"}},
+    {"NVARCHAR",
+     u"NVARCHAR",
+     {"Parameter.Type: 202", "Parameter.Size: 50"},
+     {"Parameter.Type: 200", "Parameter.Size: 100"}},
+    {"NVARCHAR in lower case",
+     u"nvarchar",
+     {"Parameter.Type: 202", "Parameter.Size: 50"},
+     {"Parameter.Type: 200", "Parameter.Size: 100"}},
+    {"DATETIME", u"DATETIME", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
+    {"DATETIME in mixed case", u"DateTime", {"Parameter.Type: 135"}, {"Parameter.Type: 135"}},
+    {"INT in lower case",
+     u"int",
+     {"Parameter.Type: 3", "Parameter.Precision: 10"},
+     {"Parameter.Type: 131", "Parameter.Precision: 15", "Parameter.NumericScale: 0"}},
+};
+
+using AdoParameterType = Rows<AdoParameterTest, AdoParameterTypeRow>;
+
+TEST_P(AdoParameterType, FitsTheEngine) {
+  const AdoParameterTypeRow& row = GetParam();
+  EXPECT_TRUE(append(Engine::SqlServer, request_for(row.type, 50)));
+  EXPECT_EQ(thread.log.take(), parameter_log(row.sql_server));
+  EXPECT_TRUE(append(Engine::Oracle, request_for(row.type, 50)));
+  EXPECT_EQ(thread.log.take(), parameter_log(row.oracle));
+  for (const Engine engine : {Engine::Jet, kNoEngine, Engine{99}}) {
+    EXPECT_TRUE(append(engine, request_for(row.type, 50)));
+    EXPECT_EQ(thread.log.take(), parameter_log({}));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, AdoParameterType, ::testing::ValuesIn(kAdoParameterTypeRows), row_name);
 
 TEST_F(AdoParameterTest, HasTheWidthThatTheEngineCounts) {
   struct Row {

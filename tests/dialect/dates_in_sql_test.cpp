@@ -3,10 +3,12 @@
 
 #include "dialect/dialect_fixture.h"
 #include "dialect/literals.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 constexpr double kSecond = 1.0 / 86400;
 constexpr double kFifthOfJanuary = 40548;                      // 5 January 2011
 constexpr double kClock = (14 * 3600 + 7 * 60 + 9) * kSecond;  // 14:07:09
@@ -87,83 +89,100 @@ TEST_F(DatesInSqlTest, AreWrittenInFullAsTheContractHasThem) {
               [&](Engine engine) { return dialect::FechaHoraSQL(engine, moment); });
 }
 
-TEST_F(DatesInSqlTest, WriteEveryDateInEveryForm) {
-  for (const DateRow& row : kDates) {
-    SCOPED_TRACE(row.name);
-    const Value date = Date{row.days};
-    expect_each(date_literal(row), [&](Engine engine) { return dialect::FechaSQL(engine, date); });
-    expect_each(time_literal(row), [&](Engine engine) { return dialect::HoraSQL(engine, date); });
-    expect_each(date_time_literal(row), [&](Engine engine) { return dialect::FechaHoraSQL(engine, date); });
-    expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::FechaSQLv(engine, date); });
-    expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::ExpSQL(engine, date); });
-  }
+class EveryDateInSql : public Rows<DialectTest, DateRow> {
+ protected:
+  const Value date_ = Date{GetParam().days};
+};
+
+TEST_P(EveryDateInSql, IsWrittenInEveryForm) {
+  const DateRow& row = GetParam();
+  expect_each(date_literal(row), [&](Engine engine) { return dialect::FechaSQL(engine, date_); });
+  expect_each(time_literal(row), [&](Engine engine) { return dialect::HoraSQL(engine, date_); });
+  expect_each(date_time_literal(row), [&](Engine engine) { return dialect::FechaHoraSQL(engine, date_); });
+  expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::FechaSQLv(engine, date_); });
+  expect_each(narrowest_literal(row), [&](Engine engine) { return dialect::ExpSQL(engine, date_); });
 }
+
+TEST_P(EveryDateInSql, DoesNotFollowTheLocale) {
+  thread.locale.date_separator = u'.';
+  thread.locale.decimal = u',';
+  thread.locale.day_first = false;
+  expect_each(date_time_literal(GetParam()), [&](Engine engine) { return dialect::FechaHoraSQL(engine, date_); });
+}
+
+INSTANTIATE_TEST_SUITE_P(, EveryDateInSql, ::testing::ValuesIn(kDates), row_name);
 
 // No engine is asked about what is no date, so that it is Null also where the engine is unknown.
-TEST_F(DatesInSqlTest, AreNullForWhatIsNoDate) {
-  struct Row {
-    const char* name;
-    Value value;
-  };
-  const Row kRows[] = {
-      {"text", u"x"},
-      {"empty text", u""},
-      {"text ma\u00f1ana", u"ma\u00f1ana"},
-      {"31 February", u"31/02/2011"},
-      {"number", 40548},
-      {"Double", 40548.5},
-      {"true", true},
-      {"Empty", Empty{}},
-      {"Null", Null{}},
-      {"missing", Missing{}},
-      {"error", ErrorValue{448}},
-      {"object", object()},
-      {"Nothing", ObjectRef()},
-      {"array with a date", list({Date{kFifthOfJanuary}})},
-      {"array of two dimensions", square({Date{1}, Date{2}})},
-      {"array without bounds", shapeless()},
-      {"year 99", Date{kFirstDay - 1}},
-      {"year 10000", Date{kLastDay + 1}},
-      {"rounded up to the year 10000", Date{kLastDay + kNearlyMidnight}},
-      {"far away", Date{1e300}},
-      {"infinite", Date{std::numeric_limits<double>::infinity()}},
-      {"no number", Date{std::numeric_limits<double>::quiet_NaN()}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    for (const Member member : kMembers) {
-      expect_each(all_engines(u"Null"), [&](Engine engine) { return member(engine, row.value); });
-    }
-    if (!row.value.is<Date>()) continue;
-    expect_each(all_engines(u"Null"), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
+struct NoDateInSqlRow {
+  const char* name;
+  Value value;
+};
+const NoDateInSqlRow kNoDateInSqlRows[] = {
+    {"text", u"x"},
+    {"empty text", u""},
+    {"text ma\u00f1ana", u"ma\u00f1ana"},
+    {"31 February", u"31/02/2011"},
+    {"number", 40548},
+    {"Double", 40548.5},
+    {"true", true},
+    {"Empty", Empty{}},
+    {"Null", Null{}},
+    {"missing", Missing{}},
+    {"error", ErrorValue{448}},
+    {"object", object()},
+    {"Nothing", ObjectRef()},
+    {"array with a date", list({Date{kFifthOfJanuary}})},
+    {"array of two dimensions", square({Date{1}, Date{2}})},
+    {"array without bounds", shapeless()},
+    {"year 99", Date{kFirstDay - 1}},
+    {"year 10000", Date{kLastDay + 1}},
+    {"rounded up to the year 10000", Date{kLastDay + kNearlyMidnight}},
+    {"far away", Date{1e300}},
+    {"infinite", Date{std::numeric_limits<double>::infinity()}},
+    {"no number", Date{std::numeric_limits<double>::quiet_NaN()}},
+};
+
+using NoDateInSql = Rows<DatesInSqlTest, NoDateInSqlRow>;
+
+TEST_P(NoDateInSql, IsNull) {
+  const NoDateInSqlRow& row = GetParam();
+  for (const Member member : kMembers) {
+    expect_each(all_engines(u"Null"), [&](Engine engine) { return member(engine, row.value); });
   }
+  if (!row.value.is<Date>()) return;
+  expect_each(all_engines(u"Null"), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
 }
 
-TEST_F(DatesInSqlTest, TextsAreReadAsTheLocaleReadsThemAndWrittenAlike) {
-  struct Row {
-    const char* name;
-    bool day_first;
-    char16_t separator;
-    Value text;
-    Text date;  // for Jet
-  };
-  const Row kRows[] = {
-      {"day first", true, u'/', u"05/01/2011", u"#2011-01-05#"},
-      {"month first", false, u'/', u"05/01/2011", u"#2011-05-01#"},
-      {"points", true, u'.', u"31.12.2010", u"#2010-12-31#"},
-      {"dashes, month first", false, u'-', u"12-31-2010", u"#2010-12-31#"},
-      {"month first, but no such month", false, u'/', u"31/12/2010", u"Null"},
-      {"with a time", true, u'/', u"05/01/2011 14:07:09", u"#2011-01-05#"},
-      {"year 100", true, u'/', u"01/01/100", u"#0100-01-01#"},
-      {"year 99", true, u'/', u"31/12/99", u"Null"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    thread.locale.day_first = row.day_first;
-    thread.locale.date_separator = row.separator;
-    expect_outcome(row.date, [&] { return dialect::FechaSQL(Engine::Jet, row.text); });
-  }
+INSTANTIATE_TEST_SUITE_P(, NoDateInSql, ::testing::ValuesIn(kNoDateInSqlRows), row_name);
+
+struct DateTextInSqlRow {
+  const char* name;
+  bool day_first;
+  char16_t separator;
+  Value text;
+  Text date;  // for Jet
+};
+const DateTextInSqlRow kDateTextInSqlRows[] = {
+    {"day first", true, u'/', u"05/01/2011", u"#2011-01-05#"},
+    {"month first", false, u'/', u"05/01/2011", u"#2011-05-01#"},
+    {"points", true, u'.', u"31.12.2010", u"#2010-12-31#"},
+    {"dashes, month first", false, u'-', u"12-31-2010", u"#2010-12-31#"},
+    {"month first, but no such month", false, u'/', u"31/12/2010", u"Null"},
+    {"with a time", true, u'/', u"05/01/2011 14:07:09", u"#2011-01-05#"},
+    {"year 100", true, u'/', u"01/01/100", u"#0100-01-01#"},
+    {"year 99", true, u'/', u"31/12/99", u"Null"},
+};
+
+using DateTextInSql = Rows<DialectTest, DateTextInSqlRow>;
+
+TEST_P(DateTextInSql, IsReadAsTheLocaleReadsIt) {
+  const DateTextInSqlRow& row = GetParam();
+  thread.locale.day_first = row.day_first;
+  thread.locale.date_separator = row.separator;
+  expect_outcome(row.date, [&] { return dialect::FechaSQL(Engine::Jet, row.text); });
 }
+
+INSTANTIATE_TEST_SUITE_P(, DateTextInSql, ::testing::ValuesIn(kDateTextInSqlRows), row_name);
 
 TEST_F(DatesInSqlTest, TextsGiveTheirTimeToo) {
   const Value moment = u"05/01/2011 14:07:09", day = u"05/01/2011";
@@ -172,17 +191,6 @@ TEST_F(DatesInSqlTest, TextsGiveTheirTimeToo) {
   expect_outcome(u"{ ts '2011-01-05 14:07:09'}", [&] { return dialect::FechaSQLv(Engine::SqlServer, moment); });
   expect_outcome(u"{ d '2011-01-05'}", [&] { return dialect::FechaSQLv(Engine::SqlServer, day); });
   expect_outcome(undefined(), [&] { return dialect::FechaSQLv(kNoEngine, day); });
-}
-
-TEST_F(DatesInSqlTest, DoNotFollowTheLocale) {
-  thread.locale.date_separator = u'.';
-  thread.locale.decimal = u',';
-  thread.locale.day_first = false;
-  for (const DateRow& row : kDates) {
-    SCOPED_TRACE(row.name);
-    expect_each(date_time_literal(row),
-                [&](Engine engine) { return dialect::FechaHoraSQL(engine, Date{row.days}); });
-  }
 }
 
 TEST_F(DatesInSqlTest, FechaHoraSQLKnowsTheWordsForNow) {

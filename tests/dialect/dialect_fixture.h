@@ -19,6 +19,12 @@ using Engine::SqlServer;
 
 inline constexpr Engine kNoEngine = Engine::None;
 
+// The name generator of a suite that runs with each of the three.
+inline constexpr auto engine_name = [](const auto& info) {
+  constexpr const char* kNames[] = {"Jet", "SqlServer", "Oracle"};
+  return std::string(kNames[number_of(info.param) - 1]);
+};
+
 // What a call gives, and the message boxes with an OK button that it shows.
 struct Outcome {
   Outcome(const char16_t* given) : text(given) {}

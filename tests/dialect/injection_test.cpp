@@ -5,10 +5,12 @@
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
 #include "dialect/statements.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using enum TokenKind;
 
 constexpr int kRounds = 2000;
@@ -119,39 +121,44 @@ TEST_P(InjectionTest, PatronLikeMotorIsOneLiteralAndPerhapsItsEscape) {
   EXPECT_GT(escaped, 100);
 }
 
-constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
-INSTANTIATE_TEST_SUITE_P(Engines, InjectionTest, ::testing::ValuesIn(kEngines),
-                         [](const auto& engine) { return std::string(kEngineNames[number_of(engine.param) - 1]); });
+INSTANTIATE_TEST_SUITE_P(, InjectionTest, ::testing::ValuesIn(kEngines), engine_name);
 
-TEST(SqlTokens, SeeWhereALiteralEndsTooEarly) {
-  struct Row {
-    Engine engine;
-    TextView sql;
-    Tokens tokens;
-  };
-  const Row kRows[] = {
-      {Engine::Jet, u"'O'Neil'", {{String, u"O"}, {Word, u"Neil"}, {Bad, u"'"}}},
-      {Engine::Jet, u"'a''b' , 1", {{String, u"a'b"}, {Punctuation, u","}, {Number, u"1"}}},
-      {Engine::Oracle, u"'a", {{Bad, u"'a"}}},
-      {Engine::Oracle, u"1 -- x", {{Number, u"1"}, {Bad, u"-- x"}}},
-      {Engine::SqlServer, u"a /*", {{Word, u"a"}, {Bad, u"/*"}}},
-      {Engine::SqlServer, u"a;b", {{Word, u"a"}, {Bad, u";b"}}},
-      {Engine::SqlServer, u"N'a'", {{Unicode, u"a"}}},
-      {Engine::Oracle, u"N'a'", {{Word, u"N"}, {String, u"a"}}},
-      {Engine::Jet, u"#2011-01-05#", {{Date, u"2011-01-05"}}},
-      {Engine::Jet, u"#2011' --#", {{Bad, u"#2011' --#"}}},
-      {Engine::Oracle, u"#2011-01-05#", {{Bad, u"#2011-01-05#"}}},
-      {Engine::SqlServer, u"{ ts '2011-01-05 14:07:09'}", {{Date, u"ts 2011-01-05 14:07:09"}}},
-      {Engine::SqlServer, u"{ x '1'}", {{Bad, u"'1'}"}}},
-      {Engine::Oracle, u" TO_DATE('14:07:09','HH24:MI:SS') ", {{Date, u"14:07:09|HH24:MI:SS"}}},
-      {Engine::Oracle, u"TO_DATE('1')", {{Bad, u")"}}},
-      {Engine::Jet, u"-2.5E-07,12a", {{Number, u"-2.5E-07"}, {Punctuation, u","}, {Bad, u"a"}}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.sql));
-    EXPECT_EQ(tokens_of(row.engine, row.sql), row.tokens);
-  }
+struct SqlTokensRow {
+  const char* name;
+  Engine engine;
+  TextView sql;
+  Tokens tokens;
+};
+const SqlTokensRow kSqlTokensRows[] = {
+    {"too early", Engine::Jet, u"'O'Neil'", {{String, u"O"}, {Word, u"Neil"}, {Bad, u"'"}}},
+    {"doubled quote", Engine::Jet, u"'a''b' , 1", {{String, u"a'b"}, {Punctuation, u","}, {Number, u"1"}}},
+    {"never", Engine::Oracle, u"'a", {{Bad, u"'a"}}},
+    {"comment to the end of the line", Engine::Oracle, u"1 -- x", {{Number, u"1"}, {Bad, u"-- x"}}},
+    {"comment", Engine::SqlServer, u"a /*", {{Word, u"a"}, {Bad, u"/*"}}},
+    {"another statement", Engine::SqlServer, u"a;b", {{Word, u"a"}, {Bad, u";b"}}},
+    {"national text", Engine::SqlServer, u"N'a'", {{Unicode, u"a"}}},
+    {"no national text for Oracle", Engine::Oracle, u"N'a'", {{Word, u"N"}, {String, u"a"}}},
+    {"date of Jet", Engine::Jet, u"#2011-01-05#", {{Date, u"2011-01-05"}}},
+    {"date without end", Engine::Jet, u"#2011' --#", {{Bad, u"#2011' --#"}}},
+    {"no date of Jet for Oracle", Engine::Oracle, u"#2011-01-05#", {{Bad, u"#2011-01-05#"}}},
+    {"date and time of SQL Server",
+     Engine::SqlServer,
+     u"{ ts '2011-01-05 14:07:09'}",
+     {{Date, u"ts 2011-01-05 14:07:09"}}},
+    {"unknown escape", Engine::SqlServer, u"{ x '1'}", {{Bad, u"'1'}"}}},
+    {"time of Oracle", Engine::Oracle, u" TO_DATE('14:07:09','HH24:MI:SS') ", {{Date, u"14:07:09|HH24:MI:SS"}}},
+    {"date without mask", Engine::Oracle, u"TO_DATE('1')", {{Bad, u")"}}},
+    {"number and letters", Engine::Jet, u"-2.5E-07,12a", {{Number, u"-2.5E-07"}, {Punctuation, u","}, {Bad, u"a"}}},
+};
+
+using SqlTokens = Rows<::testing::Test, SqlTokensRow>;
+
+TEST_P(SqlTokens, SeeWhereALiteralEnds) {
+  const SqlTokensRow& row = GetParam();
+  EXPECT_EQ(tokens_of(row.engine, row.sql), row.tokens);
 }
+
+INSTANTIATE_TEST_SUITE_P(, SqlTokens, ::testing::ValuesIn(kSqlTokensRows), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -5,43 +5,62 @@
 #include "dialect/like_pattern.h"
 #include "dialect/like_pieces.h"
 #include "dialect/sql_tokens.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
-class LikeMatchingTest : public DialectTest, public ::testing::WithParamInterface<Engine> {
- protected:
-  Pieces pattern_of(TextView text, bool leading, bool trailing) {
-    const Text sql = dialect::PatronLikeMotor(GetParam(), text, leading, trailing);
-    const Tokens tokens = tokens_of(GetParam(), sql);
-    return read_by_like(tokens.at(0).content, tokens.size() > 2 ? TextView(tokens[2].content) : TextView());
-  }
+using tests::PrintTo;
+
+Pieces pattern_of(Engine engine, TextView text, bool leading, bool trailing) {
+  const Text sql = dialect::PatronLikeMotor(engine, text, leading, trailing);
+  const Tokens tokens = tokens_of(engine, sql);
+  return read_by_like(tokens.at(0).content, tokens.size() > 2 ? TextView(tokens[2].content) : TextView());
+}
+
+struct MatchRow {
+  const char* name;
+  TextView text;
+  bool leading, trailing;
+  TextView candidate;
+  bool found;
+};
+constexpr MatchRow kMatchRows[] = {
+    {"within", u"ana", true, true, u"juliana", true},
+    {"not at the beginning", u"ana", false, true, u"juliana", false},
+    {"at the end", u"ana", true, false, u"juliana", true},
+    {"whole", u"ana", false, false, u"ana", true},
+    {"percent", u"50%", false, false, u"50%", true},
+    {"percent is no wildcard", u"50%", false, false, u"500", false},
+    {"percent before the rest", u"50%", false, true, u"50% off", true},
+    {"underscore", u"a_b", false, false, u"a_b", true},
+    {"underscore is no wildcard", u"a_b", false, false, u"axb", false},
+    {"question mark", u"a?b", false, false, u"axb", true},
+    {"question mark is one character", u"a?b", false, false, u"ab", false},
+    {"asterisk is perhaps none", u"a*b", false, false, u"ab", true},
+    {"escape character", u"!%*", false, false, u"!%x", true},
+    {"escape character without its percent", u"!%*", false, false, u"!x", false},
+    {"quote", u"O'N*", false, false, u"O'Neil", true},
+    {"blanks at the edges", u"  ana ", false, false, u"ana", true},
+    {"empty, both", u"", true, true, u"anything", true},
+    {"empty", u"", false, false, u"", true},
+    {"all of them", u"*%_?", false, false, u"x%_y", true},
+    {"all of them but one", u"*%_?", false, false, u"x%y", false},
 };
 
-TEST_P(LikeMatchingTest, FindsWhatIsMeant) {
-  struct Row {
-    TextView text;
-    bool leading, trailing;
-    TextView candidate;
-    bool found;
-  };
-  constexpr Row kRows[] = {
-      {u"ana", true, true, u"juliana", true},   {u"ana", false, true, u"juliana", false},
-      {u"ana", true, false, u"juliana", true},  {u"ana", false, false, u"ana", true},
-      {u"50%", false, false, u"50%", true},     {u"50%", false, false, u"500", false},
-      {u"50%", false, true, u"50% off", true},  {u"a_b", false, false, u"a_b", true},
-      {u"a_b", false, false, u"axb", false},    {u"a?b", false, false, u"axb", true},
-      {u"a?b", false, false, u"ab", false},     {u"a*b", false, false, u"ab", true},
-      {u"!%*", false, false, u"!%x", true},     {u"!%*", false, false, u"!x", false},
-      {u"O'N*", false, false, u"O'Neil", true}, {u"  ana ", false, false, u"ana", true},
-      {u"", true, true, u"anything", true},     {u"", false, false, u"", true},
-      {u"*%_?", false, false, u"x%_y", true},   {u"*%_?", false, false, u"x%y", false},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.text) + " | " + to_utf8(row.candidate));
-    EXPECT_EQ(matches(pattern_of(row.text, row.leading, row.trailing), row.candidate), row.found);
+using LikeMatch = Rows<DialectTest, MatchRow>;
+
+TEST_P(LikeMatch, FindsWhatIsMeant) {
+  const MatchRow& row = GetParam();
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+    SCOPED_TRACE(number_of(engine));
+    EXPECT_EQ(matches(pattern_of(engine, row.text, row.leading, row.trailing), row.candidate), row.found);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, LikeMatch, ::testing::ValuesIn(kMatchRows), row_name);
+
+class RandomLikeMatch : public DialectTest, public ::testing::WithParamInterface<Engine> {};
 
 // Random texts of few characters, so that wildcards, escapes and candidates often meet.
 class Guesses {
@@ -71,13 +90,13 @@ class Guesses {
   std::mt19937_64 random_{31};
 };
 
-TEST_P(LikeMatchingTest, FindsExactlyWhatIsMeantInRandomTexts) {
+TEST_P(RandomLikeMatch, FindsExactlyWhatIsMeant) {
   Guesses guesses;
   int found = 0, not_found = 0;
   for (int round = 0; round < 20000; ++round) {
     const Text text = guesses.text(7);
     const bool leading = guesses.below(4) == 0, trailing = guesses.below(4) == 0;
-    const Pieces meant = meant_by(text, leading, trailing), like = pattern_of(text, leading, trailing);
+    const Pieces meant = meant_by(text, leading, trailing), like = pattern_of(GetParam(), text, leading, trailing);
     const Text candidate = guesses.candidate(meant);
     const bool expected = matches(meant, candidate);
     ++(expected ? found : not_found);
@@ -87,9 +106,8 @@ TEST_P(LikeMatchingTest, FindsExactlyWhatIsMeantInRandomTexts) {
   EXPECT_GT(not_found, 3000);
 }
 
-constexpr const char* kEngineNames[] = {"Jet", "SqlServer", "Oracle"};
-INSTANTIATE_TEST_SUITE_P(Engines, LikeMatchingTest, ::testing::Values(Engine::Jet, Engine::SqlServer, Engine::Oracle),
-                         [](const auto& engine) { return std::string(kEngineNames[number_of(engine.param) - 1]); });
+INSTANTIATE_TEST_SUITE_P(, RandomLikeMatch, ::testing::Values(Engine::Jet, Engine::SqlServer, Engine::Oracle),
+                         engine_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -9,7 +9,6 @@
 namespace qvr::tests {
 namespace {
 
-
 constexpr double kFifthOfJanuary = 40548;  // of 2011
 constexpr double kTime = (14 * 3600 + 7 * 60 + 9) / 86400.0;
 

@@ -33,7 +33,8 @@ std::string cell(const Manual& manual, const Text& text) {
 
 std::string row_of(const Manual& manual, const ManualCall& each) {
   std::string row = "| `" + each.call + "` |";
-  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) row += " " + cell(manual, each.text(engine)) + " |";
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle})
+    row += " " + cell(manual, each.text(engine)) + " |";
   return row;
 }
 

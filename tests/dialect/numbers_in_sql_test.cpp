@@ -8,13 +8,15 @@
 #include "base/number_text.h"
 #include "dialect/dialect_fixture.h"
 #include "dialect/literals.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using NumbersInSqlTest = DialectTest;
 
-struct Row {
+struct NumberRow {
   const char* name;
   Value value;
   Text literal;
@@ -23,7 +25,7 @@ struct Row {
 template <class Float>
 using Limits = std::numeric_limits<Float>;
 
-std::vector<Row> rows() {
+std::vector<NumberRow> rows() {
   constexpr std::uint32_t kAll = 0xFFFFFFFF;
   return {
       {"Integer 5", std::int16_t{5}, u" 5"},
@@ -34,22 +36,22 @@ std::vector<Row> rows() {
       {"Long, least", INT32_MIN, u"-2147483648"},
       {"Long, greatest", INT32_MAX, u" 2147483647"},
       {"Long, no thousands separators", 1234567, u" 1234567"},
-      {"Double -2.5", -2.5, u"-2.5"},
-      {"Double -3.5", -3.5, u"-3.5"},
-      {"Double 0.25", 0.25, u" 0.25"},
-      {"Double -0.25", -0.25, u"-0.25"},
+      {"Double, minus 2.5", -2.5, u"-2.5"},
+      {"Double, minus 3.5", -3.5, u"-3.5"},
+      {"Double, a quarter", 0.25, u" 0.25"},
+      {"Double, minus a quarter", -0.25, u"-0.25"},
       {"Double 0", 0.0, u" 0"},
       {"Double, negative zero", -0.0, u" 0"},
-      {"Double 0.1", 0.1, u" 0.1"},
+      {"Double, a tenth", 0.1, u" 0.1"},
       {"Double, a sum that is not 0.3", 0.1 + 0.2, u" 0.30000000000000004"},
       {"Double, a third", 1.0 / 3, u" 0.3333333333333333"},
       {"Double 1E+300", 1e300, u" 1E+300"},
-      {"Double -1E+300", -1e300, u"-1E+300"},
+      {"Double, minus 1E+300", -1e300, u"-1E+300"},
       {"Double, greatest", Limits<double>::max(), u" 1.7976931348623157E+308"},
       {"Double, smallest", Limits<double>::denorm_min(), u" 5E-324"},
-      {"Single 0.1", 0.1f, u" 0.1"},
-      {"Single 0.1 as a Double", static_cast<double>(0.1f), u" 0.10000000149011612"},
-      {"Single -2.5", -2.5f, u"-2.5"},
+      {"Single, a tenth", 0.1f, u" 0.1"},
+      {"Single, a tenth as a Double", static_cast<double>(0.1f), u" 0.10000000149011612"},
+      {"Single, minus 2.5", -2.5f, u"-2.5"},
       {"Single, a third", 1.0f / 3, u" 0.33333334"},
       {"Single, last whole number of all", 16777216.0f, u" 16777216"},
       {"Single, greatest", Limits<float>::max(), u" 3.4028235E+38"},
@@ -75,22 +77,24 @@ std::vector<Row> rows() {
   };
 }
 
-TEST_F(NumbersInSqlTest, AreWrittenAlikeForEveryEngine) {
-  for (const Row& row : rows()) {
-    SCOPED_TRACE(row.name);
-    expect_each(all_engines(row.literal), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
+class EveryNumberInSql : public Rows<DialectTest, NumberRow> {
+ protected:
+  void expect_written() {
+    expect_each(all_engines(GetParam().literal),
+                [](Engine engine) { return dialect::ExpSQL(engine, GetParam().value); });
   }
-}
+};
 
-TEST_F(NumbersInSqlTest, DoNotFollowTheLocale) {
+TEST_P(EveryNumberInSql, IsWrittenAlikeForEveryEngine) { expect_written(); }
+
+TEST_P(EveryNumberInSql, DoesNotFollowTheLocale) {
   thread.locale.decimal = u',';
   thread.locale.date_separator = u'-';
   thread.locale.day_first = false;
-  for (const Row& row : rows()) {
-    SCOPED_TRACE(row.name);
-    expect_each(all_engines(row.literal), [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
-  }
+  expect_written();
 }
+
+INSTANTIATE_TEST_SUITE_P(, EveryNumberInSql, ::testing::ValuesIn(rows()), row_name);
 
 // The number in a literal, which has a sign or a blank in front.
 template <class Float>

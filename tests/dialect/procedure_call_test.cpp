@@ -2,10 +2,12 @@
 
 #include "dialect/dialect_fixture.h"
 #include "support/describe.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 class ProcedureCallTest : public DialectTest {
  protected:
   ProcedureCallTest() { thread.log.take(); }
@@ -82,40 +84,43 @@ TEST_F(ProcedureCallTest, WithoutParametersOnlyTheReturnValueIsRead) {
             then(kPrepared, {"Command.Execute: dbo.Alta", "Parameters.Item.Value read: 0", "Command released"}));
 }
 
-TEST_F(ProcedureCallTest, OnlyAReturnValueOfZeroGivesAnythingBack) {
-  struct Row {
-    const char* name;
-    Value returned;
-    bool succeeds;
-  };
-  const Row kRows[] = {
-      {"0", 0, true},
-      {"0 as a Double", 0.0, true},
-      {"Empty", Empty{}, true},
-      {"text 0", u"0", true},
-      {"false", false, true},
-      {"Currency 0", Currency{0}, true},
-      {"1", 1, false},
-      {"-1", -1, false},
-      {"0.5", 0.5, false},
-      {"text 3", u"3", false},
-      {"true", true, false},
-      {"Null", Null{}, false},
-      {"last digit of Currency", Currency{1}, false},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    Value parameters = list({u"in"});
-    thread.ado.procedure_outputs = {{0, row.returned}, {1, u"out"}};
-    EXPECT_EQ(call(parameters), row.succeeds);
-    Lines log = then(kPrepared, {"Parameters.Item.Value: 1=String in", "Command.Execute: dbo.Alta",
-                                 "Parameters.Item.Value read: 0"});
-    if (row.succeeds) log.push_back("Parameters.Item.Value read: 1");
-    log.push_back("Command released");
-    EXPECT_EQ(thread.log.take(), log);
-    EXPECT_EQ(elements(parameters), Lines{row.succeeds ? "String out" : "String in"});
-  }
+struct ReturnValueRow {
+  const char* name;
+  Value returned;
+  bool succeeds;
+};
+const ReturnValueRow kReturnValueRows[] = {
+    {"zero", 0, true},
+    {"zero as a Double", 0.0, true},
+    {"Empty", Empty{}, true},
+    {"text of zero", u"0", true},
+    {"false", false, true},
+    {"Currency of zero", Currency{0}, true},
+    {"one", 1, false},
+    {"minus one", -1, false},
+    {"a half", 0.5, false},
+    {"text of three", u"3", false},
+    {"true", true, false},
+    {"Null", Null{}, false},
+    {"last digit of Currency", Currency{1}, false},
+};
+
+using ReturnValue = Rows<ProcedureCallTest, ReturnValueRow>;
+
+TEST_P(ReturnValue, GivesSomethingBackWhenItIsZero) {
+  const ReturnValueRow& row = GetParam();
+  Value parameters = list({u"in"});
+  thread.ado.procedure_outputs = {{0, row.returned}, {1, u"out"}};
+  EXPECT_EQ(call(parameters), row.succeeds);
+  Lines log = then(kPrepared, {"Parameters.Item.Value: 1=String in", "Command.Execute: dbo.Alta",
+                               "Parameters.Item.Value read: 0"});
+  if (row.succeeds) log.push_back("Parameters.Item.Value read: 1");
+  log.push_back("Command released");
+  EXPECT_EQ(thread.log.take(), log);
+  EXPECT_EQ(elements(parameters), Lines{row.succeeds ? "String out" : "String in"});
 }
+
+INSTANTIATE_TEST_SUITE_P(, ReturnValue, ::testing::ValuesIn(kReturnValueRows), row_name);
 
 TEST_F(ProcedureCallTest, AReturnValueThatIsNoNumberIsAFailure) {
   for (const Value& returned : {Value(u"abc"), object(), Value(Missing{}), list({0})}) {
