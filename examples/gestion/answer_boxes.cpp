@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-
 #include "automation.h"
 #include "console.h"
 #include "text.h"

@@ -1,6 +1,5 @@
 // What the library exports.
 
-
 #include "com/answer.h"
 #include "com/class_object.h"
 #include "com/module.h"

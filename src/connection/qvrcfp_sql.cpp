@@ -7,8 +7,8 @@
 #include "dialect/procedure_call.h"
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
-#include "session/message_box.h"
 #include "session/failure_report.h"
+#include "session/message_box.h"
 
 namespace qvr {
 namespace {

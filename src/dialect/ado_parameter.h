@@ -1,8 +1,8 @@
 // Parameters for commands that the caller builds.
 #pragma once
 
-#include "base/value.h"
 #include "base/engine.h"
+#include "base/value.h"
 #include "services/ado.h"
 
 namespace qvr::dialect {

@@ -1,8 +1,8 @@
 // Single values as SQL literals of an engine.
 #pragma once
 
-#include "base/value.h"
 #include "base/engine.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 

@@ -55,8 +55,7 @@ Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const
   return join({columns, literals, u")"});
 }
 
-Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
-                TextView Condicion) {
+Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion) {
   if (!MCampos.is<Array>() || !MValores.is<Array>()) return {};
   Text text = join({u"UPDATE ", NombreTabla, u" SET "});
   each_field(MCampos, [&](const Text& field, std::int64_t i) {

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "base/value.h"
 #include "base/engine.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 
@@ -20,7 +20,6 @@ Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, s
 Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores);
 
 // "UPDATE t SET f=v,f=v WHERE c", without WHERE for an empty condition; empty when a list is no array.
-Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores,
-                TextView Condicion);
+Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion);
 
 }  // namespace qvr::dialect

@@ -1,8 +1,8 @@
 // Joins written as conditions of the WHERE clause.
 #pragma once
 
-#include "base/value.h"
 #include "base/engine.h"
+#include "base/value.h"
 
 namespace qvr::dialect {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "base/value.h"
 #include "base/engine.h"
+#include "base/value.h"
 
 namespace qvr::query {
 

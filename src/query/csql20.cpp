@@ -4,8 +4,8 @@
 #include "dialect/clauses.h"
 #include "dialect/table_relations.h"
 #include "query/joins.h"
-#include "session/message_box.h"
 #include "session/global.h"
+#include "session/message_box.h"
 #include "session/thread_state.h"
 
 namespace qvr {

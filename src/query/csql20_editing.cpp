@@ -5,8 +5,8 @@
 #include "dialect/clauses.h"
 #include "query/csql20.h"
 #include "query/search_text.h"
-#include "session/message_box.h"
 #include "session/global.h"
+#include "session/message_box.h"
 
 namespace qvr {
 namespace {
@@ -31,12 +31,12 @@ bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView c
 
 bool cSQL20::AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept {
   return or_shown(false, kClass, u"AmpliarCondicionWhere",
-                           [&] { return extend(fields_.added_where, Condicion, Criterio); });
+                  [&] { return extend(fields_.added_where, Condicion, Criterio); });
 }
 
 bool cSQL20::AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept {
   return or_shown(false, kClass, u"AmpliarCondicionHaving",
-                           [&] { return extend(fields_.added_having, Condicion, Criterio); });
+                  [&] { return extend(fields_.added_having, Condicion, Criterio); });
 }
 
 bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept {

@@ -1,6 +1,5 @@
 #include "query/search_atom_parser.h"
 
-
 #include "query/search_split.h"
 
 namespace qvr::query {

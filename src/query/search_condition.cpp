@@ -6,7 +6,6 @@
 namespace qvr::query {
 namespace {
 
-
 TextView sign_of(Comparison comparison) {
   switch (comparison) {
     case Comparison::Equal: return u"=";
@@ -23,8 +22,7 @@ class ConditionWriter {
   ConditionWriter(Engine engine, SearchType type, TextView expression)
       : engine_(engine),
         expression_(expression),
-        upper_(type == SearchType::Text ? engine != Engine::Jet
-                                        : type == SearchType::Memo && engine == Engine::Oracle),
+        upper_(type == SearchType::Text ? engine != Engine::Jet : type == SearchType::Memo && engine == Engine::Oracle),
         like_only_(type == SearchType::Memo && engine != Engine::Jet) {}
 
   Text operator()(const IsNull& atom) const { return in_not(atom.negated, is_null()); }

@@ -6,7 +6,6 @@
 namespace qvr::query {
 namespace {
 
-
 // Jet knows no ESCAPE: whatever means something to it goes into brackets.
 constexpr TextView kSpecialToJet = u"%_#[*?";
 

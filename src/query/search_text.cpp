@@ -6,8 +6,8 @@
 
 namespace qvr::query {
 
-std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column,
-                                               TextView search, TextView label) {
+std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column, TextView search,
+                                               TextView label) {
   const auto type = search_type(column.type);
   if (!type || !pick(engine, {})) return std::nullopt;
   const auto understood = parse_search(normalised_search(search), *type, engine);

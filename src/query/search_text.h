@@ -17,7 +17,7 @@ struct Interpretation {
 };
 
 // Nothing for a text that is no search for such a column. `label` begins the criterion.
-std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column,
-                                               TextView search, TextView label);
+std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column, TextView search,
+                                               TextView label);
 
 }  // namespace qvr::query

@@ -45,8 +45,8 @@ class QVRScr {
 
   // The same for the scripts "<Aplicacion><from>a<to><tag>.cfc" from this version on; empty, too, when none begins with
   // exactly this version.
-  Text CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion,
-                           std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept;
+  Text CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion, std::int32_t VersionActual,
+                           const ScriptAccounts& accounts, bool Encri) noexcept;
 
   // For a caller that has no memory for the arguments of one of these three: it ends all the same, with
   // Terminado(False), unless a run is under way.

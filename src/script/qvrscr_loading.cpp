@@ -6,10 +6,7 @@
 #include "session/thread_state.h"
 
 namespace qvr {
-namespace {
-
-
-}  // namespace
+namespace {}  // namespace
 
 // Whatever fails leaves no text: half an installation is worse than none.
 template <class Body>

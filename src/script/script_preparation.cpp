@@ -7,7 +7,6 @@
 namespace qvr {
 namespace {
 
-
 struct Rewrite {
   TextView find, replacement;
 };

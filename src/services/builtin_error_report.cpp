@@ -1,9 +1,7 @@
 #include "services/builtin_error_report.h"
 
-
 namespace qvr::services {
 namespace {
-
 
 enum class Kind { DuplicateRecord, ServerNotFound };
 

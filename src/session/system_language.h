@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-
 namespace qvr {
 
 // What one list of identifiers leads to: the number itself, or the nearest one that a catalogue carries.

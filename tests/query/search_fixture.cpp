@@ -22,8 +22,7 @@ Text interpreted(const query::SearchColumn& column, Engine engine, TextView sear
   return found ? join({found->condition, u" | ", found->criterion}) : Text(u"no search");
 }
 
-void SpanishSearch::expect(const query::SearchColumn& column, Engine engine,
-                           std::initializer_list<SearchRow> rows) {
+void SpanishSearch::expect(const query::SearchColumn& column, Engine engine, std::initializer_list<SearchRow> rows) {
   for (const SearchRow& row : rows) {
     const Text expected = row.condition.empty() ? Text(u"no search") : join({row.condition, u" | ", row.criterion});
     EXPECT_EQ(interpreted(column, engine, row.search), expected) << to_utf8(row.search);

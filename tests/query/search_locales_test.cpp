@@ -50,7 +50,8 @@ TEST_P(SearchLocales, ReadTheirOwnNumbers) {
     const auto found = query::interpret_search(Engine::SqlServer, kPrecio, typed, u"Precio");
     ASSERT_TRUE(found) << ::testing::PrintToString(typed);
     EXPECT_EQ(found->condition, join({u"P.Precio=", number.literal}));
-    const auto again = query::interpret_search(Engine::SqlServer, kPrecio, TextView(found->criterion).substr(7), u"Precio");
+    const auto again = query::interpret_search(Engine::SqlServer, kPrecio, TextView(found->criterion).substr(7),
+                                               u"Precio");
     ASSERT_TRUE(again) << ::testing::PrintToString(found->criterion);
     EXPECT_EQ(again->condition, found->condition);
   }

@@ -74,7 +74,8 @@ TEST_F(SearchRanges, HaveTheirPointsOutsideQuotes) {
           {u"'O'Neil..b'", u"C.Nombre LIKE '%O''Neil..b%'", u"Nombre es como '*O'Neil..b*'"},
           {u"'a..b'; 'c'", u"C.Nombre LIKE '%a..b%' Or C.Nombre LIKE '%c%'",
            u"Nombre es como '*a..b*'; es como '*c*'"}});
-  expect(kNotas, Engine::SqlServer, {{u"'a..b'", u"C.Notas LIKE N'%a..b%'", u"Notas es como '*a..b*'"}, {u"'a'..'b'", u""}});
+  expect(kNotas, Engine::SqlServer,
+         {{u"'a..b'", u"C.Notas LIKE N'%a..b%'", u"Notas es como '*a..b*'"}, {u"'a'..'b'", u""}});
   expect(kNotas, Engine::Oracle, {{u"'a..b'", u" UPPER(C.Notas) LIKE UPPER('%a..b%')", u"Notas es como '*a..b*'"}});
 }
 

@@ -79,7 +79,8 @@ TEST_F(Usql20Test, JoinsTheStatementsInTheOrderOfTheFirst) {
 TEST_F(Usql20Test, ARefusedMemberIsDropped) {
   create(1);
   EXPECT_FALSE(query.Crear(request(Engine::Jet, u"a")));
-  EXPECT_FALSE(showing({failed(u"ConstruirSelect", 9)}, [&] { return query.Crear(request(Engine::Jet, list({u"a"}))); }));
+  EXPECT_FALSE(
+      showing({failed(u"ConstruirSelect", 9)}, [&] { return query.Crear(request(Engine::Jet, list({u"a"}))); }));
   EXPECT_EQ(query.SQLSinOrden(), select(1));
   uSQL20 other;
   EXPECT_FALSE(other.Crear(request(Engine::Jet, u"a")));

@@ -45,8 +45,7 @@ TEST(EncryptionRules, TellOfClausesThatDoNotFit) {
 }
 
 TEST(EncryptionRules, AreSqlServersOnly) {
-  expect_rules({{"the engine's own", "create or replace procedure P|AS |begin null; end;|GO|", {}}},
-               Engine::Oracle);
+  expect_rules({{"the engine's own", "create or replace procedure P|AS |begin null; end;|GO|", {}}}, Engine::Oracle);
 }
 
 }  // namespace

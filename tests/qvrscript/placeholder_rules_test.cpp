@@ -26,8 +26,7 @@ TEST(PlaceholderRules, TellOfWordsThatStay) {
       {"of Oracle only", "[LogFile]|GO|", {"1 placeholder-of-oracle"}},
       {"in a comment", "select 1 -- [NombreDB]|GO|", {}},
   });
-  expect_rules({{"any name in brackets", "select [Nombre] from dual|GO|", {"1 placeholder-unknown"}}},
-               Engine::Oracle);
+  expect_rules({{"any name in brackets", "select [Nombre] from dual|GO|", {"1 placeholder-unknown"}}}, Engine::Oracle);
 }
 
 }  // namespace
