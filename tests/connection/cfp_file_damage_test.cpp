@@ -5,12 +5,14 @@
 
 #include "connection/sample_parameters.h"
 #include "services/builtin_text_protection.h"
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
 
 using services::BuiltinTextProtection;
+using tests::PrintTo;
 
 class CfpFileDamageTest : public ::testing::Test {
  protected:
@@ -145,19 +147,41 @@ TEST_F(CfpFileDamageTest, WithAnotherIdentificationItIsRefused) {
   }
 }
 
-TEST_F(CfpFileDamageTest, FilesOfAnotherKindAreRefused) {
+std::string random_bytes() {
   std::mt19937 random(3);
-  std::string binary;
-  for (int i = 0; i < 100000; ++i) binary.push_back(static_cast<char>(random()));
-  for (const std::string& bytes : {std::string(), std::string("\r\n"), std::string(50, '\0'), binary, of(Lines(10, "")),
-                                   of(Lines(10, "hello")), of(Lines(10, "x")),
-                                   std::string("\xff\xfe"
-                                               "a\0\r\0\n\0",
-                                               8)}) {
-    SCOPED_TRACE(bytes.size());
-    expect_refused(bytes);
-  }
+  std::string bytes;
+  for (int i = 0; i < 100000; ++i) bytes.push_back(static_cast<char>(random()));
+  return bytes;
 }
+
+std::string ten_lines(std::string_view line) {
+  std::string bytes;
+  for (int i = 0; i < 10; ++i) bytes.append(line).append("\r\n");
+  return bytes;
+}
+
+struct OtherFileRow {
+  const char* name;
+  std::string bytes;
+};
+const OtherFileRow kOtherFiles[] = {
+    {"empty", ""},
+    {"an empty line", "\r\n"},
+    {"NUL", std::string(50, '\0')},
+    {"binary", random_bytes()},
+    {"empty lines", ten_lines("")},
+    {"lines of a word", ten_lines("hello")},
+    {"lines of a letter", ten_lines("x")},
+    {"UTF-16", std::string("\xff\xfe"
+                           "a\0\r\0\n\0",
+                           8)},
+};
+
+using OtherFile = Rows<CfpFileDamageTest, OtherFileRow>;
+
+TEST_P(OtherFile, IsRefused) { expect_refused(GetParam().bytes); }
+
+INSTANTIATE_TEST_SUITE_P(, OtherFile, ::testing::ValuesIn(kOtherFiles), row_name);
 
 TEST_F(CfpFileDamageTest, ALineWithoutEndIsGivenUpEarly) {
   static constexpr std::size_t kSize = 100u << 20, kEnough = 20u << 20;

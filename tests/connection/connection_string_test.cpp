@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 struct Fields {
   Engine motor;
   TextView catalogue, user_adm, password_adm, user_cli, password_cli, other;
@@ -27,13 +29,13 @@ ConnectionParameters parameters_of(const Fields& fields) {
 }
 
 // What follows `Provider=PROV;Data Source="SRC";Persist Security Info=False;`.
-struct Row {
+struct PartsRow {
   const char* name;
   Fields fields;
   TextView administrator, client;
 };
 
-constexpr Row kRows[] = {
+constexpr PartsRow kParts[] = {
     {"nothing else", {Engine::Jet, u"", u"", u"", u"", u"", u""}, u"", u""},
     {"both accounts",
      {Engine::Jet, u"", u"adm", u"pa", u"cli", u"pc", u""},
@@ -79,16 +81,17 @@ constexpr Row kRows[] = {
 
 const Text kHead = u"Provider=PROV;Data Source=\"SRC\";Persist Security Info=False;";
 
-TEST(CadenaADO, JoinsItsPartsInOrder) {
+using CadenaADOParts = Rows<::testing::Test, PartsRow>;
+
+TEST_P(CadenaADOParts, AreJoinedInOrder) {
   TestThread thread;
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    QVRcfp cfp;
-    ASSERT_TRUE(cfp.Asignar(u"id", parameters_of(row.fields)));
-    EXPECT_EQ(cfp.CadenaADO(u"id", true), kHead + Text(row.administrator));
-    EXPECT_EQ(cfp.CadenaADO(u"other", false), kHead + Text(row.client));
-  }
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", parameters_of(GetParam().fields)));
+  EXPECT_EQ(cfp.CadenaADO(u"id", true), kHead + Text(GetParam().administrator));
+  EXPECT_EQ(cfp.CadenaADO(u"other", false), kHead + Text(GetParam().client));
 }
+
+INSTANTIATE_TEST_SUITE_P(, CadenaADOParts, ::testing::ValuesIn(kParts), row_name);
 
 TEST(CadenaADO, WritesAWholeSqlServerString) {
   TestThread thread;

@@ -4,11 +4,13 @@
 
 #include "connection/qvrcfp.h"
 #include "support/describe.h"
+#include "support/rows.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 class TypedTextTest : public ::testing::Test {
  protected:
   TestThread thread;
@@ -16,113 +18,115 @@ class TypedTextTest : public ::testing::Test {
 };
 
 struct TextRow {
+  const char* name;
   TextView code, text;
   const char* value;
 };
 
 constexpr TextRow kTextRows[] = {
-    {u"T", u"abc", "String abc"},
-    {u"t", u" a ", "String  a "},
-    {u"T", u"", "String "},
-    {u"N", u"2.5", "Double 2.5"},
-    {u"n", u"-3", "Double -3"},
-    {u"N", u"12abc", "Double 12"},
-    {u"N", u"1,5", "Double 1"},
-    {u"N", u"abc", "Double 0"},
-    {u"N", u"", "Double 0"},
-    {u"N", u"  7", "Double 7"},
-    {u"N", u".5", "Double 0.5"},
-    {u"N", u"1E3", "Double 1000"},
-    {u"N", u"1E+400", "Empty"},
-    {u"F", u"31/12/1999", "Date 36525"},
-    {u"f", u"01/01/2000 12:00:00", "Date 36526.5"},
-    {u"F", u"no date", "Empty"},
-    {u"F", u"", "Empty"},
-    {u"F", u"31/02/2000", "Empty"},
-    {u"L", u"0", "Boolean False"},
-    {u"l", u"1", "Boolean True"},
-    {u"L", u"-1", "Boolean True"},
-    {u"L", u"0.1", "Boolean True"},
-    {u"L", u"abc", "Boolean False"},
-    {u"L", u"True", "Boolean False"},
-    {u"L", u"", "Boolean False"},
-    {u"X", u"abc", "Empty"},
-    {u"", u"abc", "Empty"},
-    {u"TT", u"abc", "Empty"},
-    {u" T", u"abc", "Empty"},
+    {"text", u"T", u"abc", "String abc"},
+    {"text with blanks, code in lower case", u"t", u" a ", "String  a "},
+    {"empty text", u"T", u"", "String "},
+    {"number", u"N", u"2.5", "Double 2.5"},
+    {"number below zero, code in lower case", u"n", u"-3", "Double -3"},
+    {"number with letters behind", u"N", u"12abc", "Double 12"},
+    {"number with a comma", u"N", u"1,5", "Double 1"},
+    {"number of letters", u"N", u"abc", "Double 0"},
+    {"empty number", u"N", u"", "Double 0"},
+    {"number behind blanks", u"N", u"  7", "Double 7"},
+    {"number without a zero before the point", u"N", u".5", "Double 0.5"},
+    {"number with an exponent", u"N", u"1E3", "Double 1000"},
+    {"number too great", u"N", u"1E+400", "Empty"},
+    {"date", u"F", u"31/12/1999", "Date 36525"},
+    {"date and time, code in lower case", u"f", u"01/01/2000 12:00:00", "Date 36526.5"},
+    {"no date", u"F", u"no date", "Empty"},
+    {"empty date", u"F", u"", "Empty"},
+    {"no such day", u"F", u"31/02/2000", "Empty"},
+    {"false", u"L", u"0", "Boolean False"},
+    {"true, code in lower case", u"l", u"1", "Boolean True"},
+    {"true below zero", u"L", u"-1", "Boolean True"},
+    {"true of a tenth", u"L", u"0.1", "Boolean True"},
+    {"truth of letters", u"L", u"abc", "Boolean False"},
+    {"truth of a word", u"L", u"True", "Boolean False"},
+    {"empty truth", u"L", u"", "Boolean False"},
+    {"unknown code", u"X", u"abc", "Empty"},
+    {"no code", u"", u"abc", "Empty"},
+    {"code twice", u"TT", u"abc", "Empty"},
+    {"code behind a blank", u" T", u"abc", "Empty"},
 };
 
-TEST_F(TypedTextTest, TextoAValorReadsEachCode) {
-  for (const TextRow& row : kTextRows) {
-    SCOPED_TRACE(to_utf8(row.code) + " " + to_utf8(row.text));
-    EXPECT_EQ(describe(cfp.TextoAValor(row.code, row.text)), row.value);
-  }
+using TextoAValor = Rows<TypedTextTest, TextRow>;
+
+TEST_P(TextoAValor, ReadsEachCode) {
+  EXPECT_EQ(describe(cfp.TextoAValor(GetParam().code, GetParam().text)), GetParam().value);
 }
 
+INSTANTIATE_TEST_SUITE_P(, TextoAValor, ::testing::ValuesIn(kTextRows), row_name);
+
 struct ValueRow {
+  const char* name;
   TextView code;
   Value value;
   TextView text;
 };
 
-std::vector<ValueRow> value_rows() {
-  return {
-      {u"T", u"abc", u"abc"},
-      {u"t", 2.5, u"2.5"},
-      {u"T", true, u"True"},
-      {u"T", Date{36526}, u"01/01/2000"},
-      {u"T", Empty{}, u""},
-      {u"T", Null{}, u""},
-      {u"T", Array{}, u""},
-      {u"N", 2.5, u"2.5"},
-      {u"n", 2.5, u"2.5"},
-      {u"N", 0.25, u"0.25"},
-      {u"N", -0.5, u"-0.5"},
-      {u"N", 0.1f, u"0.1"},
-      {u"N", std::int32_t{12}, u"12"},
-      {u"N", std::uint8_t{0}, u"0"},
-      {u"N", std::int64_t{9223372036854775807}, u"9223372036854775807"},
-      {u"N", Currency{INT64_MAX}, u"922337203685477.5807"},
-      {u"N", Decimal{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0, false}, u"79228162514264337593543950335"},
-      {u"N", true, u"-1"},
-      {u"N", Empty{}, u"0"},
-      {u"N", Date{36526.5}, u"36526.5"},
-      {u"N", u"12.5", u"12.5"},
-      {u"N", u"abc", u""},
-      {u"N", u"", u""},
-      {u"N", Null{}, u""},
-      {u"N", Missing{}, u""},
-      {u"N", std::numeric_limits<double>::infinity(), u""},
-      {u"F", Date{36526}, u"2000/01/01"},
-      {u"f", Date{36526.75}, u"2000/01/01"},
-      {u"F", Date{-657434}, u"0100/01/01"},
-      {u"F", u"31/12/1999", u"1999/12/31"},
-      {u"F", std::int32_t{36526}, u"2000/01/01"},
-      {u"F", Empty{}, u"1899/12/30"},
-      {u"F", u"no date", u""},
-      {u"F", Null{}, u""},
-      {u"F", 1e10, u""},
-      {u"L", true, u"1"},
-      {u"L", false, u"0"},
-      {u"l", std::int32_t{5}, u"1"},
-      {u"L", 0.0, u"0"},
-      {u"L", u"True", u"1"},
-      {u"L", u"0", u"0"},
-      {u"L", Empty{}, u"0"},
-      {u"L", u"abc", u""},
-      {u"L", Null{}, u""},
-      {u"X", u"abc", u""},
-      {u"", u"abc", u""},
-      {u"NN", 1, u""},
-  };
+const ValueRow kValueRows[] = {
+    {"text", u"T", u"abc", u"abc"},
+    {"number as a text, code in lower case", u"t", 2.5, u"2.5"},
+    {"truth as a text", u"T", true, u"True"},
+    {"date as a text", u"T", Date{36526}, u"01/01/2000"},
+    {"Empty as a text", u"T", Empty{}, u""},
+    {"Null as a text", u"T", Null{}, u""},
+    {"array as a text", u"T", Array{}, u""},
+    {"number", u"N", 2.5, u"2.5"},
+    {"number, code in lower case", u"n", 2.5, u"2.5"},
+    {"quarter", u"N", 0.25, u"0.25"},
+    {"half below zero", u"N", -0.5, u"-0.5"},
+    {"Single", u"N", 0.1f, u"0.1"},
+    {"Long", u"N", std::int32_t{12}, u"12"},
+    {"Byte", u"N", std::uint8_t{0}, u"0"},
+    {"64 bits", u"N", std::int64_t{9223372036854775807}, u"9223372036854775807"},
+    {"greatest Currency", u"N", Currency{INT64_MAX}, u"922337203685477.5807"},
+    {"greatest Decimal", u"N", Decimal{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0, false}, u"79228162514264337593543950335"},
+    {"truth as a number", u"N", true, u"-1"},
+    {"Empty as a number", u"N", Empty{}, u"0"},
+    {"date as a number", u"N", Date{36526.5}, u"36526.5"},
+    {"text of a number", u"N", u"12.5", u"12.5"},
+    {"text of letters as a number", u"N", u"abc", u""},
+    {"empty text as a number", u"N", u"", u""},
+    {"Null as a number", u"N", Null{}, u""},
+    {"missing as a number", u"N", Missing{}, u""},
+    {"infinite number", u"N", std::numeric_limits<double>::infinity(), u""},
+    {"date", u"F", Date{36526}, u"2000/01/01"},
+    {"date and time, code in lower case", u"f", Date{36526.75}, u"2000/01/01"},
+    {"first day", u"F", Date{-657434}, u"0100/01/01"},
+    {"text of a date", u"F", u"31/12/1999", u"1999/12/31"},
+    {"number as a date", u"F", std::int32_t{36526}, u"2000/01/01"},
+    {"Empty as a date", u"F", Empty{}, u"1899/12/30"},
+    {"text that is no date", u"F", u"no date", u""},
+    {"Null as a date", u"F", Null{}, u""},
+    {"number that is no date", u"F", 1e10, u""},
+    {"true", u"L", true, u"1"},
+    {"false", u"L", false, u"0"},
+    {"number as a truth, code in lower case", u"l", std::int32_t{5}, u"1"},
+    {"zero as a truth", u"L", 0.0, u"0"},
+    {"text of a truth", u"L", u"True", u"1"},
+    {"text of zero as a truth", u"L", u"0", u"0"},
+    {"Empty as a truth", u"L", Empty{}, u"0"},
+    {"text of letters as a truth", u"L", u"abc", u""},
+    {"Null as a truth", u"L", Null{}, u""},
+    {"unknown code", u"X", u"abc", u""},
+    {"no code", u"", u"abc", u""},
+    {"code twice", u"NN", 1, u""},
+};
+
+using ValorATexto = Rows<TypedTextTest, ValueRow>;
+
+TEST_P(ValorATexto, WritesEachCode) {
+  EXPECT_EQ(cfp.ValorATexto(GetParam().code, GetParam().value), Text(GetParam().text));
 }
 
-TEST_F(TypedTextTest, ValorATextoWritesEachCode) {
-  for (const ValueRow& row : value_rows()) {
-    SCOPED_TRACE(to_utf8(row.code) + " " + describe(row.value));
-    EXPECT_EQ(cfp.ValorATexto(row.code, row.value), Text(row.text));
-  }
-}
+INSTANTIATE_TEST_SUITE_P(, ValorATexto, ::testing::ValuesIn(kValueRows), row_name);
 
 TEST_F(TypedTextTest, NumbersDoNotFollowTheLocale) {
   thread.locale.decimal = u',';

@@ -9,6 +9,7 @@ namespace qvr::tests {
 namespace {
 
 using tests::PrintTo;
+
 constexpr double kSecond = 1.0 / 86400;
 constexpr double kFifthOfJanuary = 40548;                      // 5 January 2011
 constexpr double kClock = (14 * 3600 + 7 * 60 + 9) * kSecond;  // 14:07:09

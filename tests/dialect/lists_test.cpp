@@ -8,6 +8,7 @@ namespace qvr::tests {
 namespace {
 
 using tests::PrintTo;
+
 TEST(ListIn, GivesTheArrayItself) {
   const Value value = list({1, 2}, 5);
   EXPECT_EQ(&dialect::list_in(value), value.as<Array>());

@@ -8,6 +8,7 @@ namespace qvr::tests {
 namespace {
 
 using tests::PrintTo;
+
 class ProcedureCallTest : public DialectTest {
  protected:
   ProcedureCallTest() { thread.log.take(); }

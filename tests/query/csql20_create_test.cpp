@@ -1,47 +1,54 @@
 // How `Crear` puts a statement together, and what it does with what it cannot use.
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using Csql20CreateTest = QueryTest;
 
-TEST_F(Csql20CreateTest, DescriptorsNameTheColumns) {
-  struct Row {
-    Text expression, descriptor, field, type;
-    TextView alias;  // of Jet and SQL Server
-    TextView oracle_alias;
-  };
-  const Row kRows[] = {
-      {u"Cli.Nombre", u"T", u"Cli.Nombre", u"T", u"", u""},
-      {u"Cli.Nombre", u"T+", u"Nombre", u"T", u"", u""},
-      {u"a.b.Nombre", u"T+", u"Nombre", u"T", u"", u""},
-      {u"Nombre", u"T+", u"Nombre", u"T", u"", u""},
-      {u"Cli.Nombre", u"T+x>y", u"Nombre", u"T", u"", u""},
-      {u"Sum(Importe)", u"N>Total", u"Total", u"N", u" As [Total]", u" \"Total\""},
-      {u"Sum(Importe)", u"N> un total", u" un total", u"N", u" As [ un total]", u" \" un total\""},
-      {u"Sum(P.Imp)", u"N>+.>", u"+.>", u"N", u" As [+.>]", u" \"+.>\""},
-      {u"Cli.Nombre", u"Tx", u"Cli.Nombre", u"T", u"", u""},
-      {u"Cli.Nombre", u"T ", u"Cli.Nombre", u"T", u"", u""},
-      {u"Cli.Nombre", u"+Alias", u"Cli.Nombre", u"+", u"", u""},
-      {u"Cli.A\u00f1o", u"\u00d1+", u"A\u00f1o", u"\u00d1", u"", u""},
-      {u"Cli.", u"T+", u"", u"T", u"", u""},
-      {u"a", u"T>", u"", u"T", u" As []", u" \"\""},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(join({row.expression, u" ", row.descriptor})));
-    for (const Engine engine : kEngines) {
-      SCOPED_TRACE(number_of(engine));
-      cSQL20 query;
-      ASSERT_TRUE(query.Crear(request(engine, list({row.expression, row.descriptor}))));
-      const TextView alias = engine == Engine::Oracle ? row.oracle_alias : engine == kNoEngine ? u"" : row.alias;
-      EXPECT_EQ(query.SQLOriginal(), join({u"SELECT ", row.expression, alias, u"  FROM Clientes     "}));
-      EXPECT_EQ(query.NumColumna(row.field), 1);
-      EXPECT_EQ(query.TipoCampo(row.field), row.type);
-      EXPECT_EQ(query.ExpresionOriginal(row.field), row.expression);
-    }
+struct ColumnDescriptorRow {
+  const char* name;
+  Text expression, descriptor, field, type;
+  TextView alias;  // of Jet and SQL Server
+  TextView oracle_alias;
+};
+const ColumnDescriptorRow kColumnDescriptorRows[] = {
+    {"the whole expression", u"Cli.Nombre", u"T", u"Cli.Nombre", u"T", u"", u""},
+    {"what follows the last point", u"Cli.Nombre", u"T+", u"Nombre", u"T", u"", u""},
+    {"what follows the last of two points", u"a.b.Nombre", u"T+", u"Nombre", u"T", u"", u""},
+    {"an expression without a point", u"Nombre", u"T+", u"Nombre", u"T", u"", u""},
+    {"a plus before other text", u"Cli.Nombre", u"T+x>y", u"Nombre", u"T", u"", u""},
+    {"an alias", u"Sum(Importe)", u"N>Total", u"Total", u"N", u" As [Total]", u" \"Total\""},
+    {"an alias with blanks", u"Sum(Importe)", u"N> un total", u" un total", u"N", u" As [ un total]",
+     u" \" un total\""},
+    {"an alias of signs", u"Sum(P.Imp)", u"N>+.>", u"+.>", u"N", u" As [+.>]", u" \"+.>\""},
+    {"other text behind the type", u"Cli.Nombre", u"Tx", u"Cli.Nombre", u"T", u"", u""},
+    {"a blank behind the type", u"Cli.Nombre", u"T ", u"Cli.Nombre", u"T", u"", u""},
+    {"a plus as the type", u"Cli.Nombre", u"+Alias", u"Cli.Nombre", u"+", u"", u""},
+    {"a type beyond ASCII", u"Cli.A\u00f1o", u"\u00d1+", u"A\u00f1o", u"\u00d1", u"", u""},
+    {"nothing behind the point", u"Cli.", u"T+", u"", u"T", u"", u""},
+    {"an empty alias", u"a", u"T>", u"", u"T", u" As []", u" \"\""},
+};
+
+using ColumnDescriptor = Rows<QueryTest, ColumnDescriptorRow>;
+
+TEST_P(ColumnDescriptor, NamesTheColumn) {
+  const ColumnDescriptorRow& row = GetParam();
+  for (const Engine engine : kEngines) {
+    SCOPED_TRACE(number_of(engine));
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(request(engine, list({row.expression, row.descriptor}))));
+    const TextView alias = engine == Engine::Oracle ? row.oracle_alias : engine == kNoEngine ? u"" : row.alias;
+    EXPECT_EQ(query.SQLOriginal(), join({u"SELECT ", row.expression, alias, u"  FROM Clientes     "}));
+    EXPECT_EQ(query.NumColumna(row.field), 1);
+    EXPECT_EQ(query.TipoCampo(row.field), row.type);
+    EXPECT_EQ(query.ExpresionOriginal(row.field), row.expression);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, ColumnDescriptor, ::testing::ValuesIn(kColumnDescriptorRows), row_name);
 
 TEST_F(Csql20CreateTest, AColumnWithoutADescriptorHasNoType) {
   cSQL20 query;
@@ -134,35 +141,38 @@ TEST_F(Csql20CreateTest, RefusesColumnsThatAreNoArray) {
   }
 }
 
-TEST_F(Csql20CreateTest, TellsWhenTheColumnsCannotBeRead) {
-  struct Row {
-    const char* name;
-    Value columns;
-    std::int32_t number;
-  };
-  const Row kRows[] = {
-      {"a column without descriptor at the end", list({u"a", u"T", u"b"}), 9},
-      {"the same with a lower bound", list({u"a", u"T", u"b"}, -4), 9},
-      {"one element", list({u"a"}), 9},
-      {"two dimensions", square({u"a", u"T"}), 9},
-      {"an array without bounds", shapeless(), 9},
-      {"an object as expression", list({object(), u"T"}), 13},
-      {"an object as descriptor", list({u"a", object()}), 13},
-      {"Null as expression", list({Null{}, u"T"}), 94},
-      {"Null as descriptor", list({u"a", u"T", u"b", Null{}}), 94},
-      {"an array as expression", list({list({u"a"}), u"T"}), 13},
-      {"a missing descriptor", list({u"a", Missing{}}), 13},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    for (const Engine engine : kEngines) {
-      cSQL20 query;
-      const auto create = [&] { return query.Crear(request(engine, row.columns)); };
-      EXPECT_FALSE(showing({failed(u"ConstruirSelect", row.number)}, create));
-      EXPECT_FALSE(query.Creado());
-    }
+struct UnreadableColumnsRow {
+  const char* name;
+  Value columns;
+  std::int32_t number;
+};
+const UnreadableColumnsRow kUnreadableColumnsRows[] = {
+    {"a column without descriptor at the end", list({u"a", u"T", u"b"}), 9},
+    {"the same with a lower bound", list({u"a", u"T", u"b"}, -4), 9},
+    {"one element", list({u"a"}), 9},
+    {"two dimensions", square({u"a", u"T"}), 9},
+    {"an array without bounds", shapeless(), 9},
+    {"an object as expression", list({object(), u"T"}), 13},
+    {"an object as descriptor", list({u"a", object()}), 13},
+    {"Null as expression", list({Null{}, u"T"}), 94},
+    {"Null as descriptor", list({u"a", u"T", u"b", Null{}}), 94},
+    {"an array as expression", list({list({u"a"}), u"T"}), 13},
+    {"a missing descriptor", list({u"a", Missing{}}), 13},
+};
+
+using UnreadableColumns = Rows<QueryTest, UnreadableColumnsRow>;
+
+TEST_P(UnreadableColumns, AreTold) {
+  const UnreadableColumnsRow& row = GetParam();
+  for (const Engine engine : kEngines) {
+    cSQL20 query;
+    const auto create = [&] { return query.Crear(request(engine, row.columns)); };
+    EXPECT_FALSE(showing({failed(u"ConstruirSelect", row.number)}, create));
+    EXPECT_FALSE(query.Creado());
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, UnreadableColumns, ::testing::ValuesIn(kUnreadableColumnsRows), row_name);
 
 TEST_F(Csql20CreateTest, WithoutColumnsTheSelectIsCut) {
   cSQL20 query;

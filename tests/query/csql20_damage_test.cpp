@@ -1,9 +1,12 @@
 // Kept definition texts: one that was written long ago, and what becomes of those that were damaged since.
 #include "query/definition_text.h"
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 // Written by the first version; hosts have such texts in their files.
 constexpr TextView kKept =
@@ -66,74 +69,91 @@ TEST_F(Csql20DamageTest, RefusesEveryChangeOfOneCharacter) {
   }
 }
 
-TEST_F(Csql20DamageTest, RefusesWhatStandsAroundIt) {
-  for (const Text& text : {Text(), Text(u" "), Text(u"SELECT a FROM b"), u" " + Text(kKept), Text(kKept) + u" ",
-                           Text(kKept) + Text(kKept), Text(kKept) + u"\r\n", Text(1000, u'<'), Text(5, u'\0')}) {
-    SCOPED_TRACE(to_utf8(text));
-    expect_refused(text);
-  }
-}
+struct OtherTextRow {
+  const char* name;
+  Text text;
+};
+const OtherTextRow kOtherTexts[] = {
+    {"empty", u""},
+    {"a blank", u" "},
+    {"a statement", u"SELECT a FROM b"},
+    {"a blank before it", u" " + Text(kKept)},
+    {"a blank behind it", Text(kKept) + u" "},
+    {"twice", Text(kKept) + Text(kKept)},
+    {"a line break behind it", Text(kKept) + u"\r\n"},
+    {"the first character of a mark", Text(1000, u'<')},
+    {"NUL", Text(5, u'\0')},
+};
+
+using OtherText = Rows<Csql20DamageTest, OtherTextRow>;
+
+TEST_P(OtherText, IsRefused) { expect_refused(GetParam().text); }
+
+INSTANTIATE_TEST_SUITE_P(, OtherText, ::testing::ValuesIn(kOtherTexts), row_name);
 
 // Texts whose end mark is right all the same: somebody wrote them so.
-TEST_F(Csql20DamageTest, RefusesWhatItNeverWrites) {
+struct NeverWrittenRow {
+  const char* name;
+  TextView what, by;
+  std::int32_t number = 13;
+};
+constexpr NeverWrittenRow kNeverWritten[] = {
+    {"another version", u"cSQL20 1", u"cSQL20 2"},
+    {"another class", u"cSQL20 1", u"uSQL20 1"},
+    {"a blank behind the version", u"cSQL20 1", u"cSQL20 1 "},
+    {"no engine", u"<*MotorBD=N*>2", u""},
+    {"the engine as a text", u"<*MotorBD=N*>2", u"<*MotorBD=T*>2"},
+    {"the engine's name in another case", u"<*MotorBD=N*>2", u"<*motorbd=N*>2"},
+    {"an empty engine", u"<*MotorBD=N*>2", u"<*MotorBD=N*>"},
+    {"an engine with a plus", u"<*MotorBD=N*>2", u"<*MotorBD=N*>+2"},
+    {"an engine behind a blank", u"<*MotorBD=N*>2", u"<*MotorBD=N*> 2"},
+    {"an engine with a zero before it", u"<*MotorBD=N*>2", u"<*MotorBD=N*>02"},
+    {"an engine of minus zero", u"<*MotorBD=N*>2", u"<*MotorBD=N*>-0"},
+    {"an engine too great", u"<*MotorBD=N*>2", u"<*MotorBD=N*>2147483648"},
+    {"an engine of another script's digits", u"<*MotorBD=N*>2", u"<*MotorBD=N*>\u0132"},
+    {"the engine twice", u"<*MotorBD=N*>2", u"<*MotorBD=N*>2<*MotorBD=N*>2"},
+    {"a truth of two", u"UsarDistinct=L*>1", u"UsarDistinct=L*>2"},
+    {"an empty truth", u"UsarDistinct=L*>1", u"UsarDistinct=L*>"},
+    {"a truth with a zero before it", u"UsarDistinct=L*>1", u"UsarDistinct=L*>01"},
+    {"a limit with decimals", u"<*TOP=N*>5", u"<*TOP=N*>5.0"},
+    {"a column without its type", u"<*Tipo=T*>T", u""},
+    {"the type behind the field", u"<*Tipo=T*>T<*Campo=T*>Nombre", u"<*Campo=T*>Nombre<*Tipo=T*>T"},
+    {"more groups than columns", u"GROUPBY=N*>1", u"GROUPBY=N*>3", 9},
+    {"groups below zero", u"GROUPBY=N*>1", u"GROUPBY=N*>-1"},
+    {"too many groups", u"GROUPBY=N*>1", u"GROUPBY=N*>32768"},
+    {"a click beside the columns", u"1,-2", u"1,-3"},
+    {"a column clicked twice", u"1,-2", u"1,2,1"},
+    {"a column clicked twice downwards", u"1,-2", u"1,-1"},
+    {"a click on no column", u"1,-2", u"0"},
+    {"clicks of a comma", u"1,-2", u","},
+    {"clicks with a comma behind", u"1,-2", u"1,"},
+    {"clicks with a blank", u"1,-2", u"1 ,2"},
+    {"a click with a plus", u"1,-2", u"+1"},
+    {"a click too great", u"1,-2", u"99999"},
+    {"a click far too great", u"1,-2", u"999999999999"},
+    {"no criterion", u"<*Criterio=T*>", u""},
+    {"a criterion's mark without its name and type", u"<*Criterio=T*>", u"<*>"},
+    {"a criterion's mark that does not end", u"<*Criterio=T*>", u"<*Criterio=T"},
+    {"a criterion's mark without its name", u"<*Criterio=T*>", u"<*=T*>"},
+    {"a criterion's mark without its sign", u"<*Criterio=T*>", u"<*T*>"},
+    {"a criterion's mark without its equals sign", u"<*Criterio=T*>", u"<*CriterioT*>"},
+    {"another mark behind", u"<*Criterio=T*>", u"<*Criterio=T*>x<*Otro=T*>"},
+    {"a sign that is not doubled", u"Pa\u00eds = <**", u"Pa\u00eds = <*"},
+    {"a union's mark", u"Pa\u00eds = <**", u"<*uSQL_TD*>"},
+};
+
+using NeverWritten = Rows<Csql20DamageTest, NeverWrittenRow>;
+
+TEST_P(NeverWritten, IsRefused) {
   const Text kept(kKept.substr(0, kKept.rfind(u"<*fin=")));
   const auto sealed = [](TextView text) { return query::DefinitionWriter(text).finished(); };
   ASSERT_EQ(sealed(kept), kKept);
-  struct Row {
-    TextView what, by;
-    std::int32_t number = 13;
-  };
-  constexpr Row kRows[] = {
-      {u"cSQL20 1", u"cSQL20 2"},
-      {u"cSQL20 1", u"uSQL20 1"},
-      {u"cSQL20 1", u"cSQL20 1 "},
-      {u"<*MotorBD=N*>2", u""},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=T*>2"},
-      {u"<*MotorBD=N*>2", u"<*motorbd=N*>2"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>+2"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*> 2"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>02"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>-0"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>2147483648"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>\u0132"},
-      {u"<*MotorBD=N*>2", u"<*MotorBD=N*>2<*MotorBD=N*>2"},
-      {u"UsarDistinct=L*>1", u"UsarDistinct=L*>2"},
-      {u"UsarDistinct=L*>1", u"UsarDistinct=L*>"},
-      {u"UsarDistinct=L*>1", u"UsarDistinct=L*>01"},
-      {u"<*TOP=N*>5", u"<*TOP=N*>5.0"},
-      {u"<*Tipo=T*>T", u""},
-      {u"<*Tipo=T*>T<*Campo=T*>Nombre", u"<*Campo=T*>Nombre<*Tipo=T*>T"},
-      {u"GROUPBY=N*>1", u"GROUPBY=N*>3", 9},
-      {u"GROUPBY=N*>1", u"GROUPBY=N*>-1"},
-      {u"GROUPBY=N*>1", u"GROUPBY=N*>32768"},
-      {u"1,-2", u"1,-3"},
-      {u"1,-2", u"1,2,1"},
-      {u"1,-2", u"1,-1"},
-      {u"1,-2", u"0"},
-      {u"1,-2", u","},
-      {u"1,-2", u"1,"},
-      {u"1,-2", u"1 ,2"},
-      {u"1,-2", u"+1"},
-      {u"1,-2", u"99999"},
-      {u"1,-2", u"999999999999"},
-      {u"<*Criterio=T*>", u""},
-      {u"<*Criterio=T*>", u"<*>"},
-      {u"<*Criterio=T*>", u"<*Criterio=T"},
-      {u"<*Criterio=T*>", u"<*=T*>"},
-      {u"<*Criterio=T*>", u"<*T*>"},
-      {u"<*Criterio=T*>", u"<*CriterioT*>"},
-      {u"<*Criterio=T*>", u"<*Criterio=T*>x<*Otro=T*>"},
-      {u"Pa\u00eds = <**", u"Pa\u00eds = <*"},
-      {u"Pa\u00eds = <**", u"<*uSQL_TD*>"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(join({row.what, u" -> ", row.by})));
-    const Text changed = replace_all(kept, row.what, row.by);
-    ASSERT_NE(changed, kept);
-    expect_refused(sealed(changed), row.number);
-  }
+  const Text changed = replace_all(kept, GetParam().what, GetParam().by);
+  ASSERT_NE(changed, kept);
+  expect_refused(sealed(changed), GetParam().number);
 }
+
+INSTANTIATE_TEST_SUITE_P(, NeverWritten, ::testing::ValuesIn(kNeverWritten), row_name);
 
 TEST_F(Csql20DamageTest, TheCompleteCriterionIsWhatWasAdded) {
   cSQL20 query;
@@ -150,34 +170,78 @@ TEST_F(Csql20DamageTest, TheCompleteCriterionIsWhatWasAdded) {
   EXPECT_EQ(query.CriterioActual(), u"");
 }
 
-TEST_F(Csql20DamageTest, ADamagedCompleteCriterionChangesNothing) {
+// In place of a complete criterion: each is a function of the one that the query gave.
+struct DamagedCriterionRow {
+  const char* name;
+  Text (*damaged)(const Text& complete);
+};
+constexpr TextView kMark = u"<*cSQL_CRI*>";
+constexpr DamagedCriterionRow kDamagedCriteria[] = {
+    {"a letter", [](const Text&) { return Text(u"x"); }},
+    {"a blank", [](const Text&) { return Text(u" "); }},
+    {"two pieces", [](const Text&) { return Text(kMark); }},
+    {"three pieces",
+     [](const Text&) {
+       return join({kMark, kMark});
+     }},
+    {"five pieces",
+     [](const Text&) {
+       return join({kMark, kMark, kMark, kMark});
+     }},
+    {"a piece too many", [](const Text& complete) { return complete + Text(kMark); }},
+    {"a click beside the columns",
+     [](const Text&) {
+       return join({kMark, kMark, u"3", kMark});
+     }},
+    {"a click on no column",
+     [](const Text&) {
+       return join({kMark, kMark, u"0", kMark});
+     }},
+    {"a column clicked twice",
+     [](const Text&) {
+       return join({kMark, kMark, u"1,1", kMark});
+     }},
+    {"a click on a letter",
+     [](const Text&) {
+       return join({kMark, kMark, u"a", kMark});
+     }},
+    {"a click behind a blank",
+     [](const Text&) {
+       return join({kMark, kMark, u" 1", kMark});
+     }},
+    {"a sign that is not doubled",
+     [](const Text&) {
+       return join({u"<*x", kMark, kMark, kMark});
+     }},
+    {"a sign that is not doubled at the end",
+     [](const Text&) {
+       return join({kMark, u"<*", kMark, kMark});
+     }},
+    {"a union's mark",
+     [](const Text&) {
+       return join({kMark, kMark, kMark, u"<*uSQL_CRI*>"});
+     }},
+    {"marks in another case", [](const Text& complete) { return replace_all(complete, kMark, u"<*CSQL_CRI*>"); }},
+};
+
+using DamagedCriterion = Rows<Csql20DamageTest, DamagedCriterionRow>;
+
+TEST_P(DamagedCriterion, ChangesNothing) {
   cSQL20 query;
   ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
   const Text complete = query.CriterioActualCompleto(), sql = query.SQL();
-  constexpr TextView kMark = u"<*cSQL_CRI*>";
-  const Text kDamaged[] = {u"x",
-                           u" ",
-                           Text(kMark),
-                           join({kMark, kMark}),
-                           join({kMark, kMark, kMark, kMark}),
-                           complete + Text(kMark),
-                           join({kMark, kMark, u"3", kMark}),
-                           join({kMark, kMark, u"0", kMark}),
-                           join({kMark, kMark, u"1,1", kMark}),
-                           join({kMark, kMark, u"a", kMark}),
-                           join({kMark, kMark, u" 1", kMark}),
-                           join({u"<*x", kMark, kMark, kMark}),
-                           join({kMark, u"<*", kMark, kMark}),
-                           join({kMark, kMark, kMark, u"<*uSQL_CRI*>"}),
-                           replace_all(complete, kMark, u"<*CSQL_CRI*>")};
-  for (const Text& damaged : kDamaged) {
-    SCOPED_TRACE(to_utf8(damaged));
-    query.CriterioActualCompleto(damaged);
-    EXPECT_EQ(query.SQL(), sql);
-    EXPECT_EQ(query.CriterioActualCompleto(), complete);
-  }
+  query.CriterioActualCompleto(GetParam().damaged(complete));
+  EXPECT_EQ(query.SQL(), sql);
+  EXPECT_EQ(query.CriterioActualCompleto(), complete);
+}
+
+INSTANTIATE_TEST_SUITE_P(, DamagedCriterion, ::testing::ValuesIn(kDamagedCriteria), row_name);
+
+TEST_F(Csql20DamageTest, ACompleteCriterionOfEmptyPiecesIsNothingAdded) {
+  cSQL20 query;
+  ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
   query.CriterioActualCompleto(join({kMark, kMark, kMark}));
-  EXPECT_EQ(query.SQL(), query.SQLOriginal()) << "four empty pieces are nothing added";
+  EXPECT_EQ(query.SQL(), query.SQLOriginal());
 }
 
 }  // namespace

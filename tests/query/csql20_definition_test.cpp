@@ -1,9 +1,11 @@
 // A query as one text, and the query that comes of it.
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using Csql20DefinitionTest = QueryTest;
 
 // What two queries have to agree in: everything but what belongs to their holders.
@@ -131,53 +133,62 @@ TEST_F(Csql20DefinitionTest, TagAndLanguageStayWithTheirHolder) {
   EXPECT_EQ(copy.Idioma(), 3);
 }
 
-TEST_F(Csql20DefinitionTest, KeepsWhateverItsTextsHold) {
-  const Text kHostile[] = {u"<*uSQL_TD*>",
-                           u"<*uSQL_CRI*>",
-                           u"<*cSQL_CRI*>",
-                           u"<*fin=00000000*>",
-                           u"<*WHERE=T*>",
-                           u"<**",
-                           u"<***WHERE=T*>",
-                           u"<",
-                           u"<*",
-                           u"<*<*<**>*>",
-                           u"<<*",
-                           u"*>",
-                           u"=T*>",
-                           u"a\r\nb\nc\r",
-                           Text(u"\0a\0", 3),
-                           u"\u00f1\u4e2d\U0001F600",
-                           Text{0xD800},
-                           Text{0xDC00, u'<', u'*', 0xD800},
-                           Text{0xFFFF, 0xFFFE},
-                           u"'; DROP TABLE x --",
-                           u" "};
-  for (const Text& text : kHostile) {
-    SCOPED_TRACE(to_utf8(text));
-    QueryRequest wanted = request(Engine::SqlServer, list({text, Text(u"T>") + text, u"b", text.substr(0, 1) + u">b"}),
-                                  text);
-    wanted.NombreObjeto = wanted.CondicionWHEREInicial = wanted.CondicionHAVINGInicial = text;
-    wanted.TextoORDERBYInicial = text;
-    wanted.NumColumnasGROUPBY = 1;
-    cSQL20 query, copy, third;
-    ASSERT_TRUE(query.Crear(wanted));
-    query.AmpliarCondicionWhere(text, text);
-    query.AmpliarCondicionHaving(text, text);
-    ASSERT_TRUE(copy.CrearDesdeTextoDefinicion(query.TextoDefinicion()));
-    EXPECT_EQ(described(copy, {text, u"b"}), described(query, {text, u"b"}));
-    EXPECT_EQ(copy.TextoDefinicion(), query.TextoDefinicion());
-    // And what was added alone, in a query with other conditions.
-    ASSERT_TRUE(third.Crear(plain(Engine::SqlServer)));
-    third.CriterioActualCompleto(query.CriterioActualCompleto());
-    EXPECT_EQ(third.CriterioActual(), query.CriterioActual());
-    EXPECT_EQ(third.CriterioActualCompleto(), query.CriterioActualCompleto());
-    for (const TextView mark : {u"<*uSQL_TD*>", u"<*uSQL_CRI*>"}) {
-      EXPECT_EQ(query.TextoDefinicion().find(mark), Text::npos);
-      EXPECT_EQ(query.CriterioActualCompleto().find(mark), Text::npos);
-    }
+struct HeldTextRow {
+  const char* name;
+  Text text;
+};
+const HeldTextRow kHeldTexts[] = {
+    {"mark between a union's members", u"<*uSQL_TD*>"},
+    {"mark between a union's criteria", u"<*uSQL_CRI*>"},
+    {"mark between a criterion's pieces", u"<*cSQL_CRI*>"},
+    {"end mark", u"<*fin=00000000*>"},
+    {"mark of a part", u"<*WHERE=T*>"},
+    {"doubled sign", u"<**"},
+    {"doubled sign before a mark", u"<***WHERE=T*>"},
+    {"first character of a mark", u"<"},
+    {"beginning of a mark", u"<*"},
+    {"marks within marks", u"<*<*<**>*>"},
+    {"first character twice", u"<<*"},
+    {"end of a mark", u"*>"},
+    {"sign and end of a mark", u"=T*>"},
+    {"line breaks", u"a\r\nb\nc\r"},
+    {"NUL", Text(u"\0a\0", 3)},
+    {"letters beyond ASCII", u"\u00f1\u4e2d\U0001F600"},
+    {"first half of a pair", Text{0xD800}},
+    {"halves around a mark", Text{0xDC00, u'<', u'*', 0xD800}},
+    {"noncharacters", Text{0xFFFF, 0xFFFE}},
+    {"end of a statement", u"'; DROP TABLE x --"},
+    {"blank", u" "},
+};
+
+using HeldText = Rows<Csql20DefinitionTest, HeldTextRow>;
+
+TEST_P(HeldText, IsKeptInEveryPart) {
+  const Text& text = GetParam().text;
+  QueryRequest wanted = request(Engine::SqlServer, list({text, Text(u"T>") + text, u"b", text.substr(0, 1) + u">b"}),
+                                text);
+  wanted.NombreObjeto = wanted.CondicionWHEREInicial = wanted.CondicionHAVINGInicial = text;
+  wanted.TextoORDERBYInicial = text;
+  wanted.NumColumnasGROUPBY = 1;
+  cSQL20 query, copy, third;
+  ASSERT_TRUE(query.Crear(wanted));
+  query.AmpliarCondicionWhere(text, text);
+  query.AmpliarCondicionHaving(text, text);
+  ASSERT_TRUE(copy.CrearDesdeTextoDefinicion(query.TextoDefinicion()));
+  EXPECT_EQ(described(copy, {text, u"b"}), described(query, {text, u"b"}));
+  EXPECT_EQ(copy.TextoDefinicion(), query.TextoDefinicion());
+  // And what was added alone, in a query with other conditions.
+  ASSERT_TRUE(third.Crear(plain(Engine::SqlServer)));
+  third.CriterioActualCompleto(query.CriterioActualCompleto());
+  EXPECT_EQ(third.CriterioActual(), query.CriterioActual());
+  EXPECT_EQ(third.CriterioActualCompleto(), query.CriterioActualCompleto());
+  for (const TextView mark : {u"<*uSQL_TD*>", u"<*uSQL_CRI*>"}) {
+    EXPECT_EQ(query.TextoDefinicion().find(mark), Text::npos);
+    EXPECT_EQ(query.CriterioActualCompleto().find(mark), Text::npos);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, HeldText, ::testing::ValuesIn(kHeldTexts), row_name);
 
 // A list of keys that a host made, and many columns.
 TEST_F(Csql20DefinitionTest, HoldsVeryLongTexts) {

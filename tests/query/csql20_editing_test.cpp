@@ -1,15 +1,18 @@
 // What is added to a query, taken away again and made its own.
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class Csql20EditingTest : public QueryTest {
  protected:
   void SetUp() override { ASSERT_TRUE(query.Crear(full(Engine::SqlServer))); }
 
   // Clicks on columns, none of which shows a box.
-  void click(std::initializer_list<std::int16_t> columns) {
+  void click(const std::vector<std::int16_t>& columns) {
     for (const std::int16_t column : columns) EXPECT_FALSE(query.AmpliarOrden(column));
   }
 
@@ -104,34 +107,38 @@ TEST_F(Csql20EditingTest, ANewOrderTakesTheClicksAway) {
   EXPECT_EQ(query.SQLOriginal(), query.SQLOriginalSinOrden() + u" ");
 }
 
-TEST_F(Csql20EditingTest, ClicksSortByTheColumnClickedLast) {
-  struct Row {
-    std::initializer_list<std::int16_t> clicks;
-    TextView order;
-  };
-  const Row kRows[] = {
-      {{}, u"ORDER BY C.Nombre"},
-      {{1}, u"ORDER BY 1"},
-      {{1, 1}, u"ORDER BY 1 DESC"},
-      {{1, 1, 1}, u"ORDER BY 1"},
-      {{2}, u"ORDER BY 2 DESC"},
-      {{2, 2}, u"ORDER BY 2"},
-      {{1, 4}, u"ORDER BY 4,1"},
-      {{1, 1, 4}, u"ORDER BY 4,1 DESC"},
-      {{1, 1, 4, 1}, u"ORDER BY 1,4"},
-      {{2, 2, 1, 2}, u"ORDER BY 2 DESC,1"},
-      {{3}, u"ORDER BY C.Nombre"},
-      {{1, 3, 1}, u"ORDER BY 1 DESC"},
-      {{1, 2, 4, 4, 1}, u"ORDER BY 1,4 DESC,2 DESC"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(row.order));
-    query.RestauraOriginal(false, true);
-    click(row.clicks);
-    EXPECT_EQ(query.ParteOrder(false), row.order);
-    EXPECT_EQ(query.ParteOrder(true), row.order.substr(9));
-  }
+struct ClicksRow {
+  const char* name;
+  std::vector<std::int16_t> clicks;
+  TextView order;
+};
+const ClicksRow kClicksRows[] = {
+    {"none", {}, u"ORDER BY C.Nombre"},
+    {"a text", {1}, u"ORDER BY 1"},
+    {"a text twice", {1, 1}, u"ORDER BY 1 DESC"},
+    {"a text three times", {1, 1, 1}, u"ORDER BY 1"},
+    {"a date", {2}, u"ORDER BY 2 DESC"},
+    {"a date twice", {2, 2}, u"ORDER BY 2"},
+    {"two columns", {1, 4}, u"ORDER BY 4,1"},
+    {"two columns, the first one twice", {1, 1, 4}, u"ORDER BY 4,1 DESC"},
+    {"back to the first column", {1, 1, 4, 1}, u"ORDER BY 1,4"},
+    {"back to a date", {2, 2, 1, 2}, u"ORDER BY 2 DESC,1"},
+    {"a long text", {3}, u"ORDER BY C.Nombre"},
+    {"a long text between", {1, 3, 1}, u"ORDER BY 1 DESC"},
+    {"three columns, two of them twice", {1, 2, 4, 4, 1}, u"ORDER BY 1,4 DESC,2 DESC"},
+};
+
+using Clicks = Rows<Csql20EditingTest, ClicksRow>;
+
+TEST_P(Clicks, SortByTheColumnClickedLast) {
+  const ClicksRow& row = GetParam();
+  query.RestauraOriginal(false, true);
+  click(row.clicks);
+  EXPECT_EQ(query.ParteOrder(false), row.order);
+  EXPECT_EQ(query.ParteOrder(true), row.order.substr(9));
 }
+
+INSTANTIATE_TEST_SUITE_P(, Clicks, ::testing::ValuesIn(kClicksRows), row_name);
 
 TEST_F(Csql20EditingTest, AClickBesideTheColumnsIsTold) {
   click({1});

@@ -1,9 +1,11 @@
 // The statements and clauses that a query gives, blank by blank.
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using Csql20StatementsTest = QueryTest;
 
 // The four statements, one beside the other.
@@ -80,41 +82,45 @@ TEST_F(Csql20StatementsTest, ABlankClauseStaysInTheOriginal) {
   EXPECT_EQ(query.SQLOriginal(), u"SELECT Nombre  FROM Clientes  WHERE     HAVING    ORDER BY   ");
 }
 
-TEST_F(Csql20StatementsTest, ParteWhereJoinsWhatThereIs) {
-  struct Row {
-    Text original, added;
-    std::int32_t top;
-    TextView condition, oracle_condition;
-  };
-  const Row kRows[] = {
-      {u"a=1", u"b=2", 0, u"a=1 And (b=2)", u"a=1 And (b=2)"},
-      {u"a=1", u"b=2", 5, u"a=1 And (b=2)", u"a=1 And (b=2) And (RowNum<=5) "},
-      {u"a=1", u"", 5, u"a=1", u"a=1 And (RowNum<=5) "},
-      {u" a=1 ", u"", 0, u" a=1 ", u" a=1 "},
-      {u"", u"b=2", 5, u"(b=2)", u"(b=2) And (RowNum<=5) "},
-      {u"  ", u" b=2", 5, u"( b=2)", u"( b=2) And (RowNum<=5) "},
-      {u"", u"", 5, u"", u" (RowNum<=5) "},
-      {u"   ", u"", 5, u"", u" (RowNum<=5) "},
-      {u"", u"", 0, u"", u""},
-      {u"\t", u"", 0, u"\t", u"\t"},
-      {u"a=1", u"", -5, u"a=1", u"a=1"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(join({row.original, u" / ", row.added, u" / ", decimal(row.top)})));
-    for (const Engine engine : kEngines) {
-      SCOPED_TRACE(number_of(engine));
-      QueryRequest wanted = plain(engine);
-      wanted.CondicionWHEREInicial = row.original;
-      wanted.TOP = row.top;
-      cSQL20 query;
-      ASSERT_TRUE(query.Crear(wanted));
-      EXPECT_EQ(query.AmpliarCondicionWhere(row.added, u""), !row.added.empty());
-      const TextView condition = engine == Engine::Oracle ? row.oracle_condition : row.condition;
-      EXPECT_EQ(query.ParteWhere(true), condition);
-      EXPECT_EQ(query.ParteWhere(false), condition.empty() ? Text() : join({u"WHERE ", condition}));
-    }
+struct ParteWhereRow {
+  const char* name;
+  Text original, added;
+  std::int32_t top;
+  TextView condition, oracle_condition;
+};
+const ParteWhereRow kParteWhereRows[] = {
+    {"original and added", u"a=1", u"b=2", 0, u"a=1 And (b=2)", u"a=1 And (b=2)"},
+    {"original, added and limit", u"a=1", u"b=2", 5, u"a=1 And (b=2)", u"a=1 And (b=2) And (RowNum<=5) "},
+    {"original and limit", u"a=1", u"", 5, u"a=1", u"a=1 And (RowNum<=5) "},
+    {"original with blanks", u" a=1 ", u"", 0, u" a=1 ", u" a=1 "},
+    {"added and limit", u"", u"b=2", 5, u"(b=2)", u"(b=2) And (RowNum<=5) "},
+    {"blank original, added and limit", u"  ", u" b=2", 5, u"( b=2)", u"( b=2) And (RowNum<=5) "},
+    {"limit", u"", u"", 5, u"", u" (RowNum<=5) "},
+    {"blank original and limit", u"   ", u"", 5, u"", u" (RowNum<=5) "},
+    {"nothing", u"", u"", 0, u"", u""},
+    {"a tab is not blank", u"\t", u"", 0, u"\t", u"\t"},
+    {"original and a limit below zero", u"a=1", u"", -5, u"a=1", u"a=1"},
+};
+
+using ParteWhere = Rows<QueryTest, ParteWhereRow>;
+
+TEST_P(ParteWhere, JoinsWhatThereIs) {
+  const ParteWhereRow& row = GetParam();
+  for (const Engine engine : kEngines) {
+    SCOPED_TRACE(number_of(engine));
+    QueryRequest wanted = plain(engine);
+    wanted.CondicionWHEREInicial = row.original;
+    wanted.TOP = row.top;
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(wanted));
+    EXPECT_EQ(query.AmpliarCondicionWhere(row.added, u""), !row.added.empty());
+    const TextView condition = engine == Engine::Oracle ? row.oracle_condition : row.condition;
+    EXPECT_EQ(query.ParteWhere(true), condition);
+    EXPECT_EQ(query.ParteWhere(false), condition.empty() ? Text() : join({u"WHERE ", condition}));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, ParteWhere, ::testing::ValuesIn(kParteWhereRows), row_name);
 
 TEST_F(Csql20StatementsTest, ParteHavingAndParteOrder) {
   struct Row {

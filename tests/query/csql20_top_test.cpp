@@ -1,15 +1,18 @@
 // The limit of rows, written after the query was created.
 #include "query/query_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 using Csql20TopTest = QueryTest;
 
 constexpr TextView kRest = u"  FROM Clientes     ";
 
 // A query with this limit from its beginning, then with each of these, one after the other.
-struct Row {
+struct TopRow {
+  const char* name;
   bool distinct;
   std::int32_t first;
   std::vector<std::int32_t> next;
@@ -17,40 +20,43 @@ struct Row {
   TextView select;  // of Jet and SQL Server
 };
 
-TEST_F(Csql20TopTest, ComesGoesAndChanges) {
-  const Row kRows[] = {
-      {false, 0, {5}, 5, u"SELECT  TOP 5 Nombre"},
-      {true, 0, {5}, 5, u"SELECT DISTINCT  TOP 5 Nombre"},
-      {false, 5, {50}, 50, u"SELECT  TOP 50 Nombre"},
-      {true, 5, {INT32_MAX}, INT32_MAX, u"SELECT DISTINCT  TOP 2147483647 Nombre"},
-      {false, 0, {5, 0}, 0, u"SELECT  Nombre"},
-      {true, 5, {0}, 0, u"SELECT DISTINCT  Nombre"},
-      {false, 5, {0, 5, 0}, 0, u"SELECT   Nombre"},
-      {false, 5, {0, 7}, 7, u"SELECT  TOP 7  Nombre"},
-      {false, 5, {5}, 5, u"SELECT  TOP 5 Nombre"},
-      {false, 5, {-1}, 5, u"SELECT  TOP 5 Nombre"},
-      {false, 0, {-1}, 0, u"SELECT Nombre"},
-      {false, 0, {0}, 0, u"SELECT Nombre"},
-      {false, -3, {5}, -3, u"SELECT Nombre"},
-      {false, -3, {0}, -3, u"SELECT Nombre"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(to_utf8(join({row.select, u" from ", decimal(row.first)})));
-    for (const Engine engine : kEngines) {
-      SCOPED_TRACE(number_of(engine));
-      QueryRequest wanted = plain(engine);
-      wanted.UsarDistinct = row.distinct;
-      wanted.TOP = row.first;
-      cSQL20 query;
-      ASSERT_TRUE(query.Crear(wanted));
-      for (const std::int32_t top : row.next) query.TOP(top);
-      EXPECT_EQ(query.TOP(), row.top);
-      const bool written = engine == Engine::Jet || engine == Engine::SqlServer;
-      const TextView unlimited = row.distinct ? u"SELECT DISTINCT Nombre" : u"SELECT Nombre";
-      EXPECT_EQ(query.SQLOriginal(), join({written ? row.select : unlimited, kRest}));
-    }
+const TopRow kTopSequenceRows[] = {
+    {"comes", false, 0, {5}, 5, u"SELECT  TOP 5 Nombre"},
+    {"comes behind DISTINCT", true, 0, {5}, 5, u"SELECT DISTINCT  TOP 5 Nombre"},
+    {"changes", false, 5, {50}, 50, u"SELECT  TOP 50 Nombre"},
+    {"changes behind DISTINCT", true, 5, {INT32_MAX}, INT32_MAX, u"SELECT DISTINCT  TOP 2147483647 Nombre"},
+    {"comes and goes", false, 0, {5, 0}, 0, u"SELECT  Nombre"},
+    {"goes behind DISTINCT", true, 5, {0}, 0, u"SELECT DISTINCT  Nombre"},
+    {"goes, comes and goes", false, 5, {0, 5, 0}, 0, u"SELECT   Nombre"},
+    {"goes and comes again", false, 5, {0, 7}, 7, u"SELECT  TOP 7  Nombre"},
+    {"stays the same", false, 5, {5}, 5, u"SELECT  TOP 5 Nombre"},
+    {"stays without a smaller one", false, 5, {-1}, 5, u"SELECT  TOP 5 Nombre"},
+    {"below zero is none", false, 0, {-1}, 0, u"SELECT Nombre"},
+    {"none stays none", false, 0, {0}, 0, u"SELECT Nombre"},
+    {"below zero stays", false, -3, {5}, -3, u"SELECT Nombre"},
+    {"below zero stays without one", false, -3, {0}, -3, u"SELECT Nombre"},
+};
+
+using TopSequence = Rows<QueryTest, TopRow>;
+
+TEST_P(TopSequence, EndsInThisSelect) {
+  const TopRow& row = GetParam();
+  for (const Engine engine : kEngines) {
+    SCOPED_TRACE(number_of(engine));
+    QueryRequest wanted = plain(engine);
+    wanted.UsarDistinct = row.distinct;
+    wanted.TOP = row.first;
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(wanted));
+    for (const std::int32_t top : row.next) query.TOP(top);
+    EXPECT_EQ(query.TOP(), row.top);
+    const bool written = engine == Engine::Jet || engine == Engine::SqlServer;
+    const TextView unlimited = row.distinct ? u"SELECT DISTINCT Nombre" : u"SELECT Nombre";
+    EXPECT_EQ(query.SQLOriginal(), join({written ? row.select : unlimited, kRest}));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, TopSequence, ::testing::ValuesIn(kTopSequenceRows), row_name);
 
 TEST_F(Csql20TopTest, DoesNothingBeforeThereIsAQuery) {
   cSQL20 query;

@@ -32,11 +32,22 @@ struct SearchRow {
   TextView search, condition, criterion = {};  // no condition: no search
 };
 
+// A search that is a test of its own.
+struct NamedSearch {
+  const char* name;
+  query::SearchColumn column;
+  Engine engine;
+  Text search, condition, criterion = {};  // no condition: no search
+};
+
 // What a Spanish user types, and what comes of it for one engine.
 class SpanishSearch : public ::testing::Test {
  protected:
   SpanishSearch() { speak(thread, kSpanish); }
   static void expect(const query::SearchColumn& column, Engine engine, std::initializer_list<SearchRow> rows);
+  static void expect(const NamedSearch& row) {
+    expect(row.column, row.engine, {{row.search, row.condition, row.criterion}});
+  }
 
   TestThread thread;
 };

@@ -1,9 +1,12 @@
 // How long what is typed may be, and that nothing takes long.
 #include "base/utf8.h"
 #include "query/search_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class SearchLengths : public SpanishSearch {
  protected:
@@ -22,19 +25,41 @@ class SearchLengths : public SpanishSearch {
   const Text longest_ = Text(1000, u'a'), longer_ = Text(1001, u'a');
 };
 
-TEST_F(SearchLengths, OperandsAreNoLongerThanPeopleType) {
-  constexpr struct {
-    TextView before, behind;
-  } kPlaces[] = {{u"", u""},           {u"*", u"*"},         {u"!", u""},     {u"=", u""},   {u"<>", u"*"},
-                 {u"LIKE ", u""},      {u"<> LIKE ", u""},   {u"< ", u""},    {u"<=", u"*"}, {u"LIKE '*", u"*'"},
-                 {u"es como '", u"'"}, {u"LIKE \"", u"\"*"}, {u"=\"", u"\""}, {u"a..", u""}, {u"", u"..b"},
-                 {u"'", u"'..b"},      {u"0..\"", u"\""}};
-  for (const auto& [before, behind] : kPlaces) {
-    expect_search(join({before, longest_, behind}));
-    expect_none(kNombre, join({before, longer_, behind}));
-  }
-  expect_none(kNombre, Text(4 << 20, u'a'));
+struct PlaceRow {
+  const char* name;
+  TextView before, behind;
+};
+constexpr PlaceRow kPlaces[] = {
+    {"alone", u"", u""},
+    {"between asterisks", u"*", u"*"},
+    {"negated", u"!", u""},
+    {"behind equals", u"=", u""},
+    {"behind not equals, before an asterisk", u"<>", u"*"},
+    {"behind LIKE", u"LIKE ", u""},
+    {"behind a negated LIKE", u"<> LIKE ", u""},
+    {"behind less", u"< ", u""},
+    {"behind at most, before an asterisk", u"<=", u"*"},
+    {"behind LIKE, between quoted asterisks", u"LIKE '*", u"*'"},
+    {"behind LIKE in words, in quotes", u"es como '", u"'"},
+    {"behind LIKE, in quotes before an asterisk", u"LIKE \"", u"\"*"},
+    {"behind equals, in quotes", u"=\"", u"\""},
+    {"last end of a range", u"a..", u""},
+    {"first end of a range", u"", u"..b"},
+    {"first end of a range in quotes", u"'", u"'..b"},
+    {"last end of a range in quotes", u"0..\"", u"\""},
+};
+
+using OperandPlace = Rows<SearchLengths, PlaceRow>;
+
+TEST_P(OperandPlace, HoldsNoMoreThanPeopleType) {
+  const auto& [name, before, behind] = GetParam();
+  expect_search(join({before, longest_, behind}));
+  expect_none(kNombre, join({before, longer_, behind}));
 }
+
+INSTANTIATE_TEST_SUITE_P(, OperandPlace, ::testing::ValuesIn(kPlaces), row_name);
+
+TEST_F(SearchLengths, AFileIsNoOperand) { expect_none(kNombre, Text(4 << 20, u'a')); }
 
 TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
   expect_none(kPrecio, Text(29, u'1'));
@@ -70,7 +95,7 @@ TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
 
 // Whoever looks at a run of blanks again from each of its blanks, or for a ";" to the end from each word, does not come
 // back from these.
-TEST_F(SearchLengths, LongTextsAreGoneThroughOnce) {
+TEST_F(SearchLengths, TextsOfMillionsOfCharactersAreRead) {
   constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
   const Text blanks(std::size_t{1} << 21, u' ');
   expect(kNombre, Engine::Jet,

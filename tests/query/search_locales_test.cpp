@@ -1,9 +1,11 @@
 // Numbers and dates as users of seven locales type them and see them again.
 #include "query/search_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 struct Home {
   const char* name;
   char16_t decimal, thousands, date_separator;
@@ -77,11 +79,7 @@ TEST_P(SearchLocales, ReadTheirOwnDates) {
   EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"2011-02-13"), condition + typed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Homes, SearchLocales, ::testing::ValuesIn(kHomes), [](const auto& each) {
-  std::string name = each.param.name;
-  name.erase(name.find('-'), 1);
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(, SearchLocales, ::testing::ValuesIn(kHomes), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -3,10 +3,12 @@
 
 #include "base/utf8.h"
 #include "query/search_fixture.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
 struct Page {
   const char* name;
   UserLanguage language;
@@ -72,8 +74,7 @@ TEST_P(SearchPages, ShowWhatIsShown) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, SearchPages, ::testing::ValuesIn(kPages),
-                         [](const auto& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(, SearchPages, ::testing::ValuesIn(kPages), row_name);
 
 }  // namespace
 }  // namespace qvr::tests
