@@ -20,7 +20,7 @@ bool says_nothing(const std::string& bytes, std::size_t at, int bit) {
   return at >= check_line && bit == 5 && is_letter(bytes[at]);
 }
 
-TEST(CfpFileBits, EachOfThemIsRefused) {
+TEST(CfpFileBits, EachThatSaysSomethingIsRefused) {
   TestThread thread;
   thread.make_text_protection = [&] {
     return std::make_unique<services::BuiltinTextProtection>(thread_state().platform().cryptography);

@@ -1,15 +1,20 @@
 // The two members that work on ADO objects of the caller: neither raises, whatever ADO refuses.
+#include <algorithm>
+
 #include "connection/qvrcfp.h"
 #include "dialect/dialect_fixture.h"
 #include "support/describe.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
 using dialect::ParameterRequest;
+using tests::PrintTo;
 
 // One call to ADO, by the name under which it can fail, and its line in the log.
 struct Step {
+  const char* name;
   std::string operation;
   int occurrence;
   std::string line;
@@ -17,27 +22,27 @@ struct Step {
 using Steps = std::vector<Step>;
 
 const Steps kProcedure = {
-    {"new Command", 2, "new Command"},  // the first is the test's own
-    {"Command.ActiveConnection", 1, "Command.ActiveConnection"},
-    {"Command.CommandText", 1, "Command.CommandText: dbo.Alta"},
-    {"Command.CommandType", 1, "Command.CommandType: 4"},
-    {"Parameters.Refresh", 1, "Parameters.Refresh"},
-    {"Parameters.Item.Value", 1, "Parameters.Item.Value: 1=Long 5"},
-    {"Parameters.Item.Value", 2, "Parameters.Item.Value: 2=String Ana"},
-    {"Command.Execute", 1, "Command.Execute: dbo.Alta"},
-    {"Parameters.Item.Value read", 1, "Parameters.Item.Value read: 0"},
-    {"Parameters.Item.Value read", 2, "Parameters.Item.Value read: 1"},
-    {"Parameters.Item.Value read", 3, "Parameters.Item.Value read: 2"},
+    {"new Command", "new Command", 2, "new Command"},  // the first is the test's own
+    {"ActiveConnection", "Command.ActiveConnection", 1, "Command.ActiveConnection"},
+    {"CommandText", "Command.CommandText", 1, "Command.CommandText: dbo.Alta"},
+    {"CommandType", "Command.CommandType", 1, "Command.CommandType: 4"},
+    {"Refresh", "Parameters.Refresh", 1, "Parameters.Refresh"},
+    {"first element", "Parameters.Item.Value", 1, "Parameters.Item.Value: 1=Long 5"},
+    {"second element", "Parameters.Item.Value", 2, "Parameters.Item.Value: 2=String Ana"},
+    {"Execute", "Command.Execute", 1, "Command.Execute: dbo.Alta"},
+    {"return value", "Parameters.Item.Value read", 1, "Parameters.Item.Value read: 0"},
+    {"first output", "Parameters.Item.Value read", 2, "Parameters.Item.Value read: 1"},
+    {"second output", "Parameters.Item.Value read", 3, "Parameters.Item.Value read: 2"},
 };
 
 const Steps kParameter = {
-    {"new Parameter", 1, "new Parameter"},
-    {"Parameter.Type", 1, "Parameter.Type: 200"},
-    {"Parameter.Size", 1, "Parameter.Size: 100"},
-    {"Parameter.Name", 1, "Parameter.Name: @p"},
-    {"Parameter.Direction", 1, "Parameter.Direction: 2"},
-    {"Parameter.Value", 1, "Parameter.Value: String Ana"},
-    {"Parameters.Append", 1, "Parameters.Append"},
+    {"new Parameter", "new Parameter", 1, "new Parameter"},
+    {"Type", "Parameter.Type", 1, "Parameter.Type: 200"},
+    {"Size", "Parameter.Size", 1, "Parameter.Size: 100"},
+    {"Name", "Parameter.Name", 1, "Parameter.Name: @p"},
+    {"Direction", "Parameter.Direction", 1, "Parameter.Direction: 2"},
+    {"Value", "Parameter.Value", 1, "Parameter.Value: String Ana"},
+    {"Append", "Parameters.Append", 1, "Parameters.Append"},
 };
 
 // The lines up to the step that fails, which is logged as well, and the release of what was made by the first one.
@@ -46,6 +51,11 @@ Lines lines_until(const Steps& steps, std::size_t failing, const std::string& re
   for (std::size_t i = 0; i <= failing && i < steps.size(); ++i) lines.push_back(steps[i].line);
   if (failing > 0) lines.push_back(release);
   return lines;
+}
+
+Lines lines_until(const Steps& steps, const Step& failing, const std::string& release) {
+  const auto found = std::ranges::find(steps, failing.line, &Step::line);
+  return lines_until(steps, static_cast<std::size_t>(found - steps.begin()), release);
 }
 
 const FailureDetail kRefusal{-2147217900, u"refused", u"Provider"};
@@ -106,26 +116,27 @@ TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
   EXPECT_EQ(setting.first_parameter(), "Long 5");
 }
 
-TEST(QVRcfpProcedure, WhateverAdoRefusesIsReported) {
-  for (std::size_t failing = 0; failing < kProcedure.size(); ++failing) {
-    SCOPED_TRACE(kProcedure[failing].line);
-    Setting setting(Engine::SqlServer);
-    setting.thread.ado.fail(kProcedure[failing].operation, kProcedure[failing].occurrence, kRefusal,
-                            {{-2147217900, u"refused", u"Provider", u"42000", 2812}, {1, u"also", u"", u"", 0}});
-    EXPECT_FALSE(setting.call(setting.connection.get()));
-    Lines expected = lines_until(kProcedure, failing, "Command released");
-    expected.push_back("Report: -2147217900|refused|Provider|2|EjecutarProc|refused|also");
-    EXPECT_EQ(setting.thread.log.take(), expected);
-    EXPECT_EQ(setting.first_parameter(), "Long 5") << "nothing is given back by halves";
-    const services::ErrorNotice& notice = setting.thread.report.notices.at(0);
-    EXPECT_EQ(notice.object, u"dbo.Alta");
-    EXPECT_EQ(notice.captions.object, u"Objeto");
-    EXPECT_EQ(notice.captions.method, u"M\u00e9todo");
-    EXPECT_EQ(notice.captions.unknown_error, u"Error indeterminado");
-    EXPECT_EQ(notice.captions.duplicate_record, u"Registro duplicado");
-    EXPECT_EQ(notice.captions.server_not_found, u"Servidor no encontrado");
-  }
+using RefusedProcedure = Rows<::testing::Test, Step>;
+
+TEST_P(RefusedProcedure, IsReported) {
+  Setting setting(Engine::SqlServer);
+  setting.thread.ado.fail(GetParam().operation, GetParam().occurrence, kRefusal,
+                          {{-2147217900, u"refused", u"Provider", u"42000", 2812}, {1, u"also", u"", u"", 0}});
+  EXPECT_FALSE(setting.call(setting.connection.get()));
+  Lines expected = lines_until(kProcedure, GetParam(), "Command released");
+  expected.push_back("Report: -2147217900|refused|Provider|2|EjecutarProc|refused|also");
+  EXPECT_EQ(setting.thread.log.take(), expected);
+  EXPECT_EQ(setting.first_parameter(), "Long 5") << "nothing is given back by halves";
+  const services::ErrorNotice& notice = setting.thread.report.notices.at(0);
+  EXPECT_EQ(notice.object, u"dbo.Alta");
+  EXPECT_EQ(notice.captions.object, u"Objeto");
+  EXPECT_EQ(notice.captions.method, u"M\u00e9todo");
+  EXPECT_EQ(notice.captions.unknown_error, u"Error indeterminado");
+  EXPECT_EQ(notice.captions.duplicate_record, u"Registro duplicado");
+  EXPECT_EQ(notice.captions.server_not_found, u"Servidor no encontrado");
 }
+
+INSTANTIATE_TEST_SUITE_P(, RefusedProcedure, ::testing::ValuesIn(kProcedure), row_name);
 
 TEST(QVRcfpProcedure, WhatIsNotAdosIsReportedToo) {
   struct Row {
@@ -195,40 +206,40 @@ TEST(QVRcfpParameter, AnUnexpectedTypeIsToldInTheUsersLanguage) {
   }
 }
 
-TEST(QVRcfpParameter, OneThatIsImproperlyDefinedIsShownInTheUsersLanguage) {
-  struct Row {
+using RefusedParameter = Rows<::testing::Test, Step>;
+
+TEST_P(RefusedParameter, IsShownInTheUsersLanguageWhenItIsImproperlyDefined) {
+  struct Words {
     TextView language;
-    std::string labels[3];
+    std::string object, method, error;
   };
-  const Row kRows[] = {{u"0", {"Objeto", "M\u00e9todo", "Error"}},
-                       {u"1", {"Object", "Method", "Error"}},
-                       {u"3", {"Objet", "M\u00e9thode", "Erreur"}}};
-  for (const Row& row : kRows) {
-    for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
-      SCOPED_TRACE(row.labels[0] + ", " + kParameter[failing].line);
-      Setting setting(Engine::Oracle, row.language);
-      setting.thread.ado.fail(kParameter[failing].operation, 1, {3708, u"Mal definido", u"ADODB"});
-      setting.thread.boxes.answer(BoxAnswer::Ok);
-      EXPECT_FALSE(setting.append());
-      Lines expected = lines_until(kParameter, failing, "Parameter released");
-      expected.push_back("Box OK: " + row.labels[0] + ": QVRcfp\r\n" + row.labels[1] +
-                         ": AgregarParametroADO: @p(NVARCHAR)\r\n" + row.labels[2] + " 3708: Mal definido");
-      EXPECT_EQ(setting.thread.log.take(), expected);
-    }
+  const Words kWords[] = {{u"0", "Objeto", "M\u00e9todo", "Error"},
+                          {u"1", "Object", "Method", "Error"},
+                          {u"3", "Objet", "M\u00e9thode", "Erreur"}};
+  for (const Words& words : kWords) {
+    SCOPED_TRACE(words.object);
+    Setting setting(Engine::Oracle, words.language);
+    setting.thread.ado.fail(GetParam().operation, 1, {3708, u"Mal definido", u"ADODB"});
+    setting.thread.boxes.answer(BoxAnswer::Ok);
+    EXPECT_FALSE(setting.append());
+    Lines expected = lines_until(kParameter, GetParam(), "Parameter released");
+    expected.push_back("Box OK: " + words.object + ": QVRcfp\r\n" + words.method +
+                       ": AgregarParametroADO: @p(NVARCHAR)\r\n" + words.error + " 3708: Mal definido");
+    EXPECT_EQ(setting.thread.log.take(), expected);
   }
 }
 
-TEST(QVRcfpParameter, OtherErrorsAreSilent) {
+TEST_P(RefusedParameter, IsFalseWithoutABoxForAnyOtherReason) {
   for (const std::int32_t number : {-2147217900, 3707, 3709, 91, 429}) {
-    for (std::size_t failing = 0; failing < kParameter.size(); ++failing) {
-      SCOPED_TRACE(::testing::Message() << number << ", " << kParameter[failing].line);
-      Setting setting(Engine::Oracle);
-      setting.thread.ado.fail(kParameter[failing].operation, 1, {number, u"refused", u"ADODB"});
-      EXPECT_FALSE(setting.append());
-      EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, failing, "Parameter released"));
-    }
+    SCOPED_TRACE(number);
+    Setting setting(Engine::Oracle);
+    setting.thread.ado.fail(GetParam().operation, 1, {number, u"refused", u"ADODB"});
+    EXPECT_FALSE(setting.append());
+    EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, GetParam(), "Parameter released"));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(, RefusedParameter, ::testing::ValuesIn(kParameter), row_name);
 
 TEST(QVRcfpParameter, WithoutACommandItIsFalse) {
   for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {

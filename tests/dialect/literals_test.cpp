@@ -124,7 +124,7 @@ TEST_F(LiteralsTest, LogicoSQLWritesTruth) {
   expect_each({u"False", u"0", u"0", undefined()}, [](Engine engine) { return dialect::LogicoSQL(engine, false); });
 }
 
-TEST_F(LiteralsTest, TheServersClock) {
+TEST_F(LiteralsTest, AhoraSQLAndSqlFechaSistemaAskTheServersClock) {
   expect_each({u"Now()", u"GetDate()", u"SYSDATE", undefined()}, dialect::AhoraSQL);
   expect_each({u"SELECT TOP 1 Now() As FechaSistema FROM MsysObjects",
                u"SELECT TOP 1 GetDate() As FechaSistema FROM master.dbo.spt_values",

@@ -5,6 +5,7 @@
 #include "dialect/literals.h"
 #include "engines/checked_script.h"
 #include "engines/hostile_texts.h"
+#include "support/describe.h"
 
 namespace qvr::tests {
 namespace {
@@ -23,7 +24,8 @@ std::string spelled(double number, int digits) {
 // As the same number in this type, spelled by the C library.
 void check_number(CheckedScript& script, const Value& value, const std::string& text, TextView type) {
   const Text literal = ExpSQL(script.engine(), value);
-  script.check("number " + text,
+  const std::string described = describe(value), type_name = described.substr(0, described.find(' '));
+  script.check(type_name + " " + text,
                join({u"CAST(", literal, u" AS ", type, u")=CAST('", ascii(text), u"' AS ", type, u")"}));
 }
 
@@ -143,7 +145,7 @@ void add_literals(CheckedScript& script) {
   script.check_text("text: 4001 characters", ExpSQL(script.engine(), longer),
                     script.oracle() ? TextView(longer).substr(0, 4000) : TextView(longer));
   for (const Value& value : {Value(Null{}), Value(Empty{}), Value(ErrorValue{5}), Value(Array{})}) {
-    script.check("no value", join({ExpSQL(script.engine(), value), u" IS NULL"}));
+    script.check("no value: " + describe(value), join({ExpSQL(script.engine(), value), u" IS NULL"}));
   }
   add_numbers(script);
   add_dates(script);

@@ -122,7 +122,7 @@ TEST_P(ParteWhere, JoinsWhatThereIs) {
 
 INSTANTIATE_TEST_SUITE_P(, ParteWhere, ::testing::ValuesIn(kParteWhereRows), row_name);
 
-TEST_F(Csql20StatementsTest, ParteHavingAndParteOrder) {
+TEST_F(Csql20StatementsTest, ParteHavingAndParteOrderHoldWhatThereIs) {
   struct Row {
     Text having, added, order;
     TextView condition, list;

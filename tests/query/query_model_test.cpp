@@ -45,12 +45,12 @@ class QueryModelTest : public QueryTest {
   int created = 0;
 };
 
-TEST_F(QueryModelTest, OneSelect) {
+TEST_F(QueryModelTest, ASelectIsAsItsModelHasIt) {
   for (std::uint32_t seed = 1; seed <= 40; ++seed) compare<cSQL20, SelectModel>(seed, 100);
   EXPECT_GT(created, 20) << "most of them have something to do it to";
 }
 
-TEST_F(QueryModelTest, AUnion) {
+TEST_F(QueryModelTest, AUnionIsAsItsModelHasIt) {
   for (std::uint32_t seed = 101; seed <= 140; ++seed) compare<uSQL20, UnionModel>(seed, 60);
   EXPECT_GT(created, 20);
 }

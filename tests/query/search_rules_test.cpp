@@ -145,7 +145,7 @@ TEST_P(TypedNumber, IsThatOfTheLocaleOrNone) { expect(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(, TypedNumber, ::testing::ValuesIn(kTypedNumberRows), row_name);
 
-TEST_F(SearchRules, RangesInWords) {
+TEST_F(SearchRules, RangesMayBeToldInWords) {
   expect(kPrecio, Engine::Jet,
          {{u"between 10 and 20", u"P.Precio>= 10 And P.Precio<= 20", u"Precio >= 10 y <= 20"},
           {u"desde 20 hasta 10", u"P.Precio>= 10 And P.Precio<= 20", u"Precio >= 10 y <= 20"},
@@ -240,7 +240,7 @@ TEST_F(SearchRules, PatternsSayWhatTheyMeanToEachEngine) {
   expect(kNombre, Engine::Jet, {{u"\"a?\"#[_", u"C.Nombre LIKE '%a[?][#][[][_]%'", u"Nombre es como '*\"a?#[_\"*'"}});
 }
 
-TEST_F(SearchRules, OtherTypesAndEnginesAreNotSearched) {
+TEST_F(SearchRules, OnlyKnownTypesAndEnginesAreSearched) {
   EXPECT_FALSE(query::interpret_search(Engine::Jet, {u"C.X", u'Z'}, u"a", u"X"));
   EXPECT_FALSE(query::interpret_search(Engine::None, kNombre, u"a", u"X"));
   EXPECT_TRUE(query::interpret_search(Engine::Jet, {u"C.X", u't'}, u"a", u"X"));

@@ -144,7 +144,7 @@ TEST_F(Usql20Test, TheFirstMemberAnswers) {
   EXPECT_EQ(query.ParteOrder(true), u"a");
 }
 
-TEST_F(Usql20Test, LimitLanguageAndEngineGoToEveryMember) {
+TEST_F(Usql20Test, LimitAndEngineGoToEveryMember) {
   create(2, Engine::SqlServer);
   query.TOP(7);
   EXPECT_EQ(query.TOP(), 7);
@@ -155,6 +155,10 @@ TEST_F(Usql20Test, LimitLanguageAndEngineGoToEveryMember) {
                                        select(2, u"WHERE  (RowNum<=7) ", u" TOP 7 ")}));
   query.MotorBD(Engine::Jet);
   EXPECT_EQ(query.MotorBD(), Engine::Jet);
+}
+
+TEST_F(Usql20Test, AWrittenLanguageIsTheThreads) {
+  create(2);
   query.Idioma(1);
   EXPECT_EQ(thread_state().idioma.Idioma(), 1);
 }
