@@ -214,7 +214,7 @@ TEST_P(TypedTruth, IsReadInThreeLanguages) { expect(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(, TypedTruth, ::testing::ValuesIn(kTypedTruthRows), row_name);
 
-const NamedSearch kLongTextRows[] = {
+const NamedSearch kSearchedLongTextRows[] = {
     {"other than, SQL Server", kNotas, Engine::SqlServer, u"<>a", u"(C.Notas NOT LIKE N'a' Or C.Notas Is Null)",
      u"Notas <> a"},
     {"range, SQL Server", kNotas, Engine::SqlServer, u"a..b", u""},
@@ -226,11 +226,11 @@ const NamedSearch kLongTextRows[] = {
     {"greater, Jet", kNotas, Engine::Jet, u">a", u"C.Notas>'a'", u"Notas > a"},
 };
 
-using LongText = Rows<SpanishSearch, NamedSearch>;
+using SearchedLongText = Rows<SpanishSearch, NamedSearch>;
 
-TEST_P(LongText, KnowsOnlyLikeOnTwoEngines) { expect(GetParam()); }
+TEST_P(SearchedLongText, KnowsOnlyLikeOnTwoEngines) { expect(GetParam()); }
 
-INSTANTIATE_TEST_SUITE_P(, LongText, ::testing::ValuesIn(kLongTextRows), row_name);
+INSTANTIATE_TEST_SUITE_P(, SearchedLongText, ::testing::ValuesIn(kSearchedLongTextRows), row_name);
 
 TEST_F(SearchRules, PatternsSayWhatTheyMeanToEachEngine) {
   constexpr TextView kAllCandidates = u"#!&/()$=|%";
