@@ -1,18 +1,15 @@
 // Parameters that a host has appended to its own command: what arrives there.
 #include "automation/parameter_host.h"
 #include "automation/procedures.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
+using tests::PrintTo;
+
 struct AdoParameter : testing::Test {
   ParameterHost host;
-};
-
-struct TypeRow {
-  int engine;
-  ParameterRequest request;
-  const char* expected;
 };
 
 TEST_F(AdoParameter, CanBeMadeOnItsOwn) {
@@ -24,30 +21,38 @@ TEST_F(AdoParameter, CanBeMadeOnItsOwn) {
   EXPECT_EQ(described_parameter(command, 0), "@p: type 3, size 0, precision 0, scale 0, direction 1, Empty");
 }
 
-TEST_F(AdoParameter, HasTheTypeThatFitsTheEngine) {
-  for (const TypeRow& row :
-       {TypeRow{2, {L"INT"}, "@p: type 3, size 0, precision 10, scale 0, direction 1, I4 5"},
-        TypeRow{2, {L"bit", L"@b", true}, "@b: type 11, size 0, precision 0, scale 0, direction 1, BOOL true"},
-        TypeRow{2, {L"Real", L"@r", 0.5}, "@r: type 4, size 0, precision 0, scale 0, direction 1, R4 0.5"},
-        TypeRow{
-            2, {L"nvarchar", L"@n", L"Ana", 50}, "@n: type 202, size 50, precision 0, scale 0, direction 1, BSTR Ana"},
-        TypeRow{2,
-                {L"DateTime", L"@d", Var::date(40548.5), 0, 3},
-                "@d: type 135, size 0, precision 0, scale 0, direction 3, DATE 40548.500000"},
-        TypeRow{2, {L"INT", L"", Var::null(), 0, 4}, ": type 3, size 0, precision 10, scale 0, direction 4, Null"},
-        TypeRow{3, {L"int"}, "@p: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 5"},
-        TypeRow{3, {L"BIT", L"@b", 1}, "@b: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 1"},
-        TypeRow{3, {L"REAL", L"@r", 0.5}, "@r: type 5, size 0, precision 15, scale 0, direction 1, R8 0.500000"},
-        TypeRow{
-            3, {L"nvarchar", L"@n", L"Ana", 50}, "@n: type 200, size 100, precision 0, scale 0, direction 1, BSTR Ana"},
-        TypeRow{3,
-                {L"DATETIME", L"@d", Var::date(40548), 0, 2},
-                "@d: type 135, size 0, precision 0, scale 0, direction 2, DATE 40548.000000"}}) {
-    SCOPED_TRACE(std::to_string(row.engine) + " " + narrow(row.request.type.text()));
-    host.use(row.engine);
-    host.expect_appended(row.request, row.expected);
-  }
+struct Request {
+  const char* name;
+  ParameterRequest request;
+  const char* expected;
+  int engine = 2;
+};
+
+const Request kRequests[] = {
+    {"INT", {L"INT"}, "@p: type 3, size 0, precision 10, scale 0, direction 1, I4 5"},
+    {"BIT", {L"bit", L"@b", true}, "@b: type 11, size 0, precision 0, scale 0, direction 1, BOOL true"},
+    {"REAL", {L"Real", L"@r", 0.5}, "@r: type 4, size 0, precision 0, scale 0, direction 1, R4 0.5"},
+    {"NVARCHAR",
+     {L"nvarchar", L"@n", L"Ana", 50},
+     "@n: type 202, size 50, precision 0, scale 0, direction 1, BSTR Ana"},
+    {"DATETIME, both directions",
+     {L"DateTime", L"@d", Var::date(40548.5), 0, 3},
+     "@d: type 135, size 0, precision 0, scale 0, direction 3, DATE 40548.500000"},
+    {"return value", {L"INT", L"", Var::null(), 0, 4}, ": type 3, size 0, precision 10, scale 0, direction 4, Null"},
+    {"number with decimals of Oracle",
+     {L"int"},
+     "@p: type 131, size 0, precision 15, scale 0, direction 1, DECIMAL 5",
+     3},
+};
+
+using AdoParameterOf = Rows<AdoParameter, Request>;
+
+TEST_P(AdoParameterOf, ThisRequestArrives) {
+  host.use(GetParam().engine);
+  host.expect_appended(GetParam().request, GetParam().expected);
 }
+
+INSTANTIATE_TEST_SUITE_P(, AdoParameterOf, testing::ValuesIn(kRequests), row_name);
 
 TEST_F(AdoParameter, ArgumentsMayBeLeftOut) {
   host.use(2);

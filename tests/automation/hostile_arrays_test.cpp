@@ -7,8 +7,6 @@ namespace {
 
 class HostileArrays : public SqlMembers {
  protected:
-  HostileArrays() { use(2); }
-
   // Both hosts' answers to a call with this list, by reference.
   void expect_insert(VARIANT& list, const std::string& expected) {
     Bstr table(L"T"), result;

@@ -1,8 +1,11 @@
 // The values that a stored procedure gives back, in every kind of array that a host may have for them.
 #include "automation/procedures.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 class ProcedureOutputs : public ProcedureCalls {
  protected:
@@ -16,34 +19,37 @@ class ProcedureOutputs : public ProcedureCalls {
 };
 
 struct Output {
+  const char* name;
   ado::Type type;
   const wchar_t* expression;
   const char* value;
 };
 
 constexpr Output kOutputs[] = {
-    {ado::kSmallInt, L"-7", "I2 -7"},
-    {ado::kInteger, L"123456", "I4 123456"},
-    {ado::kUnsignedTinyInt, L"200", "UI1 200"},
-    {ado::kBigInt, L"9007199254740993", "I8 9007199254740993"},
-    {ado::kSingle, L"'0.5'", "R4 0.5"},
-    {ado::kDouble, L"'-2.5'", "R8 -2.500000"},
-    {ado::kCurrency, L"'12.3456'", "CY 12.3456"},
-    {ado::kNumeric, L"'12345678901234567.89'", "DECIMAL 12345678901234567.89"},
-    {ado::kDate, L"'2011-01-05'", "DATE 40548.000000"},
-    {ado::kDbTimeStamp, L"'2011-01-05 12:00:00'", "DATE 40548.500000"},
-    {ado::kBoolean, L"1", "BOOL true"},
-    {ado::kVarWChar, L"'O''Hara \u00f1'", "BSTR O'Hara \u00f1"},
-    {ado::kInteger, L"null", "Null"},
+    {"SmallInt", ado::kSmallInt, L"-7", "I2 -7"},
+    {"Integer", ado::kInteger, L"123456", "I4 123456"},
+    {"UnsignedTinyInt", ado::kUnsignedTinyInt, L"200", "UI1 200"},
+    {"BigInt", ado::kBigInt, L"9007199254740993", "I8 9007199254740993"},
+    {"Single", ado::kSingle, L"'0.5'", "R4 0.5"},
+    {"Double", ado::kDouble, L"'-2.5'", "R8 -2.500000"},
+    {"Currency", ado::kCurrency, L"'12.3456'", "CY 12.3456"},
+    {"Numeric", ado::kNumeric, L"'12345678901234567.89'", "DECIMAL 12345678901234567.89"},
+    {"Date", ado::kDate, L"'2011-01-05'", "DATE 40548.000000"},
+    {"DbTimeStamp", ado::kDbTimeStamp, L"'2011-01-05 12:00:00'", "DATE 40548.500000"},
+    {"Boolean", ado::kBoolean, L"1", "BOOL true"},
+    {"VarWChar", ado::kVarWChar, L"'O''Hara \u00f1'", "BSTR O'Hara \u00f1"},
+    {"Null", ado::kInteger, L"null", "Null"},
 };
 
-TEST_F(ProcedureOutputs, OfEveryTypeGoIntoAnArrayOfVariantsAsTheyAre) {
-  for (const Output& row : kOutputs) {
-    SCOPED_TRACE(row.value);
-    define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
-    expect_call(L"Uno", array_of({Var()}), true, std::string("VARIANT(0) {") + row.value + "}");
-  }
+using ProcedureOutput = Rows<ProcedureOutputs, Output>;
+
+TEST_P(ProcedureOutput, GoesIntoAnArrayOfVariantsAsItIs) {
+  const Output& row = GetParam();
+  define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
+  expect_call(L"Uno", array_of({Var()}), true, std::string("VARIANT(0) {") + row.value + "}");
 }
+
+INSTANTIATE_TEST_SUITE_P(, ProcedureOutput, testing::ValuesIn(kOutputs), row_name);
 
 TEST_F(ProcedureOutputs, ReplaceWhatTheElementsHeld) {
   define_output(ado::kInteger, L"7");
@@ -53,40 +59,44 @@ TEST_F(ProcedureOutputs, ReplaceWhatTheElementsHeld) {
   }
 }
 
-TEST_F(ProcedureOutputs, AreConvertedForAnArrayOfOneType) {
-  struct Row {
-    ado::Type type;
-    const wchar_t* expression;
-    VARTYPE array;
-    Var before;
-    const char* after;
-  };
-  constexpr ado::Type kWhole = ado::kInteger, kText = ado::kVarWChar, kTruth = ado::kBoolean;
-  const Row kRows[] = {
-      {kWhole, L"7", VT_I4, 1, "I4(0) {I4 7}"},
-      {kWhole, L"7", VT_I2, 1, "I2(0) {I2 7}"},
-      {kWhole, L"7", VT_UI1, 1, "UI1(0) {UI1 7}"},
-      {kWhole, L"7", VT_R8, 1, "R8(0) {R8 7.000000}"},
-      {kWhole, L"7", VT_R4, 1, "R4(0) {R4 7}"},
-      {kWhole, L"7", VT_CY, 1, "CY(0) {CY 7}"},
-      {kWhole, L"7", VT_I8, 1, "I8(0) {I8 7}"},
-      {kWhole, L"7", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 7}"},
-      {kWhole, L"7", VT_BSTR, 1, "BSTR(0) {BSTR 7}"},
-      {kWhole, L"1", VT_BOOL, 0, "BOOL(0) {BOOL true}"},
-      {kText, L"'8'", VT_I4, 1, "I4(0) {I4 8}"},
-      {kText, L"'a'", VT_BSTR, 1, "BSTR(0) {BSTR a}"},
-      {kTruth, L"1", VT_BSTR, 1, "BSTR(0) {BSTR True}"},
-      {kTruth, L"1", VT_I4, 5, "I4(0) {I4 -1}"},
-      {ado::kNumeric, L"'2.25'", VT_R8, 1, "R8(0) {R8 2.250000}"},
-      {ado::kNumeric, L"'2.25'", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 2.25}"},
-      {ado::kDate, L"'2011-01-05'", VT_DATE, 0, "DATE(0) {DATE 40548.000000}"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.after);
-    define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
-    expect_call(L"Uno", array_of({row.before}, 0, row.array), true, row.after);
-  }
+struct Conversion {
+  const char* name;
+  ado::Type type;
+  const wchar_t* expression;
+  VARTYPE array;
+  Var before;
+  const char* after;
+};
+
+const Conversion kConversions[] = {
+    {"Integer into I4", ado::kInteger, L"7", VT_I4, 1, "I4(0) {I4 7}"},
+    {"Integer into I2", ado::kInteger, L"7", VT_I2, 1, "I2(0) {I2 7}"},
+    {"Integer into UI1", ado::kInteger, L"7", VT_UI1, 1, "UI1(0) {UI1 7}"},
+    {"Integer into R8", ado::kInteger, L"7", VT_R8, 1, "R8(0) {R8 7.000000}"},
+    {"Integer into R4", ado::kInteger, L"7", VT_R4, 1, "R4(0) {R4 7}"},
+    {"Integer into CY", ado::kInteger, L"7", VT_CY, 1, "CY(0) {CY 7}"},
+    {"Integer into I8", ado::kInteger, L"7", VT_I8, 1, "I8(0) {I8 7}"},
+    {"Integer into DECIMAL", ado::kInteger, L"7", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 7}"},
+    {"Integer into BSTR", ado::kInteger, L"7", VT_BSTR, 1, "BSTR(0) {BSTR 7}"},
+    {"Integer into BOOL", ado::kInteger, L"1", VT_BOOL, 0, "BOOL(0) {BOOL true}"},
+    {"text into I4", ado::kVarWChar, L"'8'", VT_I4, 1, "I4(0) {I4 8}"},
+    {"text into BSTR", ado::kVarWChar, L"'a'", VT_BSTR, 1, "BSTR(0) {BSTR a}"},
+    {"truth into BSTR", ado::kBoolean, L"1", VT_BSTR, 1, "BSTR(0) {BSTR True}"},
+    {"truth into I4", ado::kBoolean, L"1", VT_I4, 5, "I4(0) {I4 -1}"},
+    {"Numeric into R8", ado::kNumeric, L"'2.25'", VT_R8, 1, "R8(0) {R8 2.250000}"},
+    {"Numeric into DECIMAL", ado::kNumeric, L"'2.25'", VT_DECIMAL, 1, "DECIMAL(0) {DECIMAL 2.25}"},
+    {"Date into DATE", ado::kDate, L"'2011-01-05'", VT_DATE, 0, "DATE(0) {DATE 40548.000000}"},
+};
+
+using ConvertedOutput = Rows<ProcedureOutputs, Conversion>;
+
+TEST_P(ConvertedOutput, FitsAnArrayOfOneType) {
+  const Conversion& row = GetParam();
+  define_output(row.type, row.expression, row.type == ado::kVarWChar ? 20 : 0);
+  expect_call(L"Uno", array_of({row.before}, 0, row.array), true, row.after);
 }
+
+INSTANTIATE_TEST_SUITE_P(, ConvertedOutput, testing::ValuesIn(kConversions), row_name);
 
 TEST_F(ProcedureOutputs, ThatAnArrayCannotHoldLeaveItsElement) {
   database.define(L"Mezcla",

@@ -1,104 +1,101 @@
 // ExpSQL of every type that a host can send.
 #include "automation/sql_members.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
 
-class AnyValue : public SqlMembers {
- protected:
-  void expect_literal(const Var& value, const EachEngine& expected) {
-    SCOPED_TRACE(describe(value.raw()));
-    expect(L"ExpSQL", &_QVRcfp::ExpSQL, {value}, expected);
-  }
+using tests::PrintTo;
+
+struct Literal {
+  const char* name;
+  Var value;
+  const wchar_t* literal;
 };
 
-const EachEngine kNull = all_engines(L"Null");
-
-TEST_F(AnyValue, NumbersHaveABlankOrASign) {
+Var most_of_currency() {
   Var most;
   most.raw().vt = VT_CY;
   most.raw().cyVal.int64 = 9223372036854775807;
-  struct Row {
-    Var value;
-    const wchar_t* literal;
+  return most;
+}
+
+Var null_text() {
+  Var text;
+  text.raw().vt = VT_BSTR;
+  text.raw().bstrVal = nullptr;
+  return text;
+}
+
+std::vector<Literal> literals() {
+  Var largest = Var(5).as(VT_UI8);
+  largest.raw().ullVal = UINT64_MAX;
+  return {
+      {"UI1", Var(200).as(VT_UI1), L" 200"},
+      {"UI1, zero", Var(0).as(VT_UI1), L" 0"},
+      {"I2", Var(-7).as(VT_I2), L"-7"},
+      {"I4", Var(12), L" 12"},
+      {"I4, least", Var(-2147483647 - 1), L"-2147483648"},
+      {"INT", Var(5).as(VT_INT), L" 5"},
+      {"R4", Var(0.1).as(VT_R4), L" 0.1"},
+      {"R4, negative", Var(-3.5).as(VT_R4), L"-3.5"},
+      {"R8", Var(0.25), L" 0.25"},
+      {"R8, negative", Var(-3.5), L"-3.5"},
+      {"R8, zero", Var(0.0), L" 0"},
+      {"CY", Var(L"-1.2345").as(VT_CY), L"-1.2345"},
+      {"CY, greatest", most_of_currency(), L" 922337203685477.5807"},
+      {"DECIMAL", Var(L"12.345").as(VT_DECIMAL), L" 12.345"},
+      {"DECIMAL, negative", Var(L"-7").as(VT_DECIMAL), L"-7"},
+      {"DECIMAL, greatest", Var(L"79228162514264337593543950335").as(VT_DECIMAL), L" 79228162514264337593543950335"},
+      {"BSTR", L"O'Hara", L"'O''Hara'"},
+      {"BSTR, empty", L"", L"''"},
+      {"BSTR, null pointer", null_text(), L"''"},
+      {"BSTR of digits", L"12", L"'12'"},
+      {"BSTR of a date", L"2011-01-05", L"'2011-01-05'"},
+      {"DATE", Var::date(40548.5), L"{ ts '2011-01-05 12:00:00'}"},
+      {"BOOL, true", true, L"1"},
+      {"BOOL, false", false, L"0"},
+      {"Empty", Var(), L"Null"},
+      {"Null", Var::null(), L"Null"},
+      {"ERROR", Var::error(E_FAIL), L"Null"},
+      {"Nothing", Var::nothing(), L"Null"},
+      {"I1", Var(5).as(VT_I1), L"Null"},
+      {"UI2", Var(5).as(VT_UI2), L"Null"},
+      {"UI4", Var(5).as(VT_UI4), L"Null"},
+      {"I8", Var(5).as(VT_I8), L"Null"},
+      {"UI8", Var(5).as(VT_UI8), L"Null"},
+      {"UI8, greatest", largest, L"Null"},
+      {"array", array_of({1, L"a"}), L"Null"},
+      {"array without elements", array_of({}), L"Null"},
+      {"array of I4", array_of({1, 2}, 1, VT_I4), L"Null"},
+      {"array of BSTR", array_of({L"a"}, -3, VT_BSTR), L"Null"},
+      {"array of two dimensions", square_array(), L"Null"},
+      {"array without bounds", no_array(), L"Null"},
+      {"array of BSTR without bounds", no_array(VT_BSTR), L"Null"},
   };
-  for (const Row& row : {Row{Var(200).as(VT_UI1), L" 200"},
-                         {Var(0).as(VT_UI1), L" 0"},
-                         {Var(-7).as(VT_I2), L"-7"},
-                         {Var(12), L" 12"},
-                         {Var(-2147483647 - 1), L"-2147483648"},
-                         {Var(5).as(VT_INT), L" 5"},
-                         {Var(0.1).as(VT_R4), L" 0.1"},
-                         {Var(-3.5).as(VT_R4), L"-3.5"},
-                         {Var(0.25), L" 0.25"},
-                         {Var(-3.5), L"-3.5"},
-                         {Var(0.0), L" 0"},
-                         {Var(L"-1.2345").as(VT_CY), L"-1.2345"},
-                         {most, L" 922337203685477.5807"},
-                         {Var(L"12.345").as(VT_DECIMAL), L" 12.345"},
-                         {Var(L"-7").as(VT_DECIMAL), L"-7"},
-                         {Var(L"79228162514264337593543950335").as(VT_DECIMAL), L" 79228162514264337593543950335"}}) {
-    expect_literal(row.value, all_engines(row.literal));
-  }
 }
 
-TEST_F(AnyValue, Texts) {
-  expect_literal(L"O'Hara", all_engines(L"'O''Hara'"));
-  expect_literal(L"", all_engines(L"''"));
-  expect_literal(L"12", all_engines(L"'12'"));
-  expect_literal(L"2011-01-05", all_engines(L"'2011-01-05'"));
-  expect_literal(L"Null", all_engines(L"'Null'"));
-  Var null_text;
-  null_text.raw().vt = VT_BSTR;
-  null_text.raw().bstrVal = nullptr;
-  expect_literal(null_text, all_engines(L"''"));
-}
+using AnyType = Rows<SqlMembers, Literal>;
 
-TEST_F(AnyValue, TheWordForTheClock) {
-  expect_literal(L"aHORAsql", {L"Now()", L"GetDate()", L"SYSDATE", undefined()});
-  expect_literal(L"Ahora", all_engines(L"'Ahora'"));
-}
+TEST_P(AnyType, HasALiteralOrIsNull) { expect("ExpSQL", &_QVRcfp::ExpSQL, {GetParam().value}, GetParam().literal); }
 
-TEST_F(AnyValue, OracleTakes4000CharactersBeforeTheirQuotesAreDoubled) {
-  const std::wstring text = std::wstring(3999, L'x') + L"'yz";
-  const std::wstring whole = L"'" + std::wstring(3999, L'x') + L"''yz'", cut = L"'" + std::wstring(3999, L'x') + L"'''";
-  expect_literal(text, {whole.c_str(), whole.c_str(), cut.c_str(), whole.c_str()});
-}
+INSTANTIATE_TEST_SUITE_P(, AnyType, testing::ValuesIn(literals()), row_name);
 
-TEST_F(AnyValue, Dates) {
-  expect_literal(Var::date(40548),
-                 {L"#2011-01-05#", L"{ d '2011-01-05'}", L" TO_DATE('2011-01-05','YYYY-MM-DD') ", undefined()});
-  expect_literal(Var::date(0.5),
-                 {L"#12:00:00#", L"{ t '12:00:00'}", L" TO_DATE('12:00:00','HH24:MI:SS') ", undefined()});
-  expect_literal(Var::date(40548.5), {L"#2011-01-05 12:00:00#", L"{ ts '2011-01-05 12:00:00'}",
-                                      L" TO_DATE('2011-01-05 12:00:00','YYYY-MM-DD HH24:MI:SS') ", undefined()});
-}
+class AnyValue : public SqlMembers {};
 
-TEST_F(AnyValue, TruthValues) {
-  expect_literal(true, {L"True", L"1", L"1", undefined()});
-  expect_literal(false, {L"False", L"0", L"0", undefined()});
-}
-
-TEST_F(AnyValue, EverythingElseIsNull) {
+TEST_F(AnyValue, AnObjectIsNull) {
   const LateObject object(L"QVRlib21.Ov");
   Var unknown;
   unknown.raw().vt = VT_UNKNOWN;
   unknown.raw().punkVal = object.as<IUnknown>().Detach();
-  Var largest = Var(5).as(VT_UI8);
-  largest.raw().ullVal = UINT64_MAX;
-  for (const Var& value :
-       {largest, Var(), Var::null(), Var::error(E_FAIL), Var(object.get()), Var::nothing(), unknown, Var(5).as(VT_I8),
-        Var(5).as(VT_I1), Var(5).as(VT_UI2), Var(5).as(VT_UI4), Var(5).as(VT_UI8), array_of({1, L"a"}), array_of({}),
-        array_of({1, 2}, 1, VT_I4), array_of({L"a"}, -3, VT_BSTR), square_array(), no_array(), no_array(VT_BSTR)}) {
-    expect_literal(value, kNull);
-  }
+  for (const Var& value : {Var(object.get()), unknown}) expect("ExpSQL", &_QVRcfp::ExpSQL, {value}, L"Null");
 }
 
 // A default property that would give a text is not asked for it.
 TEST_F(AnyValue, AnObjectIsNullWhateverItsDefaultPropertySays) {
   const LateObject connection(L"ADODB.Connection");
   connection.put(L"ConnectionString", L"its default property");
-  expect_literal(connection.get(), kNull);
+  expect("ExpSQL", &_QVRcfp::ExpSQL, {connection.get()}, L"Null");
 }
 
 TEST_F(AnyValue, WhatWasNotGiven) {

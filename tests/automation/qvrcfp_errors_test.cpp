@@ -57,69 +57,29 @@ class Errors : public SqlMembers {
 };
 
 TEST_F(Errors, ConcatenatingNothingIsAnInvalidArgument) {
-  for (const int engine : {1, 2, 3}) {
-    SCOPED_TRACE(engine);
-    use(engine);
-    for (const Var& list : {array_of({}), array_of({}, 1), array_of({}, -3, VT_BSTR)}) {
-      expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kInvalidArgument);
-    }
+  for (const Var& list : {array_of({}), array_of({}, 1), array_of({}, -3, VT_BSTR)}) {
+    expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kInvalidArgument);
   }
 }
 
-TEST_F(Errors, ConcatenatingNothingWithoutAnOperatorIsNone) {
-  use(0);
-  Var list = array_of({});
-  Bstr result;
-  const HRESULT status = early->sqlConcatenar(&list.raw(), &result);
-  expect_same(late.call(L"sqlConcatenar", {list}), status, early_result(result), "BSTR   ");
-}
-
 TEST_F(Errors, WhatHasNoBoundsOrSeveralIsOutOfRange) {
-  for (const int engine : {1, 2, 3}) {
-    SCOPED_TRACE(engine);
-    use(engine);
-    for (const Var& list : {square_array(), no_array(), no_array(VT_BSTR)}) {
-      expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kSubscript);
-      if (engine != 1) expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kSubscript);
-    }
+  for (const Var& list : {square_array(), no_array(), no_array(VT_BSTR)}) {
+    expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kSubscript);
+    expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kSubscript);
   }
 }
 
 TEST_F(Errors, RelationsAreWholeTriples) {
-  struct Row {
-    Var list;
-    HRESULT error;
-  };
-  for (const int engine : {2, 3}) {
-    SCOPED_TRACE(engine);
-    use(engine);
-    for (const Row& row : {Row{array_of({}), kInvalidArgument}, Row{array_of({}, 1, VT_BSTR), kInvalidArgument},
-                           Row{array_of({L"a"}), kSubscript}, Row{array_of({L"a", L"b"}), kSubscript},
-                           Row{array_of({L"a", L"b", L"I", L"c"}), kSubscript},
-                           Row{array_of({L"a", L"b", L"I", L"c", L"d"}, -3, VT_BSTR), kSubscript}}) {
-      expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, row.list, row.error);
-    }
+  for (const Var& list : {array_of({}), array_of({}, 1, VT_BSTR)}) {
+    expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kInvalidArgument);
   }
-}
-
-TEST_F(Errors, RelationsAreNotLookedAtForAnotherEngine) {
-  const Outcome no_join = told(L"La funci\u00f3n CondicionWhereRelacionTablas no soporta Motor Jet");
-  for (const int engine : {0, 1}) {
-    use(engine);
-    for (Var list : {array_of({}), array_of({L"a", L"b"}), square_array(), no_array()}) {
-      SCOPED_TRACE(describe(list.raw()) + " engine " + std::to_string(engine));
-      const Person person;
-      Bstr result;
-      const HRESULT status = early->sqlWhereRelacionTablas(&list.raw(), &result);
-      expect_same(late.call(L"sqlWhereRelacionTablas", {list}), status, early_result(result), "BSTR ");
-      ASSERT_EQ(person.boxes().size(), engine == 1 ? 2u : 0u);
-      for (const Person::Box& box : person.boxes()) EXPECT_EQ(box.text, no_join.box);
-    }
+  for (const Var& list :
+       {array_of({L"a"}), array_of({L"a", L"b", L"I", L"c"}), array_of({L"a", L"b", L"I", L"c", L"d"}, -3, VT_BSTR)}) {
+    expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kSubscript);
   }
 }
 
 TEST_F(Errors, ACallerThatWantsNoDetailsStillHearsOfIt) {
-  use(2);
   Var list = array_of({});
   DISPPARAMS parameters{&list.raw(), nullptr, 1, 0};
   constexpr DISPID kSqlConcatenar = 0x60030022;

@@ -1,7 +1,10 @@
 #include "automation/both.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 struct QVRcfpTest : testing::Test {
   LateObject late{L"QVRlib21.QVRcfp"};
@@ -101,46 +104,51 @@ TEST_F(QVRcfpTest, GuardarAndCrear) {
   expect_property(L"Archivo", &_QVRcfp::get_Archivo, "BSTR ");
 }
 
-TEST_F(QVRcfpTest, TextoAValor) {
-  struct Row {
-    const wchar_t *code, *text;
-    const char* expected;
-  };
-  for (const Row& row : {Row{L"T", L"abc", "BSTR abc"},
-                         {L"n", L"2.5kg", "R8 2.500000"},
-                         {L"L", L"0", "BOOL false"},
-                         {L"L", L"1", "BOOL true"},
-                         {L"F", L"2011-01-05", "DATE 40548.000000"},
-                         {L"F", L"ma\u00f1ana", "Empty"},
-                         {L"X", L"abc", "Empty"}}) {
-    SCOPED_TRACE(narrow(std::wstring(row.code) + L" " + row.text));
-    Bstr code(row.code), text(row.text);
-    Var result;
-    const HRESULT status = early->TextoAValor(&code, &text, &result.raw());
-    expect_same(late.call(L"TextoAValor", {row.code, row.text}), status, result, row.expected);
-  }
+struct Typed {
+  const char* name;
+  const wchar_t* code;
+  Var value;
+  const char* expected;
+};
+
+const Typed kTexts[] = {
+    {"text", L"T", L"abc", "BSTR abc"},
+    {"number", L"n", L"2.5kg", "R8 2.500000"},
+    {"false", L"L", L"0", "BOOL false"},
+    {"true", L"L", L"1", "BOOL true"},
+    {"date", L"F", L"2011-01-05", "DATE 40548.000000"},
+    {"no date", L"F", L"ma\u00f1ana", "Empty"},
+    {"unknown code", L"X", L"abc", "Empty"},
+};
+
+using TextoAValor = Rows<QVRcfpTest, Typed>;
+
+TEST_P(TextoAValor, GivesAValueOfThatType) {
+  Bstr code(GetParam().code);
+  Var text = GetParam().value, result;
+  const HRESULT status = early->TextoAValor(&code, &text.raw().bstrVal, &result.raw());
+  expect_same(late.call(L"TextoAValor", {GetParam().code, text}), status, result, GetParam().expected);
 }
 
-TEST_F(QVRcfpTest, ValorATexto) {
-  struct Row {
-    const wchar_t* code;
-    Var value;
-    const char* expected;
-  };
-  for (const Row& row : {Row{L"L", true, "BSTR 1"},
-                         {L"n", 2.5, "BSTR 2.5"},
-                         {L"N", -3, "BSTR -3"},
-                         {L"F", Var::date(40548.75), "BSTR 2011/01/05"},
-                         {L"T", L"\u00f1", "BSTR \u00f1"},
-                         {L"T", Var::null(), "BSTR "},
-                         {L"X", 1, "BSTR "}}) {
-    SCOPED_TRACE(std::string(row.expected));
-    Bstr code(row.code), result;
-    Var value = row.value;
-    const HRESULT status = early->ValorATexto(&code, &value.raw(), &result);
-    expect_same(late.call(L"ValorATexto", {row.code, row.value}), status, early_result(result), row.expected);
-  }
+INSTANTIATE_TEST_SUITE_P(, TextoAValor, testing::ValuesIn(kTexts), row_name);
+
+const Typed kValues[] = {
+    {"truth", L"L", true, "BSTR 1"},          {"number", L"n", 2.5, "BSTR 2.5"},
+    {"whole number", L"N", -3, "BSTR -3"},    {"date", L"F", Var::date(40548.75), "BSTR 2011/01/05"},
+    {"text", L"T", L"\u00f1", "BSTR \u00f1"}, {"Null", L"T", Var::null(), "BSTR "},
+    {"unknown code", L"X", 1, "BSTR "},
+};
+
+using ValorATexto = Rows<QVRcfpTest, Typed>;
+
+TEST_P(ValorATexto, GivesTheTextOfThatType) {
+  Bstr code(GetParam().code), result;
+  Var value = GetParam().value;
+  const HRESULT status = early->ValorATexto(&code, &value.raw(), &result);
+  expect_same(late.call(L"ValorATexto", {GetParam().code, value}), status, early_result(result), GetParam().expected);
 }
+
+INSTANTIATE_TEST_SUITE_P(, ValorATexto, testing::ValuesIn(kValues), row_name);
 
 TEST_F(QVRcfpTest, NullPointersAndNullStringsCountAsEmpty) {
   VARIANT_BOOL done = 0;

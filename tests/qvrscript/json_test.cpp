@@ -7,9 +7,12 @@
 
 #include "base/utf8.h"
 #include "json_reader.h"
+#include "support/rows.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 using namespace script_tool;
 using namespace std::string_view_literals;
@@ -49,12 +52,29 @@ TEST(Json, IsPutTogether) {
   EXPECT_EQ(json_array({}), u"[]");
 }
 
-TEST(JsonReader, RefusesWhatIsNoJson) {
-  for (const char* text :
-       {"", "{", "[1,]", "{\"a\":1,}", "\"a", "\"\n\"", "\"\\x\"", "[1] 2", "{\"a\":1,\"a\":2}", "tru"}) {
-    EXPECT_THROW(read_json(text), std::runtime_error) << text;
-  }
-}
+struct NoJson {
+  const char* name;
+  std::string text;
+};
+
+const NoJson kNoJson[] = {
+    {"nothing", ""},
+    {"object never closed", "{"},
+    {"comma at the end of an array", "[1,]"},
+    {"comma at the end of an object", "{\"a\":1,}"},
+    {"text never closed", "\"a"},
+    {"line feed in a text", "\"\n\""},
+    {"unknown escape", "\"\\x\""},
+    {"two values", "[1] 2"},
+    {"member twice", "{\"a\":1,\"a\":2}"},
+    {"word cut", "tru"},
+};
+
+using JsonReader = Rows<testing::Test, NoJson>;
+
+TEST_P(JsonReader, RefusesWhatIsNoJson) { EXPECT_THROW(read_json(GetParam().text), std::runtime_error); }
+
+INSTANTIATE_TEST_SUITE_P(, JsonReader, testing::ValuesIn(kNoJson), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

@@ -8,11 +8,14 @@
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"
 #include "session/value_convert.h"
+#include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 constexpr std::int32_t kFirstVersion = 10000;
 
@@ -61,24 +64,24 @@ class InstallationTest : public testing::Test {
   ScriptAccounts accounts{u"Gestión", u"Begoña", u"clave 1", u"mostrador", u"clave 2"};
 };
 
-struct Rows {
-  TextView table;
+struct Table {
+  TextView name;
   const char* count;
 };
 
 TEST_F(InstallationTest, TheDefinitionFillsItsTables) {
   ASSERT_TRUE(install());
-  for (const Rows& each : {Rows{u"Esquema", "1"},
-                           {u"Funciones", "3"},
-                           {u"Usuarios", "2"},
-                           {u"FuncionesDeUsuario", "3"},
-                           {u"Provincias", "18"},
-                           {u"Clientes", "36"},
-                           {u"Familias", "6"},
-                           {u"Artículos", "29"},
-                           {u"Pedidos", "56"},
-                           {u"Líneas", "91"}}) {
-    EXPECT_EQ(rows(each.table), each.count) << to_utf8(each.table);
+  for (const Table& each : {Table{u"Esquema", "1"},
+                            {u"Funciones", "3"},
+                            {u"Usuarios", "2"},
+                            {u"FuncionesDeUsuario", "3"},
+                            {u"Provincias", "18"},
+                            {u"Clientes", "36"},
+                            {u"Familias", "6"},
+                            {u"Artículos", "29"},
+                            {u"Pedidos", "56"},
+                            {u"Líneas", "91"}}) {
+    EXPECT_EQ(rows(each.name), each.count) << to_utf8(each.name);
   }
   EXPECT_EQ(ask(u"SELECT Count(*) FROM [sqlite_master] WHERE [type] = 'table'"), "10");
   EXPECT_EQ(ask(u"SELECT [Versión] FROM [Esquema]"), "10000");
@@ -129,9 +132,16 @@ struct ScriptSet {
   std::int32_t definition_commands, update_commands;
 };
 
-class InstallationSetTest : public InstallationTest, public testing::WithParamInterface<ScriptSet> {};
+const ScriptSet kSets[] = {
+    {"Jet", u"", Engine::Jet, 105, 25},
+    {"SQL Server", u"", Engine::SqlServer, 132, 22},
+    {"Oracle", u"", Engine::Oracle, 122, 23},
+    {"SQLite", u"\\sqlite", Engine::Jet, 260, 20},
+};
 
-TEST_P(InstallationSetTest, IsLoadedWholeAndWithoutBracketedAccounts) {
+using InstallationSet = Rows<InstallationTest, ScriptSet>;
+
+TEST_P(InstallationSet, IsLoadedWholeAndWithoutBracketedAccounts) {
   const ScriptSet& set = GetParam();
   const Text made = definition(set.engine, scripts(set.below), true);
   const Text changed = update(set.engine, scripts(set.below), kFirstVersion, true);
@@ -143,12 +153,7 @@ TEST_P(InstallationSetTest, IsLoadedWholeAndWithoutBracketedAccounts) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, InstallationSetTest,
-                         testing::Values(ScriptSet{"Jet", u"", Engine::Jet, 105, 25},
-                                         ScriptSet{"SqlServer", u"", Engine::SqlServer, 132, 22},
-                                         ScriptSet{"Oracle", u"", Engine::Oracle, 122, 23},
-                                         ScriptSet{"Sqlite", u"\\sqlite", Engine::Jet, 260, 20}),
-                         [](const auto& set) { return set.param.name; });
+INSTANTIATE_TEST_SUITE_P(, InstallationSet, testing::ValuesIn(kSets), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

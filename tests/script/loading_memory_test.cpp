@@ -3,18 +3,20 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <ostream>
 
 #include "base/utf8.h"
 #include "script/qvrscr.h"
 #include "script/script_preparation.h"
 #include "services/builtin_script_reader.h"
 #include "support/peak_memory.h"
+#include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
 namespace {
+
+using tests::PrintTo;
 
 constexpr std::size_t kUnits = std::size_t{QVR_TESTS_LARGE_TEXT_MIB} * 1024 * 1024 / 40;
 constexpr double kMost = 3.0;
@@ -36,8 +38,6 @@ constexpr TextView kStatements =
     u"INSERT INTO Articulos VALUES ( 1, 'Tornillo de cabeza plana', 12.5)\r\nGO\r\n"
     u"CREATE TRIGGER Alta\r\nFOR DELETE\r\nAS\r\nUSE [NombreBD]\r\n"
     u"GRANT ALL TO [UsuarioQVRAdm], [UsuarioQVRCli]\r\nGO\r\n";
-
-void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 std::string utf16(TextView text) {
   std::string bytes = "\xFF\xFE";
@@ -115,11 +115,7 @@ TEST_P(LoadingMemory, OfAnUpdateIsAtMostThreeTexts) {
   });
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, LoadingMemory, testing::ValuesIn(kRows), [](const auto& tested) {
-  std::string name = tested.param.name;
-  std::erase_if(name, [](char each) { return !std::isalnum(static_cast<unsigned char>(each)); });
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(, LoadingMemory, testing::ValuesIn(kRows), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

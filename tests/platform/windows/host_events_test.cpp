@@ -54,7 +54,7 @@ TEST_F(HostEventsTest, LeaveTheEndOfTheApplicationToItsOwnLoop) {
   EXPECT_EQ(message.wParam, 42u);
 }
 
-TEST_F(HostEventsTest, DoNotWait) {
+TEST_F(HostEventsTest, ReturnWhereThereAreNone) {
   system_platform().host_events.process_pending();
   EXPECT_EQ(pings, 0);
 }
