@@ -119,7 +119,7 @@ std::optional<std::int32_t> day_in(TextView typed) {
 std::optional<std::int32_t> relative_day(TextView typed) {
   const auto word = day_word(typed);
   if (!word) return std::nullopt;
-  const auto today = static_cast<std::int32_t>(std::trunc(thread_state().platform().clock.now().days));
+  const auto today = static_cast<std::int32_t>(std::trunc(thread_state().platform().system.now().days));
   const Text rest = replace_all(typed.substr(word->length), u" ", u"");
   if (rest.empty()) return today + word->days;
   const TextView digits = TextView(rest).substr(1);

@@ -56,7 +56,7 @@ Text with_encryption(Text text, ScriptEvents& events) {
 Text with_accounts(Text text, Engine MotorBD, const ScriptAccounts& accounts, ScriptEvents& events) {
   const bool oracle = MotorBD == Engine::Oracle;
   const Text log_file = oracle ? accounts.NombreBaseOTablespace +
-                                     formatted_date(thread_state().platform().clock.now(), u"hhnn")
+                                     formatted_date(thread_state().platform().system.now(), u"hhnn")
                                : Text();
   const struct {
     Rewrite word;

@@ -1,11 +1,13 @@
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <string_view>
 #include <vector>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
-#include "platform/posix/parts.h"
+#include "platform/parts.h"
+#include "platform/posix/names.h"
 
 namespace qvr::posix {
 namespace {
@@ -148,9 +150,19 @@ class EnvironmentLocale final : public Locale {
 
 }  // namespace
 
-Locale& locale() {
-  static EnvironmentLocale instance;
-  return instance;
+std::string locale_name() {
+  for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+    const char* value = std::getenv(variable);
+    if (value == nullptr || *value == '\0') continue;
+    const std::string_view name = value;
+    return std::string(name.substr(0, name.find_first_of(".@")));
+  }
+  return "C";
 }
 
 }  // namespace qvr::posix
+
+qvr::Locale& qvr::platform_parts::locale() {
+  static posix::EnvironmentLocale instance;
+  return instance;
+}
