@@ -14,8 +14,6 @@ constexpr std::size_t kMostDigits = 28;  // the longest numbers that all engines
 constexpr std::int32_t kSecondsPerDay = 86400;
 
 Locale& locale() { return thread_state().platform().locale; }
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool all_digits(TextView text) { return !text.empty() && std::ranges::all_of(text, is_digit); }
 
 // Without blanks and signs of currency.
 Text bare_number(TextView typed) {

@@ -42,8 +42,6 @@ const Conventions& conventions() {
   });
 }
 
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 // A run of digits with the unit that follows it (0 at the end of the text).
 struct Field {
   int number;
