@@ -43,8 +43,12 @@ Text replace_all(TextView text, TextView what, TextView by) {
 }
 
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
+  std::size_t count = 0;
+  for (std::size_t at = find_no_case(text, what); at != TextView::npos; ++count) {
+    at = find_no_case(text, what, at + what.size());
+  }
   Text result;
-  result.reserve(text.size());
+  result.reserve(text.size() - count * what.size() + count * by.size());
   std::size_t from = 0, place = position != nullptr ? *position : 0;
   for (std::size_t at = find_no_case(text, what); at != TextView::npos; at = find_no_case(text, what, from)) {
     result.append(text, from, at - from);
