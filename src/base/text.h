@@ -27,8 +27,8 @@ bool less_no_case(TextView a, TextView b);
 // Every occurrence of `what`, left to right and exact in case, replaced by `by`. An empty `what` is found nowhere.
 Text replace_all(TextView text, TextView what, TextView by);
 
-// The same without regard to case, in one allocation. A position in the text that is given along stays at its place between the same
-// pieces.
+// The same without regard to case, in one allocation. A position in the text that is given along stays at its place
+// between the same pieces.
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position = nullptr);
 
 // Where `what` first occurs in any case; npos for nowhere.
