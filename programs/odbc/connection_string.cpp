@@ -8,14 +8,6 @@
 namespace qvr::odbc {
 namespace {
 
-constexpr TextView kBlanks = u" \t\r\n";
-
-TextView trimmed(TextView text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == TextView::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 [[noreturn]] void fail_malformed() {
   fail_provider(hresult::kBadInitString, u"The connection string is not a list of keywords and values.");
 }
@@ -36,15 +28,15 @@ class Reader {
       } else if (!rest_.empty() && rest_.front() == u'=') {
         read += take();  // a doubled sign is part of the keyword
       } else {
-        return Text(trimmed(read));
+        return Text(trimmed(read, kWhiteSpace));
       }
     }
-    if (!trimmed(read).empty()) fail_malformed();
+    if (!is_blank(read, kWhiteSpace)) fail_malformed();
     return {};
   }
 
   Text value() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kWhiteSpace), rest_.size()));
     const char16_t first = rest_.empty() ? u'\0' : rest_.front();
     Text read = first == u'"' || first == u'\'' ? quoted() : unquoted(first == u'{');
     skip_separators();
@@ -59,7 +51,7 @@ class Reader {
   }
 
   void skip_separators() {
-    while (!rest_.empty() && (rest_.front() == u';' || kBlanks.find(rest_.front()) != TextView::npos)) take();
+    while (!rest_.empty() && (rest_.front() == u';' || kWhiteSpace.find(rest_.front()) != TextView::npos)) take();
   }
 
   Text quoted() {
@@ -72,7 +64,7 @@ class Reader {
       } else if (!rest_.empty() && rest_.front() == quote) {
         read += take();
       } else {
-        if (!trimmed(rest_.substr(0, rest_.find(u';'))).empty()) fail_malformed();
+        if (!is_blank(rest_.substr(0, rest_.find(u';')), kWhiteSpace)) fail_malformed();
         rest_.remove_prefix(std::min(rest_.find(u';'), rest_.size()));
         return read;
       }
@@ -84,7 +76,7 @@ class Reader {
   Text unquoted(bool braced) {
     const std::size_t from = braced ? std::min(rest_.find(u'}'), rest_.size()) : 0;
     const std::size_t end = std::min(rest_.find(u';', from), rest_.size());
-    const Text read(trimmed(rest_.substr(0, end)));
+    const Text read(trimmed(rest_.substr(0, end), kWhiteSpace));
     rest_.remove_prefix(end);
     return read;
   }
@@ -146,7 +138,7 @@ void add(Text& odbc, TextView keyword, TextView value) {
 ConnectionString parse_connection_string(TextView text) {
   ConnectionString parts;
   if (text.find(u'=') == TextView::npos) {
-    parts.data_source = Text(trimmed(text));
+    parts.data_source = Text(trimmed(text, kWhiteSpace));
     return parts;
   }
   for (Reader reader(text); !reader.at_end();) {

@@ -17,8 +17,7 @@ void set_engine(Arguments& arguments, TextView value) {
 }
 
 void set_version(Arguments& arguments, TextView value) {
-  const bool digits = value.find_first_not_of(u"0123456789") == TextView::npos;
-  if (value.size() != 5 || !digits || value.starts_with(u'0')) {
+  if (value.size() != 5 || !all_digits(value) || value.starts_with(u'0')) {
     refuse({u"no version: ", value, u" (five digits, the first no zero)"});
   }
   std::int32_t version = 0;

@@ -7,11 +7,9 @@
 namespace qvr::script_tool {
 namespace {
 
-bool is_blank(TextView text) { return text.find_first_not_of(u" \t\r\n") == TextView::npos; }
-
 void check_command(const Script& script, const ScriptCommand& command, Findings& findings) {
   const std::size_t line = script.line_of(command.begin);
-  if (is_blank(command.text)) {
+  if (is_blank(command.text, kWhiteSpace)) {
     findings.add(line, "empty-command", {u"this command is empty: the database is sent a text without a statement"});
   } else if (!holds_code(script, command) && !script.is_sql_server()) {
     findings.add(line, "comment-command",
@@ -27,7 +25,7 @@ bool only_go_lines(const Script& script, const ScriptCommand& piece) {
 void check_rest(const Script& script, Findings& findings) {
   const ScriptCommand rest = script.rest();
   if (!holds_code(script, rest) || only_go_lines(script, rest)) return;
-  const std::size_t line = script.line_of(script.text().find_first_not_of(u" \t\r\n", rest.begin));
+  const std::size_t line = script.line_of(script.text().find_first_not_of(kWhiteSpace, rest.begin));
   if (script.commands().empty()) {
     findings.add(line, "no-go", {u"the file has no GO line: nothing of it is run"});
   } else {

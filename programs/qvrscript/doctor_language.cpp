@@ -8,8 +8,8 @@ namespace qvr::script_tool {
 LanguageFacts language_facts() {
   const Platform& platform = thread_state().platform();
   LanguageFacts facts;
-  facts.setting = platform.settings.read(u"QVR", u"Idioma", u"IdiomaOmision", u"");
-  facts.of_user = platform.user_language.default_identifier();
+  facts.setting = platform.system.setting(u"QVR", u"Idioma", u"IdiomaOmision", u"");
+  facts.of_user = platform.system.user_language();
   facts.asked = IdiomaOmision();
   InicializarComun();
   facts.shown = thread_state().idioma.Idioma();

@@ -39,12 +39,6 @@ TextView language_word(std::int32_t number) {
   return number >= 0 && number < language::kCarried ? kWords[number] : u"unknown";
 }
 
-Text hexadecimal(std::uint16_t number) {
-  Text digits = u"0x";
-  for (int shift = 12; shift >= 0; shift -= 4) digits.push_back(u"0123456789ABCDEF"[number >> shift & 15]);
-  return digits;
-}
-
 // What a component that is registered and does not work costs.
 struct FamilyComponent {
   TextView program_id, task, without;
@@ -124,7 +118,7 @@ void diagnose_language(const Facts& facts, Diagnoses& found) {
   found.of("language");
   const Text told = join({language_word(language.shown), u": "});
   if (language.setting.empty()) {
-    found.ok({told, u"by the user's regional format ", hexadecimal(language.of_user),
+    found.ok({told, u"by the user's regional format ", u"0x", hexadecimal(language.of_user, 4),
               u"; there is no setting QVR\\Idioma\\IdiomaOmision"});
   } else if (language.asked == language.shown) {
     found.ok({told, u"by the setting QVR\\Idioma\\IdiomaOmision, \"", language.setting, u"\""});

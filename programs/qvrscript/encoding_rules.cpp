@@ -35,12 +35,6 @@ std::size_t first_foreign_byte(std::string_view bytes) {
   return line_begin;
 }
 
-Text hexadecimal(char byte) {
-  constexpr TextView kDigits = u"0123456789ABCDEF";
-  const auto value = static_cast<unsigned char>(byte);
-  return {kDigits[value >> 4], kDigits[value & 15]};
-}
-
 void check_marks(ScriptEncoding encoding, Findings& findings) {
   if (encoding == ScriptEncoding::Utf8WithMark) {
     findings.add(1, "byte-order-mark",
@@ -55,7 +49,7 @@ void check_marks(ScriptEncoding encoding, Findings& findings) {
 void check_system_page(const Script& script, Findings& findings) {
   const std::size_t at = first_foreign_byte(script.bytes());
   findings.add(line_of_byte(script.bytes(), at), "ansi-page",
-               {u"byte 0x", hexadecimal(script.bytes()[at]),
+               {u"byte 0x", hexadecimal(static_cast<unsigned char>(script.bytes()[at]), 2),
                 u" is no UTF-8: the file is read by the ANSI page of whichever machine reads it"});
 }
 

@@ -3,12 +3,7 @@
 namespace qvr::script_tool {
 namespace {
 
-Text escape(char16_t unit) {
-  constexpr TextView kDigits = u"0123456789abcdef";
-  Text escaped = u"\\u";
-  for (int shift = 12; shift >= 0; shift -= 4) escaped.push_back(kDigits[(unit >> shift) & 15]);
-  return escaped;
-}
+Text escape(char16_t unit) { return u"\\u" + hexadecimal(unit, 4, u"0123456789abcdef"); }
 
 bool is_surrogate(char16_t unit) { return (unit & 0xF800) == 0xD800; }
 

@@ -19,7 +19,7 @@ std::optional<std::vector<Text>> names_in(TextView folder) {
   using Names = std::optional<std::vector<Text>>;
   return or_default(Names(), [&] {
     Names names = thread_state().platform().files.names(folder);
-    std::ranges::sort(*names, [](const Text& a, const Text& b) { return less_no_case(a, b); });
+    std::ranges::sort(*names, less_no_case);
     return names;
   });
 }

@@ -64,8 +64,7 @@ bool looks_ours(TextView word) { return find_no_case(word, u"QVR") != TextView::
 
 bool is_name(TextView word) {
   return !word.empty() && std::ranges::all_of(word, [](char16_t unit) {
-    return unit == u'_' || unit >= 0x80 || (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') ||
-           (unit >= u'a' && unit <= u'z');
+    return unit == u'_' || unit >= 0x80 || is_digit(unit) || is_ascii_letter(unit);
   });
 }
 

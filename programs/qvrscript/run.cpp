@@ -22,9 +22,8 @@ class RunThread {
   RunThread& operator=(const RunThread&) = delete;
 
  private:
-  static Platform with_boxes(const Platform& system, MessageBoxes& boxes) {
-    return {system.settings, system.user_language, system.files,     boxes, system.host_events, system.locale,
-            system.clock,    system.cryptography,  system.own_module};
+  static Platform with_boxes(const Platform& around, MessageBoxes& boxes) {
+    return {around.files, around.locale, around.cryptography, boxes, around.system};
   }
   static std::unique_ptr<services::ErrorReport> make_report(const Platform& platform) {
     return std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);

@@ -10,12 +10,6 @@ constexpr TextView kGo = u"GO";
 // What an editor shows as a blank or not at all.
 constexpr TextView kBlanks = u" \t\u00a0\u200b\ufeff\f\v\x1a";
 
-TextView without_blanks(TextView line) {
-  const std::size_t begin = line.find_first_not_of(kBlanks);
-  if (begin == TextView::npos) return {};
-  return line.substr(begin, line.find_last_not_of(kBlanks) - begin + 1);
-}
-
 TextView region_title(RegionKind kind) {
   switch (kind) {
     case RegionKind::LineComment:
@@ -64,9 +58,9 @@ const Lookalike* lookalike(TextView line) {
   static constexpr Lookalike kBlank{"go-blanks",
                                     u"GO with blanks, or characters that do not show, separates nothing: "
                                     u"the line must hold only GO"};
-  const TextView bare = without_blanks(line);
+  const TextView bare = trimmed(line, kBlanks);
   if (!starts_with_no_case(bare, kGo)) return nullptr;
-  const TextView rest = without_blanks(bare.substr(kGo.size()));
+  const TextView rest = trimmed(bare.substr(kGo.size()), kBlanks);
   if (rest.empty()) return bare.size() == line.size() ? nullptr : &kBlank;
   if (rest == u";") return &kSemicolon;
   if (rest.starts_with(u"--") || rest.starts_with(u"/*")) return &kComment;

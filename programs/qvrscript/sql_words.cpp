@@ -7,8 +7,6 @@ namespace {
 
 constexpr TextView kModules[] = {u"PROC", u"PROCEDURE", u"VIEW", u"FUNCTION", u"TRIGGER"};
 
-bool is_blank(char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n'; }
-
 // The kind of thing that the command makes or changes; empty for another command.
 TextView made(const std::vector<Word>& words) {
   const bool create_or_alter = words_are(words, 0, {u"CREATE", u"OR"});
@@ -20,8 +18,8 @@ TextView made(const std::vector<Word>& words) {
 }  // namespace
 
 bool in_word(char16_t unit) {
-  return unit == u'_' || unit == u'@' || unit == u'#' || unit == u'$' || unit >= 0x80 ||
-         (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
+  return unit == u'_' || unit == u'@' || unit == u'#' || unit == u'$' || unit >= 0x80 || is_digit(unit) ||
+         is_ascii_letter(unit);
 }
 
 std::vector<Word> words_in(const Script& script, const ScriptCommand& piece) {
@@ -46,7 +44,7 @@ bool holds_code(const Script& script, const ScriptCommand& piece) {
     const Region* region = region_at(script.regions(), at);
     const bool comment = region != nullptr &&
                          (region->kind == RegionKind::LineComment || region->kind == RegionKind::BlockComment);
-    if (!comment && !is_blank(script.text()[at])) return true;
+    if (!comment && kWhiteSpace.find(script.text()[at]) == TextView::npos) return true;
     at = comment ? region->end : at + 1;
   }
   return false;

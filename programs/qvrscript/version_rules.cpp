@@ -20,8 +20,6 @@ struct Update {
 
 bool fits(TextView name, std::initializer_list<TextView> pattern) { return matches_wildcards(name, join(pattern)); }
 
-bool all_digits(TextView text) { return text.find_first_not_of(u"0123456789") == TextView::npos; }
-
 bool is_update(TextView name, Engine engine) { return fits(name, {u"*", kVersions, engine_tag(engine), u".cfc"}); }
 
 Update parts_of(const Text& name, Engine engine) {
@@ -107,7 +105,7 @@ void check_chain(TextView folder, const std::vector<Update>& chain, std::vector<
 
 void check_names(TextView folder, const std::vector<Text>& names, std::vector<Finding>& found) {
   std::vector<Text> sorted = names;
-  std::ranges::sort(sorted, [](const Text& a, const Text& b) { return less_no_case(a, b); });
+  std::ranges::sort(sorted, less_no_case);
   std::map<std::pair<Engine, Text>, std::vector<Update>> chains;  // by engine and folded application
   for (const Text& name : sorted) {
     const TextView why = why_missed(name);

@@ -65,12 +65,6 @@ std::optional<Date> date_from(const CalendarTime& time) {
   return Date{day < 0 ? day - fraction : day + fraction};
 }
 
-Text padded(int number, std::size_t width) {
-  Text digits = decimal(number);
-  if (digits.size() < width) digits.insert(0, width - digits.size(), u'0');
-  return digits;
-}
-
 Text formatted_date(Date date, TextView mask) {
   const CalendarTime time = calendar_time(date);
   const struct {

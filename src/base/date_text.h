@@ -25,7 +25,4 @@ bool has_calendar_time(Date date) noexcept;
 // for itself.
 Text formatted_date(Date date, TextView mask);
 
-// The number's digits, with zeros in front up to this width.
-Text padded(int number, std::size_t width);
-
 }  // namespace qvr

@@ -82,8 +82,6 @@ bool is_fraction(std::string_view number) {
   return power + (exponent_at < number.size() ? exponent_in(number.substr(exponent_at + 1)) : 0) < 0;
 }
 
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 }  // namespace
 
 Text shortest_number(double number) { return shortest(number); }
@@ -137,7 +135,7 @@ std::size_t number_length(TextView text) {
 }
 
 double number_prefix(TextView text) {
-  const std::size_t start = text.find_first_not_of(u" \t\r\n");
+  const std::size_t start = text.find_first_not_of(kWhiteSpace);
   if (start == TextView::npos) return 0;
   text.remove_prefix(start);
   text = text.substr(0, number_length(text));

@@ -27,6 +27,8 @@ bool starts_with_no_case(TextView text, TextView prefix) {
   return text.size() >= prefix.size() && equal_no_case(text.substr(0, prefix.size()), prefix);
 }
 
+bool less_no_case(TextView a, TextView b) { return std::ranges::lexicographical_compare(a, b, {}, fold, fold); }
+
 Text replace_all(TextView text, TextView what, TextView by) {
   Text result;
   std::size_t from = 0;
@@ -41,8 +43,12 @@ Text replace_all(TextView text, TextView what, TextView by) {
 }
 
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
+  std::size_t count = 0;
+  for (std::size_t at = find_no_case(text, what); at != TextView::npos; ++count) {
+    at = find_no_case(text, what, at + what.size());
+  }
   Text result;
-  result.reserve(text.size());
+  result.reserve(text.size() - count * what.size() + count * by.size());
   std::size_t from = 0, place = position != nullptr ? *position : 0;
   for (std::size_t at = find_no_case(text, what); at != TextView::npos; at = find_no_case(text, what, from)) {
     result.append(text, from, at - from);
@@ -71,15 +77,29 @@ std::size_t find_no_case(TextView text, TextView what, std::size_t from) {
   return TextView::npos;
 }
 
-TextView trimmed(TextView text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(u' ') - first + 1);
+TextView trimmed(TextView text, TextView blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
+
+bool all_digits(TextView text) { return !text.empty() && std::ranges::all_of(text, is_digit); }
 
 Text decimal(std::int64_t number) {
   char digits[20];  // of the smallest number, with its sign
   const auto written = std::to_chars(std::begin(digits), std::end(digits), number);
   return Text(digits, written.ptr);
+}
+
+Text padded(int number, std::size_t width) {
+  Text digits = decimal(number);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), u'0');
+  return digits;
+}
+
+Text hexadecimal(std::uint32_t number, std::size_t width, TextView digits) {
+  Text written(width, u'0');
+  for (; width > 0; number >>= 4) written[--width] = digits[number & 15];
+  return written;
 }
 
 Text join(std::initializer_list<TextView> pieces) {

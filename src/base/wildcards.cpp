@@ -25,6 +25,4 @@ bool matches_wildcards(TextView name, TextView pattern) {
   return p == pattern.size();
 }
 
-bool less_no_case(TextView a, TextView b) { return std::ranges::lexicographical_compare(a, b, {}, fold, fold); }
-
 }  // namespace qvr

@@ -8,7 +8,4 @@ namespace qvr {
 // Whether the name fits the pattern without regard to case: "?" is exactly one character, "*" any run of them.
 bool matches_wildcards(TextView name, TextView pattern);
 
-// Ascending order without regard to case.
-bool less_no_case(TextView a, TextView b);
-
 }  // namespace qvr

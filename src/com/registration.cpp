@@ -4,7 +4,8 @@
 #include "com/answer.h"
 #include "com/class_table.h"
 #include "com/registry_rows.h"
-#include "platform/windows/parts.h"
+#include "platform/platform.h"
+#include "platform/windows/wide_text.h"
 
 namespace qvr::com {
 namespace {
@@ -40,7 +41,7 @@ LSTATUS write_value(HKEY classes, const RegistryValue& value) {
 }
 
 std::wstring own_file() {
-  const Text path = system_platform().own_module.path();
+  const Text path = system_platform().system.module_path();
   return std::wstring(path.begin(), path.end());
 }
 

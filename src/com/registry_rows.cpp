@@ -5,7 +5,7 @@
 #include "com/late_failure.h"
 #include "com/text_bstr.h"
 #include "com/type_library.h"
-#include "platform/windows/parts.h"
+#include "platform/windows/wide_text.h"
 
 namespace qvr::com {
 namespace {

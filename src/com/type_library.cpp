@@ -7,7 +7,7 @@ namespace qvr::com {
 
 ComPtr<ITypeLib> own_type_library() {
   ComPtr<ITypeLib> library;
-  const Text path = system_platform().own_module.path();
+  const Text path = system_platform().system.module_path();
   require(LoadTypeLibEx(std::wstring(path.begin(), path.end()).c_str(), REGKIND_NONE, &library));
   return library;
 }

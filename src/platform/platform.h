@@ -16,23 +16,6 @@
 
 namespace qvr {
 
-// The per-user application settings.
-struct Settings {
-  // The value of application / section / key, or `fallback` when there is none.
-  virtual Text read(TextView application, TextView section, TextView key, TextView fallback) = 0;
-
- protected:
-  ~Settings() = default;
-};
-
-struct UserLanguage {
-  // The user's default language identifier in Windows' numbering (0x0C0A is Spanish, Spain).
-  virtual std::uint16_t default_identifier() = 0;
-
- protected:
-  ~UserLanguage() = default;
-};
-
 struct InputFile {
   virtual ~InputFile() = default;
   // Fills the buffer from the file; fewer bytes only at its end. Throws on a read error.
@@ -74,13 +57,6 @@ struct MessageBoxes {
   ~MessageBoxes() = default;
 };
 
-struct HostEvents {
-  virtual void process_pending() = 0;  // lets the host paint and react; does not wait
-
- protected:
-  ~HostEvents() = default;
-};
-
 // The user's conventions for dates and numbers.
 struct Locale {
   virtual std::optional<Date> parse_date(TextView text) = 0;
@@ -92,13 +68,6 @@ struct Locale {
 
  protected:
   ~Locale() = default;
-};
-
-struct Clock {
-  virtual Date now() = 0;  // the local date and time
-
- protected:
-  ~Clock() = default;
 };
 
 using Bytes = std::span<const std::uint8_t>;
@@ -120,23 +89,26 @@ struct Cryptography {
   ~Cryptography() = default;
 };
 
-struct OwnModule {
-  virtual Text path() = 0;  // full path of the file that holds this code
+// What needs one call to the system and has no subject of its own.
+struct System {
+  // The user's setting of an application: section / key, or `fallback` where there is none.
+  virtual Text setting(TextView application, TextView section, TextView key, TextView fallback) = 0;
+  // The user's default language identifier in Windows' numbering (0x0C0A is Spanish, Spain).
+  virtual std::uint16_t user_language() = 0;
+  virtual Date now() = 0;             // the local date and time
+  virtual void process_events() = 0;  // lets the host paint and react; does not wait
+  virtual Text module_path() = 0;     // full path of the file that holds this code
 
  protected:
-  ~OwnModule() = default;
+  ~System() = default;
 };
 
 struct Platform {
-  Settings& settings;
-  UserLanguage& user_language;
   Files& files;
-  MessageBoxes& message_boxes;
-  HostEvents& host_events;
   Locale& locale;
-  Clock& clock;
   Cryptography& cryptography;
-  OwnModule& own_module;
+  MessageBoxes& message_boxes;
+  System& system;
 };
 
 // The implementation for the system that this build runs on; stateless, usable from any thread.

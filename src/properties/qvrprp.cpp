@@ -5,7 +5,7 @@
 
 #include "base/failure.h"
 #include "session/global.h"
-#include "session/thread_state.h"
+#include "session/message_box.h"
 #include "session/value_convert.h"
 
 namespace qvr {
@@ -14,8 +14,7 @@ namespace {
 constexpr TextView kTypes[] = {u"T", u"N", u"F", u"L"};
 
 void tell_unexpected_type(TextView type, TextView name) {
-  thread_state().platform().message_boxes.show(
-      join({u"Tipo inesperado (", type, u") al agregar propiedad (", name, u")"}), BoxButtons::Ok);
+  tell(join({u"Tipo inesperado (", type, u") al agregar propiedad (", name, u")"}));
 }
 
 }  // namespace

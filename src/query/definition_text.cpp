@@ -18,9 +18,7 @@ Text check_digits(TextView text) {
   for (const char16_t unit : text) {
     for (const int byte : {unit & 0xFF, unit >> 8}) hash = (hash ^ static_cast<std::uint32_t>(byte)) * 0x01000193;
   }
-  Text digits(kDigits, u'0');
-  for (std::size_t i = 0; i < kDigits; ++i, hash >>= 4) digits[kDigits - 1 - i] = u"0123456789ABCDEF"[hash & 15];
-  return digits;
+  return hexadecimal(hash, kDigits);
 }
 
 Text end_mark(TextView text) { return join({kEnd, check_digits(text), kClose}); }

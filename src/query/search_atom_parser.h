@@ -36,7 +36,4 @@ class AtomParser {
   Engine engine_;
 };
 
-// What holds where none of the alternatives does; what is null belongs to it.
-Alternatives negated(const Alternatives& alternatives);
-
 }  // namespace qvr::query

@@ -10,6 +10,7 @@
 namespace qvr::query {
 
 enum class Comparison { Equal, Different, Less, LessOrEqual, Greater, GreaterOrEqual };
+TextView sign_of(Comparison comparison);
 
 // A moment to the second, days counted as in a Date.
 struct Moment {
@@ -53,5 +54,8 @@ using Atom = std::variant<IsNull, IsEmpty, CompareText, Like, CompareNumber, Com
 // All of an alternative must hold, one of the alternatives.
 using Alternative = std::vector<Atom>;
 using Alternatives = std::vector<Alternative>;
+
+// What holds where none of the alternatives does; what is null belongs to it.
+Alternatives negated(const Alternatives& alternatives);
 
 }  // namespace qvr::query

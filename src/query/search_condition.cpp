@@ -1,20 +1,58 @@
 #include "query/search_condition.h"
 
+#include "dialect/like_pattern.h"
 #include "dialect/literals.h"
 #include "query/search_operands.h"
 
 namespace qvr::query {
 namespace {
 
-TextView sign_of(Comparison comparison) {
-  switch (comparison) {
-    case Comparison::Equal: return u"=";
-    case Comparison::Different: return u"<>";
-    case Comparison::Less: return u"<";
-    case Comparison::LessOrEqual: return u"<=";
-    case Comparison::Greater: return u">";
-    default: return u">=";
+// A pattern in which any character can be meant, as the engine's literal, with an ESCAPE clause (a blank before it,
+// none behind) where it needs one.
+struct PatternText {
+  Text literal, escape;
+};
+
+// Jet knows no ESCAPE: whatever means something to it goes into brackets.
+constexpr TextView kSpecialToJet = u"%_#[*?";
+
+bool is_special(Engine engine, char16_t unit, bool bracketed) {
+  if (engine == Engine::Jet) return kSpecialToJet.find(unit) != TextView::npos;
+  return unit == u'%' || unit == u'_' || (bracketed && unit == u'[');
+}
+
+// A character that is free to mark others: the usual candidates, else one that nobody types. No letter: both sides of
+// the comparison may be turned to capitals.
+Text free_escape(Engine engine, TextView text) {
+  const Text usual = dialect::CaracterEscapeLibre(text);
+  if (!usual.empty() || engine != Engine::Oracle) return usual;
+  for (char16_t unit = u'\u2500'; unit < u'\u2800'; ++unit) {
+    if (text.find(unit) == TextView::npos) return Text(1, unit);
   }
+  return {};
+}
+
+PatternText pattern_text(Engine engine, const Operand& pattern) {
+  const Text& text = pattern.text();
+  const bool marked = engine != Engine::Jet && text.find_first_of(u"%_") != Text::npos;
+  const Text escape = marked ? free_escape(engine, text) : Text();
+  const bool bracketed = engine == Engine::SqlServer;
+  Text written;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char16_t unit = text[i];
+    if (pattern.is_wildcard(i)) {
+      written += unit == u'*' ? u'%' : u'_';
+    } else if (!is_special(engine, unit, bracketed)) {
+      written += unit;
+    } else if (escape.empty() || unit == u'[') {
+      written.append({u'[', unit, u']'});
+    } else {
+      written.append(escape).push_back(unit);
+    }
+  }
+  const TextView national = bracketed ? u"N" : u"";
+  return {join({national, dialect::ComillasSQL(written)}),
+          escape.empty() ? Text() : join({u" ESCAPE '", escape, u"'"})};
 }
 
 class ConditionWriter {

@@ -10,10 +10,4 @@ namespace qvr::query {
 // a search that was added alone.
 Text search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search);
 
-// The pattern as the engine's literal, with an ESCAPE clause (a blank before it, none behind) where it needs one.
-struct PatternText {
-  Text literal, escape;
-};
-PatternText pattern_text(Engine engine, const Operand& pattern);
-
 }  // namespace qvr::query

@@ -9,17 +9,6 @@
 namespace qvr::query {
 namespace {
 
-TextView sign_of(Comparison comparison) {
-  switch (comparison) {
-    case Comparison::Equal: return u"= ";
-    case Comparison::Different: return u"<> ";
-    case Comparison::Less: return u"< ";
-    case Comparison::LessOrEqual: return u"<= ";
-    case Comparison::Greater: return u"> ";
-    default: return u">= ";
-  }
-}
-
 Text in_quotes(TextView text) {
   Text quoted = u"\"";
   for (const char16_t unit : text) {
@@ -88,13 +77,13 @@ struct CriterionWriter {
   Text operator()(const CompareText& atom) const {
     const Text& value = atom.operand.text();
     const Text shown = needs_quotes_as_value(value) ? in_quotes(value) : value;
-    return join({sign_of(atom.comparison), shown, atom.and_what_begins_so ? u"*" : u""});
+    return join({sign_of(atom.comparison), u" ", shown, atom.and_what_begins_so ? u"*" : u""});
   }
   Text operator()(const CompareNumber& atom) const {
-    return join({sign_of(atom.comparison), shown_number(atom.digits)});
+    return join({sign_of(atom.comparison), u" ", shown_number(atom.digits)});
   }
   Text operator()(const CompareDate& atom) const {
-    return join({sign_of(atom.comparison), shown_moment(atom.from, atom.whole_day, atom.with_seconds)});
+    return join({sign_of(atom.comparison), u" ", shown_moment(atom.from, atom.whole_day, atom.with_seconds)});
   }
   Text operator()(const CompareTruth& atom) const {
     return join({atom.negated ? u"<> " : u"= ", truth_word(atom.truth)});

@@ -14,8 +14,7 @@ bool is_word_unit(char16_t unit) { return unit != u' ' && unit != u';' && unit !
 
 // Signs that are no word by themselves. Wildcards are not among them.
 bool is_punctuation(char16_t unit) {
-  return (unit > 0x20 && unit < 0x7F && !(unit >= u'0' && unit <= u'9') && fold(unit) == unit &&
-          !(unit >= u'A' && unit <= u'Z')) ||
+  return (unit > 0x20 && unit < 0x7F && !is_digit(unit) && fold(unit) == unit && !(unit >= u'A' && unit <= u'Z')) ||
          (unit >= 0x2010 && unit <= 0x2027);
 }
 

@@ -14,8 +14,6 @@ constexpr std::size_t kMostDigits = 28;  // the longest numbers that all engines
 constexpr std::int32_t kSecondsPerDay = 86400;
 
 Locale& locale() { return thread_state().platform().locale; }
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool all_digits(TextView text) { return !text.empty() && std::ranges::all_of(text, is_digit); }
 
 // Without blanks and signs of currency.
 Text bare_number(TextView typed) {
@@ -119,7 +117,7 @@ std::optional<std::int32_t> day_in(TextView typed) {
 std::optional<std::int32_t> relative_day(TextView typed) {
   const auto word = day_word(typed);
   if (!word) return std::nullopt;
-  const auto today = static_cast<std::int32_t>(std::trunc(thread_state().platform().clock.now().days));
+  const auto today = static_cast<std::int32_t>(std::trunc(thread_state().platform().system.now().days));
   const Text rest = replace_all(typed.substr(word->length), u" ", u"");
   if (rest.empty()) return today + word->days;
   const TextView digits = TextView(rest).substr(1);

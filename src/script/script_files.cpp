@@ -17,7 +17,7 @@ std::vector<Text> sorted_names(TextView Ruta, TextView pattern) {
   std::vector<Text> names = thread_state().platform().files.names(Ruta);
   // The system's own search takes "?" at some places for no character at all.
   std::erase_if(names, [&](const Text& name) { return !matches_wildcards(name, pattern); });
-  std::ranges::sort(names, [](const Text& a, const Text& b) { return less_no_case(a, b); });
+  std::ranges::sort(names, less_no_case);
   return names;
 }
 

@@ -1,7 +1,6 @@
 #include "script/script_preparation.h"
 
 #include "base/date_text.h"
-#include "script/word_search.h"
 #include "session/thread_state.h"
 
 namespace qvr {
@@ -25,21 +24,9 @@ void tell_step(ScriptEvents& events, std::size_t step, std::size_t of) {
       join({u"Procesando ", decimal(static_cast<std::int64_t>(step)), u"/", decimal(static_cast<std::int64_t>(of))}));
 }
 
-// Counted first, so that there is room for the new text and no more: with the old one that makes two texts at one time,
-// where one that grows as it is written takes several.
 Text replaced(Text text, TextView what, TextView by) {
-  const WordSearch word(what);
-  std::size_t count = 0, from = 0;
-  for (auto at = word.find(text); at != Text::npos; at = word.find(text, at + what.size())) ++count;
-  if (count == 0) return text;
-  Text result;
-  result.reserve(text.size() - count * what.size() + count * by.size());
-  for (auto at = word.find(text); at != Text::npos; at = word.find(text, from)) {
-    result.append(text, from, at - from).append(by);
-    from = at + what.size();
-  }
-  result.append(text, from);
-  return result;  // by its name: what append() answers would be copied
+  if (find_no_case(text, what) == Text::npos) return text;  // a long one is not copied for nothing
+  return replace_all_no_case(text, what, by);
 }
 
 }  // namespace
@@ -56,7 +43,7 @@ Text with_encryption(Text text, ScriptEvents& events) {
 Text with_accounts(Text text, Engine MotorBD, const ScriptAccounts& accounts, ScriptEvents& events) {
   const bool oracle = MotorBD == Engine::Oracle;
   const Text log_file = oracle ? accounts.NombreBaseOTablespace +
-                                     formatted_date(thread_state().platform().clock.now(), u"hhnn")
+                                     formatted_date(thread_state().platform().system.now(), u"hhnn")
                                : Text();
   const struct {
     Rewrite word;

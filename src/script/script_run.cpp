@@ -54,7 +54,7 @@ bool ScriptRun::run_commands() {
     } else if (!user_says_yes(question)) {
       return false;
     }
-    state.platform().host_events.process_pending();
+    state.platform().system.process_events();
   }
   return true;
 }

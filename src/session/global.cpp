@@ -10,7 +10,7 @@ namespace {
 
 double read_default_language(ThreadState& state) {
   const Text system = decimal(state.idioma.IdiomaDesdeSOP());
-  return number_prefix(state.platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", system));
+  return number_prefix(state.platform().system.setting(u"QVR", u"Idioma", u"IdiomaOmision", system));
 }
 
 }  // namespace

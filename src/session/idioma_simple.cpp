@@ -82,7 +82,7 @@ Text IdiomaSimple::CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const
 
 std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
   return or_default(language::kEnglish, [&] {
-    const SystemLanguage system = system_language(user_language_->default_identifier());
+    const SystemLanguage system = system_language(system_->user_language());
     return system.needs_availability_check ? nearest_available(system.number) : system.number;
   });
 }

@@ -14,7 +14,7 @@ namespace qvr {
 
 class IdiomaSimple {
  public:
-  explicit IdiomaSimple(UserLanguage& user_language) : user_language_(&user_language) {}
+  explicit IdiomaSimple(System& system) : system_(&system) {}
 
   // Takes over the catalogue (a copy) and selects the language, or the nearest one that the list carries; false, and
   // not loaded, when that language has no column.
@@ -54,7 +54,7 @@ class IdiomaSimple {
   std::int32_t column_ = 0;  // of the current language
   bool loaded_ = false;
   TextTable catalogue_;
-  UserLanguage* user_language_;
+  System* system_;
 };
 
 }  // namespace qvr

@@ -1,28 +1,28 @@
 #include "session/system_language.h"
 
 #include <algorithm>
+#include <span>
 
 #include "session/catalogue.h"
 
 namespace qvr {
 namespace {
 
-constexpr TextView kBasque[] = {u"42d"};
-constexpr TextView kCatalan[] = {u"403"};
-constexpr TextView kEnglish[] = {u"409",  u"809",  u"c09",  u"1009", u"1409", u"1809", u"1c09",
-                                 u"2009", u"2409", u"2809", u"2c09", u"3009", u"3409"};
-constexpr TextView kFrench[] = {u"40c", u"80c", u"c0c", u"100c", u"140c", u"180c"};
-constexpr TextView kGalician[] = {u"456"};
-constexpr TextView kGerman[] = {u"407", u"807", u"c07", u"1007", u"1407"};
-constexpr TextView kItalian[] = {u"410", u"810"};
-constexpr TextView kPortuguese[] = {u"416", u"816"};
-// "x480a" and "4c0a " can equal no identifier: applications rely on 0x480A and 0x4C0A being English.
-constexpr TextView kSpanish[] = {u"40a",  u"80a",  u"c0a",  u"100a",  u"140a",  u"180a", u"1c0a",
-                                 u"200a", u"240a", u"280a", u"2c0a",  u"300a",  u"340a", u"380a",
-                                 u"3c0a", u"400a", u"440a", u"x480a", u"4c0a ", u"500a"};
+constexpr std::uint16_t kBasque[] = {0x42D};
+constexpr std::uint16_t kCatalan[] = {0x403};
+constexpr std::uint16_t kEnglish[] = {0x409,  0x809,  0xC09,  0x1009, 0x1409, 0x1809, 0x1C09,
+                                      0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
+constexpr std::uint16_t kFrench[] = {0x40C, 0x80C, 0xC0C, 0x100C, 0x140C, 0x180C};
+constexpr std::uint16_t kGalician[] = {0x456};
+constexpr std::uint16_t kGerman[] = {0x407, 0x807, 0xC07, 0x1007, 0x1407};
+constexpr std::uint16_t kItalian[] = {0x410, 0x810};
+constexpr std::uint16_t kPortuguese[] = {0x416, 0x816};
+// Without 0x480A and 0x4C0A, Honduras and Nicaragua: applications rely on these being English.
+constexpr std::uint16_t kSpanish[] = {0x40A,  0x80A,  0xC0A,  0x100A, 0x140A, 0x180A, 0x1C0A, 0x200A, 0x240A,
+                                      0x280A, 0x2C0A, 0x300A, 0x340A, 0x380A, 0x3C0A, 0x400A, 0x440A, 0x500A};
 
 struct List {
-  std::span<const TextView> identifiers;
+  std::span<const std::uint16_t> identifiers;
   SystemLanguage language;
 };
 
@@ -34,21 +34,11 @@ constexpr List kLists[] = {
     {kSpanish, {language::kSpanish, false}},
 };
 
-Text hexadecimal(std::uint16_t identifier) {
-  Text digits;
-  for (int shift = 12; shift >= 0; shift -= 4) {
-    const int digit = identifier >> shift & 0xF;
-    if (digit != 0 || !digits.empty() || shift == 0) digits.push_back(u"0123456789abcdef"[digit]);
-  }
-  return digits;
-}
-
 }  // namespace
 
 SystemLanguage system_language(std::uint16_t identifier) {
-  const Text text = hexadecimal(identifier);
   for (const List& list : kLists) {
-    if (std::ranges::find(list.identifiers, TextView(text)) != list.identifiers.end()) return list.language;
+    if (std::ranges::find(list.identifiers, identifier) != list.identifiers.end()) return list.language;
   }
   return {language::kEnglish, false};
 }

@@ -11,7 +11,7 @@ struct SystemLanguage {
   bool needs_availability_check;
 };
 
-// Identifier in lower-case hexadecimal without leading zeros ("c0a") to its language.
+// The language that an identifier in Windows' numbering leads to; English for an unknown one.
 SystemLanguage system_language(std::uint16_t identifier);
 
 }  // namespace qvr

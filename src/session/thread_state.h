@@ -28,7 +28,7 @@ const Environment& environment();
 class ThreadState {
  public:
   explicit ThreadState(const Environment& environment)
-      : idioma(environment.platform.user_language), environment_(environment) {}
+      : idioma(environment.platform.system), environment_(environment) {}
 
   const Platform& platform() const { return environment_.platform; }
   services::TextProtection& text_protection();

@@ -139,12 +139,5 @@ TEST(FormattedDate, WritesPartsAtTheirFullWidth) {
   EXPECT_TRUE(has_calendar_time(Date{2958465 + 86399 * kSecond}));
 }
 
-TEST(Padded, NeverTruncates) {
-  EXPECT_EQ(padded(5, 2), u"05");
-  EXPECT_EQ(padded(0, 4), u"0000");
-  EXPECT_EQ(padded(24, 2), u"24");
-  EXPECT_EQ(padded(124, 2), u"124");
-}
-
 }  // namespace
 }  // namespace qvr::tests

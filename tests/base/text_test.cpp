@@ -116,6 +116,37 @@ TEST(DecimalDigits, CoverTheWholeRange) {
   EXPECT_EQ(decimal(INT64_MIN), u"-9223372036854775808");
 }
 
+TEST(Padded, NeverTruncates) {
+  EXPECT_EQ(padded(5, 2), u"05");
+  EXPECT_EQ(padded(0, 4), u"0000");
+  EXPECT_EQ(padded(24, 2), u"24");
+  EXPECT_EQ(padded(124, 2), u"124");
+}
+
+TEST(Hexadecimal, HasAsManyDigitsAsTheWidthSays) {
+  EXPECT_EQ(hexadecimal(0x0C0A, 4), u"0C0A");
+  EXPECT_EQ(hexadecimal(0xFFFFFFFF, 8), u"FFFFFFFF");
+  EXPECT_EQ(hexadecimal(0, 2), u"00");
+  EXPECT_EQ(hexadecimal(0x1AB, 2), u"AB");
+  EXPECT_EQ(hexadecimal(0x1F, 4, u"0123456789abcdef"), u"001f");
+}
+
+TEST(Blanks, AreThoseThatTheCallerNames) {
+  EXPECT_TRUE(is_blank(u"  "));
+  EXPECT_FALSE(is_blank(u" \t"));
+  EXPECT_TRUE(is_blank(u" \t\r\n", kWhiteSpace));
+  EXPECT_EQ(trimmed(u" \ta b\t "), u"\ta b\t");
+  EXPECT_EQ(trimmed(u" \ta b\t ", kWhiteSpace), u"a b");
+  EXPECT_EQ(trimmed(u"\r\n", kWhiteSpace), u"");
+}
+
+TEST(AllDigits, AsksForOneAtLeast) {
+  EXPECT_TRUE(all_digits(u"09"));
+  EXPECT_FALSE(all_digits(u""));
+  EXPECT_FALSE(all_digits(u"1."));
+  EXPECT_FALSE(all_digits(u"/:"));
+}
+
 TEST(Join, KeepsOrderAndBlanks) {
   EXPECT_EQ(join({}), u"");
   EXPECT_EQ(join({u" TOP ", u"", u"10", u" "}), u" TOP 10 ");

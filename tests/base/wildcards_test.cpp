@@ -129,35 +129,5 @@ TEST(MatchesWildcards, ManyAsterisksDoNotMultiply) {
   EXPECT_FALSE(matches_wildcards(name, pattern + pattern + u"a"));
 }
 
-TEST(LessNoCase, OrdersByTheUnitsInCapitals) {
-  constexpr TextView kAscending[] = {u"",   u" ",   u"-", u"1", u"10", u"2",      u"A",
-                                     u"Ab", u"ABC", u"b", u"C", u"_",  u"\u00d1", u"\u65e5"};
-  for (std::size_t i = 0; i < std::size(kAscending); ++i) {
-    for (std::size_t k = 0; k < std::size(kAscending); ++k) {
-      SCOPED_TRACE(to_utf8(join({kAscending[i], u" / ", kAscending[k]})));
-      EXPECT_EQ(less_no_case(kAscending[i], kAscending[k]), i < k);
-    }
-  }
-}
-
-TEST(LessNoCase, NamesThatDifferInCaseAreEqual) {
-  for (const auto& [a, b] : {std::pair(TextView(u"abc"), TextView(u"ABC")), {u"\u00f1", u"\u00d1"}, {u"x_Y", u"X_y"}}) {
-    EXPECT_FALSE(less_no_case(a, b));
-    EXPECT_FALSE(less_no_case(b, a));
-  }
-}
-
-TEST(LessNoCase, SortsAnyNames) {
-  std::mt19937 random(20260106);
-  std::vector<Text> names;
-  for (int i = 0; i < 3000; ++i) names.push_back(random_of(random, u"aAbB_19\u00f1\u00d1", 4));
-  std::ranges::sort(names, [](const Text& a, const Text& b) { return less_no_case(a, b); });
-  for (std::size_t i = 0; i + 1 < names.size(); ++i) {
-    Text here = names[i], next = names[i + 1];
-    for (Text* name : {&here, &next}) std::ranges::transform(*name, name->begin(), fold);
-    ASSERT_LE(here, next);
-  }
-}
-
 }  // namespace
 }  // namespace qvr::tests

@@ -8,10 +8,7 @@
 namespace qvr::tests {
 namespace {
 
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool is_letter(char16_t unit) {
-  return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') || unit == u'_';
-}
+bool is_letter(char16_t unit) { return is_ascii_letter(unit) || unit == u'_'; }
 
 class Tokenizer {
  public:
@@ -129,7 +126,7 @@ class Tokenizer {
     return take(units);
   }
   void skip_blanks() {
-    while (!rest_.empty() && TextView(u" \t\r\n").find(rest_[0]) != TextView::npos) rest_.remove_prefix(1);
+    while (!rest_.empty() && kWhiteSpace.find(rest_[0]) != TextView::npos) rest_.remove_prefix(1);
   }
 
   Engine engine_;

@@ -7,13 +7,9 @@ namespace {
 
 Text ascii(const std::string& text) { return Text(text.begin(), text.end()); }
 
-Text hexadecimal(TextView text) {
+Text hexadecimal_utf8(TextView text) {
   Text digits;
-  for (const char byte : to_utf8(text)) {
-    const auto value = static_cast<unsigned char>(byte);
-    digits += u"0123456789ABCDEF"[value >> 4];
-    digits += u"0123456789ABCDEF"[value & 15];
-  }
+  for (const char byte : to_utf8(text)) digits += hexadecimal(static_cast<unsigned char>(byte), 2);
   return digits;
 }
 
@@ -23,7 +19,7 @@ TextView from_nothing(Engine engine) { return engine == Engine::Oracle ? u" FROM
 
 Text is_text(Engine engine, TextView expression, TextView expected) {
   if (expected.empty() && engine == Engine::Oracle) return join({expression, u" IS NULL"});
-  return join({u"STRINGTOUTF8(", expression, u")=X'", hexadecimal(expected), u"'"});
+  return join({u"STRINGTOUTF8(", expression, u")=X'", hexadecimal_utf8(expected), u"'"});
 }
 
 CheckedScript::CheckedScript(Engine engine, int broken) : engine_(engine), broken_(broken) {

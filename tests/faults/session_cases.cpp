@@ -33,13 +33,13 @@ struct Unloaded {
   TextTable table{kMessageCount, language::kCarried};
   std::vector<std::vector<Value>> languages = {3, {0, 1, 2, 3}};  // given away, one for each call
   std::size_t next = 0;
-  IdiomaSimple idioma{thread.user_language};
+  IdiomaSimple idioma{thread.system};
 };
 
 // A thread on which nothing was done.
 struct NewThread {
   NewThread() {
-    thread.settings.set_default_language(u"3.00000000000000000000000000000000");
+    thread.system.set_default_language(u"3.00000000000000000000000000000000");
     folder.write(u"a file of some length.txt", "x");
   }
   Lines texts() { return {shown(message(MsgMetodo))}; }

@@ -4,16 +4,7 @@
 
 namespace qvr::tests {
 
-FuzzThread::FuzzThread()
-    : platform_{settings_,
-                user_language_,
-                files,
-                boxes_,
-                system_platform().host_events,
-                locale,
-                clock_,
-                system_platform().cryptography,
-                system_platform().own_module} {
+FuzzThread::FuzzThread() : platform_{files, locale, system_platform().cryptography, boxes_, system_} {
   const Environment& around = environment();
   exchange_thread_state(std::make_unique<ThreadState>(Environment{
       platform_, around.make_text_protection, around.make_error_report, around.make_ado, around.make_script_reader}));

@@ -29,20 +29,17 @@ class FuzzThread {
     BoxAnswer show(TextView text, BoxButtons buttons) override;
     std::vector<Text> shown;
   };
-  struct NoSettings final : Settings {
-    Text read(TextView, TextView, TextView, TextView fallback) override { return Text(fallback); }
-  };
-  struct Spanish final : UserLanguage {
-    std::uint16_t default_identifier() override { return 0x0C0A; }
-  };
-  struct StoppedClock final : Clock {
+  // No settings, a Spanish user, a stopped clock.
+  struct FixedSystem final : System {
+    Text setting(TextView, TextView, TextView, TextView fallback) override { return Text(fallback); }
+    std::uint16_t user_language() override { return 0x0C0A; }
     Date now() override { return {40548.5}; }  // noon of 5 January 2011
+    void process_events() override {}
+    Text module_path() override { return {}; }
   };
 
   Boxes boxes_;
-  NoSettings settings_;
-  Spanish user_language_;
-  StoppedClock clock_;
+  FixedSystem system_;
   Platform platform_;
 };
 

@@ -133,7 +133,7 @@ TEST_F(LoadingProgressTest, AReaderThatCannotBeMadeIsTriedAgainTheNextTime) {
 }
 
 TEST_F(LoadingProgressTest, AClockOutsideTheCalendarFailsForOracleOnly) {
-  thread.clock.moment = Date{1e10};
+  thread.system.moment = Date{1e10};
   EXPECT_EQ(definition(), definition_text);
   taken();
   motor = Engine::Oracle;
@@ -180,7 +180,7 @@ TEST_F(LoadingProgressTest, TheNextRunOrLoadBeginsInsideTerminado) {
 TEST_F(LoadingProgressTest, NoLoadingBeginsInsideARunOfCommands) {
   int refused = 0;
   const auto intrude = [&] { refused += definition().empty() && update(10024).empty() ? 1 : 0; };
-  events.on_progress = thread.host_events.on_process = intrude;
+  events.on_progress = thread.system.on_events = intrude;
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(refused, 3);
   EXPECT_EQ(taken(),

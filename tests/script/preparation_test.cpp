@@ -162,7 +162,7 @@ TEST_F(PreparationTest, TheLogFileHasTheHourAndMinute) {
   motor = Engine::Oracle;
   for (const Moment& moment : kMoments) {
     SCOPED_TRACE(moment.name);
-    thread.clock.moment = Date{moment.days};
+    thread.system.moment = Date{moment.days};
     EXPECT_EQ(filled(u"[LogFile].log"), join({u"Ventas", moment.after, u".log"}));
   }
 }

@@ -69,7 +69,7 @@ TEST_F(RunEventsTest, AChainOfRunsHasAnEnd) {
 
 TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
   int refused = 0;
-  thread.host_events.on_process = [&] { refused += nested_run() ? 0 : 1; };
+  thread.system.on_events = [&] { refused += nested_run() ? 0 : 1; };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(refused, 1);
   EXPECT_EQ(taken(), whole_run);
@@ -107,9 +107,7 @@ TEST_F(RunEventsTest, OneCommandMayRunFromInside) {
   const auto connection = thread.ado.new_connection();
   taken();
   bool inner_result = false;
-  thread.host_events.on_process = [&] {
-    inner_result = runner.Ejecutar1Comando(connection.get(), u"X", Engine::SqlServer);
-  };
+  thread.system.on_events = [&] { inner_result = runner.Ejecutar1Comando(connection.get(), u"X", Engine::SqlServer); };
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_TRUE(inner_result);
   EXPECT_EQ(taken(), together({opening(),

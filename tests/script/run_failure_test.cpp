@@ -165,7 +165,7 @@ TEST_F(RunFailureTest, AQuestionThatCannotBeAskedEndsTheRun) {
 }
 
 TEST_F(RunFailureTest, AHostThatFailsEndsTheRun) {
-  thread.host_events.on_process = [] { throw std::bad_alloc(); };
+  thread.system.on_events = [] { throw std::bad_alloc(); };
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(taken(),
             together({opening(), kCommand, {"Report: 7|Out of memory|QVRlib21|2|EjecutarComandos"}, rolled_back()}));

@@ -17,21 +17,21 @@ using tests::PrintTo;
 
 TEST(InicializarComun, LoadsOncePerThread) {
   TestThread thread;
-  thread.settings.set_default_language(u"3");
+  thread.system.set_default_language(u"3");
   const QVRcfp first;
   EXPECT_TRUE(thread_state().idioma.Creado());
   EXPECT_EQ(thread_state().idioma.Idioma(), 3);
   const QVRcfp second;
   InicializarComun();
-  EXPECT_EQ(thread.settings.reads, 1);
-  EXPECT_EQ(thread.user_language.calls, 1);
+  EXPECT_EQ(thread.system.setting_reads, 1);
+  EXPECT_EQ(thread.system.language_reads, 1);
 }
 
 TEST(InicializarComun, LeavesAChosenLanguageAlone) {
   TestThread thread;
   InicializarComun();
   thread_state().idioma.Idioma(3);
-  thread.settings.set_default_language(u"1");
+  thread.system.set_default_language(u"1");
   const QVRcfp later;
   EXPECT_EQ(thread_state().idioma.Idioma(), 3);
   EXPECT_EQ(thread_state().idioma.CI(MsgY), u"et");
@@ -80,8 +80,8 @@ using IdiomaOmisionOf = Rows<testing::Test, Row>;
 
 TEST_P(IdiomaOmisionOf, TheSettingIsLoaded) {
   TestThread thread;
-  thread.user_language.identifier = GetParam().system;
-  if (GetParam().setting != nullptr) thread.settings.set_default_language(GetParam().setting);
+  thread.system.language = GetParam().system;
+  if (GetParam().setting != nullptr) thread.system.set_default_language(GetParam().setting);
   EXPECT_EQ(IdiomaOmision(), GetParam().omision);
   InicializarComun();
   EXPECT_TRUE(thread_state().idioma.Creado());
@@ -92,27 +92,27 @@ INSTANTIATE_TEST_SUITE_P(, IdiomaOmisionOf, testing::ValuesIn(kRows), row_name);
 
 TEST(IdiomaOmision, IsReadOncePerThread) {
   TestThread thread;
-  thread.settings.set_default_language(u"1");
+  thread.system.set_default_language(u"1");
   EXPECT_EQ(IdiomaOmision(), 1);
-  thread.settings.set_default_language(u"3");
+  thread.system.set_default_language(u"3");
   EXPECT_EQ(IdiomaOmision(), 1);
-  EXPECT_EQ(thread.settings.reads, 1);
+  EXPECT_EQ(thread.system.setting_reads, 1);
   thread.renew();
   EXPECT_EQ(IdiomaOmision(), 3);
-  EXPECT_EQ(thread.settings.reads, 2);
+  EXPECT_EQ(thread.system.setting_reads, 2);
 }
 
 TEST(IdiomaOmision, OffersTheSystemLanguageAsTheSettingsDefault) {
   TestThread thread;
-  thread.user_language.identifier = 0x0809;
+  thread.system.language = 0x0809;
   IdiomaOmision();
-  EXPECT_EQ(thread.settings.last_fallback, u"1");
+  EXPECT_EQ(thread.system.last_fallback, u"1");
 }
 
 TEST(IdiomaOmision, IsSpanishWhenTheSettingsCannotBeRead) {
   TestThread thread;
-  thread.user_language.identifier = 0x0409;
-  thread.settings.fails = true;
+  thread.system.language = 0x0409;
+  thread.system.setting_fails = true;
   EXPECT_EQ(IdiomaOmision(), 0);
   InicializarComun();
   EXPECT_TRUE(thread_state().idioma.Creado());
@@ -130,7 +130,7 @@ TEST(InicializarComun, GivesEachThreadALanguageOfItsOwn) {
   }).join();
   EXPECT_EQ(there_language, 0);
   EXPECT_EQ(thread_state().idioma.Idioma(), 1);
-  EXPECT_EQ(here.settings.reads, 1);
+  EXPECT_EQ(here.system.setting_reads, 1);
 }
 
 TEST(ExisteArchivo, IsFalseForAnEmptyPathWithoutASearch) {

@@ -29,7 +29,7 @@ class IdiomaSimpleTest : public ::testing::Test {
   }
 
   TestThread thread;
-  IdiomaSimple idioma{thread.user_language};
+  IdiomaSimple idioma{thread.system};
 };
 
 TEST_F(IdiomaSimpleTest, AnswersNothingBeforeLoading) {

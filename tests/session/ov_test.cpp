@@ -76,7 +76,7 @@ TEST_P(OvPath, IsTheFolderAndTheWholeOneTheLibrarysFile) {
 INSTANTIATE_TEST_SUITE_P(, OvPath, testing::ValuesIn(kModules), row_name);
 
 TEST(Ov, FindsTheFolderOfThisProgram) {
-  const Text file = system_platform().own_module.path();
+  const Text file = system_platform().system.module_path();
   EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::path(file)));
   const Text folder = Ov::Path(file);
   EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(folder)));

@@ -48,14 +48,14 @@ class SystemLanguageTest : public ::testing::Test {
   }
 
   TestThread thread;
-  IdiomaSimple idioma{thread.user_language};
+  IdiomaSimple idioma{thread.system};
 };
 
 using SystemLanguageOf = Rows<SystemLanguageTest, Row>;
 
 TEST_P(SystemLanguageOf, IsSpanishBeforeLoadingWhereTheCatalogueIsNeeded) {
   for (std::uint16_t identifier : GetParam().identifiers) {
-    thread.user_language.identifier = identifier;
+    thread.system.language = identifier;
     EXPECT_EQ(idioma.IdiomaDesdeSOP(), GetParam().before) << std::hex << identifier;
   }
 }
@@ -63,7 +63,7 @@ TEST_P(SystemLanguageOf, IsSpanishBeforeLoadingWhereTheCatalogueIsNeeded) {
 TEST_P(SystemLanguageOf, IsTheNearestOneAfterLoading) {
   ASSERT_TRUE(load());
   for (std::uint16_t identifier : GetParam().identifiers) {
-    thread.user_language.identifier = identifier;
+    thread.system.language = identifier;
     EXPECT_EQ(idioma.IdiomaDesdeSOP(), GetParam().after) << std::hex << identifier;
   }
 }
@@ -77,7 +77,7 @@ TEST_F(SystemLanguageTest, EveryOtherIdentifierIsEnglish) {
   }
   for (std::uint32_t identifier = 0; identifier <= 0xFFFF; ++identifier) {
     if (listed[identifier]) continue;
-    thread.user_language.identifier = static_cast<std::uint16_t>(identifier);
+    thread.system.language = static_cast<std::uint16_t>(identifier);
     ASSERT_EQ(idioma.IdiomaDesdeSOP(), 1) << std::hex << identifier;
   }
 }
@@ -85,7 +85,7 @@ TEST_F(SystemLanguageTest, EveryOtherIdentifierIsEnglish) {
 TEST_F(SystemLanguageTest, AsksTheSystemEveryTime) {
   idioma.IdiomaDesdeSOP();
   idioma.IdiomaDesdeSOP();
-  EXPECT_EQ(thread.user_language.calls, 2);
+  EXPECT_EQ(thread.system.language_reads, 2);
 }
 
 }  // namespace

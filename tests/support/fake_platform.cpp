@@ -7,22 +7,22 @@
 
 namespace qvr::tests {
 
-Text FakeSettings::read(TextView application, TextView section, TextView key, TextView fallback) {
-  ++reads;
+Text FakeSystem::setting(TextView application, TextView section, TextView key, TextView fallback) {
+  ++setting_reads;
   last_fallback = fallback;
-  if (fails) throw RuntimeFailure(failure_number::kFile);
-  const auto found = values_.find({Text(application), Text(section), Text(key)});
-  return found == values_.end() ? Text(fallback) : found->second;
+  if (setting_fails) throw RuntimeFailure(failure_number::kFile);
+  const auto found = settings_.find({Text(application), Text(section), Text(key)});
+  return found == settings_.end() ? Text(fallback) : found->second;
 }
 
-void FakeSettings::set(TextView application, TextView section, TextView key, TextView value) {
-  values_[{Text(application), Text(section), Text(key)}] = value;
+void FakeSystem::set(TextView application, TextView section, TextView key, TextView value) {
+  settings_[{Text(application), Text(section), Text(key)}] = value;
 }
 
-std::uint16_t FakeUserLanguage::default_identifier() {
-  ++calls;
-  if (fails) throw RuntimeFailure(failure_number::kInvalidArgument);
-  return identifier;
+std::uint16_t FakeSystem::user_language() {
+  ++language_reads;
+  if (language_fails) throw RuntimeFailure(failure_number::kInvalidArgument);
+  return language;
 }
 
 FakeMessageBoxes::~FakeMessageBoxes() { EXPECT_TRUE(answers_.empty()) << answers_.size() << " boxes did not appear"; }
@@ -42,10 +42,10 @@ BoxAnswer FakeMessageBoxes::show(TextView text, BoxButtons buttons) {
   return *next;
 }
 
-void FakeHostEvents::process_pending() {
+void FakeSystem::process_events() {
   const FaultsPaused paused;
   log_.add("Host events");
-  if (on_process) on_process();
+  if (on_events) on_events();
 }
 
 }  // namespace qvr::tests

@@ -14,30 +14,6 @@
 
 namespace qvr::tests {
 
-class FakeSettings final : public Settings {
- public:
-  Text read(TextView application, TextView section, TextView key, TextView fallback) override;
-
-  void set(TextView application, TextView section, TextView key, TextView value);
-  void set_default_language(TextView value) { set(u"QVR", u"Idioma", u"IdiomaOmision", value); }
-
-  int reads = 0;
-  Text last_fallback;
-  bool fails = false;
-
- private:
-  std::map<std::tuple<Text, Text, Text>, Text> values_;
-};
-
-class FakeUserLanguage final : public UserLanguage {
- public:
-  std::uint16_t default_identifier() override;
-
-  std::uint16_t identifier = 0x0C0A;
-  int calls = 0;
-  bool fails = false;
-};
-
 // Only the boxes that a test has answered may appear, and each of them must.
 class FakeMessageBoxes final : public MessageBoxes {
  public:
@@ -59,27 +35,33 @@ class FakeMessageBoxes final : public MessageBoxes {
   std::deque<std::optional<BoxAnswer>> answers_;
 };
 
-class FakeHostEvents final : public HostEvents {
+class FakeSystem final : public System {
  public:
-  explicit FakeHostEvents(CallLog& log) : log_(log) {}
-  void process_pending() override;
+  explicit FakeSystem(CallLog& log) : log_(log) {}
+  Text setting(TextView application, TextView section, TextView key, TextView fallback) override;
+  std::uint16_t user_language() override;
+  Date now() override { return moment; }
+  void process_events() override;
+  Text module_path() override { return u"C:\\Library\\QVRlib21.dll"; }
 
-  std::function<void()> on_process;
+  void set(TextView application, TextView section, TextView key, TextView value);
+  void set_default_language(TextView value) { set(u"QVR", u"Idioma", u"IdiomaOmision", value); }
+
+  int setting_reads = 0;
+  Text last_fallback;
+  bool setting_fails = false;
+
+  std::uint16_t language = 0x0C0A;
+  int language_reads = 0;
+  bool language_fails = false;
+
+  Date moment{40548.5};  // noon of 5 January 2011
+
+  std::function<void()> on_events;
 
  private:
+  std::map<std::tuple<Text, Text, Text>, Text> settings_;
   CallLog& log_;
-};
-
-class FakeClock final : public Clock {
- public:
-  Date now() override { return moment; }
-  Date moment{40548.5};  // noon of 5 January 2011
-};
-
-class FakeModule final : public OwnModule {
- public:
-  Text path() override { return file; }
-  Text file = u"C:\\Library\\QVRlib21.dll";
 };
 
 }  // namespace qvr::tests

@@ -52,8 +52,7 @@ TestThread::TestThread()
       make_error_report([this] { return std::make_unique<ReportOf>(report); }),
       make_ado([this] { return std::make_unique<AdoOf>(ado); }),
       make_script_reader([this] { return std::make_unique<services::BuiltinScriptReader>(files); }),
-      platform_{settings,  user_language, files, boxes, host_events, locale, clock, system_platform().cryptography,
-                own_module},
+      platform_{files, locale, system_platform().cryptography, boxes, system},
       outer_(std::exchange(current, this)),
       former_(exchange_thread_state(state_over(platform_))) {}
 
@@ -65,7 +64,7 @@ TestThread::~TestThread() {
 void TestThread::renew() { exchange_thread_state(state_over(platform_)); }
 
 void TestThread::load_language(TextView number) {
-  settings.set_default_language(number);
+  system.set_default_language(number);
   renew();
   InicializarComun();
 }

@@ -27,14 +27,10 @@ class TestThread {
   void load_language(TextView number);
 
   CallLog log;
-  FakeSettings settings;
-  FakeUserLanguage user_language;
   FakeFiles files;
   FakeMessageBoxes boxes{log};
-  FakeHostEvents host_events{log};
+  FakeSystem system{log};
   FakeLocale locale;
-  FakeClock clock;
-  FakeModule own_module;
   RecordingAdo ado{log};
   RecordingErrorReport report{log};
 

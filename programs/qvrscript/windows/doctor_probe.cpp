@@ -6,7 +6,9 @@
 #include "com/clients/late_object.h"
 #include "com/com.h"
 #include "com/text_bstr.h"
-#include "platform/windows/parts.h"
+#include "platform/platform.h"
+#include "platform/windows/message_boxes.h"
+#include "platform/windows/wide_text.h"
 #include "qvrscript/doctor_facts.h"
 #include "qvrscript/windows/library_file.h"
 #include "qvrscript/windows/registered.h"
@@ -47,7 +49,7 @@ void look_at_system(Facts& facts) {
 }
 
 void look_at_library(Facts& facts) {
-  facts.folder = Ov::Path(system_platform().own_module.path());
+  facts.folder = Ov::Path(system_platform().system.module_path());
   const std::wstring folder = wide(facts.folder) + L"\\";
   facts.beside = windows::library_file(folder + L"QVRlib21.dll");
   facts.manifest_beside = windows::exists(folder + L"QVRlib21.SxS.manifest");
@@ -98,14 +100,6 @@ void look_at_others(Facts& facts) {
   }
 }
 
-void look_at_desktop(Facts& facts) {
-  USEROBJECTFLAGS flags{};
-  DWORD needed = 0;
-  const HWINSTA station = GetProcessWindowStation();
-  const bool told = station != nullptr && GetUserObjectInformationW(station, UOI_FLAGS, &flags, sizeof flags, &needed);
-  facts.desktop = station != nullptr && (!told || (flags.dwFlags & WSF_VISIBLE) != 0);
-}
-
 }  // namespace
 
 Facts facts_of_this_machine() {
@@ -117,7 +111,7 @@ Facts facts_of_this_machine() {
   look_at_ado(facts);
   look_at_others(facts);
   facts.language = language_facts();
-  look_at_desktop(facts);
+  facts.desktop = qvr::windows::has_visible_desktop();
   return facts;
 }
 

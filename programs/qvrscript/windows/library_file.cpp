@@ -5,7 +5,7 @@
 #include "QVRlib21.h"
 #include "com/com.h"
 #include "com/text_bstr.h"
-#include "platform/windows/parts.h"
+#include "platform/windows/wide_text.h"
 
 namespace qvr::script_tool::windows {
 namespace {

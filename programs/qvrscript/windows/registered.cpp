@@ -4,7 +4,7 @@
 
 #include "QVRlib21.h"
 #include "com/clients/late_object.h"
-#include "platform/windows/parts.h"
+#include "platform/windows/wide_text.h"
 #include "qvrscript/windows/library_file.h"
 
 namespace qvr::script_tool::windows {

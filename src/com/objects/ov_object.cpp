@@ -8,7 +8,7 @@ namespace {
 
 // No shared initialisation here: asking for the version must not need a catalogue.
 Text library_file() {
-  return or_default(Text(), [] { return system_platform().own_module.path(); });
+  return or_default(Text(), [] { return system_platform().system.module_path(); });
 }
 
 }  // namespace

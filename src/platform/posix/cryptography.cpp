@@ -2,7 +2,7 @@
 #include <openssl/evp.h>
 
 #include "base/failure.h"
-#include "platform/posix/parts.h"
+#include "platform/parts.h"
 
 namespace qvr::posix {
 namespace {
@@ -54,10 +54,9 @@ class OpensslCryptography final : public Cryptography {
 };
 
 }  // namespace
+}  // namespace qvr::posix
 
-Cryptography& cryptography() {
-  static OpensslCryptography instance;
+qvr::Cryptography& qvr::platform_parts::cryptography() {
+  static posix::OpensslCryptography instance;
   return instance;
 }
-
-}  // namespace qvr::posix

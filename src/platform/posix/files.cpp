@@ -12,7 +12,8 @@
 #include "base/failure.h"
 #include "base/utf8.h"
 #include "base/wildcards.h"
-#include "platform/posix/parts.h"
+#include "platform/parts.h"
+#include "platform/posix/names.h"
 
 namespace qvr::posix {
 namespace {
@@ -198,9 +199,9 @@ std::string native_path(TextView path) {
   return bytes;
 }
 
-Files& files() {
-  static PosixFiles instance;
+}  // namespace qvr::posix
+
+qvr::Files& qvr::platform_parts::files() {
+  static posix::PosixFiles instance;
   return instance;
 }
-
-}  // namespace qvr::posix

@@ -1,11 +1,13 @@
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <string_view>
 #include <vector>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
-#include "platform/posix/parts.h"
+#include "platform/parts.h"
+#include "platform/posix/names.h"
 
 namespace qvr::posix {
 namespace {
@@ -39,8 +41,6 @@ const Conventions& conventions() {
     return row.name == name || row.name == language || row.name.empty();
   });
 }
-
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
 // A run of digits with the unit that follows it (0 at the end of the text).
 struct Field {
@@ -148,9 +148,19 @@ class EnvironmentLocale final : public Locale {
 
 }  // namespace
 
-Locale& locale() {
-  static EnvironmentLocale instance;
-  return instance;
+std::string locale_name() {
+  for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+    const char* value = std::getenv(variable);
+    if (value == nullptr || *value == '\0') continue;
+    const std::string_view name = value;
+    return std::string(name.substr(0, name.find_first_of(".@")));
+  }
+  return "C";
 }
 
 }  // namespace qvr::posix
+
+qvr::Locale& qvr::platform_parts::locale() {
+  static posix::EnvironmentLocale instance;
+  return instance;
+}

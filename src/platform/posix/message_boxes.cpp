@@ -1,7 +1,7 @@
 #include <cstdio>
 
 #include "base/utf8.h"
-#include "platform/posix/parts.h"
+#include "platform/parts.h"
 
 namespace qvr::posix {
 namespace {
@@ -16,10 +16,9 @@ class LoggedBoxes final : public MessageBoxes {
 };
 
 }  // namespace
+}  // namespace qvr::posix
 
-MessageBoxes& message_boxes() {
-  static LoggedBoxes instance;
+qvr::MessageBoxes& qvr::platform_parts::message_boxes() {
+  static posix::LoggedBoxes instance;
   return instance;
 }
-
-}  // namespace qvr::posix

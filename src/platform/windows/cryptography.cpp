@@ -1,5 +1,6 @@
 #include "base/failure.h"
-#include "platform/windows/parts.h"
+#include "platform/parts.h"
+#include "platform/windows/wide_text.h"
 
 #include <bcrypt.h>
 
@@ -72,10 +73,9 @@ class Cng final : public Cryptography {
 };
 
 }  // namespace
+}  // namespace qvr::windows
 
-Cryptography& cryptography() {
-  static Cng instance;
+qvr::Cryptography& qvr::platform_parts::cryptography() {
+  static windows::Cng instance;
   return instance;
 }
-
-}  // namespace qvr::windows

@@ -1,5 +1,6 @@
 #include "base/failure.h"
-#include "platform/windows/parts.h"
+#include "platform/parts.h"
+#include "platform/windows/wide_text.h"
 
 namespace qvr::windows {
 namespace {
@@ -231,10 +232,9 @@ class SystemFiles final : public Files {
 };
 
 }  // namespace
+}  // namespace qvr::windows
 
-Files& files() {
-  static SystemFiles instance;
+qvr::Files& qvr::platform_parts::files() {
+  static windows::SystemFiles instance;
   return instance;
 }
-
-}  // namespace qvr::windows

@@ -1,5 +1,6 @@
 #include "base/failure.h"
-#include "platform/windows/parts.h"
+#include "platform/parts.h"
+#include "platform/windows/wide_text.h"
 
 #include <oleauto.h>
 
@@ -54,10 +55,9 @@ class UserLocale final : public Locale {
 };
 
 }  // namespace
+}  // namespace qvr::windows
 
-Locale& locale() {
-  static UserLocale instance;
+qvr::Locale& qvr::platform_parts::locale() {
+  static windows::UserLocale instance;
   return instance;
 }
-
-}  // namespace qvr::windows

@@ -1,11 +1,12 @@
+#include "platform/windows/message_boxes.h"
+
+#include "platform/parts.h"
 #include "platform/windows/floating_point.h"
-#include "platform/windows/parts.h"
+#include "platform/windows/wide_text.h"
 
 namespace qvr::windows {
-namespace {
 
-// A service or a scheduled task runs on a window station that nobody sees: a box there would wait for ever.
-bool has_desktop() {
+bool has_visible_desktop() {
   USEROBJECTFLAGS flags{};
   DWORD needed = 0;
   const HWINSTA station = GetProcessWindowStation();
@@ -14,11 +15,13 @@ bool has_desktop() {
   return (flags.dwFlags & WSF_VISIBLE) != 0;
 }
 
+namespace {
+
 class SystemBoxes final : public MessageBoxes {
  public:
   BoxAnswer show(TextView text, BoxButtons buttons) override {
     const bool question = buttons == BoxButtons::YesNo;
-    if (!has_desktop()) {
+    if (!has_visible_desktop()) {
       OutputDebugStringW((std::wstring(kLibraryName) + L": " + wide(text) + L"\r\n").c_str());
       return question ? BoxAnswer::No : BoxAnswer::Ok;
     }
@@ -34,10 +37,9 @@ class SystemBoxes final : public MessageBoxes {
 };
 
 }  // namespace
+}  // namespace qvr::windows
 
-MessageBoxes& message_boxes() {
-  static SystemBoxes instance;
+qvr::MessageBoxes& qvr::platform_parts::message_boxes() {
+  static windows::SystemBoxes instance;
   return instance;
 }
-
-}  // namespace qvr::windows

@@ -40,7 +40,7 @@ TEST_P(NativeLocaleNamed, FollowsTheName) {
   EXPECT_EQ(date->days, 45356);
   EXPECT_EQ(locale.parse_number(row.number), 1234.5);
   EXPECT_EQ(locale.decimal_separator(), row.number[4]);
-  EXPECT_EQ(system_platform().user_language.default_identifier(), row.language);
+  EXPECT_EQ(system_platform().system.user_language(), row.language);
 }
 
 INSTANTIATE_TEST_SUITE_P(, NativeLocaleNamed, testing::ValuesIn(kRows), row_name);
@@ -53,7 +53,7 @@ TEST(NativeLocale, TakesTheFirstVariableThatHasAName) {
 TEST(NativeLocale, IsPlainWithoutAName) {
   const EnvironmentVariable all("LC_ALL", kNone), time("LC_TIME", kNone), lang("LANG", kNone);
   EXPECT_EQ(system_platform().locale.date_text(Date{45356}), u"03/05/2024");
-  EXPECT_EQ(system_platform().user_language.default_identifier(), 0x0409);
+  EXPECT_EQ(system_platform().system.user_language(), 0x0409);
 }
 
 struct Form {

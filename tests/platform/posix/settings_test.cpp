@@ -8,7 +8,7 @@
 namespace qvr::tests {
 namespace {
 
-Text read() { return system_platform().settings.read(u"QVR", u"Idioma", u"IdiomaOmision", u"fallback"); }
+Text read() { return system_platform().system.setting(u"QVR", u"Idioma", u"IdiomaOmision", u"fallback"); }
 
 class NativeSettingsTest : public ::testing::Test {
  protected:

@@ -39,14 +39,14 @@ TEST_F(HostEventsTest, ReachTheirWindow) {
   ASSERT_NE(window, nullptr);
   for (int i = 0; i < 3; ++i) PostMessageW(window, kPing, 0, 0);
   EXPECT_EQ(pings, 0);
-  system_platform().host_events.process_pending();
+  system_platform().system.process_events();
   EXPECT_EQ(pings, 3);
 }
 
 TEST_F(HostEventsTest, LeaveTheEndOfTheApplicationToItsOwnLoop) {
   PostMessageW(window, kPing, 0, 0);
   PostQuitMessage(42);
-  system_platform().host_events.process_pending();
+  system_platform().system.process_events();
   MSG message{};
   while (take_message(message) && message.message != WM_QUIT) {
   }
@@ -55,7 +55,7 @@ TEST_F(HostEventsTest, LeaveTheEndOfTheApplicationToItsOwnLoop) {
 }
 
 TEST_F(HostEventsTest, ReturnWhereThereAreNone) {
-  system_platform().host_events.process_pending();
+  system_platform().system.process_events();
   EXPECT_EQ(pings, 0);
 }
 

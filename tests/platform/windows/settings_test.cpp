@@ -25,7 +25,7 @@ class RegisteredSettingsTest : public ::testing::Test {
   void write(const std::wstring& text) { write(REG_SZ, text.c_str(), (text.size() + 1) * sizeof(wchar_t)); }
 
   Text read() const {
-    return system_platform().settings.read(Text(name_.begin(), name_.end()), u"Idioma", u"IdiomaOmision", u"fallback");
+    return system_platform().system.setting(Text(name_.begin(), name_.end()), u"Idioma", u"IdiomaOmision", u"fallback");
   }
 
  private:

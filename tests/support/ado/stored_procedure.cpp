@@ -22,10 +22,7 @@ std::int32_t number_in(const Value& value) {
   return number != nullptr ? *number : 0;
 }
 
-bool in_name(char16_t unit) {
-  return unit == u'_' || (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') ||
-         (unit >= u'a' && unit <= u'z');
-}
+bool in_name(char16_t unit) { return unit == u'_' || is_digit(unit) || is_ascii_letter(unit); }
 
 // "@name" at the start of the text; only the first unit when no name follows.
 TextView name_at(TextView text) {

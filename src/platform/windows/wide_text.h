@@ -1,23 +1,13 @@
-// The pieces of the system platform, one file each, and what several of them need.
+// Text for the functions of Windows and from them.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-#include "platform/platform.h"
+#include "base/text.h"
 
 namespace qvr::windows {
-
-Settings& settings();
-UserLanguage& user_language();
-Files& files();
-MessageBoxes& message_boxes();
-HostEvents& host_events();
-Locale& locale();
-Clock& clock();
-Cryptography& cryptography();
-OwnModule& own_module();
 
 // This library's name, as boxes are titled and log lines begin.
 inline constexpr wchar_t kLibraryName[] = L"QVRlib21";

@@ -1,6 +1,4 @@
-// What a negated piece of a search means.
-
-#include "query/search_atom_parser.h"
+#include "query/search_atoms.h"
 
 namespace qvr::query {
 namespace {
@@ -61,6 +59,17 @@ Alternatives none_of(const Alternatives& alternatives) {
 }
 
 }  // namespace
+
+TextView sign_of(Comparison comparison) {
+  switch (comparison) {
+    case Comparison::Equal: return u"=";
+    case Comparison::Different: return u"<>";
+    case Comparison::Less: return u"<";
+    case Comparison::LessOrEqual: return u"<=";
+    case Comparison::Greater: return u">";
+    default: return u">=";
+  }
+}
 
 Alternatives negated(const Alternatives& alternatives) {
   if (alternatives.size() > 1) return none_of(alternatives);
