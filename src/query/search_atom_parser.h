@@ -1,4 +1,4 @@
-// One piece of a search: a value, a comparison, a range, a pattern or a test for nothing, maybe negated.
+// Parses one piece of a search: a value, a comparison, a range, a pattern or a null test, possibly negated.
 #pragma once
 
 #include "base/engine.h"
@@ -36,7 +36,7 @@ class AtomParser {
   Engine engine_;
 };
 
-// What holds where none of the alternatives does; what is null belongs to it.
+// The negation of the alternatives; null fulfils it.
 Alternatives negated(const Alternatives& alternatives);
 
 }  // namespace qvr::query
