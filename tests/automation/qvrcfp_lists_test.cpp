@@ -1,4 +1,4 @@
-// Array arguments in all forms that hosts pass, and invalid ones.
+// Lists of every form that hosts have, read by the members that take them; and forms that cannot be read.
 #include "automation/sql_members.h"
 
 namespace qvr::tests {
@@ -77,7 +77,7 @@ TEST_F(Lists, WithElementsByReference) {
               "BSTR INSERT INTO T VALUES ('a',  7,  5)");
 }
 
-// Only two members raise errors, and only for some arrays.
+// No member but two fails a call for what it finds in an argument, and those two for a few lists only.
 TEST_F(Lists, ThatCannotBeReadGiveNoText) {
   const EachEngine none = all_engines(L"");
   const EachEngine no_case{told(L"Funci\u00f3n CASE no implementada para Motor Jet"), L"", L"", L""};

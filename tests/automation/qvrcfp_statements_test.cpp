@@ -1,4 +1,4 @@
-// Statements, early and late; and all members that write SQL with null arguments.
+// Statements, as both kinds of host get them, and what all the members that write SQL answer to nothing.
 #include "automation/sql_members.h"
 
 namespace qvr::tests {
