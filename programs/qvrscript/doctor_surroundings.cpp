@@ -45,7 +45,7 @@ Text hexadecimal(std::uint16_t number) {
   return digits;
 }
 
-// The consequence of a component that is registered but does not work.
+// What a component that is registered and does not work costs.
 struct FamilyComponent {
   TextView program_id, task, without;
   bool wrong;

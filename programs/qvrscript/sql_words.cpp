@@ -9,7 +9,7 @@ constexpr TextView kModules[] = {u"PROC", u"PROCEDURE", u"VIEW", u"FUNCTION", u"
 
 bool is_blank(char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n'; }
 
-// The kind of object that the command creates or alters; empty for other commands.
+// The kind of thing that the command makes or changes; empty for another command.
 TextView made(const std::vector<Word>& words) {
   const bool create_or_alter = words_are(words, 0, {u"CREATE", u"OR"});
   const bool makes = words_are(words, 0, {u"CREATE"}) || words_are(words, 0, {u"ALTER"});

@@ -1,4 +1,4 @@
-// Parses one piece of a search: a value, a comparison, a range, a pattern or a null test, possibly negated.
+// One piece of a search: a value, a comparison, a range, a pattern or a test for nothing, maybe negated.
 #pragma once
 
 #include "base/engine.h"
@@ -36,7 +36,7 @@ class AtomParser {
   Engine engine_;
 };
 
-// The negation of the alternatives; null fulfils it.
+// What holds where none of the alternatives does; what is null belongs to it.
 Alternatives negated(const Alternatives& alternatives);
 
 }  // namespace qvr::query

@@ -1,4 +1,4 @@
-// Writes a search as an SQL condition of an engine.
+// A search as a condition in an engine's SQL.
 #pragma once
 
 #include "base/engine.h"
@@ -6,12 +6,11 @@
 
 namespace qvr::query {
 
-// Only atoms with an "or" are parenthesised: an atom inside a longer condition must not look like a whole condition
-// that was added before.
+// Atoms that hold an "or" have parentheses of their own, the others none: no atom inside a longer condition looks like
+// a search that was added alone.
 Text search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search);
 
-// The pattern as the engine's literal, with an ESCAPE clause (preceded by a blank, without a trailing one) where it
-// needs one.
+// The pattern as the engine's literal, with an ESCAPE clause (a blank before it, none behind) where it needs one.
 struct PatternText {
   Text literal, escape;
 };

@@ -25,7 +25,8 @@ void tell_step(ScriptEvents& events, std::size_t step, std::size_t of) {
       join({u"Procesando ", decimal(static_cast<std::int64_t>(step)), u"/", decimal(static_cast<std::int64_t>(of))}));
 }
 
-// Counted first to reserve the exact size: two copies of the text at a time, where a growing one needs several.
+// Counted first, so that there is room for the new text and no more: with the old one that makes two texts at one time,
+// where one that grows as it is written takes several.
 Text replaced(Text text, TextView what, TextView by) {
   const WordSearch word(what);
   std::size_t count = 0, from = 0;
@@ -38,7 +39,7 @@ Text replaced(Text text, TextView what, TextView by) {
     from = at + what.size();
   }
   result.append(text, from);
-  return result;  // by name: returning append() would copy
+  return result;  // by its name: what append() answers would be copied
 }
 
 }  // namespace

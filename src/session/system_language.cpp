@@ -16,7 +16,7 @@ constexpr TextView kGalician[] = {u"456"};
 constexpr TextView kGerman[] = {u"407", u"807", u"c07", u"1007", u"1407"};
 constexpr TextView kItalian[] = {u"410", u"810"};
 constexpr TextView kPortuguese[] = {u"416", u"816"};
-// "x480a" and "4c0a " match no identifier, so that 0x480A and 0x4C0A are English: that is the contract.
+// "x480a" and "4c0a " can equal no identifier: applications rely on 0x480A and 0x4C0A being English.
 constexpr TextView kSpanish[] = {u"40a",  u"80a",  u"c0a",  u"100a",  u"140a",  u"180a", u"1c0a",
                                  u"200a", u"240a", u"280a", u"2c0a",  u"300a",  u"340a", u"380a",
                                  u"3c0a", u"400a", u"440a", u"x480a", u"4c0a ", u"500a"};

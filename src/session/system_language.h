@@ -1,17 +1,17 @@
-// Maps Windows language identifiers (LANGID) to the library's language numbers.
+// How the operating system's language identifiers map to language numbers.
 #pragma once
 
 #include <cstdint>
 
 namespace qvr {
 
-// The language number; `needs_availability_check` where the catalogue may lack it, so that the nearest one counts.
+// What one list of identifiers leads to: the number itself, or the nearest one that a catalogue carries.
 struct SystemLanguage {
   std::int32_t number;
   bool needs_availability_check;
 };
 
-// Compared as lower-case hexadecimal without leading zeros ("c0a").
+// Identifier in lower-case hexadecimal without leading zeros ("c0a") to its language.
 SystemLanguage system_language(std::uint16_t identifier);
 
 }  // namespace qvr
