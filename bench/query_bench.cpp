@@ -38,7 +38,7 @@ qvr::QueryRequest request(std::int64_t count) {
   return request;
 }
 
-// The measure of all others: the same text, copied.
+// The baseline: copying the same text.
 void Copy(benchmark::State& state) {
   qvr::cSQL20 query;
   query.Crear(request(state.range(0)));

@@ -1,4 +1,4 @@
-// What every program here ends with: its benchmarks in order, the first being the measure of the others.
+// main() of the benchmarks: the first one is the baseline of the others.
 #pragma once
 
 #include <benchmark/benchmark.h>

@@ -7,9 +7,8 @@ else()
   set(wine_libraries /usr/lib/i386-linux-gnu/wine/i386-windows)
 endif()
 find_program(WIDL_EXECUTABLE ${widl_prefix}-widl REQUIRED)
-# The compiler writes the time into each type library, as a number and as text of the local zone, and knows no
-# SOURCE_DATE_EPOCH; so its clock stands still at that time, or else at one that only a release of the version changes.
-# A library is told apart by its version: the time serves nobody, and one that differs makes equal sources unequal bytes.
+# Reproducible builds: widl writes a timestamp into each type library, as a number and as text in the local time zone,
+# and ignores SOURCE_DATE_EPOCH. It runs under a fixed clock instead, set to SOURCE_DATE_EPOCH or to a built-in time.
 find_program(FAKETIME_EXECUTABLE faketime REQUIRED)
 set(QVR_SOURCE_DATE 1793491200)  # 2.10.24: 1 November 2026, 0:00 UTC
 if(DEFINED ENV{SOURCE_DATE_EPOCH})

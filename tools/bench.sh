@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs every benchmark, each beside what it is measured against in the same run, and prints the figures as one table.
-# Leave the machine alone meanwhile.
+# The machine should be idle meanwhile.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 need windows win64 native bench

@@ -16,7 +16,7 @@ folder=$(windows_path "$work")
 wine() { timeout 300 "$root/tools/wine.sh" "$@"; }
 regsvr() { wine 'C:\windows\syswow64\regsvr32.exe' /s "$@"; }
 
-# A script host hides what goes wrong in a script: its last line has to say that all was well.
+# cscript exits with 0 also after an error in the script: check its last line.
 script() {
   wine 'C:\windows\syswow64\cscript.exe' //nologo "$example\\$1" "${@:2}" |
     iconv -f CP437 -t UTF-8 | tr -d '\r' | tee "$work/$1.txt"

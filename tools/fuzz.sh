@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Runs the fuzz targets: tools/fuzz.sh MINUTES [TARGET...]. The minutes are shared out equally over the targets named,
-# or over all. New inputs are kept in build/asan/corpus and begin the next run; what a target failed on is named at the
-# end, with exit code 1.
+# Runs the fuzz targets: tools/fuzz.sh MINUTES [TARGET...]. The minutes are divided equally among the targets named, or
+# all. New inputs are kept in build/asan/corpus for the next run; crash files are named at the end, with exit code 1.
 set -euo pipefail
 
 if [[ $# -eq 0 || ! $1 =~ ^[0-9]+$ || $1 -eq 0 ]]; then
@@ -32,7 +31,7 @@ started=$(mktemp)
 trap 'rm -f "$started"' EXIT
 failed=()
 
-# In one folder, what was found before and what is found now; the corpus of the sources is only read.
+# The first folder takes new inputs; the corpus of the sources is only read.
 for target in "${targets[@]}"; do
   mkdir -p "$fuzz/corpus/$target"
   log=$fuzz/$target.log

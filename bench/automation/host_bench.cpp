@@ -17,7 +17,7 @@ using qvr::bench::Times;
 
 constexpr int kCommands = 20000, kRounds = 3;
 
-// A measure of calls that fail would say nothing.
+// Ends the program when a call fails: its time would mean nothing.
 void require(const LateAnswer& answer, bool also = true) {
   if (SUCCEEDED(answer.result) && also) return;
   std::fprintf(stderr, "a call failed: %s\n", narrow(answer.description).c_str());

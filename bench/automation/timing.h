@@ -1,4 +1,4 @@
-// Times of short calls by the system's counter, written as Google Benchmark writes them.
+// Times by QueryPerformanceCounter, written as Google Benchmark's JSON.
 #pragma once
 
 #include <windows.h>
@@ -12,14 +12,13 @@ namespace qvr::bench {
 
 class Times {
  public:
-  // Windows starts a thread with 53 bits for the x87, which most hosts leave so; this compiler's start-up code does
-  // not.
+  // The state of most hosts: x87 at 53 bits, as Windows starts threads. mingw-w64's start-up code sets 64 bits.
   Times() {
     const unsigned short as_windows_starts = 0x027F;
     asm volatile("fldcw %0" : : "m"(as_windows_starts));
   }
 
-  // Calls the body often; the quickest of some rounds counts, as the others were disturbed.
+  // The minimum over some rounds, as noise only adds time.
   template <class Body>
   void take(const std::string& what, const std::string& argument, Body&& body, int calls, int rounds = 15) {
     for (int i = 0; i < calls / 10; ++i) body();

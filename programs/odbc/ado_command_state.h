@@ -1,4 +1,4 @@
-// How an ADO command behaves, whoever uses it: natively or through automation.
+// The behaviour of an ADO command, native or through automation.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ inline constexpr std::int32_t kStoredProc = 4;
 inline constexpr std::int32_t kUnknown = 8;
 }  // namespace command_type
 
-// What is sent for a command text of the given type; `parameters` is the number of a procedure's arguments.
+// The SQL for a command text of this type; `parameters` is the number of a procedure's arguments.
 Text statement_for(std::int32_t type, TextView text, std::size_t parameters);
 
 class AdoCommandState {
@@ -41,7 +41,7 @@ class AdoCommandState {
   std::shared_ptr<AdoSession> session_;
   std::int32_t type_ = command_type::kUnknown;
   Text text_;
-  std::int32_t timeout_ = 30;  // the connection's limit is its own
+  std::int32_t timeout_ = 30;  // independent of the connection's
 };
 
 }  // namespace qvr::odbc

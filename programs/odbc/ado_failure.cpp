@@ -27,11 +27,11 @@ constexpr std::array kDescriptions = {
 };
 
 struct StateResult {
-  TextView state;  // the whole SQLSTATE, or its class
+  TextView state;  // SQLSTATE, or its class
   std::int32_t result;
 };
 
-// The first entry that the state begins with counts.
+// The first entry that is a prefix of the SQLSTATE counts.
 constexpr std::array kStateResults = {
     StateResult{u"22001", hresult::kOverflow},     StateResult{u"22003", hresult::kOverflow},
     StateResult{u"22", hresult::kCannotConvert},   StateResult{u"23", hresult::kIntegrity},

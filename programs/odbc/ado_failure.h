@@ -1,4 +1,4 @@
-// ADO's own errors and the provider's, as numbers a caller sees.
+// Errors of ADO and of the provider.
 #pragma once
 
 #include <cstdint>
@@ -46,13 +46,13 @@ inline constexpr std::int32_t kTransactionExists = of(0x8004D013);
 
 inline constexpr TextView kProviderSource = u"Microsoft OLE DB Provider for ODBC Drivers";
 
-// Throws the error of ADO itself; `source` is the class refusing, such as "ADODB.Connection".
+// Throws an error of ADO itself; `source` is the class, such as "ADODB.Connection".
 [[noreturn]] void fail_ado(std::uint16_t number, TextView source);
 
-// Throws in the name of the provider.
+// Throws an error of the provider.
 [[noreturn]] void fail_provider(std::int32_t result, TextView description);
 
-// What the provider makes of an SQLSTATE; `otherwise` for the states that have no result of their own.
+// The HRESULT for an SQLSTATE; `otherwise` for all others.
 std::int32_t result_of_sql_state(TextView sql_state, std::int32_t otherwise);
 
 // The diagnostic records as entries of an Errors collection.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr TextView kSource = u"ADODB.Connection";
 
-// With or without a version, as programmatic identifiers go.
+// With or without a version, like ProgIDs.
 bool is_odbc_provider(TextView name) {
   constexpr TextView kName = u"MSDASQL";
   return starts_with_no_case(name, kName) && (name.size() == kName.size() || name[kName.size()] == u'.');
@@ -105,7 +105,7 @@ std::int32_t AdoSession::begin_trans() {
   return 1;
 }
 
-// A transaction whose end was refused is still there: the caller may yet roll it back.
+// After a failed commit the transaction is still open and can be rolled back.
 void AdoSession::end_trans(bool commit) {
   require_open();
   if (!in_transaction_) fail_transaction(hresult::kNoTransaction, u"The session is in no transaction.");

@@ -1,4 +1,4 @@
-// How an ADO connection behaves, whoever uses it: natively or through automation.
+// The behaviour of an ADO connection, native or through automation.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,8 @@
 
 namespace qvr::odbc {
 
-// Closed, open, or open in a transaction. Everything refused throws RuntimeFailure: in the name of ADO when the state
-// does not allow it, in the provider's when ODBC refuses.
+// Closed, open, or open in a transaction. Failures throw RuntimeFailure with ADO as the source for a wrong state and
+// with the provider as the source for ODBC's errors.
 class AdoSession {
  public:
   const Text& connection_string() const { return connection_string_; }
@@ -28,9 +28,9 @@ class AdoSession {
 
   // User and password override those of the connection string unless empty.
   void open(TextView user = {}, TextView password = {});
-  void close();  // refused in a transaction; a session that goes away in one rolls it back
+  void close();  // fails in a transaction; the destructor rolls back
   bool is_open() const { return connection_ != nullptr; }
-  std::uint32_t openings() const { return openings_; }  // how often it was opened: tells one opening from the next
+  std::uint32_t openings() const { return openings_; }  // counts openings, to tell one from the next
 
   std::int32_t begin_trans();  // the nesting level, which is always 1
   void commit_trans() { end_trans(true); }
@@ -38,7 +38,7 @@ class AdoSession {
 
   ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
 
-  // The last refusal of the provider; what succeeds afterwards leaves it as it is, as ADO does.
+  // The errors of the last failure of the provider; successful calls do not clear them, as in ADO.
   const std::vector<services::AdoError>& errors() const { return errors_; }
   void clear_errors() { errors_.clear(); }
 

@@ -26,7 +26,7 @@ class Reader {
       if (unit != u'=') {
         read += unit;
       } else if (!rest_.empty() && rest_.front() == u'=') {
-        read += take();  // a doubled sign is part of the keyword
+        read += take();  // a doubled "=" is part of the keyword
       } else {
         return Text(trimmed(read, kWhiteSpace));
       }
@@ -72,7 +72,7 @@ class Reader {
     fail_malformed();
   }
 
-  // ODBC's own braces may hold semicolons; they stay, because such a value only makes sense to ODBC.
+  // ODBC's braces may contain semicolons; they are kept for ODBC.
   Text unquoted(bool braced) {
     const std::size_t from = braced ? std::min(rest_.find(u'}'), rest_.size()) : 0;
     const std::size_t end = std::min(rest_.find(u';', from), rest_.size());
@@ -86,7 +86,7 @@ class Reader {
 
 struct KnownKeyword {
   TextView name;
-  Text ConnectionString::*part;  // null: accepted and of no effect here
+  Text ConnectionString::*part;  // null: accepted and ignored
 };
 
 constexpr std::array kKnownKeywords = {
@@ -152,7 +152,7 @@ Text odbc_connection_string(const ConnectionString& parts) {
   Text odbc = parts.extended;
   if (!odbc.empty() && odbc.back() != u';') odbc += u';';
   odbc += parts.pass_through;
-  // A driver named outright needs no data source, and naming both leaves the choice to the driver manager.
+  // Not both: with DRIVER and DSN the driver manager would choose.
   if (!names_keyword(odbc, u"DRIVER")) add(odbc, u"DSN", parts.data_source);
   add(odbc, u"UID", parts.user);
   add(odbc, u"PWD", parts.password);

@@ -55,13 +55,13 @@ void Handle::check(int result) const {
 
 Statement::Statement(const Handle& connection, std::int32_t limit)
     : handle(SQL_HANDLE_STMT, connection.get()), timeout(limit) {
-  // A driver without a time limit of its own has none; that is no reason to refuse the command.
+  // Ignored: a driver may not support query timeouts.
   SQLSetStmtAttrW(handle.get(), SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(limit)), 0);
 }
 
 namespace {
 
-// A connection handle is only given out once the environment knows its version.
+// SQL_ATTR_ODBC_VERSION must be set before a connection handle is allocated.
 void* with_version(const Handle& environment) {
   environment.check(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, attribute(SQL_OV_ODBC3), 0));
   return environment.get();
@@ -75,13 +75,13 @@ Connection::Connection()
 Connection::~Connection() {
   if (!open_) return;
   kept_.reset();
-  // The driver refuses to disconnect in a transaction; outside of one this does nothing.
+  // SQLDisconnect fails in a transaction; without one this does nothing.
   SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
   SQLDisconnect(connection_.get());
 }
 
 void Connection::open(TextView connection_string, std::int32_t login_timeout) {
-  // Not every driver has a time limit for logging in; then it is the driver's own.
+  // Ignored: a driver may not support login timeouts.
   SQLSetConnectAttrW(connection_.get(), SQL_ATTR_LOGIN_TIMEOUT, attribute(static_cast<SQLULEN>(login_timeout)), 0);
   std::array<char16_t, 1024> completed{};
   SQLSMALLINT length = 0;

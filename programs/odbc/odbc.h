@@ -1,4 +1,4 @@
-// ODBC connections, as thin as they can be: handles with owners, and failures as exceptions.
+// A thin wrapper of ODBC: owned handles, and errors as exceptions.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace qvr::odbc {
 
-// A refused call, with every diagnostic record. The records' number and source are left to whoever knows the caller.
+// A failed call with its diagnostic records. The caller fills in their numbers and sources.
 class Failure : public std::exception {
  public:
   explicit Failure(std::vector<services::AdoError> records) : records_(std::move(records)) {}
@@ -40,7 +40,7 @@ class Handle {
   void* handle_ = nullptr;
 };
 
-// What commands are executed by. Its time limit is that of its first command and never changes.
+// A statement handle. Its query timeout is set once and never changes.
 struct Statement {
   Statement(const Handle& connection, std::int32_t timeout);  // in seconds, 0: no limit
 
@@ -51,7 +51,7 @@ struct Statement {
 class Connection {
  public:
   Connection();
-  ~Connection();  // rolls back what is pending
+  ~Connection();  // rolls back a pending transaction
 
   // `login_timeout` in seconds, 0: no limit.
   void open(TextView connection_string, std::int32_t login_timeout);
@@ -61,16 +61,16 @@ class Connection {
 
   const Handle& handle() const { return connection_; }
 
-  // A statement with this time limit: the one that was kept or, where there is none such, a new one.
+  // A statement with this query timeout: the kept one, or a new one.
   std::unique_ptr<Statement> statement(std::int32_t timeout);
-  // Keeps it for the next command, without its results; making one costs the driver manager nearly as much as a short
-  // command. Not for one that has parameters bound or whose command failed: what it carries on could meet the next.
+  // Keeps the statement for the next command, its results closed: allocating one costs nearly as much as a short
+  // command. Not for statements with bound parameters or after a failure, whose state could affect the next command.
   void keep(std::unique_ptr<Statement> used);
 
  private:
   Handle environment_;
   Handle connection_;
-  std::unique_ptr<Statement> kept_;  // gone before its connection is: closing frees all that it has
+  std::unique_ptr<Statement> kept_;  // destroyed before its connection, which would free it
   bool open_ = false;
 };
 

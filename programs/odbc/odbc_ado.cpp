@@ -22,7 +22,7 @@ class NativeConnection : public services::AdoConnection {
   const std::shared_ptr<AdoSession>& session() const { return session_; }
 
  private:
-  // Shared with the commands, which may outlive the connection object as they may in ADO.
+  // Shared with the commands, which may outlive the connection object, as in ADO.
   std::shared_ptr<AdoSession> session_ = std::make_shared<AdoSession>();
 };
 

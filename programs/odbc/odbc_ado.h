@@ -7,7 +7,8 @@
 
 namespace qvr::odbc {
 
-// Its commands take its own connections only, and no parameters: procedures are called through automation.
+// Commands accept connections of this implementation only, and no parameters: procedures are called through automation
+// only.
 std::unique_ptr<services::Ado> make_odbc_ado();
 
 }  // namespace qvr::odbc

@@ -20,17 +20,17 @@ namespace qvr::odbc {
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t), "the wide functions take UTF-16");
 
-// ODBC does not write to its input texts, but does not say so in its types.
+// ODBC's input texts are not const in its declarations.
 inline SQLWCHAR* wide(TextView text) { return reinterpret_cast<SQLWCHAR*>(const_cast<char16_t*>(text.data())); }
 
 inline SQLWCHAR* wide(char16_t* buffer) { return reinterpret_cast<SQLWCHAR*>(buffer); }
 
-// Attribute values travel as pointers.
+// Attribute values are passed as pointers.
 inline SQLPOINTER attribute(SQLULEN value) { return reinterpret_cast<SQLPOINTER>(value); }
 
 inline SQLINTEGER units(TextView text) { return static_cast<SQLINTEGER>(text.size()); }
 
-// For the lengths that ODBC keeps in 16 bits.
+// For 16-bit lengths of ODBC.
 inline SQLSMALLINT short_units(std::size_t size) {
   constexpr std::size_t most = static_cast<std::size_t>(std::numeric_limits<SQLSMALLINT>::max());
   return static_cast<SQLSMALLINT>(std::min(size, most));

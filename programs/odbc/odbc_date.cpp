@@ -16,7 +16,7 @@ constexpr std::int64_t kMillisecondsPerDay = 86'400'000;
 }  // namespace
 
 SQL_TIMESTAMP_STRUCT to_timestamp(Date date) {
-  // Before day zero the whole part counts back, but the fraction is still the time of that day.
+  // For negative days the fraction still counts forward within the day.
   const double whole = std::trunc(date.days);
   auto day = static_cast<std::int64_t>(whole);
   std::int64_t rest = std::llround(std::abs(date.days - whole) * static_cast<double>(kMillisecondsPerDay));
@@ -32,7 +32,7 @@ SQL_TIMESTAMP_STRUCT to_timestamp(Date date) {
   stamp.hour = static_cast<SQLUSMALLINT>(rest / 3'600'000);
   stamp.minute = static_cast<SQLUSMALLINT>(rest / 60'000 % 60);
   stamp.second = static_cast<SQLUSMALLINT>(rest / 1000 % 60);
-  stamp.fraction = static_cast<SQLUINTEGER>(rest % 1000 * 1'000'000);  // billionths of a second
+  stamp.fraction = static_cast<SQLUINTEGER>(rest % 1000 * 1'000'000);  // nanoseconds
   return stamp;
 }
 

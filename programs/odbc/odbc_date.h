@@ -1,4 +1,4 @@
-// Dates between the automation form and ODBC's.
+// Conversion between automation dates and ODBC timestamps.
 #pragma once
 
 #include "base/value.h"
@@ -6,7 +6,7 @@
 
 namespace qvr::odbc {
 
-// To the millisecond.
+// Rounded to the millisecond.
 SQL_TIMESTAMP_STRUCT to_timestamp(Date date);
 Date from_timestamp(const SQL_TIMESTAMP_STRUCT& stamp);
 

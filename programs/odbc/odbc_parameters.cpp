@@ -28,14 +28,14 @@ BoundValue text(TextView value) {
   bound.sql_type = SQL_WVARCHAR;
   bound.column_size = value.empty() ? 1 : value.size();
   bound.indicator = static_cast<SQLLEN>(value.size() * sizeof(char16_t));
-  bound.bytes.resize((value.size() + 1) * sizeof(char16_t));  // never empty, and ended by a zero unit
+  bound.bytes.resize((value.size() + 1) * sizeof(char16_t));  // never empty, NUL-terminated
   std::memcpy(bound.bytes.data(), value.data(), value.size() * sizeof(char16_t));
   return bound;
 }
 
 BoundValue number(double value) { return fixed<SQLDOUBLE>(SQL_C_DOUBLE, SQL_DOUBLE, 15, value); }
 
-// One overload for each kind of value a placeholder may take; the template refuses the others.
+// One overload for each supported type; the template rejects the others.
 struct Binder {
   BoundValue operator()(Null) const { return {}; }
   BoundValue operator()(Empty) const { return {}; }

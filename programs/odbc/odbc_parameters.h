@@ -1,4 +1,4 @@
-// Values bound to a statement's placeholders.
+// Parameter binding.
 #pragma once
 
 #include <list>
@@ -10,7 +10,7 @@
 
 namespace qvr::odbc {
 
-// A value in the form that ODBC reads it. It must stay where it is until the statement has been executed.
+// A value as ODBC reads it. Must not move until the statement has been executed.
 struct BoundValue {
   SQLSMALLINT c_type = SQL_C_CHAR;
   SQLSMALLINT sql_type = SQL_VARCHAR;
@@ -20,10 +20,10 @@ struct BoundValue {
   std::vector<unsigned char> bytes;
 };
 
-// Throws RuntimeFailure (3001) for a value that is none of number, text, date, truth value or null.
+// Throws RuntimeFailure (3001) for other types than number, text, date, Boolean and null.
 BoundValue bound_value(const Value& value);
 
-// The bound values, for as long as the statement may read them.
+// Owns the bound values while the statement can read them.
 std::list<BoundValue> bind(const Handle& statement, const std::vector<Value>& values);
 
 }  // namespace qvr::odbc

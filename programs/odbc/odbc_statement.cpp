@@ -47,7 +47,7 @@ Value read_date(const Handle& statement, SQLUSMALLINT column) {
   return from_timestamp(stamp);
 }
 
-// A long text comes in pieces, each ended by a zero unit of its own.
+// SQLGetData returns a long text in chunks, each NUL-terminated.
 Value read_text(const Handle& statement, SQLUSMALLINT column) {
   Text text;
   std::array<char16_t, 2048> piece{};
@@ -109,8 +109,8 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
   }
 }
 
-// Of a command with several statements the first result counts, as ADO has it; but a server runs the others, and tells
-// that one of them failed, only when it is asked for their results.
+// Of a batch the first result counts, as in ADO; but the server runs the other statements, and reports their errors,
+// only while SQLMoreResults is called.
 void run_to_the_end(const Handle& statement) {
   SQLRETURN more = SQL_SUCCESS;
   do {

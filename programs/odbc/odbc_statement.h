@@ -1,4 +1,4 @@
-// One statement executed, and its rows read.
+// Execution of one statement.
 #pragma once
 
 #include <cstdint>
@@ -9,16 +9,16 @@
 
 namespace qvr::odbc {
 
-// The rows are read at once, so that no open cursor stands in the way of a commit.
+// The rows are fetched at once, as an open cursor can block a commit.
 struct ResultSet {
-  bool has_rows = false;  // whether the statement is one that gives rows, be there any or not
+  bool has_rows = false;  // the statement has a result set, maybe an empty one
   std::vector<Text> columns;
-  std::vector<std::vector<Value>> rows;  // numbers, texts, dates, truth values and nulls
-  std::int64_t affected = -1;            // rows changed; -1 where that means nothing
+  std::vector<std::vector<Value>> rows;  // numbers, texts, dates, Booleans and nulls
+  std::int64_t affected = -1;            // row count; -1: not available
 };
 
-// `parameters` stand for the `?` of the text, in order, as input only. `timeout` in seconds, 0: no limit.
-// What a command leaves behind, results and failure, never meets the next one.
+// `parameters` are bound to the `?` of the text, in order, input only. `timeout` in seconds, 0: no limit. Results and
+// diagnostics of a command never affect the next one.
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
 
 }  // namespace qvr::odbc

@@ -16,7 +16,7 @@ enum class Action { Help, Version, Check, List, Run, Doctor };
 
 struct Arguments {
   Action action = Action::Help;
-  std::optional<Action> topic;  // of help; nothing for all of it
+  std::optional<Action> topic;  // of help; nothing: all of it
   std::vector<Text> operands;
   std::optional<Engine> engine;
   std::optional<std::int32_t> from;
@@ -26,7 +26,7 @@ struct Arguments {
   bool json = false;
 };
 
-// A command line that says nothing that could be done.
+// An invalid command line.
 class UsageFailure : public std::exception {
  public:
   explicit UsageFailure(Text message) : message_(std::move(message)) {}
@@ -37,7 +37,7 @@ class UsageFailure : public std::exception {
   Text message_;
 };
 
-// The words behind the program's name; throws UsageFailure.
+// Parses the arguments; throws UsageFailure.
 Arguments parse_arguments(std::span<const Text> words);
 
 // The command of this name; nothing for none.

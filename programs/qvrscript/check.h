@@ -1,4 +1,4 @@
-// Looks over script files for what the runner would do that their author may not mean.
+// The command `check`: finds what the runner would do with script files against their author's intention.
 #pragma once
 
 #include "base/engine.h"
@@ -10,7 +10,7 @@ namespace qvr::script_tool {
 
 int check(const Arguments& arguments, const Console& console);
 
-// The findings in one script by all rules, in the order of its lines.
+// The findings of all rules in one script, by line.
 std::vector<Finding> findings_in(TextView path, std::string bytes, Engine engine);
 
 }  // namespace qvr::script_tool

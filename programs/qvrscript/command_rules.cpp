@@ -17,7 +17,7 @@ void check_command(const Script& script, const ScriptCommand& command, Findings&
   }
 }
 
-// GO lines alone are told of by the rule for two in a row.
+// GO lines alone are reported by the rule for consecutive separators.
 bool only_go_lines(const Script& script, const ScriptCommand& piece) {
   return std::ranges::all_of(words_in(script, piece), [](const Word& word) { return equal_no_case(word.text, u"GO"); });
 }

@@ -1,4 +1,4 @@
-// Looks over the machine for what the library needs, and says what to do where something is missing.
+// The command `doctor`: checks what the library needs on this machine, and says what to do.
 #pragma once
 
 #include <string_view>
@@ -10,7 +10,7 @@
 
 namespace qvr::script_tool {
 
-// A note is worth knowing and does not fail anything; what is wrong is an error.
+// Only errors make the command fail; notes do not.
 enum class Level { Ok, Note, Error };
 
 struct Diagnosis {
@@ -20,10 +20,10 @@ struct Diagnosis {
   Text advice;  // one sentence; empty where there is nothing to do
 };
 
-// Every subject in its order.
+// All subjects in order.
 std::vector<Diagnosis> diagnose(const Facts& facts);
 
-// Looks at this machine; fails when there is an error among the findings.
+// Checks this machine; fails when there is an error among the findings.
 int doctor(const Arguments& arguments, const Console& console);
 
 }  // namespace qvr::script_tool

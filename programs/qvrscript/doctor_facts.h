@@ -1,5 +1,5 @@
-// What a look at this machine tells of the library and of what it works with. Gathered by the system's own part of the
-// program, judged by the doctor.
+// The facts that the doctor judges: the library, its registration and what it works with. Gathered by windows/ or
+// posix/.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +9,15 @@
 
 namespace qvr::script_tool {
 
-// A library file, looked at from outside.
+// A library file.
 struct LibraryFile {
   Text path;  // empty: none
   bool exists = false;
-  unsigned width = 0;  // 32 or 64; 0 where it is no library
+  unsigned width = 0;  // 32 or 64; 0: not a library
   Text version;        // of its version resource, as "2.10.24"
 };
 
-// What its own `Ov` says of the file beside this program; empty where it could not be asked.
+// The answers of `Ov` of the library beside this program; empty when it could not be created.
 struct OvMembers {
   bool asked = false;
   std::int32_t version = 0;
@@ -26,12 +26,12 @@ struct OvMembers {
 
 enum class RegistrationScope { Machine, User };
 
-// What is registered for hosts of one width in one scope.
+// The registration for one width in one scope.
 struct Registration {
   RegistrationScope scope = RegistrationScope::Machine;
   unsigned width = 0;
   std::size_t classes = 0;  // that have a file
-  bool one_file = true;     // all of them lead to it
+  bool one_file = true;     // all of them name the same file
   LibraryFile file;
 };
 
@@ -41,11 +41,11 @@ struct TypeLibraryFacts {
   Text loaded_from, name, version;  // empty where none could be loaded
 };
 
-// A class that others bring along.
+// A class of another product.
 struct Component {
   Text program_id;
   bool registered = false;  // for hosts of this width
-  bool usable = false;      // its file is there; for the family's own components: an object can be made
+  bool usable = false;      // its file exists; for the family's components: an object can be created
 };
 
 // The languages by their numbers.
@@ -66,9 +66,9 @@ struct Facts {
   LibraryFile beside;  // the library there
   bool manifest_beside = false;
   OvMembers ov;
-  std::size_t class_count = 0;  // that a whole registration has
+  std::size_t class_count = 0;  // of a complete registration
   std::vector<Registration> registrations;
-  std::vector<Text> stale_names;  // program ids that lead to no class, for hosts of either width
+  std::vector<Text> stale_names;  // ProgIDs without a class, in either width
   TypeLibraryFacts type_library;
   Component ado;
   Text ado_version;
@@ -77,10 +77,10 @@ struct Facts {
   bool desktop = true;
 };
 
-// The language as this thread's library would choose it.
+// The language that the library would choose.
 LanguageFacts language_facts();
 
-// Each program defines it once: what this machine shows now.
+// Gathers the facts. Defined by windows/ or posix/, and by tests.
 Facts facts_of_this_machine();
 
 }  // namespace qvr::script_tool

@@ -1,4 +1,4 @@
-// Asks the library's own core which language it would take.
+// The language, as the library's core chooses it.
 #include "qvrscript/doctor_facts.h"
 #include "session/global.h"
 #include "session/thread_state.h"

@@ -1,4 +1,4 @@
-// The library's file, what leads to it and its type library.
+// The library's file, its registration and its type library.
 #include "qvrscript/doctor_subjects.h"
 
 namespace qvr::script_tool {
@@ -8,7 +8,7 @@ TextView scope_word(RegistrationScope scope) {
   return scope == RegistrationScope::User ? u"for the user" : u"for the machine";
 }
 
-// Where the library of this width is, as far as anything here tells.
+// The best known path of the library of this width.
 Text file_to_register(const Facts& facts, unsigned width) {
   if (facts.beside.exists && facts.beside.width == width) return facts.beside.path;
   return join({u"win", decimal(width), u"\\QVRlib21.dll"});
@@ -59,7 +59,7 @@ void diagnose_none(const Facts& facts, Diagnoses& found) {
   }
 }
 
-// A user's registration hides the machine's, but not from programs that run as administrator.
+// A per-user registration hides the machine's, except from elevated programs.
 void diagnose_both_scopes(const Facts& facts, Diagnoses& found) {
   const Registration* of_user = nullptr;
   const Registration* of_machine = nullptr;

@@ -1,4 +1,4 @@
-// What the doctor says of each subject. Each adds its findings.
+// The subjects of the doctor. Each adds its findings.
 #pragma once
 
 #include "qvrscript/doctor.h"

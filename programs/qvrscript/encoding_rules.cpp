@@ -16,7 +16,7 @@ std::size_t line_of_byte(std::string_view bytes, std::size_t at) {
   return line;
 }
 
-// Where the bytes stop being UTF-8: the longest beginning that still is, cut at the end of a character.
+// The length of the longest valid UTF-8 prefix.
 std::size_t first_foreign_byte(std::string_view bytes) {
   std::size_t line_begin = 0;
   for (;;) {

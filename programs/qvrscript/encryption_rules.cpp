@@ -8,7 +8,7 @@
 namespace qvr::script_tool {
 namespace {
 
-// A line of a command that the rewrite takes for the one in front of a body.
+// A line that the rewriting takes for the AS or FOR line before a body.
 struct AsLine {
   std::size_t number;
   bool in_code;
@@ -18,13 +18,13 @@ std::vector<AsLine> as_lines(const Script& script, const ScriptCommand& command)
   std::vector<AsLine> found;
   const std::size_t last = script.line_of(command.begin + command.text.size());
   for (std::size_t line = script.line_of(command.begin); line <= last; ++line) {
-    if (line == 1 || !equal_no_case(script.line(line), u"AS")) continue;  // the rewrite wants a line end before it
+    if (line == 1 || !equal_no_case(script.line(line), u"AS")) continue;  // rewriting requires a line end before it
     found.push_back({line, region_at(script.regions(), script.line_start(line)) == nullptr});
   }
   return found;
 }
 
-// The command as it is sent when encryption is asked for.
+// The command as it is sent with encryption.
 Text rewritten(const ScriptCommand& command) {
   Silence silence;
   return with_encryption(join({kLineBreak, command.text, kLineBreak}), silence);

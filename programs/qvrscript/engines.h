@@ -1,4 +1,4 @@
-// The engines as this program's users write them.
+// Engines on the command line and in output.
 #pragma once
 
 #include <array>
@@ -14,8 +14,8 @@ inline constexpr std::array kEngines = {Engine::Jet, Engine::SqlServer, Engine::
 
 // "jet", "sqlserver" or "oracle", in any case; nothing for another word.
 std::optional<Engine> engine_named(TextView word);
-TextView engine_word(Engine engine);   // as it is written on the command line
-TextView engine_title(Engine engine);  // as people read it
+TextView engine_word(Engine engine);   // on the command line
+TextView engine_title(Engine engine);  // for output
 
 // By the tag in a script's file name; None where the name has none.
 Engine engine_of_file(TextView name);

@@ -1,4 +1,4 @@
-// What a check finds.
+// A finding of a check.
 #pragma once
 
 #include <string_view>
@@ -15,7 +15,7 @@ struct Finding {
   Text message;
 };
 
-// Takes the findings in one file.
+// Collects the findings in one file.
 class Findings {
  public:
   Findings(TextView file, std::vector<Finding>& found) : file_(file), found_(found) {}

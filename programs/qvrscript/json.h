@@ -1,11 +1,11 @@
-// JSON as text.
+// Writing JSON.
 #pragma once
 
 #include "base/text.h"
 
 namespace qvr::script_tool {
 
-// With its quotes. What UTF-8 cannot carry is written as an escape.
+// A JSON string with its quotes. Lone surrogates are written as escapes.
 Text json_text(TextView text);
 Text json_number(std::size_t number);
 TextView json_truth(bool truth);

@@ -26,7 +26,7 @@ struct Listing {
   bool complete() const { return std::ranges::all_of(files, &ListedFile::readable); }
 };
 
-// The text of all files as the loading joins them, and where each begins.
+// The joined text of all files, and where each begins.
 struct Joined {
   Text text;
   std::vector<std::size_t> begins;
@@ -44,7 +44,7 @@ Joined joined_files(TextView folder, Listing& listing) {
   for (ListedFile& file : listing.files) {
     joined.begins.push_back(joined.text.size());
     const Text text = text_of(folder, file.name);
-    file.readable = !text.empty();  // loading takes an empty file for one that it cannot read
+    file.readable = !text.empty();  // loading fails on an empty file, as on an unreadable one
     joined.text.append(text).append(kLineBreak);
   }
   return joined;

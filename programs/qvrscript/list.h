@@ -1,4 +1,4 @@
-// Shows what loading a definition or an update would run.
+// The command `list`: shows what loading a definition or an update would run.
 #pragma once
 
 #include "qvrscript/arguments.h"

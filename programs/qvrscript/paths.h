@@ -1,4 +1,4 @@
-// Paths as the user writes them.
+// Paths on the command line.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace qvr::script_tool {
 TextView without_last_separator(TextView path);
 TextView file_name(TextView path);
 
-// The names of a folder's plain files, in order; nothing where the path is no folder that can be read.
+// The names of a folder's plain files, sorted; nothing when the folder cannot be read.
 std::optional<std::vector<Text>> names_in(TextView folder);
 
 }  // namespace qvr::script_tool

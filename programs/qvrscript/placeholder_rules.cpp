@@ -13,7 +13,7 @@ constexpr std::array<TextView, 6> kWords = {u"NombreBD",           u"LogFile",  
                                             u"ClaveUsuarioQVRAdm", u"UsuarioQVRCli", u"ClaveUsuarioQVRCli"};
 constexpr std::size_t kLongest = 64;
 
-// Asks the preparation itself.
+// Uses the library's own preparation.
 bool is_replaced(TextView bracketed, Engine engine) {
   Silence silence;
   return with_accounts(Text(bracketed), engine, {}, silence) != bracketed;
@@ -27,7 +27,7 @@ Text without_blanks(TextView word) {
   return bare;
 }
 
-// How many letters have to be changed, added, taken away or swapped with the next to make one word of the other.
+// Damerau-Levenshtein distance (optimal string alignment).
 std::size_t distance(TextView a, TextView b) {
   std::vector<std::vector<std::size_t>> steps(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
   for (std::size_t i = 0; i <= a.size(); ++i) {
@@ -45,7 +45,7 @@ std::size_t distance(TextView a, TextView b) {
   return steps[a.size()][b.size()];
 }
 
-// A short word is soon another word altogether, such as the name of a column.
+// Stricter for short words, which are likely to be other names, of columns say.
 bool is_near(TextView word, TextView known) {
   constexpr std::size_t kShort = 10;
   const std::size_t most = known.size() < kShort ? 1 : 2;
@@ -92,7 +92,7 @@ bool in_comment(const Script& script, std::size_t position) {
 
 }  // namespace
 
-// Also in strings and quoted names: the replacement looks everywhere.
+// Also in strings and quoted names, as replacing does not parse.
 void check_placeholders(const Script& script, Findings& findings) {
   const TextView text = script.text();
   for (auto at = text.find(u'['); at != TextView::npos; at = text.find(u'[', at + 1)) {

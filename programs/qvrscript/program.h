@@ -1,4 +1,4 @@
-// The program behind main.
+// The program without main, for tests.
 #pragma once
 
 #include <span>
@@ -7,7 +7,7 @@
 
 namespace qvr::script_tool {
 
-// Does what the words behind the program's name ask for; the exit code.
+// Runs the program with these arguments; returns the exit code.
 int run_program(std::span<const Text> words, const Console& console, MakeAdo make_ado);
 
 }  // namespace qvr::script_tool

@@ -1,4 +1,4 @@
-// What the program says, and how it ends.
+// Output and exit codes.
 #pragma once
 
 #include <ostream>
@@ -16,7 +16,7 @@ inline constexpr int kRefused = 2;  // a command line or a file that cannot be r
 struct Console {
   std::ostream& out;
   std::ostream& err;
-  bool terminal;  // whether somebody watches `out`
+  bool terminal;  // whether `out` is a terminal
 };
 
 void say(std::ostream& stream, std::initializer_list<TextView> line);

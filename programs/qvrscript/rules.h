@@ -6,25 +6,25 @@
 
 namespace qvr::script_tool {
 
-// Byte-order marks, the system's page, zero bytes, what the reader refuses, empty files.
+// Byte-order marks, code pages, NUL bytes, files that the reader rejects, empty files.
 void check_encoding(const Script& script, Findings& findings);
 
 // Lines that do not end in CR LF.
 void check_line_ends(const Script& script, Findings& findings);
 
-// GO lines that separate where the author may not mean it, and lines that look like GO and do not separate.
+// GO lines that separate unintentionally, in a comment say, and lines that look like GO but do not separate.
 void check_separators(const Script& script, Findings& findings);
 
-// Commands that are empty, and what is never run.
+// Empty commands, and text that is never run.
 void check_commands(const Script& script, Findings& findings);
 
-// Bracketed words that nothing takes the place of.
+// Bracketed words that are not replaced.
 void check_placeholders(const Script& script, Findings& findings);
 
-// What the rewrite for encryption makes of AS and FOR lines.
+// AS and FOR lines that the rewriting for WITH ENCRYPTION changes or misses.
 void check_encryption(const Script& script, Findings& findings);
 
-// Statements that SQL Server refuses in a transaction.
+// Statements that SQL Server rejects in a transaction.
 void check_transaction(const Script& script, Findings& findings);
 
 }  // namespace qvr::script_tool

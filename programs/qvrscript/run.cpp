@@ -9,7 +9,7 @@
 namespace qvr::script_tool {
 namespace {
 
-// This thread as the runner sees it during a run: the system with this console's boxes.
+// The thread's environment during a run: the system's platform with the console instead of message boxes.
 class RunThread {
  public:
   RunThread(MessageBoxes& boxes, MakeAdo make_ado)
@@ -33,7 +33,7 @@ class RunThread {
   std::unique_ptr<ThreadState> former_;
 };
 
-// As the loading gives it to the runner; nothing when it cannot be read.
+// The text as loading would prepare it; nothing when the file cannot be read.
 std::optional<Text> commands_in(TextView file) {
   const auto text = or_default(std::optional<Text>(),
                                [&] { return thread_state().script_reader().Leer(u"qvrscript", file); });

@@ -1,4 +1,4 @@
-// Runs a script file through the library's runner.
+// The command `run`: runs a script file by QVRScr.
 #pragma once
 
 #include "qvrscript/arguments.h"

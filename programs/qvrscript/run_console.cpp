@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kBarWidth = 40;
 
-// "3/10" as a bar.
+// A progress bar for "3/10".
 std::string bar_of(TextView counts) {
   const double done = number_prefix(counts);
   const double total = number_prefix(counts.substr(counts.find(u'/') + 1));
@@ -25,7 +25,7 @@ std::string bar_of(TextView counts) {
 BoxAnswer ConsoleBoxes::show(TextView text, BoxButtons buttons) {
   if (buttons == BoxButtons::Ok) {
     failures.emplace_back(text);
-    if (console_.terminal) console_.out << std::endl;  // off the line of the bar
+    if (console_.terminal) console_.out << std::endl;  // below the progress bar
     console_.err << to_utf8(replace_all(text, kLineBreak, u"\n")) << "\n\n";
     return BoxAnswer::Ok;
   }

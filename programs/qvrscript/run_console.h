@@ -1,4 +1,4 @@
-// What a run shows on a console in place of boxes and windows.
+// Output of a run on the console, instead of message boxes.
 #pragma once
 
 #include "platform/platform.h"
@@ -7,7 +7,7 @@
 
 namespace qvr::script_tool {
 
-// Failures go to the error output; whether to go on has been answered on the command line.
+// Failures go to standard error; the question whether to go on is answered by the command line.
 class ConsoleBoxes final : public MessageBoxes {
  public:
   ConsoleBoxes(const Console& console, bool go_on) : console_(console), go_on_(go_on) {}
@@ -21,14 +21,14 @@ class ConsoleBoxes final : public MessageBoxes {
   bool go_on_;
 };
 
-// The progress of a run: a bar that is drawn over and over where somebody watches, else a line for each command.
+// The progress of a run: a bar on a terminal, else a line for each command.
 class ConsoleProgress final : public ScriptEvents {
  public:
   ConsoleProgress(const Console& console, bool quiet) : console_(console), quiet_(quiet) {}
   void Progreso(const Text& Mensaje) noexcept override;
   void Terminado(bool Exito) noexcept override;
 
-  // What the runner is to write in front of its counts.
+  // The TextoMostrar of the run.
   static constexpr TextView kCounts = u"commands done: ";
   std::size_t begun = 0;  // commands that the runner has sent
 

@@ -1,4 +1,4 @@
-// One script file as the library's reader gives it to the runner, with what the rules want to know of it.
+// One script file as the library's reader decodes it, with what the rules need.
 #pragma once
 
 #include <cstdint>
@@ -18,19 +18,19 @@ struct ScriptCommand {
 
 class Script {
  public:
-  // Bytes that no page of this system takes are one character each, so that the rules still have lines to look at.
+  // Bytes that cannot be decoded become one character each, so that the rules can still look at lines.
   Script(std::string bytes, Engine engine, Files& files);
   Script(const Script&) = delete;
   Script& operator=(const Script&) = delete;
 
   const std::string& bytes() const { return bytes_; }
   bool readable() const { return readable_; }
-  bool has_text() const;  // false: the bytes are not what they seem to be, and looking at lines is of no use
+  bool has_text() const;                            // false for UTF-16 without a byte-order mark and for binary files
   TextView stored_text() const { return stored_; }  // with the line ends of the file
-  // With whole line ends, and the one that the loading puts behind each file.
+  // With CR LF line ends, and the one that loading appends to each file.
   TextView text() const { return text_; }
   Engine engine() const { return engine_; }
-  bool is_sql_server() const;  // also where the engine is not known
+  bool is_sql_server() const;  // also for an unknown engine
   const std::vector<Region>& regions() const { return regions_; }
 
   std::size_t lines() const { return line_starts_.size(); }
@@ -39,7 +39,7 @@ class Script {
   TextView line(std::size_t number) const;  // without its end
 
   const std::vector<ScriptCommand>& commands() const { return commands_; }
-  ScriptCommand rest() const { return rest_; }  // behind the last separator, and its blank lines
+  ScriptCommand rest() const { return rest_; }  // behind the last separator and its blank lines
 
  private:
   void find_lines();

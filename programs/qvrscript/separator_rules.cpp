@@ -7,7 +7,7 @@ namespace {
 
 constexpr TextView kGo = u"GO";
 
-// What an editor shows as a blank or not at all.
+// Characters that editors show as a blank or not at all.
 constexpr TextView kBlanks = u" \t\u00a0\u200b\ufeff\f\v\x1a";
 
 TextView region_title(RegionKind kind) {
@@ -50,7 +50,7 @@ struct Lookalike {
   TextView message;
 };
 
-// What is wrong with a line that begins with GO and holds more; nothing for a line of another kind.
+// What is wrong with a line that begins with GO and has more text; nothing for other lines.
 const Lookalike* lookalike(TextView line) {
   static constexpr Lookalike kSemicolon{"go-semicolon", u"\"GO;\" separates nothing: the line must hold only GO"};
   static constexpr Lookalike kComment{"go-comment", u"GO with a comment separates nothing: the line must hold only GO"};
@@ -77,7 +77,7 @@ void check_lookalikes(const Script& script, Findings& findings) {
   }
 }
 
-// Whether the piece begins with a line that is GO, which a separator's search has passed over.
+// Whether the command begins with a GO line that did not count as a separator.
 bool begins_with_go(TextView piece) { return equal_no_case(piece.substr(0, piece.find(kLineBreak)), kGo); }
 
 void check_passed_over(const Script& script, const ScriptCommand& piece, TextView what_becomes, Findings& findings) {

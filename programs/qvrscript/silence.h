@@ -1,4 +1,4 @@
-// Events that nobody listens to.
+// Events without a listener.
 #pragma once
 
 #include "script/qvrscr.h"

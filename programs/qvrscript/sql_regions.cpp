@@ -61,7 +61,7 @@ class Scanner {
            !(at > 0 && in_word(text_[at - 1]));
   }
 
-  // q'[it's]': whatever stands behind the first mark, or its partner, ends the string before the last one.
+  // q'[it's]': the character behind the first quote, or its closing bracket, and a quote end the string.
   Region q_string(std::size_t begin) const {
     constexpr TextView kOpening = u"[({<", kClosing = u"])}>";
     const char16_t opening = text_[begin + 2];
@@ -72,7 +72,7 @@ class Scanner {
     return {RegionKind::String, begin, closed ? end + std::size(last) : text_.size(), closed};
   }
 
-  // A doubled mark stands for itself.
+  // A doubled delimiter is an escaped one.
   Region quoted(RegionKind kind, std::size_t begin, char16_t mark) const {
     for (std::size_t at = text_.find(mark, begin + 1); at != TextView::npos; at = text_.find(mark, at + 2)) {
       if (at + 1 == text_.size() || text_[at + 1] != mark) return {kind, begin, at + 1, true};
@@ -80,7 +80,7 @@ class Scanner {
     return {kind, begin, text_.size(), false};
   }
 
-  // A name does not reach over a line end: a bracket that does is no mark.
+  // Names do not span lines: a bracket that is not closed on its line is no delimiter.
   Region bracketed(std::size_t begin) const {
     const Region name = quoted(RegionKind::QuotedName, begin, u']');
     const bool one_line = name.closed && name.end <= end_of_line(text_, begin);

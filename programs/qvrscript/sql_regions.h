@@ -13,15 +13,15 @@ enum class RegionKind { LineComment, BlockComment, String, QuotedName };
 
 struct Region {
   RegionKind kind;
-  std::size_t begin, end;  // with its marks; `end` is behind the last of them
-  bool closed;             // false: it goes on to the end of the text
+  std::size_t begin, end;  // with its delimiters; `end` is behind the last one
+  bool closed;             // false: unclosed, up to the end of the text
 };
 
-// In order. Block comments nest in SQL Server only; Jet has no comments and Oracle no names in brackets. An engine that
-// is none is taken for SQL Server.
+// In order. Block comments nest in SQL Server only; Jet has no comments and Oracle no names in brackets. An unknown
+// engine is treated as SQL Server.
 std::vector<Region> regions_of(TextView text, Engine engine);
 
-// The region that holds this position; null for none.
+// The region at this position; null for none.
 const Region* region_at(const std::vector<Region>& regions, std::size_t position);
 
 }  // namespace qvr::script_tool

@@ -1,4 +1,4 @@
-// The bare words of a piece of a script: what is neither comment nor string nor quoted name.
+// The words of a piece of a script outside comments, strings and quoted names.
 #pragma once
 
 #include <vector>
@@ -12,18 +12,18 @@ struct Word {
   std::size_t begin;  // in the script's text
 };
 
-// Whether a word may hold this unit.
+// Whether this unit can be part of a word.
 bool in_word(char16_t unit);
 
 std::vector<Word> words_in(const Script& script, const ScriptCommand& piece);
 
-// Whether there is anything but blanks and comments.
+// Whether there is anything but white space and comments.
 bool holds_code(const Script& script, const ScriptCommand& piece);
 
-// Whether the words from this one on are these, in any case.
+// Whether these words follow at this position, without regard to case.
 bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted);
 
-// Whether the command makes or changes a procedure, view, function or trigger, whose statements run later.
+// Whether the command creates or alters a procedure, view, function or trigger, whose statements run later.
 bool is_module(const std::vector<Word>& words);
 bool is_trigger(const std::vector<Word>& words);
 

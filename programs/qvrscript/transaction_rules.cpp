@@ -6,7 +6,7 @@
 namespace qvr::script_tool {
 namespace {
 
-// What SQL Server does not do inside a transaction; an empty second word stands for any.
+// Statements that SQL Server rejects inside a transaction; an empty second word matches any.
 struct Statement {
   TextView first, second;
 };
@@ -19,10 +19,10 @@ constexpr Statement kRefused[] = {
     {u"RECONFIGURE", u""},       {u"CREATE", u"FULLTEXT"},    {u"ALTER", u"FULLTEXT"}, {u"DROP", u"FULLTEXT"},
 };
 
-// Behind DATABASE: what belongs to a database and is no database.
+// CREATE DATABASE followed by these does not create a database.
 constexpr TextView kParts[] = {u"SCOPED", u"AUDIT", u"ENCRYPTION"};
 
-// Permissions have the names of statements.
+// Permissions are named like statements (GRANT BACKUP DATABASE).
 bool is_permission(const Script& script, const std::vector<Word>& words, std::size_t at) {
   if (at == 0) return false;
   const Word& before = words[at - 1];
@@ -45,7 +45,7 @@ bool is_refused(const std::vector<Word>& words, std::size_t at) {
 
 void check_command(const Script& script, const ScriptCommand& command, Findings& findings) {
   const std::vector<Word> words = words_in(script, command);
-  if (is_module(words)) return;  // its statements run when it is called
+  if (is_module(words)) return;  // its statements run when it is called, not now
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (!is_refused(words, at) || is_part(words, at) || is_permission(script, words, at)) continue;
     const bool alone = equal_no_case(words[at].text, u"RECONFIGURE");

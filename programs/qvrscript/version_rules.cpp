@@ -37,7 +37,7 @@ bool is_found(TextView name, Engine engine) {
   return is_update(name, engine) || fits(name, {u"*", engine_tag(engine), u"?.cfc"});
 }
 
-// Why the searches miss a name of this engine, or find it as what it is not; empty for a name of another kind.
+// Why loading ignores or misreads a name of this engine; empty for other names.
 TextView why_missed(TextView name, Engine engine) {
   const TextView tag = engine_tag(engine);
   if (has_trailing_unit(name, engine)) {
@@ -53,7 +53,7 @@ TextView why_missed(TextView name, Engine engine) {
   return {};
 }
 
-// Empty for a name that is as it should be.
+// Empty for a correct name.
 TextView why_missed(TextView name) {
   const auto any = [&](auto&& test) {
     return std::ranges::any_of(kEngines, [&](auto each) { return test(name, each); });

@@ -53,7 +53,7 @@ CalendarTime calendar_time(Date date) {
 
 std::optional<Date> date_from(const CalendarTime& time) {
   const auto within = [](int part, int limit) { return part >= 0 && part < limit; };
-  // The calendar's own types keep only the low bits of a month or day far out of range.
+  // std::chrono::month and day are unspecified beyond 255: check the range first.
   if (!within(time.month, 13) || !within(time.day, 32)) return std::nullopt;
   const std::chrono::year_month_day calendar{std::chrono::year{time.year},
                                              std::chrono::month{static_cast<unsigned>(time.month)},

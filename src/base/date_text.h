@@ -12,7 +12,7 @@ struct CalendarTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
 };
 
-// To the nearest second, which can be midnight of the next day. Throws failure 6 outside the years 100 to 9999.
+// Rounded to the nearest second, which can be midnight of the next day. Throws failure 6 outside the years 100 to 9999.
 CalendarTime calendar_time(Date date);
 
 // The inverse; nothing when a part is out of its range.
@@ -21,8 +21,8 @@ std::optional<Date> date_from(const CalendarTime& time);
 // Whether the date is within the years 100 to 9999, to the second.
 bool has_calendar_time(Date date) noexcept;
 
-// The date by a mask: "yyyy", "mm" (month), "dd", "hh", "nn" (minutes) and "ss" stand for its parts, everything else
-// for itself.
+// Formats the date by a mask of "yyyy", "mm" (month), "dd", "hh", "nn" (minutes) and "ss"; all other characters are
+// literal.
 Text formatted_date(Date date, TextView mask);
 
 }  // namespace qvr

@@ -8,17 +8,17 @@
 
 namespace qvr {
 
-// Any number can be held, as callers give it; each operation says itself what one that is no engine does.
+// Callers may pass any number; each operation says what it does with an unknown engine.
 enum class Engine : std::int32_t { None = 0, Jet = 1, SqlServer = 2, Oracle = 3 };
 
 constexpr std::int32_t number_of(Engine engine) { return static_cast<std::int32_t>(engine); }
 
-// One piece of text as each engine writes it.
+// A piece of SQL as each engine writes it.
 struct ByEngine {
   TextView jet, sql_server, oracle;
 };
 
-// The engine's piece; nothing for a number that is no engine.
+// The piece for this engine; nothing for an unknown engine.
 constexpr std::optional<TextView> pick(Engine engine, const ByEngine& pieces) noexcept {
   switch (engine) {
     case Engine::Jet: return pieces.jet;

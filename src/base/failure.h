@@ -1,5 +1,5 @@
-// Failures, expressed once. Inner code throws; each public member names its policy in its first line. The only core
-// header that catches everything.
+// Failures and their policies. Inner code throws; each public member names its policy in its first line. The only core
+// header with catch (...).
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace qvr {
 
-// Numbers of the Visual Basic family, so that a host shows the run-time error its users know.
+// Run-time error numbers of the Visual Basic family, which hosts show to their users.
 namespace failure_number {
 inline constexpr std::int32_t kInvalidArgument = 5;
 inline constexpr std::int32_t kOverflow = 6;
@@ -41,16 +41,16 @@ class RuntimeFailure : public std::exception {
   FailureDetail detail_;
 };
 
-// A failure that one policy lets out to the caller; for all others it is one like any other.
+// A failure that `or_raised` lets reach the caller; to all other policies it is an ordinary one.
 class CallerFailure : public RuntimeFailure {
  public:
   using RuntimeFailure::RuntimeFailure;
 };
 
-// The text that goes with a number when whoever throws has none of its own.
+// The default description of an error number.
 Text description_of(std::int32_t number);
 
-// The failure being handled, whatever was thrown; call inside a handler only.
+// The exception being handled as a failure, whatever its type; call inside a catch block only.
 FailureDetail current_failure();
 
 // Silent policy: the body's result, or `fallback` when it throws.
@@ -63,7 +63,7 @@ R or_default(R fallback, Body&& body) noexcept {
   }
 }
 
-// Silent policy for texts: the body appends to the result, and what it had appended when it threw is the result.
+// Silent policy for texts: the body appends to the result; when it throws, the result is what was appended so far.
 template <class Body>
 Text or_built_so_far(Body&& body) noexcept {
   Text built;
@@ -74,7 +74,7 @@ Text or_built_so_far(Body&& body) noexcept {
   return built;
 }
 
-// The policy of the few members whose caller is told by an error: a CallerFailure passes, `fallback` for all else.
+// Policy of the members that raise errors: a CallerFailure is rethrown, every other exception gives `fallback`.
 template <class R, class Body>
 R or_raised(R fallback, Body&& body) {
   try {
@@ -86,8 +86,8 @@ R or_raised(R fallback, Body&& body) {
   }
 }
 
-// Error-reporting policy: `fallback` when the body throws, after `report` has been given the failure. A report that
-// throws itself is dropped: the caller's answer does not depend on it.
+// Error-reporting policy: when the body throws, calls `report` with the failure and gives `fallback`. Exceptions of
+// `report` itself are swallowed: the result must not depend on it.
 template <class R, class Body, class Report>
 R or_reported(R fallback, Body&& body, Report&& report) noexcept {
   try {

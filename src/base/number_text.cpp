@@ -16,15 +16,15 @@ Text as_text(const char* first, const char* last) {
   return text;
 }
 
-// Between these, plain digits are what people and databases expect; outside, an exponent keeps the text short.
-// The upper bound is where the digits before the point begin to say more than the type holds.
+// Within these bounds plain digits, outside an exponent. Above the upper bound the type no longer holds every digit
+// before the point.
 template <class Float>
 bool reads_well_in_digits(Float magnitude) {
   constexpr Float kUpper = std::is_same_v<Float, float> ? Float(16777216) : Float(999999999999999.875);
   return magnitude >= Float(1e-5) && magnitude <= kUpper;
 }
 
-// As the standard library writes it in these arguments' way.
+// std::to_chars with these arguments.
 template <class Float, class... Precision>
 Text written(Float number, std::chars_format format, Precision... precision) {
   if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
@@ -62,7 +62,7 @@ std::uint32_t divide_by_ten(Decimal& number) {
   return static_cast<std::uint32_t>(rest);
 }
 
-// The exponent behind the "E" of a number; one beyond measure is cut.
+// The exponent behind the "E" of a number, clamped so that it cannot overflow.
 long long exponent_in(std::string_view text) {
   const bool negative = text.starts_with('-');
   text.remove_prefix(negative || text.starts_with('+') ? 1 : 0);
@@ -72,7 +72,7 @@ long long exponent_in(std::string_view text) {
   return negative ? -exponent : exponent;
 }
 
-// Whether the number, written as `number_length` knows them and not 0, is nearer to 0 than 1.
+// Whether the absolute value of this number, which is not 0, is below 1: out of range then means underflow.
 bool is_fraction(std::string_view number) {
   const std::size_t exponent_at = std::min(number.find_first_of("eE"), number.size());
   const std::string_view mantissa = number.substr(0, exponent_at);

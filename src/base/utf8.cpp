@@ -53,7 +53,7 @@ std::string to_utf8(TextView text) {
   std::string bytes;
   std::size_t most = text.size();
   for (const char16_t unit : text) most += unit < 0x80 ? 0u : unit < 0x800 ? 1u : 2u;
-  bytes.reserve(most);  // at once: a text that grows leaves its beginnings, which may be secret, behind
+  bytes.reserve(most);  // reserved at once: reallocation would leave copies behind, and the text may be secret
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
     if (is_high(c) && i + 1 < text.size() && is_low(text[i + 1])) {
@@ -65,7 +65,7 @@ std::string to_utf8(TextView text) {
 }
 
 std::optional<Text> from_utf8(std::string_view bytes) {
-  // As many as there will be: for some scripts the bytes are three times as many.
+  // Counted first: some scripts need three bytes for each unit.
   std::size_t units = 0;
   for (const char each : bytes) {
     const auto byte = static_cast<unsigned char>(each);
@@ -82,7 +82,7 @@ std::optional<Text> from_utf8(std::string_view bytes) {
       c = c << 6 | (static_cast<unsigned char>(bytes[i++]) & 0x3Fu);
     }
     if (c < lead->least || c > 0x10FFFF) return std::nullopt;
-    // Two halves of one pair in three bytes each would be a second spelling of a four-byte character.
+    // A surrogate pair as two sequences of three bytes (CESU-8) would be a second spelling of a four-byte character.
     if (is_low(c) && !text.empty() && is_high(text.back()) && lead->following == 2) return std::nullopt;
     append_units(text, c);
   }

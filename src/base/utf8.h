@@ -13,7 +13,7 @@ namespace qvr {
 // text comes back unchanged from `from_utf8`.
 std::string to_utf8(TextView text);
 
-// The text that these bytes spell; nothing when `to_utf8` could not have written them.
+// Decodes UTF-8; nothing for bytes that `to_utf8` could not have written.
 std::optional<Text> from_utf8(std::string_view bytes);
 
 }  // namespace qvr

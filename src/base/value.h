@@ -1,4 +1,4 @@
-// A value of any type, as the automation hosts pass it.
+// A value of any type, as automation hosts pass it in a VARIANT.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ struct Missing {};  // an argument that was not given; not the same as Empty
 struct Empty {};
 struct Null {};
 
-// Fixed point with four decimals: the amount times 10000.
+// Currency: fixed point, the amount times 10000.
 struct Currency {
   std::int64_t scaled = 0;
 };
@@ -27,7 +27,8 @@ struct Decimal {
   bool negative = false;
 };
 
-// Days since 30 December 1899 with the time of day as the fraction; before that day the fraction still counts forward.
+// An automation date: days since 30 December 1899, the time of day as the fraction, which counts forward for negative
+// days too.
 struct Date {
   double days = 0;
 };
@@ -36,7 +37,7 @@ struct ErrorValue {
   std::int32_t code = 0;
 };
 
-// Something outside the library that a host handed over; only the automation edge looks inside.
+// An object of the host; only com/ knows what it is.
 struct Object {
   virtual ~Object() = default;
 };
@@ -51,7 +52,7 @@ struct Array {
 };
 
 // The numeric widths stay apart because type names decide how a value is written. Byte is uint8_t, Integer int16_t,
-// Long int32_t; the two of 64 bits are none of the contract's types but can arrive all the same.
+// Long int32_t. The contract has no 64-bit types, but hosts can pass them.
 class Value {
  public:
   using Storage =

@@ -4,7 +4,7 @@
 
 namespace qvr {
 
-// Where a run of "*" turns out too short, only the last one has to grow: no exponential search.
+// Greedy: on a mismatch only the last "*" has to match more, so that there is no exponential backtracking.
 bool matches_wildcards(TextView name, TextView pattern) {
   std::size_t n = 0, p = 0, star = TextView::npos, star_n = 0;
   while (n < name.size()) {

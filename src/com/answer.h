@@ -1,5 +1,5 @@
-// The way of every member from its automation signature to the core and back. The one place where an exception becomes
-// an HRESULT.
+// Conversion of arguments and results between automation and the core. The only place where an exception becomes an
+// HRESULT.
 #pragma once
 
 #include "QVRlib21.h"
@@ -13,7 +13,7 @@
 
 namespace qvr::com {
 
-// Arguments as the core takes them. Early-bound callers may pass null for a pointer and for a string.
+// Arguments. Early-bound callers may pass null pointers and null strings.
 inline Text text_of(BSTR* argument) { return argument != nullptr ? text_from(*argument) : Text(); }
 inline SecretText secret_of(BSTR* argument) { return SecretText(text_of(argument)); }
 inline bool truth_of(const VARIANT_BOOL* argument) { return argument != nullptr && *argument != VARIANT_FALSE; }
@@ -30,21 +30,21 @@ inline Value value_of(const VARIANT* argument) {
   return argument != nullptr ? value_from(*argument) : Value(Missing{});
 }
 
-// An object of another library, whatever its interface is named: it is reached by name only.
+// An object of another library; any interface will do, as it is called late-bound.
 template <class Interface>
 IDispatch* object_of(Interface** argument) {
   return argument != nullptr ? reinterpret_cast<IDispatch*>(*argument) : nullptr;
 }
 
-// Gives a text that the member changed back to the caller's variable. One that it did not change stays untouched, also
-// when the host wrote to the variable meanwhile.
+// Writes a text back to the caller's variable if the member changed it. Otherwise the variable is not touched: the host
+// may have written to it meanwhile.
 inline void give_back(BSTR* argument, const Text& taken, const Text& left) {
   if (argument == nullptr || taken == left) return;
   OwnedBstr changed(left);
   std::swap(*argument, *changed.out());
 }
 
-// Results. The core's type chooses, since VARIANT_BOOL and a 16-bit number are one type here.
+// Results, by the type in the core: VARIANT_BOOL and a 16-bit integer are the same C++ type.
 inline void put_result(VARIANT_BOOL* out, bool result) { *out = result ? VARIANT_TRUE : VARIANT_FALSE; }
 inline void put_result(SHORT* out, std::int16_t result) { *out = result; }
 inline void put_result(BSTR* out, const Text& result) { *out = new_bstr(result); }
@@ -53,8 +53,8 @@ inline void put_result(VARIANT* out, const Value& result) { put_value(*out, resu
 inline void put_result(LONG* out, std::int32_t result) { *out = result; }
 inline void put_result(MotoresBD* out, Engine result) { *out = static_cast<MotoresBD>(result); }
 
-// Runs the body, which gives an HRESULT, under the default floating-point state. A run-time failure becomes its HRESULT
-// with error info; anything else, which means out of memory, `otherwise`.
+// Runs the body under the default floating-point state. RuntimeFailure becomes its HRESULT with error info; any other
+// exception, such as out of memory, gives `otherwise`.
 template <class Body>
 HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
   const windows::DefaultFloatingPoint calculating;
@@ -68,8 +68,7 @@ HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
   }
 }
 
-// Runs the member's body and hands over its result. An argument that there is no memory to copy leaves the default
-// result, like any other failure that the contract does not let reach the caller.
+// Runs a member's body and returns its result. Out of memory while converting arguments gives the default result.
 template <class Out, class Body>
 HRESULT answer(Out* out, Body&& body) noexcept {
   if (out == nullptr) return E_POINTER;
@@ -80,7 +79,7 @@ HRESULT answer(Out* out, Body&& body) noexcept {
   });
 }
 
-// For members that show a box or call out: the host may let go of its last reference to the object meanwhile.
+// For members that run a message loop or call the host, which may release its last reference to the object meanwhile.
 template <class Out, class Body>
 HRESULT answer_while_kept(IUnknown& object, Out* out, Body&& body) noexcept {
   const ComPtr<IUnknown> kept(&object);

@@ -9,7 +9,7 @@ bool is_missing(const VARIANT* argument) {
   return argument == nullptr || (argument->vt == VT_ERROR && argument->scode == DISP_E_PARAMNOTFOUND);
 }
 
-// Hosts tell overflow from a wrong type; all other refusals are one to them.
+// Hosts distinguish overflow from a type mismatch; all other errors count as a type mismatch.
 HRESULT refusal(HRESULT result) {
   return result == DISP_E_OVERFLOW || result == E_OUTOFMEMORY ? result : DISP_E_TYPEMISMATCH;
 }
@@ -19,7 +19,7 @@ HRESULT take_object(VARIANT& target, const VARIANT& source) {
   if (FAILED(copy_content(*value.get(), source))) return DISP_E_TYPEMISMATCH;
   target.pdispVal = nullptr;
   target.vt = VT_DISPATCH;
-  if (value->vt == VT_EMPTY) return S_OK;  // a script's variable that no object was assigned to
+  if (value->vt == VT_EMPTY) return S_OK;  // an unassigned variable of a script counts as Nothing
   if (value->vt != VT_DISPATCH && value->vt != VT_UNKNOWN) return DISP_E_TYPEMISMATCH;
   if (value->punkVal == nullptr) return S_OK;
   const HostFloatingPoint host;
@@ -52,8 +52,8 @@ std::size_t size_of(VARTYPE type) {
 
 bool passes_on(VARTYPE type) { return type == VT_BSTR || size_of(type) > 0; }
 
-// A value of the very type, by value or by reference. The system's conversion would copy it twice, and leave a copy of
-// what may be a password in freed memory.
+// A value that has the type already, by value or by reference. VariantChangeType would copy it twice, and leave a copy
+// of a password in freed memory.
 HRESULT take_same(VARIANT& target, const VARIANT& source, VARTYPE type) {
   const void* const content = source.vt & VT_BYREF ? source.byref : &source.llVal;
   if (type == VT_BSTR) {
@@ -74,7 +74,7 @@ HRESULT take_typed(VARIANT& target, const VARIANT& source, VARTYPE type, LCID lo
   return SUCCEEDED(result) ? S_OK : refusal(result);
 }
 
-// Into a typed variable of the caller: its old content is released first.
+// Assigns to a typed variable of the caller and frees its old content.
 void store(VARTYPE type, void* target, VARIANT& value) {
   if (type == VT_BSTR) {
     std::swap(*static_cast<BSTR*>(target), value.bstrVal);
@@ -99,7 +99,8 @@ HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
   }
   VARIANT number;
   VariantInit(&number);
-  // An object with a default value is a number whose type could not be read: a null pointer says the same.
+  // A default value on an object parameter: an enumeration whose type library is not registered. Pass null, which means
+  // the default.
   if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), number);
   if (parameter.fallback) {
     number.vt = VT_I4;
@@ -108,9 +109,10 @@ HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
   return take_typed(*held_.get(), number, type_, LOCALE_USER_DEFAULT);
 }
 
-// The variable that the member gets itself, if there is one. Only what no host code can take away meanwhile: a typed
-// variable keeps its type, while a text inside a variant goes when another value comes. An object is held during the
-// call. A variant is passed on with what it holds by value, also an array, which members that give values back fill.
+// The caller's variable, if it can be passed on without a copy. Not if host code could free its content during the
+// call: a typed variable keeps its type, but a BSTR inside a VARIANT is freed when another value is assigned. Objects
+// are AddRef'ed during the call. A VARIANT is passed on with its content, also an array, which members that return
+// values fill.
 void* ArgumentSlot::callers_variable(const VARIANT& argument, const VARIANT& inner) const noexcept {
   if (!by_reference_ || !(argument.vt & VT_BYREF)) return nullptr;
   if (type_ != VT_VARIANT) return inner.vt == (VT_BYREF | type_) && passes_on(type_) ? inner.byref : nullptr;
@@ -119,8 +121,8 @@ void* ArgumentSlot::callers_variable(const VARIANT& argument, const VARIANT& inn
   return of_value ? const_cast<VARIANT*>(&inner) : nullptr;
 }
 
-// The bits of an argument by value for a parameter by value. The caller keeps its text until the call returns, and the
-// member copies it at once.
+// The bits of a by-value argument for a by-value parameter. The caller owns the BSTR until the call returns; the member
+// copies it.
 void* ArgumentSlot::borrowed(const VARIANT& argument) noexcept {
   const bool whole = type_ == VT_VARIANT;
   const bool of_type = whole ? argument.vt == VT_BSTR || OwnedVariant::holds_nothing(argument.vt)
@@ -134,7 +136,7 @@ HRESULT ArgumentSlot::convert(const Parameter& parameter, const VARIANT* inner, 
   if (inner == nullptr) return take_missing(parameter);
   if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), *inner);
   if (type_ != VT_VARIANT) return take_typed(*held_.get(), *inner, type_, usable(locale));
-  // An array in a typed variable, which is not copied either.
+  // An array in a typed variable is not copied either.
   if (by_reference_ && (inner->vt & VT_BYREF) && (inner->vt & VT_ARRAY)) {
     std::memcpy(held_.get(), inner, sizeof *inner);
     return S_OK;
@@ -174,7 +176,7 @@ void ArgumentSlot::give_back(VARIANT& argument, LCID locale) noexcept {
   if (target == &argument || (target->vt & VT_BYREF)) {
     const auto type = static_cast<VARTYPE>(target->vt & ~VT_BYREF);
     OwnedVariant converted;
-    // A variable of a type that the new value does not convert to keeps what it has.
+    // If the new value does not convert to the variable's type, the variable stays unchanged.
     if (SUCCEEDED(take_typed(*converted.get(), *held_, type, usable(locale))))
       store(type, target->byref, *converted.get());
     return;

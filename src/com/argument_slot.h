@@ -1,4 +1,4 @@
-// One argument of a late-bound call, as the member takes it.
+// One argument of a late-bound call, converted to its parameter's type.
 #pragma once
 
 #include "com/signature.h"
@@ -6,22 +6,22 @@
 
 namespace qvr::com {
 
-// What is of the very type that the parameter has is passed on, as an early-bound caller passes it: variables by
-// reference, values by value. Everything else is converted into storage of the slot's own and given back from there.
+// An argument that has the parameter's type already is passed on without a copy, as an early-bound caller would. Any
+// other is converted into storage of the slot and written back from there.
 class ArgumentSlot {
  public:
-  // Converts the argument (null or "missing": left out) to the parameter's type.
+  // Converts the argument (omitted: null or DISP_E_PARAMNOTFOUND) to the parameter's type.
   HRESULT take(const Parameter& parameter, const VARIANT* argument, LCID locale) noexcept;
 
-  // What the member is called with, as DispCallFunc takes it: the value, or its address where the parameter is by
-  // reference. Valid as long as the slot stays where it is.
+  // The argument for DispCallFunc: the value, or its address for a by-reference parameter. Valid until the slot is
+  // moved or destroyed.
   struct Passed {
     VARTYPE type;
     VARIANT* value;
   };
   Passed passed() noexcept;
 
-  // Writes the value to the caller's variable when the argument came by reference and the member changed it.
+  // Writes the value back when the argument was passed by reference and the member changed it.
   void give_back(VARIANT& argument, LCID locale) noexcept;
 
  private:
@@ -32,9 +32,9 @@ class ArgumentSlot {
   bool changed() const noexcept;
 
   OwnedVariant held_;
-  VARIANT before_;             // bits of the value as it was taken, never released; by reference, they are compared
-  VARIANT reference_;          // where the value is, for a parameter by reference
-  void* passed_on_ = nullptr;  // instead of what is held: the caller's variable or bits
+  VARIANT before_;             // bits of the original value, not owned, to detect a change
+  VARIANT reference_;          // VT_BYREF to the value, for a by-reference parameter
+  void* passed_on_ = nullptr;  // the caller's variable or bits, if passed on without a copy
   VARTYPE type_ = VT_EMPTY;
   bool by_reference_ = false;
 };

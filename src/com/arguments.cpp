@@ -8,7 +8,7 @@
 namespace qvr::com {
 namespace {
 
-// Where each parameter's argument is in rgvarg; -1 for one that was left out.
+// The index into rgvarg of each parameter's argument; -1 for an omitted one.
 using Positions = std::vector<int>;
 
 HRESULT refuse(HRESULT result, UINT index, const LateCall& call) {
@@ -37,7 +37,7 @@ HRESULT place_named(const Member& member, const LateCall& call, Positions& posit
   return S_OK;
 }
 
-// Named arguments come first in rgvarg, the others behind them, last one first.
+// rgvarg is in reverse order: named arguments first, then the positional ones, last one first.
 HRESULT place_arguments(const Member& member, const LateCall& call, Positions& positions) {
   const DISPPARAMS& given = *call.arguments;
   if (given.cNamedArgs > given.cArgs || given.cArgs > member.parameters.size()) return DISP_E_BADPARAMCOUNT;
@@ -106,7 +106,7 @@ class Call {
     return S_OK;
   }
 
-  // The member's own failure, as a host sees errors of a control.
+  // The member failed: fill EXCEPINFO from its error info.
   HRESULT raise(HRESULT failed) const {
     ComPtr<IErrorInfo> info;
     const bool told = GetErrorInfo(0, &info) == S_OK;

@@ -1,11 +1,11 @@
-// Class objects: what hands out new objects of a class.
+// Class objects (IClassFactory).
 #pragma once
 
 #include "com/class_table.h"
 
 namespace qvr::com {
 
-// The class object's interface for the class with this id; CLASS_E_CLASSNOTAVAILABLE when it is none of ours.
+// DllGetClassObject: CLASS_E_CLASSNOTAVAILABLE for an unknown CLSID.
 HRESULT class_object(REFCLSID id, REFIID interface_id, void** found) noexcept;
 
 }  // namespace qvr::com

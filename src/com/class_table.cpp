@@ -13,7 +13,7 @@ namespace {
 
 template <class Object>
 HRESULT create(REFIID id, void** found) {
-  return (new Object)->hand_over(id, found);  // without "()", which would fill the memory with zeros first
+  return (new Object)->hand_over(id, found);  // without "()", which would zero the memory first
 }
 
 }  // namespace

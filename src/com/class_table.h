@@ -10,7 +10,7 @@ namespace qvr::com {
 struct ClassRow {
   const CLSID& id;
   const wchar_t* name;                         // the program id is the library's name, ".", this
-  HRESULT (*create)(REFIID id, void** found);  // a new object's one reference, as this interface; throws
+  HRESULT (*create)(REFIID id, void** found);  // creates an object and returns this interface; throws
 };
 
 std::span<const ClassRow> class_table();

@@ -1,4 +1,4 @@
-// Windows and COM headers in the order that they need, and the reference used throughout the automation edge.
+// Windows and COM headers in the required order, and ComPtr.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// A reference to a COM object. Our own because the one that the compiler ships adds a reference in Attach.
+// A smart pointer to a COM object. Our own, as mingw-w64's ComPtr adds a reference in Attach.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@
 
 namespace qvr::com {
 
-// What is there while code of the object runs; nothing for objects of the library and of the system.
+// Guard during calls of the object; empty for objects of the library and of the system.
 struct AsItIs {};
 
 template <class I, class Around = AsItIs>
@@ -33,12 +33,12 @@ class ComPtr {
   I* operator->() const noexcept { return object_; }
   explicit operator bool() const noexcept { return object_ != nullptr; }
 
-  // For an out-parameter: lets go of what was held.
+  // For an out parameter: releases the pointer that was held.
   I** operator&() noexcept {
     Reset();
     return &object_;
   }
-  // Takes over the caller's reference.
+  // Takes ownership without AddRef.
   void Attach(I* object) noexcept {
     Reset();
     object_ = object;
@@ -50,7 +50,7 @@ class ComPtr {
     [[maybe_unused]] const Around around;
     object->Release();
   }
-  // The object's other interface.
+  // QueryInterface.
   template <class Other>
   HRESULT As(Other** other) const noexcept {
     [[maybe_unused]] const Around around;

@@ -54,7 +54,7 @@ void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
   for (const Sink& sink : *connected) invoke_sink(*sink.dispatch.Get(), event, argument);
 }
 
-// One by one by their cookies, which grow: the end of a run must be told also where there is no memory for a copy.
+// Iterates by ascending cookie instead of copying the list: Terminado must be fired also when out of memory.
 void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument) noexcept {
   const DWORD end = next_cookie_;
   for (DWORD told = 0;;) {
@@ -94,7 +94,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
   return guarded(E_OUTOFMEMORY, [&] {
     HostPtr<IDispatch> dispatch;
     void** const out = reinterpret_cast<void**>(&dispatch);
-    // Script hosts answer to the event interface's own id; some sinks know only IDispatch.
+    // Some sinks implement the event interface's IID, others only IDispatch.
     const auto answers_to = [&](REFIID id) {
       return SUCCEEDED(by_host([&] { return sink->QueryInterface(id, out); }));
     };
@@ -108,7 +108,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
 HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
   const auto sink = std::ranges::find(sinks_, cookie, &Sink::cookie);
   if (sink == sinks_.end()) return CONNECT_E_NOCONNECTION;
-  const Sink leaving = std::move(*sink);  // released last: its release may come back here
+  const Sink leaving = std::move(*sink);  // released last, as Release can re-enter
   sinks_.erase(sink);
   return S_OK;
 }

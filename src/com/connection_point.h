@@ -1,4 +1,4 @@
-// Events: the connection point through which a host receives them.
+// Events: the connection point.
 #pragma once
 
 #include <utility>
@@ -9,20 +9,19 @@
 
 namespace qvr::com {
 
-// The one connection point of an object, for a pure dispatch event interface. It lives inside the object that fires the
-// events and shares its count.
+// The single connection point of an object, for a dispinterface. It is a member of the object that fires the events and
+// shares its reference count.
 class ConnectionPoint final : public IConnectionPoint {
  public:
   ConnectionPoint(IConnectionPointContainer& container, const IID& events) : container_(container), events_(events) {}
 
-  // A sink that goes may come back here to unadvise.
+  // Releasing a sink can re-enter Unadvise.
   ~ConnectionPoint() { const std::vector<Sink> leaving = std::exchange(sinks_, {}); }
   ConnectionPoint(const ConnectionPoint&) = delete;
   ConnectionPoint& operator=(const ConnectionPoint&) = delete;
 
-  // Fires the event to every sink that is connected now. A sink that fails, leaves or connects another meanwhile does
-  // not disturb the rest. Each gets the argument by reference, as a copy of its own: what one sink writes to it is
-  // seen by nobody else.
+  // Fires the event to every connected sink. Sinks may fail, unadvise and advise others meanwhile (re-entrance). The
+  // argument goes by reference, a copy for each sink, so that no sink sees what another one wrote.
   void fire(DISPID event, const VARIANT& argument) noexcept;
 
   STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override;
@@ -49,7 +48,7 @@ class ConnectionPoint final : public IConnectionPoint {
   DWORD next_cookie_ = 1;
 };
 
-// The container's two members for an object with this one point.
+// IConnectionPointContainer for an object with a single connection point.
 HRESULT enumerate_points(IConnectionPoint& point, IEnumConnectionPoints** points) noexcept;
 HRESULT find_point(ConnectionPoint& point, REFIID id, IConnectionPoint** found) noexcept;
 

@@ -1,11 +1,11 @@
-// What every COM object of the library has: a count, one identity, a visible list of interfaces.
+// IUnknown of every COM object of the library: reference count, identity, list of interfaces.
 #pragma once
 
 #include "com/module.h"
 
 namespace qvr::com {
 
-// Under which ids an interface of the list is asked for; more than one where it stands for another, too.
+// The IIDs that an interface of the list answers; several if it derives from another interface.
 template <class I>
 struct AskedAs {
   static bool any(REFIID id) { return id == __uuidof(I); }
@@ -15,7 +15,7 @@ struct AskedAs<IProvideClassInfo2> {
   static bool any(REFIID id) { return id == __uuidof(IProvideClassInfo2) || id == __uuidof(IProvideClassInfo); }
 };
 
-// The first interface is the identity; of several that answer to one id the first does.
+// The first interface is the identity (IUnknown). If several answer the same IID, the first one does.
 template <class First, class... Others>
 class Counted : public First, public Others... {
  public:
@@ -23,7 +23,7 @@ class Counted : public First, public Others... {
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;
 
-  // Gives away the reference that the maker of the object has; without such an interface the object ends.
+  // QueryInterface that consumes the creator's reference; without this interface the object is destroyed.
   HRESULT hand_over(REFIID id, void** found) noexcept {
     *found = as(id);
     if (*found != nullptr) return S_OK;
@@ -44,7 +44,7 @@ class Counted : public First, public Others... {
   STDMETHODIMP_(ULONG) Release() noexcept override {
     const LONG left = InterlockedDecrement(&count_);
     if (left == 0) {
-      count_ = 1;  // a reference taken and given back while the object goes must not end it a second time
+      count_ = 1;  // AddRef and Release during destruction (re-entrance) must not destroy it again
       delete this;
     }
     return static_cast<ULONG>(left);
@@ -54,7 +54,7 @@ class Counted : public First, public Others... {
   virtual ~Counted() = default;
 
  private:
-  // Without a reference for the caller.
+  // Without AddRef.
   void* as(REFIID id) noexcept {
     void* found = id == IID_IUnknown || AskedAs<First>::any(id) ? static_cast<First*>(this) : nullptr;
     (answer_as<Others>(id, found), ...);

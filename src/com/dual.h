@@ -1,4 +1,4 @@
-// The dispatch half of a dual interface, on top of its members.
+// IDispatch of a dual interface.
 #pragma once
 
 #include "com/answer.h"
@@ -43,7 +43,7 @@ class Dual : public I {
   }
 
  private:
-  // Read on the first late-bound call in the process and never changed after.
+  // Read on the first late-bound call in the process, then immutable.
   static const Signatures& signatures() {
     static const Signatures instance(__uuidof(I));
     return instance;

@@ -1,4 +1,4 @@
-// What the library exports.
+// The exported functions of the DLL.
 
 #include "com/answer.h"
 #include "com/class_object.h"
@@ -13,8 +13,9 @@ using namespace qvr::com;
 
 }  // namespace
 
-// At the end of the process the memory goes anyway, and what a thread's state refers to may be gone already. A library
-// that is unloaded before that has given nobody an object, so that no thread has a state.
+// Only thread detach cleans up. At process exit the memory is reclaimed anyway, and the modules that a state refers to
+// may be unloaded already. FreeLibrary unloads only a library that was not pinned, which never created an object: no
+// thread has a state then.
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
   if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
   return TRUE;
@@ -24,14 +25,14 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID interface_id, void** found) {
   return class_object(id, interface_id, found);
 }
 
-// Whether objects live. The system lets go of the library after S_OK, which stays all the same once it has been used.
+// Tells whether objects are alive. COM then calls FreeLibrary, which does not unload the library once it is pinned.
 STDAPI DllCanUnloadNow() { return ModuleLock::any() ? S_FALSE : S_OK; }
 
 STDAPI DllRegisterServer() { return register_library(Scope::Machine); }
 
 STDAPI DllUnregisterServer() { return unregister_library(Scope::Machine); }
 
-// regsvr32 /n /i:user registers for the current user; without text it means the machine.
+// regsvr32 /n /i:user registers for the current user; without a text for the machine.
 STDAPI DllInstall(BOOL install, LPCWSTR command) {
   const bool user = command != nullptr && lstrcmpiW(command, L"user") == 0;
   if (!user && command != nullptr && *command != L'\0') return E_INVALIDARG;

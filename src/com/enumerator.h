@@ -1,4 +1,4 @@
-// A standard enumerator over items that were copied when it was made.
+// A standard COM enumerator over a copy of the items.
 #pragma once
 
 #include <algorithm>
@@ -9,8 +9,8 @@
 
 namespace qvr::com {
 
-// `Traits` has: Interface, Item (what Next hands out), Stored (what is kept), `static Item give(const Stored&)` which
-// adds the reference that the caller will own.
+// `Traits` has: Interface, Item (of Next), Stored (in the copy), and `static Item give(const Stored&)`, which adds the
+// caller's reference.
 template <class Traits>
 class Enumerator final : public Counted<typename Traits::Interface> {
  public:

@@ -1,5 +1,5 @@
-// Wires the library: the system it runs on, and for each outside service the application family's component where one
-// is registered, else the library's own.
+// The environment of the DLL and of the Windows qvrscript: each service is the registered component of the application
+// family, else the built-in one.
 
 #include "com/clients/com_ado.h"
 #include "com/clients/com_error_report.h"
@@ -16,7 +16,7 @@ namespace {
 using namespace com;
 
 std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
-  // A component that is registered but cannot be created must not be replaced: its files are not ours to read.
+  // No fallback for a registered component that cannot be created: the built-in one does not read its files.
   if (const auto id = registered_class(ComTextProtection::kProgramId)) {
     return std::make_unique<ComTextProtection>(LateObject::create(*id));
   }
@@ -38,7 +38,7 @@ std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platfor
 std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_unique<ComAdo>(); }
 
 std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
-  // As with text protection: protected scripts are not ours to read.
+  // As with text protection: the built-in reader cannot read protected scripts.
   if (const auto id = registered_class(ComScriptReader::kProgramId)) {
     return std::make_unique<ComScriptReader>(LateObject::create(*id));
   }

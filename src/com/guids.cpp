@@ -1,4 +1,4 @@
-// The identifiers that the generated headers only declare, defined once.
+// Defines the GUIDs that the generated headers declare.
 #include <initguid.h>
 
 #include "QVRlib21.h"

@@ -1,4 +1,4 @@
-// A reference to an object of the host's or of a component's, whose code expects the host's floating-point state.
+// A ComPtr to an object of the host or of a component, whose code must run under the host's floating-point state.
 #pragma once
 
 #include <utility>
@@ -10,7 +10,7 @@ namespace qvr::com {
 
 using windows::HostFloatingPoint;
 
-// What the call gives that runs the host's code.
+// Calls host code under the host's floating-point state.
 template <class Call>
 auto by_host(Call&& call) {
   const HostFloatingPoint host;

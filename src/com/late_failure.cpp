@@ -41,7 +41,7 @@ void set_error_info(const FailureDetail& failure) noexcept {
   const OwnedBstr description(failure.description), source(failure.source);
   created->SetDescription(description.get());
   created->SetSource(source.get());
-  const windows::HostFloatingPoint host;  // the former one is released
+  const windows::HostFloatingPoint host;  // SetErrorInfo releases the previous one, an object of the host
   SetErrorInfo(0, info.Get());
 }
 

@@ -1,4 +1,4 @@
-// HRESULTs as failures and failures as HRESULTs.
+// Conversion between HRESULTs and failures.
 #pragma once
 
 #include "base/failure.h"
@@ -6,15 +6,15 @@
 
 namespace qvr::com {
 
-// The number by which a Visual Basic host knows this HRESULT: the low half of a control's own, else all of it.
+// Err.Number of Visual Basic for this HRESULT: the low word of 0x800Annnn (FACILITY_CONTROL), else all of it.
 std::int32_t failure_number_of(HRESULT result) noexcept;
-// The inverse for the small numbers of the Visual Basic family.
+// The inverse, for Visual Basic's error numbers.
 HRESULT result_of(std::int32_t number) noexcept;
 
-// Throws the failure that a failed call stands for; a call that worked passes.
+// Throws the HRESULT's failure, if it is one.
 void require(HRESULT result);
 
-// Makes the failure this thread's current error object.
+// Sets the thread's error info (SetErrorInfo).
 void set_error_info(const FailureDetail& failure) noexcept;
 
 }  // namespace qvr::com

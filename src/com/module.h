@@ -1,11 +1,11 @@
-// What keeps the library loaded.
+// The module's lock count and pinning.
 #pragma once
 
 #include "com/com.h"
 
 namespace qvr::com {
 
-// Held by every object and by LockServer: while one exists, the library must stay.
+// Counts for DllCanUnloadNow; held by every object and by LockServer.
 class ModuleLock {
  public:
   ModuleLock() noexcept { hold(); }
@@ -21,7 +21,7 @@ class ModuleLock {
   static inline volatile LONG count_ = 0;
 };
 
-// From now on the library stays loaded until the process ends, whoever lets go of it.
+// Pins the module until the process ends (GET_MODULE_HANDLE_EX_FLAG_PIN).
 void keep_loaded() noexcept;
 
 }  // namespace qvr::com

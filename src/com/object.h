@@ -1,4 +1,4 @@
-// What every object of the library is besides its members and its count: its class information and its errors.
+// IProvideClassInfo2 and ISupportErrorInfo of every object.
 #pragma once
 
 #include "com/counted.h"
@@ -12,8 +12,8 @@ struct AskedAs<D> {
   static bool any(REFIID id) { return id == __uuidof(typename D::DualInterface) || id == IID_IDispatch; }
 };
 
-// `Coclass` names the class in the type library; `Default` is its default interface, which is also its identity and
-// its IDispatch; `Others` are the further interfaces that QueryInterface answers.
+// `Coclass` is the class in the type library; `Default` its default interface, which is also its IUnknown and its
+// IDispatch; `Others` are further interfaces that QueryInterface answers.
 template <class Coclass, class Default, class... Others>
 class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideClassInfo2> {
  public:

@@ -54,13 +54,13 @@ bool other_width_registered(Scope scope) {
   const std::wstring path = std::wstring(L"Software\\Classes\\CLSID\\") + id + L"\\InprocServer32";
   RegistryKey other;
   if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | kOther, other.out()) != ERROR_SUCCESS) return false;
-  // On a system of one width both views are the same key, and it has been deleted or written by this very library.
+  // On 32-bit Windows both registry views are the same key, which this library itself has written or deleted.
   wchar_t file[MAX_PATH * 4];
   DWORD size = sizeof file;
   return RegGetValueW(other.get(), nullptr, nullptr, RRF_RT_REG_SZ, nullptr, file, &size) == ERROR_SUCCESS;
 }
 
-// The system's own keys above ours do not exist for a user who never registered anything: none is left behind empty.
+// CLSID, Interface and TypeLib do not exist for a user who never registered anything: remove them when empty.
 void remove_empty(HKEY classes, const wchar_t* name) {
   RegistryKey key;
   DWORD keys = 1, values = 1;

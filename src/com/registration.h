@@ -1,18 +1,18 @@
-// Registration: what regsvr32 asks for, and its exact removal.
+// Registration and its exact removal.
 #pragma once
 
 #include "com/com.h"
 
 namespace qvr::com {
 
-enum class Scope { Machine, User };  // User needs no administrator rights and shows to this user only
+enum class Scope { Machine, User };  // User: HKEY_CURRENT_USER, without administrator rights
 
-// Writes the keys of every class, interface and the type library. On failure nothing of it stays behind, an earlier
-// registration included.
+// Writes the keys of the classes, the interfaces and the type library. On failure all of them are removed, those of an
+// earlier registration too.
 HRESULT register_library(Scope scope) noexcept;
 
-// Removes exactly those keys, and a user's keys above them that are empty then; what is not there is no failure. Keys
-// that the library of the other width shares with this one stay as long as that one is registered.
+// Removes exactly those keys, and parent keys of a user that become empty; missing keys are no failure. Keys shared
+// with the library of the other width stay while that one is registered.
 HRESULT unregister_library(Scope scope) noexcept;
 
 }  // namespace qvr::com

@@ -12,7 +12,8 @@ namespace {
 
 constexpr wchar_t kTypeLibraryVersion[] = L"1.1";
 constexpr const wchar_t* kPlatform = sizeof(void*) == 8 ? L"win64" : L"win32";
-// The system's own marshallers: for interfaces described by a type library, and for pure dispatch interfaces.
+// The system's proxy/stub classes: the type library marshaller (PSOAInterface) and the one for dispinterfaces
+// (PSDispatch).
 constexpr wchar_t kDualMarshaller[] = L"{00020424-0000-0000-C000-000000000046}";
 constexpr wchar_t kDispatchMarshaller[] = L"{00020420-0000-0000-C000-000000000046}";
 
@@ -54,7 +55,7 @@ void add_interface(RegistryRows& rows, REFGUID id, const std::wstring& name, boo
   rows.trees.push_back({key, false});
 }
 
-// Every interface of the type library: hosts in other apartments marshal through these keys.
+// Every interface of the type library, for marshalling between apartments.
 void add_interfaces(RegistryRows& rows) {
   const ComPtr<ITypeLib> library = own_type_library();
   for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {

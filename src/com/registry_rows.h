@@ -1,4 +1,4 @@
-// The registry keys of a registered library, as one list: registration writes it, unregistration deletes it.
+// The registry keys of the library as one list, which registration writes and unregistration deletes.
 #pragma once
 
 #include <string>
@@ -9,12 +9,12 @@
 namespace qvr::com {
 
 struct RegistryValue {
-  std::wstring key;   // below the classes root
+  std::wstring key;   // relative to Software\Classes
   std::wstring name;  // empty for the key's default value
   std::wstring data;
 };
 
-// A key that goes, with all below it, when the library is unregistered. Shared keys belong to both widths.
+// A key that unregistration deletes, with its subkeys. Shared keys belong to both widths.
 struct RegistryTree {
   std::wstring key;
   bool shared;

@@ -18,14 +18,14 @@ bool equal_names(std::wstring_view a, std::wstring_view b) noexcept {
          });
 }
 
-// An id is a base, which differs by kind, and the member's position.
+// A dispatch id is a base, which differs by kind, plus the member's position.
 std::size_t position_in(DISPID id) noexcept { return static_cast<std::uint32_t>(id) & 0xFFFF; }
 
-// A type named elsewhere: enumerations are numbers, all else that signatures name is an object.
+// VT_USERDEFINED: enumerations are numbers, all other types in the signatures are objects.
 VARTYPE named_type(ITypeInfo& info, HREFTYPE reference) {
   ComPtr<ITypeInfo> referred;
   TYPEATTR* attributes = nullptr;
-  // Types of another library cannot be read where that library is not registered; those are objects.
+  // Fails for ADO's types where ADO's type library is not registered; those are objects.
   if (FAILED(info.GetRefTypeInfo(reference, &referred)) || FAILED(referred->GetTypeAttr(&attributes))) {
     return VT_DISPATCH;
   }
@@ -45,7 +45,7 @@ ResolvedType resolve(ITypeInfo& info, const TYPEDESC& described) {
   for (; at->vt == VT_PTR; at = at->lptdesc) ++pointers;
   const VARTYPE type = at->vt == VT_USERDEFINED ? named_type(info, at->hreftype) : at->vt;
   const bool object = type == VT_DISPATCH || type == VT_UNKNOWN;
-  // An object of a named interface is itself a pointer.
+  // A pointer to an interface is an object.
   return {type, pointers > (object && at->vt == VT_USERDEFINED ? 1 : 0)};
 }
 
@@ -91,7 +91,7 @@ Member read_member(ITypeInfo& info, const FUNCDESC& function) {
   return member;
 }
 
-// A dual interface's type information describes its dispatch half; the slots are in the other.
+// The type info of a dual interface is the dispinterface; its related vtable interface has the slots.
 ComPtr<ITypeInfo> slots_of(ITypeInfo& dispatch) {
   HREFTYPE reference = 0;
   ComPtr<ITypeInfo> slots;

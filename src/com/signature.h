@@ -1,5 +1,4 @@
-// What the type library says of an interface's members, read once per interface: what late-bound calls are matched
-// against.
+// The signatures of an interface's members for late-bound calls, read from the type library once per interface.
 #pragma once
 
 #include <optional>
@@ -26,27 +25,27 @@ struct Member {
   std::size_t slot_offset = 0;
   std::vector<Parameter> parameters;  // without the result
   VARTYPE result = VT_EMPTY;          // VT_EMPTY for none
-  const Member* next = nullptr;       // at the same position: the other accessor of a property
+  const Member* next = nullptr;       // the other accessor of a property, which has the same position
 };
 
 class Signatures {
  public:
-  // Of the dual interface with this id. Throws when the type library cannot be read.
+  // Reads the dual interface with this IID. Throws when the type library cannot be read.
   explicit Signatures(REFIID id);
   Signatures(const Signatures&) = delete;
   Signatures& operator=(const Signatures&) = delete;
 
-  // The member with this name, whatever its case; null for none.
+  // The member with this name, without regard to case; null for none.
   const Member* named(std::wstring_view name) const noexcept;
-  // The member that answers a call of this kind under this id; null for none.
+  // The member with this dispatch id and kind of call; null for none.
   const Member* called(DISPID id, WORD flags) const noexcept;
 
  private:
   std::vector<Member> members_;
-  std::vector<const Member*> at_position_;  // the first of each
+  std::vector<const Member*> at_position_;  // first member of each position
 };
 
-// The parameter's position, which is also its dispatch id in a named call.
+// The parameter's position, which is also its dispatch id as a named argument.
 std::optional<DISPID> position_of(const Member& member, std::wstring_view parameter) noexcept;
 
 }  // namespace qvr::com

@@ -1,4 +1,4 @@
-// Texts as BSTRs. A null BSTR is an empty text, as everywhere in automation.
+// Conversion between Text and BSTR. A null BSTR is an empty text.
 #pragma once
 
 #include <utility>
@@ -10,10 +10,10 @@ namespace qvr::com {
 
 Text text_from(BSTR string);
 
-// A new BSTR, also for an empty text; null only when there is no memory.
+// A new BSTR, also for an empty text; null only when out of memory.
 BSTR new_bstr(TextView text) noexcept;
 
-// Overwrites and frees the string: it may hold a password.
+// Wipes and frees the string, as it may contain a password.
 void free_wiped(BSTR string) noexcept;
 
 class OwnedBstr {

@@ -12,16 +12,16 @@ Decimal decimal_from(const DECIMAL& number) {
   return {number.Hi32, number.Mid32, number.Lo32, number.scale, (number.sign & DECIMAL_NEG) != 0};
 }
 
-constexpr int kDeepest = 16;  // far beyond what hosts nest
+constexpr int kDeepest = 16;  // maximal depth of nested arrays and references
 
-// An array that is being read, inside others.
+// The chain of arrays that are being read.
 struct Reading {
   const SAFEARRAY* array;
   const Reading* outer;
   int depth;
 };
 
-// What holds itself would be read again and again.
+// An array that contains itself would recurse infinitely.
 bool never_ends(const SAFEARRAY* array, const Reading* outer) {
   if (outer != nullptr && outer->depth >= kDeepest) return true;
   for (; outer != nullptr; outer = outer->outer) {
@@ -30,8 +30,7 @@ bool never_ends(const SAFEARRAY* array, const Reading* outer) {
   return false;
 }
 
-// References of objects are counted, and values converted, by code of the host's: as long as this lives, that code can
-// neither destroy the array nor give it other bounds.
+// SafeArrayLock while AddRef and conversions run host code, which could otherwise destroy or redimension the array.
 class Locked {
  public:
   explicit Locked(SAFEARRAY* array) noexcept : array_(SUCCEEDED(SafeArrayLock(array)) ? array : nullptr) {}
@@ -49,17 +48,17 @@ Value value_inside(const VARIANT& variant, const Reading* outer);
 Value scalar_from(const VARIANT& v);
 
 HRESULT get_element(SAFEARRAY* array, LONG index, void* target) noexcept {
-  const HostFloatingPoint host;  // of an object, a reference is taken
+  const HostFloatingPoint host;  // AddRef of the host's object
   return SafeArrayGetElement(array, &index, target);
 }
 
-// An element into a variant of its own type. Records have no value of ours, and without their description they could
-// not even be released.
+// Copies an element into a variant of the element type. Not records: without their IRecordInfo they could not be
+// cleared.
 Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& reading) {
   if (type == VT_RECORD) return ErrorValue{DISP_E_BADVARTYPE};
   void* there = nullptr;
   if (type == VT_VARIANT && SUCCEEDED(SafeArrayPtrOfIndex(array, &index, &there))) {
-    // Texts and numbers are read where they are: no code of the host's runs meanwhile that could change them.
+    // Texts and numbers are read in place, as no host code runs meanwhile.
     const auto& variant = *static_cast<const VARIANT*>(there);
     if (variant.vt == VT_BSTR || OwnedVariant::holds_nothing(variant.vt)) return scalar_from(variant);
   }
@@ -69,15 +68,15 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& re
   if (type == VT_DECIMAL) target = &item->decVal;
   if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
   if (FAILED(get_element(array, index, target))) throw std::bad_alloc();
-  if (type != VT_VARIANT) item->vt = type;  // after the content: a DECIMAL's structure covers this place
+  if (type != VT_VARIANT) item->vt = type;  // last: DECIMAL overlays vt
   return value_inside(*item, &reading);
 }
 
-// Null for an array without bounds, and bounds without elements are what is left of one that was destroyed.
+// Null for an array without dimensions and for one whose data was destroyed (SafeArrayDestroyData).
 bool has_elements(SAFEARRAY* array) { return array != nullptr && array->pvData != nullptr; }
 
-// An array that was made without its type still tells what there is to free; of plain content the variant alone knows
-// what it is. VT_EMPTY where the two do not go together.
+// The element type. SafeArrayAllocDescriptor does not record it: then the feature flags tell strings, objects and
+// variants, and the variant's type tells the rest. VT_EMPTY where the two contradict.
 VARTYPE type_of_elements(SAFEARRAY* array, VARTYPE told) {
   VARTYPE type = VT_EMPTY;
   if (SUCCEEDED(SafeArrayGetVartype(array, &type))) return type;
@@ -156,19 +155,19 @@ SAFEARRAY* array_of(const VARIANT& variant) {
   return variant.pparray != nullptr ? *variant.pparray : nullptr;
 }
 
-// An element of a typed array is the content of a variant of that type.
+// Converts to the element type through a variant.
 void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value) {
   OwnedVariant element, converted;
   put_value(*element.get(), value);
   void* content = element.get();
   if (type != VT_VARIANT) {
     if (FAILED(convert_content(*converted.get(), *element, type, LOCALE_USER_DEFAULT))) return;
-    // Texts and objects are handed over as the pointer, everything else by its address.
+    // SafeArrayPutElement takes strings and objects as the pointer itself, everything else by address.
     const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
     content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
     if (type == VT_DECIMAL) content = &converted->decVal;
   }
-  const HostFloatingPoint host;  // an object that was there is released
+  const HostFloatingPoint host;  // Release of the host's old object
   if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
 }
 
@@ -247,7 +246,7 @@ HRESULT convert_content(VARIANT& to, const VARIANT& from, VARTYPE type, LCID loc
   };
   const bool to_object = type == VT_DISPATCH || type == VT_UNKNOWN;
   if ((from.vt & ~VT_BYREF) != VT_DISPATCH || to_object) return convert(from);
-  // Asked for here, since the system would do both under one floating-point state.
+  // Fetched first: the object's code needs the host's floating-point state, the conversion behind it the default one.
   OwnedVariant value;
   const HRESULT asked = default_property(*value.get(), from);
   return SUCCEEDED(asked) ? convert(*value) : asked;

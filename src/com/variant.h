@@ -1,4 +1,4 @@
-// Values as VARIANTs.
+// Conversion between Value and VARIANT.
 #pragma once
 
 #include "base/value.h"
@@ -19,11 +19,11 @@ class OwnedVariant {
   VARIANT* get() { return &held_; }
   const VARIANT& operator*() const { return held_; }
   VARIANT* operator->() { return &held_; }
-  // Whether what a variant of this type holds is all in the variant itself.
+  // Whether a variant of this type owns no string, object or array.
   static bool holds_nothing(VARTYPE type) noexcept {
     return type <= VT_DATE || type == VT_ERROR || type == VT_BOOL || (type >= VT_I1 && type <= VT_UINT);
   }
-  // Gives the content away; what stays is Empty.
+  // Releases ownership of the content; leaves VT_EMPTY.
   VARIANT release() noexcept {
     const VARIANT content = held_;
     VariantInit(&held_);
@@ -33,35 +33,36 @@ class OwnedVariant {
  private:
   void let_go() noexcept;
 
-  VARIANT held_{};  // all zero, so that a typed variant is releasable before its content comes
+  VARIANT held_{};  // zeroed, so that VariantClear is safe once the type is set
 };
 
-// An object that a host handed over, kept alive by the value that holds it.
+// An object of the host in a Value, which holds a reference.
 struct DispatchObject : Object {
   explicit DispatchObject(IUnknown* held) : object(held) {}
   HostPtr<IUnknown> object;
 };
 
-// A deep copy of what the variant holds or refers to.
+// A deep copy; by-reference variants are dereferenced.
 inline HRESULT copy_content(VARIANT& to, const VARIANT& from) noexcept {
   const HostFloatingPoint host;
   return VariantCopyInd(&to, const_cast<VARIANT*>(&from));
 }
 
-// Converts as Visual Basic hosts do. An object stands for the value of its default property.
+// VariantChangeType by the rules of Visual Basic; an object converts by its default property.
 HRESULT convert_content(VARIANT& to, const VARIANT& from, VARTYPE type, LCID locale) noexcept;
 
-// Variants of variants by reference lead to the value in the end; null for one that leads nowhere or into itself.
+// Follows VT_BYREF | VT_VARIANT; null for a null pointer and for a variant that refers to itself.
 const VARIANT* innermost(const VARIANT& variant) noexcept;
 
-// By-reference variants count as what they refer to. A kind of variant that no value stands for is an ErrorValue.
+// By-reference variants are dereferenced. Types that Value does not have become an ErrorValue.
 Value value_from(const VARIANT& variant);
 
-// Writes the value into the variant, which is Empty. Throws when there is no memory.
+// Writes the value into the variant, which must be VT_EMPTY. Throws when out of memory.
 void put_value(VARIANT& variant, const Value& value);
 
-// Puts the elements of an array value into the array that the variant holds or refers to, which keeps its type and
-// bounds. Only where both have the same bounds; an element of a type that its value does not convert to stays as it is.
+// Copies the elements of an array value into the variant's array (by value or by reference), which keeps its element
+// type and bounds. Both must have the same bounds; elements whose value does not convert to the element type stay as
+// they are.
 void put_elements(VARIANT& variant, const Value& value);
 
 }  // namespace qvr::com

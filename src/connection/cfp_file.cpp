@@ -21,7 +21,7 @@ constexpr Text ConnectionParameters::*kTextLines[] = {
     &ConnectionParameters::OtrosParametros,
 };
 
-// With its CR: far beyond any field, and short enough that a file of another kind is given up early.
+// Including its CR: a limit, so that a large file of another kind is not read into memory.
 constexpr std::size_t kLongestLine = std::size_t{16} << 20;
 
 class LineReader {
@@ -62,7 +62,7 @@ class LineReader {
   std::size_t at_ = 0, filled_ = 0;
 };
 
-// The whole text as a 32-bit integer; the locale plays no part in a file that travels.
+// The whole text as a 32-bit integer, independent of the locale: files are copied between machines.
 Engine engine_from(const Text& text) {
   const double number = number_prefix(text);
   if (!(number >= INT32_MIN && number <= INT32_MAX) || decimal(static_cast<std::int32_t>(number)) != text) {
@@ -71,9 +71,9 @@ Engine engine_from(const Text& text) {
   return Engine{static_cast<std::int32_t>(number)};
 }
 
-// The texts of all lines one behind the other; it holds the passwords.
+// The concatenated texts of all lines; contains the passwords.
 struct CheckText {
-  // At once: a text that grows leaves its beginnings behind.
+  // Reserved at once: reallocation would leave copies of passwords in freed memory.
   explicit CheckText(const ConnectionParameters& parameters) {
     const Text engine = decimal(number_of(parameters.MotorBD));
     std::size_t size = engine.size();
@@ -96,7 +96,7 @@ std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, s
                                              TextView key) {
   LineReader lines(file);
   const auto next_line = [&] { return encoding.from_system_page(lines.next()); };
-  // What a refused file had to say is not left in memory.
+  // Wipe what was decrypted of a file that is rejected.
   PassingParameters read;
   ConnectionParameters& parameters = read.parameters;
   parameters.MotorBD = engine_from(protection.Descifrar(key, next_line()));
@@ -113,7 +113,7 @@ std::string cfp_bytes(const ConnectionParameters& parameters, Files& encoding, s
   std::string bytes;
   const auto append_line = [&](TextView text) {
     const std::string line = encoding.to_system_page(protection.Cifrar(key, text));
-    if (line.size() >= kLongestLine) throw RuntimeFailure(failure_number::kFile);  // it could not be read again
+    if (line.size() >= kLongestLine) throw RuntimeFailure(failure_number::kFile);  // reading would reject it
     bytes.append(line).append("\r\n");
   };
   append_line(decimal(number_of(parameters.MotorBD)));

@@ -1,4 +1,4 @@
-// The ".cfp" file: ten protected lines, the last a check over the other nine.
+// The ".cfp" file: ten protected lines, the last of which checks the other nine.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,7 @@ namespace qvr {
 Text cfp_path(TextView folder, TextView name);
 
 // The parameters, without Archivo; nothing when the check line does not match. Throws when there are fewer than ten
-// lines, one is of absurd length, the first is no number, or the protection refuses one.
+// lines, one is longer than 16 MiB, the first is no number, or the protection cannot decrypt one.
 std::optional<ConnectionParameters> read_cfp(InputFile& file, Files& encoding, services::TextProtection& protection,
                                              TextView key);
 

@@ -9,7 +9,7 @@ struct Account {
   TextView user, password;
 };
 
-// The string for these parameters with this account. A password is never written without its user.
+// The connection string with this account. A password is written only together with a user.
 Text connection_string(const ConnectionParameters& parameters, Account account);
 
 }  // namespace qvr

@@ -36,7 +36,7 @@ bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept 
 
 bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
   const bool done = or_default(false, [&] {
-    // Copies first: a caller may pass this object's own fields, which are emptied now.
+    // Copied first: the arguments may refer to this object's own fields, which are cleared next.
     const Text key(ID), path = cfp_path(R, A);
     Text name(A);
     clear();
@@ -58,7 +58,7 @@ bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
     ThreadState& state = thread_state();
     const auto file = state.platform().files.create(cfp_path(R, A));
     if (fields_.Archivo.empty()) fields_.Archivo = A;
-    // All that can fail first, written after: a protection that fails leaves the file that is there alone.
+    // Everything that can fail comes before the first write: a protection that fails leaves the existing file as it is.
     file->write(cfp_bytes(fields_, state.platform().files, state.text_protection(), ID));
     file->close();
     return true;

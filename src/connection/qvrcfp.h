@@ -1,5 +1,4 @@
-// The connection parameters of an application: kept in a protected ".cfp" file, turned into connection strings, and
-// their engine's way of writing SQL.
+// The connection parameters of an application: its protected ".cfp" file, connection strings, and SQL for its engine.
 #pragma once
 
 #include <cstdint>
@@ -24,16 +23,16 @@ struct ConnectionParameters {
   Text OtrosParametros;
 };
 
-// Overwrites both passwords and empties all.
+// Wipes both passwords and clears all fields.
 void wipe(ConnectionParameters& parameters) noexcept;
 
-// Parameters on their way, whose passwords are overwritten at its end.
+// Temporary parameters, whose passwords are wiped on destruction.
 struct PassingParameters {
   ConnectionParameters parameters;
   ~PassingParameters() { wipe(parameters); }
 };
 
-// No member fails but two that say so: what cannot be done is false or an empty result.
+// Except for two, the members do not fail: false or an empty result tells of a failure.
 class QVRcfp {
  public:
   QVRcfp() noexcept;
@@ -41,14 +40,14 @@ class QVRcfp {
   QVRcfp(const QVRcfp&) = delete;
   QVRcfp& operator=(const QVRcfp&) = delete;
 
-  // Takes these parameters over as they are, the engine unchecked; Archivo stays as it was, whatever the argument has.
+  // Sets these parameters, without checking the engine; `Archivo` of the argument is ignored and keeps its value.
   bool Asignar(TextView ID, const ConnectionParameters& parameters) noexcept;
 
   // Loads folder R's file A (named without ".cfp"). False, and everything empty, when it is missing or damaged or was
   // written with another identification.
   bool Crear(TextView ID, TextView R, TextView A) noexcept;
 
-  // Writes the parameters to that file. False when there are none or the file cannot be written.
+  // Writes the parameters to that file. False without parameters or when the file cannot be written.
   bool Guardar(TextView ID, TextView R, TextView A) noexcept;
 
   // OLE DB connection string with the administrator's account (the client's when there is no administrator) or the

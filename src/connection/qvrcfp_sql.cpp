@@ -1,4 +1,4 @@
-// The members that write SQL: each names its failure policy and asks the dialect with this object's engine.
+// The members that write SQL: each names its failure policy and calls the dialect with this object's engine.
 #include "base/failure.h"
 #include "connection/qvrcfp.h"
 #include "dialect/clauses.h"
@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::int32_t kParameterImproperlyDefined = 3708;
 
-// Most members: the text, or nothing when it could not be written. Never "Null" in the place of a value that is one:
-// a statement that lacks a piece is refused by the engine, one with a Null would lose the value.
+// Most members: the text, or the empty text on failure. Never "Null" instead of a value: engines reject a statement
+// with a missing piece, but would store the Null.
 template <class Body>
 Text or_no_text(Body&& body) noexcept {
   return or_default(Text(), std::forward<Body>(body));

@@ -8,7 +8,7 @@
 namespace qvr {
 namespace {
 
-// The number text keeps the type's own precision where the value is a number.
+// A number is written in the precision of its type; everything else converts to Double first.
 Text number_text(const Value& value) {
   if (const auto* held = value.as<float>()) return shortest_number(*held);
   if (const auto* held = value.as<Currency>()) return shortest_number(*held);

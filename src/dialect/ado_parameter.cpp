@@ -25,7 +25,7 @@ struct TypeRow {
   Setting sql_server, oracle;
 };
 
-// Oracle counts the size of its texts in bytes, hence the double.
+// Oracle counts the size of texts in bytes, hence two for each character.
 constexpr TypeRow kTypes[] = {
     {u"INT", {DataType::Integer, 10}, {DataType::Numeric, 15, true}},
     {u"BIT", {DataType::Boolean}, {DataType::Numeric, 15, true}},

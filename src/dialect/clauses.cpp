@@ -13,7 +13,7 @@ Text row_limit(Engine engine, std::int32_t count, bool prepend_and, TextView ope
   return join({prepend_and ? u" And " : u" ", opener, decimal(count), closer});
 }
 
-// The pieces of a value map around its elements.
+// CASE and DECODE: the pieces around and between the elements.
 struct CaseForm {
   TextView opener, before_value, before_result, before_default, closer;
 };

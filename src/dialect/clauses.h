@@ -1,5 +1,5 @@
-// Pieces of clauses as each engine writes them. Most carry a blank at both ends, so that callers paste them together
-// without adding any. A number that is no engine gives the empty text, without a message.
+// Pieces of clauses by engine. Most have a blank at both ends, so that callers can concatenate them. The empty text for
+// an unknown engine, without a message.
 #pragma once
 
 #include <cstdint>
@@ -9,35 +9,34 @@
 
 namespace qvr::dialect {
 
-// The limit of rows that stands before the select list (" TOP 10 "); empty where the engine has none there, and for a
-// limit below 1.
+// The limit of rows before the select list (" TOP 10 "); empty for an engine without TOP and for a limit below 1.
 Text ClausulaTop(Engine engine, std::int32_t count);
 
-// The limit of rows as a condition of Oracle; empty for the other engines and for a limit below 1. `prepend_and` writes
-// " And " in front. The two differ in the parentheses.
+// The limit of rows as a condition of Oracle (RowNum); empty for the other engines and for a limit below 1.
+// `prepend_and` writes " And " in front. The two differ in the parentheses.
 Text sqlRowNum(Engine engine, std::int32_t count, bool prepend_and);
 Text CondicionRowNum(Engine engine, std::int32_t count, bool prepend_and);
 
-// The name of a column in the result, to stand behind its expression; no blank at the end.
+// The alias of a column, to be appended to its expression; no trailing blank.
 Text ClausulaAlias(Engine engine, TextView alias);
 
-// What stands around an alias, for those who write many; nothing for a number that is no engine.
+// The pieces around an alias, for callers that write many; nothing for an unknown engine.
 struct AliasQuotes {
   TextView opener, closer;
   bool known() const { return !opener.empty(); }
 };
 AliasQuotes alias_quotes(Engine engine);
 
-// The elements joined by the engine's concatenation operator (none for a number that is no engine). Throws failure 5
-// without elements, 9 for an array of no or several dimensions, both meant for the caller; 13 or 94 for what is no
-// array or has no text.
+// The elements joined by the engine's concatenation operator (none for an unknown engine). Throws CallerFailure 5
+// without elements and 9 for an array of no or several dimensions; RuntimeFailure 13 or 94 for what is no array or does
+// not convert to text.
 Text sqlConcatenar(Engine engine, const Value& Cadenas);
 
-// The field, or the alternative where it is null.
+// The field, or the alternative where the field is null.
 Text sqlEsNulo(Engine engine, TextView field, TextView alternative);
 
-// The field's value mapped by pairs of (value, result), an odd last element being the default. Jet has no such
-// expression and gets a message box. Throws for what is no array, has no elements or holds what has no text.
+// CASE: the field's value mapped by pairs of (value, result); an odd last element is the default. A message box for
+// Jet, which has no CASE. Throws for what is no array, has no elements, or has one that does not convert to text.
 Text sqlCASE(Engine engine, TextView field, const Value& pairs);
 
 }  // namespace qvr::dialect

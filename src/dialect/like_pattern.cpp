@@ -25,7 +25,7 @@ Text PatronLikeMotor(Engine engine, TextView text, bool leading, bool trailing) 
     pattern = replace_all(pattern, u"%", escape + u"%");
     pattern = replace_all(pattern, u"_", escape + u"_");
   }
-  // Only now: the user's own "%" and "_" are marked already, these are meant.
+  // Only after escaping the user's own "%" and "_".
   std::ranges::replace(pattern, u'*', u'%');
   std::ranges::replace(pattern, u'?', u'_');
   const TextView national = engine == Engine::SqlServer ? u"N" : u"";

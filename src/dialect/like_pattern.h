@@ -1,15 +1,15 @@
-// Patterns for LIKE from what a user writes with "*" and "?".
+// LIKE patterns from the wildcards "*" and "?".
 #pragma once
 
 #include "base/engine.h"
 
 namespace qvr::dialect {
 
-// The quoted pattern with a trailing blank, and an ESCAPE clause where the text has characters that LIKE would take for
-// wildcards. Blanks at the text's edges are dropped; the flags add "*" where there is none yet. No engine is unknown.
+// The quoted pattern with a trailing blank, and an ESCAPE clause where the text contains LIKE's own wildcards. The text
+// is trimmed; the flags add "*" where there is none yet. Any engine number is accepted.
 Text PatronLikeMotor(Engine engine, TextView text, bool leading, bool trailing);
 
-// The first of the candidates for an escape character that the text does not hold; empty when it holds them all.
+// The first candidate for the escape character that does not occur in the text; empty when all of them do.
 Text CaracterEscapeLibre(TextView text);
 
 }  // namespace qvr::dialect

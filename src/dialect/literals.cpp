@@ -19,13 +19,13 @@ struct DateForm {
   TextView client_mask, oracle_mask;
 };
 
-// The openers of SQL Server have blanks inside, the closer has none; Oracle's form has them outside. Callers paste
-// these texts together without adding any.
+// The blanks are part of the contract, as callers concatenate these texts without adding any: SQL Server has them
+// inside the opening delimiter, Oracle outside.
 constexpr DateForm kDate{{u"#", u"{ d '", u" TO_DATE('"}, u"yyyy-mm-dd", u"YYYY-MM-DD"};
 constexpr DateForm kTime{{u"#", u"{ t '", u" TO_DATE('"}, u"hh:nn:ss", u"HH24:MI:SS"};
 constexpr DateForm kDateTime{{u"#", u"{ ts '", u" TO_DATE('"}, u"yyyy-mm-dd hh:nn:ss", u"YYYY-MM-DD HH24:MI:SS"};
 
-// A date, or a text that the locale reads as one; a number is none, nor is what no calendar holds.
+// A date, or a text that the locale reads as one; nothing for numbers and for dates out of range.
 std::optional<Date> as_date(const Value& value) {
   std::optional<Date> date;
   if (const Date* held = value.as<Date>()) date = *held;
@@ -50,11 +50,11 @@ Text date_literal(Engine engine, const DateForm& form, const Value& value) {
 Text text_literal(Engine engine, const Text& text) {
   constexpr std::size_t kLongestInOracle = 4000;
   if (equal_no_case(text, u"AhoraSQL")) return AhoraSQL(engine);
-  // Cut before the quotes are doubled: the engine counts the characters of the value, not those of the literal.
+  // Truncated before the quotes are doubled: the engine's limit counts the characters of the value.
   return ComillasSQL(engine == Engine::Oracle ? TextView(text).substr(0, kLongestInOracle) : TextView(text));
 }
 
-// A blank in the place of the sign.
+// A leading blank in the place of the sign, as Str() of Visual Basic has it.
 Text signed_number(Text digits) { return digits.starts_with(u'-') ? digits : u" " + digits; }
 
 struct Literal {
@@ -66,7 +66,7 @@ struct Literal {
   Text operator()(std::uint8_t number) const { return signed_number(decimal(number)); }
   Text operator()(std::int16_t number) const { return signed_number(decimal(number)); }
   Text operator()(std::int32_t number) const { return signed_number(decimal(number)); }
-  // No engine can write what is no finite number.
+  // No engine has a literal for infinities and NaN.
   Text operator()(float number) const {
     return std::isfinite(number) ? signed_number(shortest_number(number)) : Text(kNull);
   }
@@ -75,7 +75,7 @@ struct Literal {
   }
   Text operator()(Currency number) const { return signed_number(shortest_number(number)); }
   Text operator()(const Decimal& number) const { return signed_number(shortest_number(number)); }
-  // Everything else is written as if nothing had been given, integers wider than the contract's among it.
+  // Null for all other types, 64-bit integers among them.
   Text operator()(const auto&) const { return Text(kNull); }
 };
 

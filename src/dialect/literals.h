@@ -6,19 +6,19 @@
 
 namespace qvr::dialect {
 
-// In quotes, the text's own quotes doubled; the same for every engine.
+// A string literal, embedded quotes doubled; the same for every engine.
 Text ComillasSQL(TextView Cadena);
 
-// The literal of any value, chosen by its type; "Null" for what has none.
+// The literal of any value, by its type; "Null" for a value without a literal.
 Text ExpSQL(Engine engine, const Value& Valor);
 
-// Date literals; "Null" for a value that is no date and no text that the locale reads as one.
+// Date literals; "Null" for a value that is neither a date nor a text that the locale reads as a date.
 Text FechaSQL(Engine engine, const Value& Fecha);
 Text HoraSQL(Engine engine, const Value& Fecha);
 Text FechaHoraSQL(Engine engine, const Value& Fecha);  // also the texts "Ahora" and "AhoraSQL"
-Text FechaSQLv(Engine engine, const Value& Fecha);     // the narrowest of the three
+Text FechaSQLv(Engine engine, const Value& Fecha);     // date, time or both, by what the value has
 
-// The value formatted with the client's mask, between the engine's delimiters for dates.
+// The date formatted by the mask, between the engine's date delimiters.
 Text LiteralFechaMotor(Engine engine, const Value& Fecha, TextView client_mask, TextView oracle_mask);
 
 Text LogicoSQL(Engine engine, bool Valor);
@@ -30,7 +30,7 @@ Text sqlEsTrue(TextView Campo);
 Text sqlEsFalse(TextView Campo);
 Text sqlFalse();
 
-// The number that the locale reads in the text, in single precision; 0 when it reads none.
+// Parses a number by the locale, in single precision; 0 when it is none.
 float NumeroDesdeTexto(TextView text) noexcept;
 
 }  // namespace qvr::dialect

@@ -8,8 +8,7 @@
 namespace qvr::dialect {
 namespace {
 
-// ADO's parameter for each element: 0 is the return value. By the element's own index, so that a zero-based array
-// begins with the first real parameter.
+// The ADO parameter of an element. Parameter 0 is the return value, so that element i is parameter i + 1.
 std::int32_t parameter_of(const Array& list, std::size_t position) {
   const std::int64_t index = list.lower + static_cast<std::int64_t>(position) + 1;
   if (index > INT32_MAX) throw RuntimeFailure(failure_number::kOverflow);

@@ -7,8 +7,8 @@
 namespace qvr::dialect {
 namespace {
 
-// Statements begin with what stands before the first element and lose the separator behind the last one. Without
-// elements they so lose the end of their own beginning ("... VALUES)"): the engine refuses that, as it should.
+// The last separator is cut off at the end. Without elements this cuts the end of the opening instead ("... VALUES)"):
+// the contract's text, which every engine rejects.
 void drop_last(Text& text, std::size_t units) { text.resize(text.size() - units); }
 
 // Each field's name with its index.

@@ -12,7 +12,7 @@ namespace {
 
 struct Relation {
   TextView code;
-  TextView sql_server;  // between the columns; empty where the engine rejects the code
+  TextView sql_server;  // join operator between the columns; empty for a code that SQL Server does not have
   TextView oracle, oracle_at_the_end;
 };
 

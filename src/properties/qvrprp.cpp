@@ -21,7 +21,7 @@ void tell_unexpected_type(TextView type, TextView name) {
 
 QVRprp::QVRprp() noexcept { InicializarComun(); }
 
-// Out of reach first: the host's objects among the values may look into this list as they end.
+// Emptied before the values are destroyed: releasing a host's object can re-enter this list.
 void QVRprp::Borra() noexcept { const std::vector<Row> leaving = std::exchange(rows_, {}); }
 
 void QVRprp::CreaPropiedad(TextView Tipo, TextView Nombre, const Value& Valor) noexcept {
@@ -56,7 +56,7 @@ void QVRprp::Item(const Value& NombreOIndice, const Value& Valor) noexcept {
     const auto position = rows_.empty() ? std::nullopt : position_of(NombreOIndice);
     if (!position) return false;
     Value changed = Valor;
-    // The old value goes last: it may be the host's object, whose end may look into this list.
+    // The old value is destroyed last: releasing a host's object can re-enter this list.
     std::swap(rows_[*position].value, changed);
     return true;
   });

@@ -9,19 +9,19 @@
 
 namespace qvr {
 
-// No member fails. Positions count from 0 in the order of creation.
+// The members do not fail. Positions count from 0 in the order of creation.
 class QVRprp {
  public:
   QVRprp() noexcept;
 
   void Borra() noexcept;
 
-  // Adds a property behind the others, whatever their names. Types "T", "N", "F", "L" in any case; another one is told
-  // in a message box and adds nothing.
+  // Appends a property, also with a name that exists already. Types "T", "N", "F", "L" in any case; for any other a
+  // message box, and nothing is added.
   void CreaPropiedad(TextView Tipo, TextView Nombre, const Value& Valor) noexcept;
 
-  // A property by position, when the argument is numeric, or by name in any case, the first that has it. Reading what
-  // is not there gives Empty, writing it does nothing.
+  // A property by position, if the argument is numeric, else by name without regard to case; the first of equal names.
+  // Where there is none, reading gives Empty and writing does nothing.
   Value Item(const Value& NombreOIndice) const noexcept;
   void Item(const Value& NombreOIndice, const Value& Valor) noexcept;
 

@@ -1,4 +1,4 @@
-// An order made by clicks on columns.
+// The order that a user builds by clicking column headers.
 #pragma once
 
 #include <cstdint>
@@ -14,15 +14,14 @@ class AddedOrder {
   bool empty() const { return clicks_.empty(); }
   void clear() noexcept { clicks_.clear(); }
 
-  // Another click: on the column clicked last it turns the direction round, on any other it makes that column the
-  // first.
+  // A click: on the first column of the order it reverses the direction, any other column becomes the first.
   void click(std::int16_t column, bool ascending_at_first);
 
   // "2 DESC,5": positions in the select list, the last clicked first.
   Text list() const;
 
-  // "5,-2": columns as they were clicked, descending ones negative; and back, nothing for what is no such text or names
-  // a column beyond the last.
+  // "5,-2": columns in the order of the clicks, descending ones negative; and back, nothing for an invalid text or
+  // column.
   Text clicks() const;
   static std::optional<AddedOrder> from_clicks(TextView text, std::size_t columns);
 
@@ -32,7 +31,7 @@ class AddedOrder {
     bool ascending;
   };
 
-  // One for each column: an older click has no effect left.
+  // One click per column: earlier ones have no effect.
   std::vector<Click> clicks_;
 };
 

@@ -48,7 +48,7 @@ bool cSQL20::build_select(const Value& pairs) noexcept {
     fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
     fields_.columns_at = fields_.select.size();
     fields_.columns.append_select_list(fields_.select, fields_.engine);
-    // Without columns what is cut is the end of the beginning; the engine refuses that, as it should.
+    // Without columns this cuts the end of the opening: the contract's text, which every engine rejects.
     if (fields_.columns.size() == 0) fields_.select.resize(fields_.select.size() - 2);
     return true;
   });

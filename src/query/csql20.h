@@ -1,4 +1,4 @@
-// A SELECT statement as its parts: those that it was created with beside what was added since.
+// A SELECT statement in parts: the original clauses and what was added since.
 #pragma once
 
 #include "base/engine.h"
@@ -9,21 +9,21 @@
 
 namespace qvr {
 
-// Unexpected failures are shown to the user in the library's error box; no member fails.
+// The members do not fail: failures are shown in a message box.
 class cSQL20 final : public iSQL20 {
  public:
   cSQL20() noexcept;
 
   Text Name() const noexcept;
 
-  // Members of this class only. The added HAVING is narrowed like the WHERE, with the same criterion.
+  // Members of this class only. HAVING is extended like WHERE, with the same criterion.
   bool AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept;
-  // New conditions as the query's own; what was added to the old ones goes.
+  // Replaces the original conditions and drops the added ones.
   void CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondicionHaving) noexcept;
-  // The current clauses, with their keyword or as conditions alone.
+  // The current clauses, with or without their keyword.
   Text ParteWhere(bool SoloCondicion) const noexcept;
   Text ParteHaving(bool SoloCondicion) const noexcept;
-  // The column's expression as it was given.
+  // The column's expression as given to `Crear`.
   Text ExpresionOriginal(TextView NombreCampoRS) const noexcept;
 
   Text CriterioActualCompleto() const noexcept override;
@@ -56,7 +56,8 @@ class cSQL20 final : public iSQL20 {
   void MotorBD(Engine value) noexcept override { fields_.engine = value; }
   Engine MotorBD() const noexcept override { return fields_.engine; }
 
-  // The texts of the members that are named behind them, for a union: it has to know when one could not be made. Throw.
+  // The texts of the members named in the comments, for unions. They throw: a union must not lack the text of one
+  // query.
   Text current_statement() const;                                     // SQLSinOrden
   Text original_statement() const;                                    // SQLOriginalSinOrden
   Text current_order_clause() const { return current_order(false); }  // ParteOrder
@@ -67,10 +68,10 @@ class cSQL20 final : public iSQL20 {
   struct Fields {
     Text name;
     Text select;                 // with keyword
-    std::size_t columns_at = 0;  // where the columns begin in it
+    std::size_t columns_at = 0;  // offset of the column list in it
     query::ColumnList columns;
-    Text from;      // with keyword and a blank at both ends
-    Text where;     // without keyword, as the others
+    Text from;      // with keyword, a blank at both ends
+    Text where;     // without keyword
     Text group_by;  // with keyword
     std::int16_t grouped = 0;
     Text having;
@@ -91,12 +92,12 @@ class cSQL20 final : public iSQL20 {
   Text current_having(bool condition_only) const;
   Text current_order(bool list_only) const;
 
-  // Append the clauses as they are now, and the statement up to the HAVING, to a text with room for them.
+  // Append the current clauses, or the statement up to HAVING, to a text with reserved capacity.
   void append_where(Text& statement, bool condition_only) const;
   void append_having(Text& statement, bool condition_only) const;
   void append_order(Text& statement, bool list_only) const;
   void append_statement(Text& statement) const;
-  // Units that the statement has at most.
+  // Upper bound of the statement's length, for reserve().
   std::size_t longest_statement() const;
 
   bool build_select(const Value& pairs) noexcept;
@@ -108,7 +109,7 @@ class cSQL20 final : public iSQL20 {
   bool extend(query::ConditionChain& chain, TextView condition, TextView criterion);
   std::size_t existing_column(TextView field) const;
   Fields read_definition(TextView text) const;
-  // Every field as in a new object, but for what belongs to the object's holder.
+  // Every field as in a new object, except those that belong to the object and not to the query.
   void clear_definition() noexcept;
 
   Fields fields_;

@@ -1,4 +1,4 @@
-// A query as text, whole or only what was added to it.
+// Serialisation of a query, whole or only what was added.
 #include <utility>
 
 #include "base/failure.h"
@@ -99,7 +99,7 @@ void cSQL20::clear_definition() noexcept {
 
 bool cSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
   clear_definition();
-  // The name in the report is the one that support staff know.
+  // The spelling of the member's name in the box is part of the contract.
   return or_shown(false, u"cSQL20", u"CreareDesdeTextoDefinicion", [&] {
     Fields read = read_definition(TextoDefinicion);
     read.tag = std::move(fields_.tag);

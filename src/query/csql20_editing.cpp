@@ -1,4 +1,4 @@
-// What is added to a query after its creation, taken away again or made part of it.
+// The members that add to a query, remove what was added or make it part of the original.
 #include <utility>
 
 #include "base/failure.h"
@@ -41,14 +41,14 @@ bool cSQL20::AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexc
 
 bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept {
   return or_default(false, [&] {
-    const Text type = TipoCampo(NombreCampoRS);  // tells the user when there is no such column
+    const Text type = TipoCampo(NombreCampoRS);  // shows the box for an unknown column
     if (type.empty()) return false;
     const std::size_t position = fields_.columns.position_of(NombreCampoRS);
     const query::Column column = fields_.columns.at(static_cast<std::int64_t>(position));
     const TextView label = Criterio.empty() ? column.field : Criterio;
     const auto found = query::interpret_search(fields_.engine, {column.expression, type[0]}, TextoBusqueda, label);
     if (!found) return false;
-    // In a grouped query the columns behind the grouped ones are totals: no WHERE can compare them.
+    // Columns behind the grouped ones are aggregates, which only HAVING can compare.
     const bool total = fields_.grouped > 0 && position > static_cast<std::size_t>(fields_.grouped);
     return total ? AmpliarCondicionHaving(found->condition, found->criterion)
                  : AmpliarCondicionWhere(found->condition, found->criterion);
@@ -81,7 +81,7 @@ void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) n
   if (RestaurarOrder) fields_.added_order.clear();
 }
 
-// The criterion stays: it still describes what was adopted.
+// The criterion stays, as it still describes the query.
 void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
   or_default(false, [&] {
     if (AdoptarWhere) {
@@ -103,7 +103,7 @@ void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool Adop
 bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
   return or_shown(false, kClass, u"AmpliarOrden", [&] {
     const TextView type = fields_.columns.at(NuevaColumna).type;
-    // Dates begin with the newest; memos cannot be sorted.
+    // The first click on a date sorts descending; memos cannot be sorted.
     if (!equal_no_case(type, u"M")) fields_.added_order.click(NuevaColumna, !equal_no_case(type, u"F"));
     return false;
   });
@@ -121,7 +121,7 @@ void cSQL20::TOP(std::int32_t value) noexcept {
   });
 }
 
-// A limit written into the WHERE by its author changes along, but does not go.
+// A ROWNUM limit inside the WHERE is changed along, but not removed: the contract has it so.
 void cSQL20::replace_top(std::int32_t value) {
   const Text old_mark = top_mark(fields_.top), new_mark = value > 0 ? top_mark(value) : Text(u" ");
   if (value > 0) {

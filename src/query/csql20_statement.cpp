@@ -1,4 +1,4 @@
-// The query's current and original texts, put together from the clauses that it holds.
+// The current and the original statement and its clauses.
 #include "base/failure.h"
 #include "dialect/clauses.h"
 #include "query/csql20.h"
@@ -9,7 +9,7 @@ namespace {
 
 constexpr TextView kClass = u"cSQL20";
 
-// At most, of keywords, joiners, blanks and the limit of rows.
+// Upper bound of keywords, joiners, blanks and the limit of rows.
 constexpr std::size_t kAroundClauses = 64;
 
 }  // namespace
@@ -28,7 +28,7 @@ void cSQL20::append_where(Text& statement, bool condition_only) const {
   statement += limit;
 }
 
-// "and" in small letters here and "And" in the WHERE: both are known to those who look for them.
+// "and" here and "And" in the WHERE: both spellings are part of the contract.
 void cSQL20::append_having(Text& statement, bool condition_only) const {
   const TextView original = fields_.having, added = fields_.added_having.text();
   const bool any_original = !is_blank(original), any_added = !is_blank(added);
@@ -46,7 +46,7 @@ void cSQL20::append_order(Text& statement, bool list_only) const {
   statement += order;
 }
 
-// One blank between all parts, also where a part is empty.
+// One blank between all parts, also where a part is empty: the contract.
 void cSQL20::append_statement(Text& statement) const {
   (statement += fields_.select) += u' ';
   (statement += fields_.from) += u' ';

@@ -12,7 +12,7 @@ constexpr std::size_t kDigits = 8;
 
 [[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kTypeMismatch); }
 
-// FNV-1a over both bytes of each unit: enough to notice an accident, no protection against a forger.
+// 32-bit FNV-1a over both bytes of each unit: detects accidental changes, not forgeries.
 Text check_digits(TextView text) {
   std::uint32_t hash = 0x811C9DC5;
   for (const char16_t unit : text) {
@@ -69,7 +69,7 @@ DefinitionReader::DefinitionReader(TextView text, TextView version) {
     if (!text.starts_with(kOpen) || close == TextView::npos || close < 5 || text[close - 2] != u'=') refuse();
     Field field{text.substr(2, close - 4), {}, text[close - 1]};
     text.remove_prefix(close + 2);
-    // The value goes on to the next mark: "<*" with anything but the "*" of an escape behind it.
+    // The value ends before the next mark: "<*" that is not followed by the "*" of an escape.
     std::size_t next = text.find(kOpen);
     while (next != TextView::npos && text.substr(next).starts_with(u"<**")) next = text.find(kOpen, next + 3);
     field.value = text.substr(0, next);

@@ -14,7 +14,7 @@
 
 namespace qvr::query {
 
-// The value with every "<*" made harmless, and back; nothing for a text that holds a mark.
+// Escapes every "<*" of a value, and back; nothing for a text with an unescaped mark.
 Text escaped_marks(TextView value);
 std::optional<Text> without_escapes(TextView text);
 
@@ -31,11 +31,11 @@ class DefinitionWriter {
   Text text_;
 };
 
-// Reads the fields in the order in which they were written. Each read throws failure 13 when the next field has
-// another name or type, or a value that is none of its type.
+// Reads the fields in the order in which they were written. Throws failure 13 when the next field has another name or
+// type, or an invalid value.
 class DefinitionReader {
  public:
-  // Throws failure 13 for a text of another version or one that is damaged.
+  // Throws failure 13 for another version and for a damaged text.
   DefinitionReader(TextView text, TextView version);
 
   bool next_is(TextView name) const;

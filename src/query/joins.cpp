@@ -31,7 +31,7 @@ TextView TablaDeCampo(TextView TablasFROM, TextView field) {
   for (std::size_t from = 0; from <= TablasFROM.size();) {
     const std::size_t comma = std::min(TablasFROM.find(u',', from), TablasFROM.size());
     const TextView item = trimmed(TablasFROM.substr(from, comma - from));
-    if (equal_no_case(item, qualifier)) return qualifier;  // also where an earlier item has it as its alias
+    if (equal_no_case(item, qualifier)) return qualifier;  // a table's own name wins over an alias of an earlier item
     if (aliased.empty() && has_alias(item, qualifier)) aliased = item;
     from = comma + 1;
   }
@@ -41,7 +41,7 @@ TextView TablaDeCampo(TextView TablasFROM, TextView field) {
 Text ConstruirJoins(TextView TablasFROM, const Value& RelacionTablas) {
   const Array& triples = dialect::list_in(RelacionTablas);
   Text joins;
-  std::size_t wrapped = 0;  // opening parentheses all stand at the very beginning
+  std::size_t wrapped = 0;  // all opening parentheses are at the very beginning
   const std::int64_t end = triples.lower + static_cast<std::int64_t>(triples.items.size());
   for (std::int64_t i = triples.lower; i < end; i += 3) {
     Text texts[3];

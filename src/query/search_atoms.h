@@ -1,4 +1,4 @@
-// A search as it was understood.
+// The syntax tree of a search: alternatives of atoms.
 #pragma once
 
 #include <variant>
@@ -12,7 +12,7 @@ namespace qvr::query {
 enum class Comparison { Equal, Different, Less, LessOrEqual, Greater, GreaterOrEqual };
 TextView sign_of(Comparison comparison);
 
-// A moment to the second, days counted as in a Date.
+// A point in time to the second; days as in Date.
 struct Moment {
   std::int32_t day = 0, second = 0;
   auto operator<=>(const Moment&) const = default;
@@ -21,13 +21,13 @@ struct Moment {
 struct IsNull {
   bool negated;
 };
-struct IsEmpty {  // an empty text, or none
+struct IsEmpty {  // an empty text or null
   bool negated;
 };
 struct CompareText {
   Comparison comparison;
   Operand operand;                  // without wildcards
-  bool and_what_begins_so = false;  // an upper bound that includes all that begins with it
+  bool and_what_begins_so = false;  // an upper bound that includes texts that begin with it
 };
 struct Like {
   bool negated;
@@ -37,7 +37,7 @@ struct CompareNumber {
   Comparison comparison;
   Text digits;  // with "." and "-"
 };
-// Against all moments from `from` to before `to`: a day, a minute or a second.
+// The half-open interval from `from` to `to`: a day, a minute or a second.
 struct CompareDate {
   Comparison comparison;
   Moment from, to;
@@ -45,13 +45,13 @@ struct CompareDate {
   bool with_seconds = false;
 };
 struct CompareTruth {
-  bool negated;  // and then what is null belongs to it
+  bool negated;  // null counts as different
   bool truth;
 };
 
 using Atom = std::variant<IsNull, IsEmpty, CompareText, Like, CompareNumber, CompareDate, CompareTruth>;
 
-// All of an alternative must hold, one of the alternatives.
+// Disjunctive normal form: all atoms of one of the alternatives hold.
 using Alternative = std::vector<Atom>;
 using Alternatives = std::vector<Alternative>;
 

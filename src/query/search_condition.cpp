@@ -65,7 +65,7 @@ class ConditionWriter {
 
   Text operator()(const IsNull& atom) const { return in_not(atom.negated, is_null()); }
 
-  // To Oracle an empty text is none.
+  // Oracle stores the empty text as null.
   Text operator()(const IsEmpty& atom) const {
     if (engine_ == Engine::Oracle) return in_not(atom.negated, is_null());
     const Text empty = join({expression_, like_only_ ? u" LIKE " : u"=", literal(u"")});

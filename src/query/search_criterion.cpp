@@ -12,7 +12,7 @@ namespace {
 Text in_quotes(TextView text) {
   Text quoted = u"\"";
   for (const char16_t unit : text) {
-    if (is_double_quote(unit)) quoted += unit;  // one of two
+    if (is_double_quote(unit)) quoted += unit;  // doubled
     quoted += unit;
   }
   return quoted += u'"';
@@ -32,14 +32,14 @@ bool holds_word_that_connects(TextView text) {
   return false;
 }
 
-// Whether a part of a pattern would be read as something else than itself between single quotes.
+// Whether a part of a pattern inside single quotes needs double quotes to be read back as itself.
 bool needs_quotes_in_pattern(TextView part) {
   const bool blank = part.find(u' ') != TextView::npos;
   return part.find_first_of(u"*?;") != TextView::npos || holds_any(part, is_double_quote) ||
          (blank && (part.find_first_of(u"&|") != TextView::npos || holds_any(part, is_single_quote)));
 }
 
-// The same for a value behind an operator.
+// The same for the operand of an operator.
 bool needs_quotes_as_value(TextView value) {
   const bool blank = value.find(u' ') != TextView::npos;
   if (value.empty() || value.front() == u' ' || value.back() == u' ' || is_single_quote(value.front())) return true;
@@ -49,7 +49,7 @@ bool needs_quotes_as_value(TextView value) {
   return blank && (value.find_first_of(u"<>=!") != TextView::npos || holds_word_that_connects(value));
 }
 
-// The parts between the wildcards, each in double quotes where it needs them.
+// Quotes the parts between the wildcards where necessary.
 Text shown_pattern(const Operand& pattern) {
   Text shown, part;
   const auto finish = [&] {

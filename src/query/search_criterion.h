@@ -1,4 +1,4 @@
-// A search in words for the user, in the thread's language, such that the words can be typed again.
+// Writes a search as a text for the user, in the thread's language. Typing that text gives the same search.
 #pragma once
 
 #include "query/search_atoms.h"

@@ -12,7 +12,7 @@ bool is_blank_like(char16_t unit) {
 
 bool is_word_unit(char16_t unit) { return unit != u' ' && unit != u';' && unit != u'&' && unit != u'|'; }
 
-// Signs that are no word by themselves. Wildcards are not among them.
+// Punctuation, which alone is not a word; wildcards excluded.
 bool is_punctuation(char16_t unit) {
   return (unit > 0x20 && unit < 0x7F && !is_digit(unit) && fold(unit) == unit && !(unit >= u'A' && unit <= u'Z')) ||
          (unit >= 0x2010 && unit <= 0x2027);
@@ -69,7 +69,7 @@ Operand Operand::read(TextView typed, bool single_quoted) {
   }
   Operand operand;
   operand.quoted_nothing_ = whole && typed.empty();
-  bool closed = true;  // once a quote is never closed, none behind it is
+  bool closed = true;  // once one quote is unclosed, so are all later ones; avoids quadratic searching
   for (std::size_t i = 0; i < typed.size();) {
     const std::size_t end = closed && is_double_quote(typed[i]) ? end_of_double_quoted(typed, i) : TextView::npos;
     if (end == TextView::npos) {
@@ -80,7 +80,7 @@ Operand Operand::read(TextView typed, bool single_quoted) {
     operand.quoted_nothing_ = operand.quoted_nothing_ || end == i + 2;
     for (++i; i < end - 1; ++i) {
       operand.add(typed[i], true);
-      if (is_double_quote(typed[i])) ++i;  // the second of two
+      if (is_double_quote(typed[i])) ++i;  // skips the second of a doubled quote
     }
     i = end;
   }

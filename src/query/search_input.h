@@ -1,4 +1,4 @@
-// What a user typed, made ready for reading: blanks, quotes and words.
+// Lexical rules of the search box: blanks, quotes and words.
 #pragma once
 
 #include <vector>
@@ -7,24 +7,24 @@
 
 namespace qvr::query {
 
-// Control characters and no-break blanks as blanks, none at the edges.
+// Replaces control characters and no-break spaces by blanks, and trims.
 Text normalised_search(TextView typed);
 
 bool is_double_quote(char16_t unit);  // also the curly ones
 bool is_single_quote(char16_t unit);
 
-// Where the quoted part that begins at `at` ends, behind its closing quote; npos when it is never closed. Two quotes
-// side by side within it are one.
+// The position behind the closing quote of the quoted part that begins at `at`; npos when it is unclosed. A doubled
+// quote inside is an escaped one.
 std::size_t end_of_double_quoted(TextView text, std::size_t at);
 
-// Whether the word stands there by itself, and in any case.
+// Whether the word occurs there as a whole word, without regard to case.
 bool word_at(TextView text, std::size_t at, TextView word);
 
 inline constexpr std::size_t kLongestOperand = 1000;
 // Two of them, or one in which all are double quotes and doubled, with what may stand around: "<> est comme '*"..."*'".
 inline constexpr std::size_t kLongestPiece = 2 * kLongestOperand + 20;
 
-// A text that a user gave as a value: which of its units were quoted and so stand for themselves.
+// An operand, and which of its characters were quoted and so are literal.
 class Operand {
  public:
   // With double quotes anywhere, and with `single_quoted` what is between single quotes around the whole of it, where
@@ -38,15 +38,15 @@ class Operand {
   bool has_wildcard() const;
   bool only_stars() const;  // at least one, and nothing else
   bool any_quoted() const;
-  // More than people type. A star at either end does not count, nor do quotes: what is shown may have them where what
-  // was typed had none, and can be typed again.
+  // Whether it exceeds the limit. Stars at the ends and quotes do not count: the criterion may have them where the
+  // search had none, and has to be accepted when it is typed.
   bool too_long() const;
 
-  // Its words, quoted blanks being part of one; punctuation by itself is none unless there is nothing else.
+  // The words; quoted blanks do not separate them. Punctuation alone is a word only if there is no other.
   std::vector<Operand> words() const;
   void append_wildcard(char16_t wildcard);
   void prepend_star();
-  // Without a wildcard star at its end; false when there is none.
+  // Removes a trailing wildcard star; false when there is none.
   bool drop_last_star();
 
  private:
@@ -54,7 +54,7 @@ class Operand {
 
   Text text_;
   std::vector<bool> quoted_;
-  bool quoted_nothing_ = false;  // "" was there: an empty value, not a missing one
+  bool quoted_nothing_ = false;  // the operand is "", an empty value, not a missing one
 
  public:
   bool given() const { return !text_.empty() || quoted_nothing_; }

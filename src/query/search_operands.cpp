@@ -10,12 +10,12 @@
 namespace qvr::query {
 namespace {
 
-constexpr std::size_t kMostDigits = 28;  // the longest numbers that all engines read
+constexpr std::size_t kMostDigits = 28;  // the precision that all engines support
 constexpr std::int32_t kSecondsPerDay = 86400;
 
 Locale& locale() { return thread_state().platform().locale; }
 
-// Without blanks and signs of currency.
+// Removes blanks and currency symbols.
 Text bare_number(TextView typed) {
   Text bare = replace_all(typed, u" ", u"");
   const Text symbol = locale().currency_symbol();
@@ -33,7 +33,7 @@ bool before_three_digits(TextView text, std::size_t at) {
          (at + 4 == text.size() || !is_digit(text[at + 4]));
 }
 
-// Where the decimals begin in a number of digits and marks; npos when the marks make no sense. `size` for none.
+// The position of the decimal separator in a number; its size when there is none, npos when the separators are invalid.
 std::size_t decimal_mark(TextView text) {
   const char16_t decimal = locale().decimal_separator(), thousands = locale().thousands_separator();
   const std::size_t given = text.find(decimal);
@@ -65,7 +65,7 @@ Moment start_of(int year, int month, int day) {
 std::optional<Period> days(Moment from, Moment to) { return Period{from, to, true}; }
 
 std::optional<Period> year_period(int year) {
-  // The last year has no day behind it.
+  // The year 9999 has no next day.
   if (year < 100 || year > 9998) return std::nullopt;
   return days(start_of(year, 1, 1), start_of(year + 1, 1, 1));
 }
@@ -96,7 +96,7 @@ std::optional<Period> year_or_month(TextView typed) {
   return month_period(number_in(second), number_in(first));
 }
 
-// "2011-01-05" everywhere.
+// ISO 8601, in every locale.
 std::optional<Date> iso_date(TextView typed) {
   if (typed.size() != 10 || typed[4] != u'-' || typed[7] != u'-') return std::nullopt;
   const TextView year = typed.substr(0, 4), month = typed.substr(5, 2), day = typed.substr(8);
@@ -104,7 +104,7 @@ std::optional<Date> iso_date(TextView typed) {
   return date_from({number_in(year), number_in(month), number_in(day)});
 }
 
-// A date alone: what the locale reads as a time of day is none.
+// A date without a time; nothing for what the locale reads as a time of day.
 std::optional<std::int32_t> day_in(TextView typed) {
   if (typed.find(u':') != TextView::npos) return std::nullopt;
   auto date = iso_date(typed);
@@ -186,7 +186,7 @@ Text shown_number(TextView digits) {
   return replace_all(digits, u".", TextView(&decimal, 1));
 }
 
-// Digits as `number_digits` gives them: more before the point is greater, else the first that differs decides.
+// Compares normalised numbers (`number_digits`) without converting them: 28 digits exceed a double.
 bool is_greater_number(TextView digits, TextView than) {
   const bool negative = digits.starts_with(u'-'), other_negative = than.starts_with(u'-');
   if (negative != other_negative) return other_negative;
@@ -210,7 +210,7 @@ bool is_one_day(const Period& period) { return period.whole_days && period.to.da
 
 Moment day_before(const Moment& moment) { return {moment.day - 1, 0}; }
 
-// The system's short date, unless it would be read as another day (a year of two digits, say).
+// The locale's short date, unless reading it back gives another day (two-digit years).
 Text shown_moment(const Moment& moment, bool whole_day, bool with_seconds) {
   const Date day{static_cast<double>(moment.day)};
   Text text = locale().date_text(day);

@@ -1,4 +1,4 @@
-// Numbers and dates as users type them, by the locale.
+// Parses numbers and dates as users type them, by the locale.
 #pragma once
 
 #include <optional>
@@ -8,14 +8,14 @@
 
 namespace qvr::query {
 
-// The number's digits with "." and "-", no blanks and no zeros that say nothing; nothing for what is no number in this
-// locale or has more digits than the engines can read. A thousands mark that does not stand before three digits is
-// taken for the decimal one.
+// The number normalised for SQL ("." as the decimal separator, "-", no superfluous zeros); nothing for what is no
+// number in this locale or has more digits than the engines support. A thousands separator that is not followed by
+// three digits counts as the decimal separator.
 std::optional<Text> number_digits(TextView typed);
 Text shown_number(TextView digits);
 bool is_greater_number(TextView digits, TextView than);
 
-// A year, a month, a day, a minute or a second: all moments from `from` to before `to`.
+// A year, a month, a day, a minute or a second: the half-open interval from `from` to `to`.
 struct Period {
   Moment from, to;
   bool whole_days;

@@ -10,10 +10,10 @@
 namespace qvr::query {
 namespace {
 
-// A negation can multiply alternatives; more than anybody types is refused.
+// Limit: negations can multiply the number of alternatives.
 constexpr std::size_t kMostAlternatives = 200;
 
-// Both must hold: each alternative of the one with each of the other. False when that is too many.
+// Conjunction in disjunctive form: each alternative of one with each of the other. False when there are too many.
 bool add(Alternatives& all, Alternatives next) {
   if (all.empty()) {
     all = std::move(next);
@@ -35,7 +35,7 @@ bool add(Alternatives& all, Alternatives next) {
   return true;
 }
 
-// The pieces from one "or" to the next.
+// One alternative: the pieces up to the next "or".
 std::optional<Alternatives> parse_conjunction(std::span<const SearchPiece> pieces, const AtomParser& parser) {
   Alternatives all;
   for (const SearchPiece& piece : pieces) {
@@ -54,7 +54,7 @@ std::optional<Alternatives> parse_search(TextView normalised, SearchType type, E
   for (std::size_t from = 0; from < pieces.size();) {
     std::size_t to = from + 1;
     while (to < pieces.size() && !pieces[to].starts_alternative) ++to;
-    // What is left behind a last ";" or between two is nothing, not a mistake.
+    // An empty piece behind the last ";" or between two is ignored.
     const bool nothing = to == from + 1 && pieces[from].text.empty();
     if (!nothing) {
       auto alternatives = parse_conjunction(std::span(pieces).subspan(from, to - from), parser);

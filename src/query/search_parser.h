@@ -1,4 +1,4 @@
-// From what a user typed to what it means.
+// Parses a search.
 #pragma once
 
 #include "base/engine.h"
@@ -6,7 +6,7 @@
 
 namespace qvr::query {
 
-// Nothing for a text that is no search for such a column.
+// Nothing for a text that is not a valid search for this column type.
 std::optional<Alternatives> parse_search(TextView normalised, SearchType type, Engine engine);
 
 }  // namespace qvr::query

@@ -1,4 +1,4 @@
-// The pieces of a search that name two ends.
+// Ranges.
 #include <algorithm>
 
 #include "query/search_atom_parser.h"
@@ -6,7 +6,7 @@
 namespace qvr::query {
 namespace {
 
-// The first of the words that stands by itself; npos for none.
+// The first of the words that occurs as a whole word; npos for none.
 struct FoundWord {
   std::size_t at, length;
 };
@@ -19,8 +19,8 @@ std::optional<FoundWord> find_word(TextView text, std::span<const TextView> word
   return std::nullopt;
 }
 
-// Where single quotes close that the text begins with: before two points or at its end, since what a user types between
-// them may hold some. 0 for none.
+// The end of the single-quoted part at the beginning of the text. The closing quote is one before ".." or at the end,
+// as apostrophes inside are allowed. 0 for none.
 std::size_t end_of_first_quoted(TextView text) {
   if (text.empty() || !is_single_quote(text[0])) return 0;
   for (std::size_t i = 1; i < text.size(); ++i) {
@@ -31,7 +31,7 @@ std::size_t end_of_first_quoted(TextView text) {
   return 0;
 }
 
-// Two points outside quotes that are no part of three.
+// The first ".." outside quotes that is not part of "...".
 std::size_t find_dots(TextView text) {
   for (std::size_t i = end_of_first_quoted(text); i + 1 < text.size(); ++i) {
     if (is_double_quote(text[i])) {
@@ -71,7 +71,7 @@ AtomParser::Found AtomParser::range(TextView text) const {
   return std::nullopt;
 }
 
-// "a..b", where texts cannot be compared.
+// "a..b" where the engine cannot compare texts of this type.
 bool AtomParser::has_two_ends(TextView text) const {
   const std::size_t dots = find_dots(text);
   return dots != TextView::npos && !is_blank(text.substr(0, dots)) && !is_blank(text.substr(dots + 2));
@@ -100,7 +100,7 @@ AtomParser::Found AtomParser::between_texts(TextView first, TextView last) const
   const auto folded_less = [](const Text& a, const Text& b) {
     return std::ranges::lexicographical_compare(a, b, {}, fold, fold);
   };
-  // "martin..m" is not reversed: what begins with its last end is within.
+  // "martin..m" is not reversed: texts that begin with the upper bound are within the range.
   const bool reversed = folded_less(upper.text(), lower.text()) && !starts_with_no_case(lower.text(), upper.text());
   if (reversed) std::swap(lower, upper);
   return Alternatives{{CompareText{Comparison::GreaterOrEqual, std::move(lower)},
@@ -110,7 +110,7 @@ AtomParser::Found AtomParser::between_texts(TextView first, TextView last) const
 AtomParser::Found AtomParser::between_dates(TextView first, TextView last) const {
   const auto a = period_in(first), b = period_in(last);
   if (!a || !b) return std::nullopt;
-  // From a day to the end of its year is no reversed range: only where nothing lies between are the ends exchanged.
+  // A day and its year overlap and are not reversed: the bounds are swapped only when the range would be empty.
   const bool reversed = a->from >= b->to;
   const Period& lower = reversed ? *b : *a;
   const Period& upper = reversed ? *a : *b;

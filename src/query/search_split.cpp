@@ -8,7 +8,8 @@
 namespace qvr::query {
 namespace {
 
-// No wildcard is looked for farther away: longer operands are refused, and each of their words would look again.
+// Limits the look-ahead for a wildcard, which each word repeats (quadratic otherwise); longer operands are refused
+// anyway.
 constexpr std::size_t kFarthest = kLongestOperand + 10;
 
 struct Connector {
@@ -66,7 +67,7 @@ class Splitter {
     range_and_ahead_ = starts_with_between(search_.substr(atom));
   }
 
-  // Behind two points, unless there are three.
+  // Skips "..", but not the first two of "...".
   void begin_last_end() {
     dots_ahead_ = false;
     at_ += 2;
@@ -83,7 +84,7 @@ class Splitter {
     return std::min(search_.find_first_not_of(u' ', at), search_.size());
   }
 
-  // Behind an operator or LIKE.
+  // Skips an operator or LIKE.
   std::size_t operand_of(std::size_t atom) const {
     const std::size_t at = behind_blanks(atom + operator_length(search_.substr(atom)));
     const auto operand = like_operand(search_.substr(at));
@@ -99,7 +100,7 @@ class Splitter {
     return connector.is_word && !connector.is_or && std::exchange(range_and_ahead_, false);
   }
 
-  // The end of a quoted part that begins here; 0 for none.
+  // The end of the quoted part that begins here; 0 for none.
   std::size_t quoted_end() {
     const char16_t unit = search_[at_];
     if (is_double_quote(unit) && !open_ended_) {
@@ -110,10 +111,10 @@ class Splitter {
     return is_single_quote(unit) && at_ == operand_ ? end_of_single_quoted() : 0;
   }
 
-  // Single quotes close before a connector, before the points of a range or at the end: what a user types between them
-  // may hold some.
+  // A closing single quote is one before a connector, before the ".." of a range or at the end: apostrophes inside are
+  // allowed.
   std::size_t end_of_single_quoted() {
-    const TextView near = search_.substr(0, at_ + kLongestPiece);  // a longer one is refused
+    const TextView near = search_.substr(0, at_ + kLongestPiece);  // longer pieces are refused
     for (std::size_t i = at_ + 1; i < near.size(); ++i) {
       if (is_double_quote(near[i])) {
         const std::size_t end = end_of_double_quoted(near, i);
@@ -153,10 +154,10 @@ class Splitter {
   SearchType type_;
   std::vector<SearchPiece> pieces_;
   std::size_t at_ = 0, begin_ = 0, operand_ = 0;
-  std::size_t text_ = 0;          // where the piece begins, its leading blanks left out
-  bool open_ended_ = false;       // a double quote that is never closed was seen
-  bool range_and_ahead_ = false;  // the next "and" joins the ends of a range
-  bool dots_ahead_ = false;       // and so would the next two points
+  std::size_t text_ = 0;          // start of the piece, without leading blanks
+  bool open_ended_ = false;       // there was an unclosed double quote
+  bool range_and_ahead_ = false;  // the next "and" belongs to a range
+  bool dots_ahead_ = false;       // and so does the next ".."
 };
 
 }  // namespace

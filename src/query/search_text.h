@@ -1,4 +1,4 @@
-// What a user typed into the search box of a column, as a condition and in readable words.
+// The search box: what a user typed for a column, as an SQL condition and as a text for the user.
 #pragma once
 
 #include <optional>
@@ -16,7 +16,7 @@ struct Interpretation {
   Text condition, criterion;
 };
 
-// Nothing for a text that is no search for such a column. `label` begins the criterion.
+// Nothing for a text that is not a valid search for this column type. `label` is the column's name in the criterion.
 std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column, TextView search,
                                                TextView label);
 

@@ -32,7 +32,7 @@ bool any_equal(std::span<const TextView> words, TextView text) {
   return std::ranges::any_of(words, [&](TextView word) { return equal_no_case(word, text); });
 }
 
-// Blanks inside a phrase may be any number.
+// A blank in a phrase matches any number of blanks.
 std::size_t phrase_at(TextView text, TextView phrase) {
   const std::size_t gap = phrase.find(u' ');
   const TextView first = phrase.substr(0, gap), second = phrase.substr(gap + 1);

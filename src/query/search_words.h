@@ -8,7 +8,7 @@
 
 namespace qvr::query {
 
-// Types of columns that searches tell apart.
+// Types of columns that searches distinguish.
 enum class SearchType { Text, Memo, Number, Date, Logical };
 std::optional<SearchType> search_type(char16_t letter);
 inline bool is_textual(SearchType type) { return type == SearchType::Text || type == SearchType::Memo; }
@@ -16,7 +16,7 @@ inline bool is_textual(SearchType type) { return type == SearchType::Text || typ
 std::span<const TextView> or_words();
 std::span<const TextView> and_words();
 std::span<const TextView> not_words();
-std::span<const TextView> between_words();  // what begins a range whose ends are joined by an "and"
+std::span<const TextView> between_words();  // "between": begins a range whose ends are joined by "and"
 
 // "from a to b": the word before the first end and those before the second.
 struct RangeWords {
@@ -25,22 +25,22 @@ struct RangeWords {
 };
 std::span<const RangeWords> range_words();
 
-// The length of a null or LIKE phrase that the text begins with as whole words; 0 for none. LIKE phrases leave the word
-// LIKE itself out.
+// The length of the null or LIKE phrase at the beginning of the text, whole words only; 0 for none. The word LIKE
+// itself is not among the LIKE phrases.
 std::size_t null_phrase(TextView text);
 std::size_t like_phrase(TextView text);
 
-bool is_null_word(TextView text);  // "nulo", "empty"...: only where no text can be meant
+bool is_null_word(TextView text);  // "nulo", "empty"...: not for text columns, where the word itself may be searched
 std::optional<bool> truth_in(TextView text);
 
-// Days from today: "hoy" 0, "yesterday" -1; with the length of the word.
+// Days from today ("hoy" 0, "yesterday" -1), and the length of the word.
 struct DayWord {
   std::size_t length;
   int days;
 };
 std::optional<DayWord> day_word(TextView text);
 
-// The words for true and false in the thread's language, as a criterion shows them.
+// The words for true and false in the thread's language, for criteria.
 TextView truth_word(bool truth);
 
 }  // namespace qvr::query

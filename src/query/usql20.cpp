@@ -26,7 +26,7 @@ Text uSQL20::joined(TextView separator, Text (cSQL20::*text)() const) const {
 
 template <class Use>
 void uSQL20::each(Use&& use) const noexcept {
-  // By position: a message box of a member lets the host run, which may add another one.
+  // By index: a message box of a member runs a message loop, in which the host can add a member (re-entrance).
   for (std::size_t i = 0; i < members_.size(); ++i) use(*members_[i]);
 }
 

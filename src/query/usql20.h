@@ -1,4 +1,4 @@
-// Several SELECT statements joined by UNION, behind the same contract as one of them.
+// Several queries joined by UNION, behind the interface of one.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace qvr {
 
-// Everything does nothing and answers False, an empty text or 0 while there is no member. No member fails.
+// Without members (queries of the union) everything does nothing and answers false, an empty text or 0. Nothing fails.
 class uSQL20 final : public iSQL20 {
  public:
   uSQL20() noexcept;
@@ -18,7 +18,7 @@ class uSQL20 final : public iSQL20 {
 
   Text Name() const noexcept;
 
-  // Each call that succeeds adds a member, each piece of the text as many as can be read; those that are there stay.
+  // Each successful call adds a member; a definition adds each of its queries that can be read. Existing members stay.
   bool Crear(const QueryRequest& request) noexcept override;
   bool CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept override;
 
@@ -30,7 +30,7 @@ class uSQL20 final : public iSQL20 {
   void RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) noexcept override;
   bool InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept override;
   Text SQL() const noexcept override;
-  Text SQLOriginal() const noexcept override;  // in the current order
+  Text SQLOriginal() const noexcept override;  // with the current order
   Text SQLOriginalSinOrden() const noexcept override;
   Text SQLSinOrden() const noexcept override;
   void TOP(std::int32_t value) noexcept override;
@@ -51,8 +51,8 @@ class uSQL20 final : public iSQL20 {
   std::int32_t TOP() const noexcept override;
   Engine MotorBD() const noexcept override;
 
-  // Not the language: always 0, and every member's limit of rows becomes the first one's language. Hosts have lived
-  // with that; the language cannot be read back from a union.
+  // Reading does not give the language: it sets TOP of every member to the first member's language number and answers
+  // 0. That is the contract, whatever its name says.
   std::int32_t Idioma() const noexcept override;
 
   // Of the union itself.
@@ -63,7 +63,7 @@ class uSQL20 final : public iSQL20 {
  private:
   using Member = std::unique_ptr<cSQL20>;
 
-  // The members' texts; throws when one of them cannot be made. A text that lacks one would be another query.
+  // The members' texts; throws when one fails, as a union that lacks a member is another query.
   Text joined(TextView separator, Text (cSQL20::*text)() const) const;
   template <class Use>
   void each(Use&& use) const noexcept;

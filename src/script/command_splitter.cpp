@@ -4,15 +4,16 @@ namespace qvr {
 namespace {
 
 constexpr TextView kSeparator = u"\r\nGO\r\n";
-constexpr std::size_t kPastGo = 4;  // CR LF G O: the separator's own line end counts with the blank lines behind it
+constexpr std::size_t kPastGo =
+    4;  // CR LF G O; the separator's line end is skipped together with the blank lines behind it
 
 bool separator_at(const char16_t* p) {
   return p[0] == u'\r' && p[1] == u'\n' && (p[2] | 0x20) == u'g' && (p[3] | 0x20) == u'o' && p[4] == u'\r' &&
          p[5] == u'\n';
 }
 
-// How far the window of a separator's length can move on when this is its last unit: up to where that unit could
-// stand in a separator. Most text holds none of its units, so most of it is never looked at.
+// Boyer-Moore-Horspool: how far the window can move when this is its last unit. Most text has none of the separator's
+// units, so that most of it is skipped.
 std::size_t stride(char16_t last) {
   switch (last) {
     case u'\n': return 4;

@@ -11,15 +11,15 @@ namespace qvr {
 // Where the first separator (CR LF "GO" CR LF, without regard to case) at or after `from` starts; npos for none.
 std::size_t find_separator(TextView text, std::size_t from);
 
-// At how many positions a separator starts, those included that overlap another.
+// The number of separators, overlapping ones included.
 std::int32_t count_separators(TextView text);
 
-// Walks over the commands of a text without copying any of it. What follows the last separator is no command.
+// Iterates over the commands of a text without copying. The text behind the last separator is not a command.
 class CommandSplitter {
  public:
   explicit CommandSplitter(TextView text) : text_(text) {}
 
-  // The next command, a view into the text; nothing after the last. Blank lines behind a separator belong to it.
+  // The next command, a view into the text; nothing after the last. Blank lines behind a separator are skipped.
   std::optional<TextView> next();
 
  private:

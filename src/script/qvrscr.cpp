@@ -10,7 +10,7 @@ namespace qvr {
 namespace {
 
 constexpr TextView kAvoidTransaction = u"EvitarTransaccion";
-// A host that always starts one more would use up its stack.
+// Limits recursion: a host that always starts another run inside Terminado would overflow the stack.
 constexpr int kDeepestChain = 32;
 constexpr ByEngine kAdministrators{u"Admin", u"sa", u"System"};
 
@@ -38,7 +38,7 @@ bool QVRScr::EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos,
 
 bool QVRScr::busy() const noexcept { return running_ || finishing_ == kDeepestChain; }
 
-// The run is over before its host hears of it, so that an application can go on with the next one there.
+// The run ends before the event is fired, so that the host can start the next one in its handler.
 void QVRScr::finish(bool success) noexcept {
   running_ = false;
   ++finishing_;

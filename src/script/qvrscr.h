@@ -12,7 +12,7 @@ namespace qvr {
 
 struct ScriptAccounts;
 
-// What a run tells its host. Neither may throw.
+// The events. They must not throw.
 struct ScriptEvents {
   virtual void Progreso(const Text& Mensaje) noexcept = 0;
   virtual void Terminado(bool Exito) noexcept = 0;
@@ -21,16 +21,16 @@ struct ScriptEvents {
   ~ScriptEvents() = default;
 };
 
-// Failures of commands go to the error-reporting service; the caller sees false.
+// Failures of commands go to the error-reporting service; the member answers false.
 class QVRScr {
  public:
   explicit QVRScr(ScriptEvents& events) noexcept;
 
   // Runs every command of the text on a connection of its own, in one transaction unless ID begins with
-  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; from inside
-  // it the next may begin, 32 runs deep. A call on the same object while a run of it is under way is refused with false
-  // and no events.
-  // ID loses the prefix and an empty TextoMostrar becomes the default text, as the caller can see.
+  // "EvitarTransaccion". True when the list ran to its end. Exactly one Terminado ends every run; the next run may
+  // begin inside it, at most 32 deep. A call during a run of the same object (re-entrance) is refused with false and no
+  // events. Removes the prefix of ID and sets an empty TextoMostrar to the default text; both are by-reference
+  // arguments.
   bool EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos, TextView CadenaConexion,
                         Text& TextoMostrar) noexcept;
 
@@ -38,18 +38,18 @@ class QVRScr {
   bool Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, Engine MotorBD) noexcept;
 
   // The text of all scripts "<NombreDefinicion><tag>?.cfc" of the folder in the order of their names, ready to be run:
-  // fit for the engine, names and accounts filled in, with encryption (`Encri`, SQL Server). Empty when there is none
-  // or one cannot be read. Exactly one Terminado, as for a run; refused in the same way during one.
+  // placeholders replaced, with encryption (`Encri`, SQL Server). Empty when there is none or one cannot be read.
+  // Exactly one Terminado, as for a run; refused in the same way during one.
   Text CargarDefinicion(TextView ID, Engine MotorBD, TextView Ruta, TextView NombreDefinicion,
                         const ScriptAccounts& accounts, bool Encri) noexcept;
 
-  // The same for the scripts "<Aplicacion><from>a<to><tag>.cfc" from this version on; empty, too, when none begins with
+  // The same for the scripts "<Aplicacion><from>a<to><tag>.cfc" from this version on; also empty when none begins with
   // exactly this version.
   Text CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion, std::int32_t VersionActual,
                            const ScriptAccounts& accounts, bool Encri) noexcept;
 
-  // For a caller that has no memory for the arguments of one of these three: it ends all the same, with
-  // Terminado(False), unless a run is under way.
+  // For a caller that runs out of memory while converting the arguments of one of these three: fires Terminado(False),
+  // unless a run is under way.
   void end_unbegun() noexcept;
 
   // The engine's built-in administrator account; empty for an unknown engine.

@@ -8,7 +8,7 @@
 namespace qvr {
 namespace {}  // namespace
 
-// Whatever fails leaves no text: half an installation is worse than none.
+// On any failure the text is empty: a partial installation is worse than none.
 template <class Body>
 Text QVRScr::load(Body&& body) noexcept {
   if (busy()) return {};
@@ -29,7 +29,7 @@ Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& n
     texts.push_back(std::move(*read));
   }
   Text joined;
-  joined.reserve(size);  // at once: a text that grows is there several times over
+  joined.reserve(size);  // reserved at once: reallocation would need several times the memory
   for (const Text& each : texts) joined.append(each).append(kLineBreak);
   return joined;
 }

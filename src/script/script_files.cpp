@@ -15,7 +15,7 @@ constexpr std::size_t kVersionDigits = 5;
 
 std::vector<Text> sorted_names(TextView Ruta, TextView pattern) {
   std::vector<Text> names = thread_state().platform().files.names(Ruta);
-  // The system's own search takes "?" at some places for no character at all.
+  // FindFirstFile lets "?" match no character at the end of a name.
   std::erase_if(names, [&](const Text& name) { return !matches_wildcards(name, pattern); });
   std::ranges::sort(names, less_no_case);
   return names;
@@ -32,7 +32,7 @@ std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, Eng
 bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD) {
   const Text pattern = join({Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"});
   constexpr std::int32_t kPlainFiles = 0;
-  // The folder is listed only where the system's search finds something, which may be less than the pattern asks for.
+  // The folder is listed only if the system's wildcard search finds something, which may match less than our pattern.
   return ExisteArchivo(join({Ruta, u"\\", pattern}), kPlainFiles) && !sorted_names(Ruta, pattern).empty();
 }
 

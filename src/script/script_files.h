@@ -9,7 +9,7 @@
 
 namespace qvr {
 
-// "JET", "SQL" or "ORA"; empty for a number that is no engine.
+// "JET", "SQL" or "ORA"; empty for an unknown engine.
 TextView engine_tag(Engine MotorBD);
 
 // The names in the folder that belong to the definition, in the order in which they run.

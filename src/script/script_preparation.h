@@ -1,4 +1,4 @@
-// What is done to the text of scripts between their files and their run.
+// Preparation of the text of scripts before a run.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace qvr {
 
-// What takes the place of the bracketed words in a script.
+// The replacements of the bracketed words.
 struct ScriptAccounts {
   Text NombreBaseOTablespace;
   Text UsuarioQVRAdm, ClaveUsuarioQVRAdm;
@@ -18,11 +18,11 @@ struct ScriptAccounts {
   }
 };
 
-// Puts WITH ENCRYPTION before every line that holds only AS, and before the FOR line of a trigger, as SQL Server wants
-// it. Tells each step.
+// Inserts WITH ENCRYPTION before every line that holds only AS, and before the FOR line of a trigger, where SQL Server
+// requires it. Reports progress.
 Text with_encryption(Text text, ScriptEvents& events);
 
-// Replaces the bracketed words in their order, each over what the ones before left. Tells each step.
+// Replaces the bracketed words in order, each in the result of the previous replacement. Reports progress.
 Text with_accounts(Text text, Engine MotorBD, const ScriptAccounts& accounts, ScriptEvents& events);
 
 }  // namespace qvr

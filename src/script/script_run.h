@@ -1,4 +1,4 @@
-// One run of a command list: its connection and its transaction, from the opening to the end.
+// One run of a command list, with its connection and its transaction.
 #pragma once
 
 #include <memory>
@@ -21,7 +21,7 @@ class ScriptRun {
   ScriptRun(QVRScr& runner, ScriptEvents& events, const RunRequest& request)
       : runner_(runner), events_(events), request_(request) {}
 
-  // True when the list ran to its end and was committed. Leaves no transaction and no connection open, whatever fails.
+  // True when the list ran to its end and was committed. No transaction and no connection stays open, whatever fails.
   bool run() noexcept;
 
  private:
@@ -37,7 +37,7 @@ class ScriptRun {
   std::unique_ptr<services::AdoConnection> connection_;
   bool connection_open_ = false;
   bool transaction_open_ = false;
-  bool reported_ = false;  // a second report of what the first failure brought with it helps nobody
+  bool reported_ = false;  // only the first failure of a run is reported; later ones follow from it
 };
 
 }  // namespace qvr

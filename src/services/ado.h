@@ -1,5 +1,5 @@
 // The part of ADO that the library uses. Every operation throws RuntimeFailure with the provider's number, description
-// and source when ADO refuses it.
+// and source on failure.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ class AdoConnection {
  public:
   virtual ~AdoConnection() = default;
   virtual void set_connection_string(TextView text) = 0;
-  virtual void open() = 0;  // without user and password of its own
+  virtual void open() = 0;  // without the arguments UserID and Password
   virtual void begin_trans() = 0;
   virtual void commit_trans() = 0;
   virtual void rollback_trans() = 0;
@@ -34,7 +34,7 @@ class AdoConnection {
 
 enum class CommandType : std::int32_t { Text = 1, StoredProcedure = 4 };
 
-// ADO's numbers for the types that procedure parameters get.
+// Values of ADO's DataTypeEnum.
 enum class DataType : std::int32_t {
   Integer = 3,
   Single = 4,
@@ -65,9 +65,9 @@ class AdoCommand {
   virtual void set_command_type(CommandType type) = 0;
   virtual void set_command_text(TextView text) = 0;
   virtual void set_command_timeout(std::int32_t seconds) = 0;  // 0: no limit
-  virtual void execute() = 0;                                  // without further arguments, options -1
+  virtual void execute() = 0;  // no further arguments, Options = adOptionUnspecified (-1)
 
-  virtual void refresh_parameters() = 0;  // the server describes them; 0 is the procedure's return value
+  virtual void refresh_parameters() = 0;  // asks the server; parameter 0 is the return value
   virtual Value parameter_value(std::int32_t index) = 0;
   virtual void set_parameter_value(std::int32_t index, const Value& value) = 0;
   virtual void append_parameter(AdoParameter& parameter) = 0;

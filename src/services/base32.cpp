@@ -35,7 +35,7 @@ std::optional<std::vector<std::uint8_t>> from_base32(TextView text) {
       bytes.push_back(static_cast<std::uint8_t>(pending >> bits));
     }
   }
-  // A digit too many, or bits that no byte claims: the same bytes have a shorter spelling.
+  // A superfluous digit or non-zero padding bits: not the canonical encoding of these bytes.
   if (bits >= 5 || (pending & ((1u << bits) - 1)) != 0) return std::nullopt;
   return bytes;
 }

@@ -5,7 +5,7 @@ namespace {
 
 enum class Kind { DuplicateRecord, ServerNotFound };
 
-// Native error numbers by which the engines' own providers tell these two cases.
+// Native error numbers of the engines' providers for these two cases.
 struct NativeError {
   Engine motor;
   std::int32_t number;
@@ -65,7 +65,7 @@ Text error_report_text(const ErrorNotice& notice) {
   Text text = join({caption_of(notice), kLineBreak, kLineBreak,
                     error_line(notice.failure.number, notice.failure.description, notice.failure.source)});
   for (const AdoError& error : notice.errors) {
-    // ADO repeats the first of its errors as the error of the call.
+    // The first entry of Errors is the error of the call itself, which is shown already.
     if (error.number == notice.failure.number && error.description == notice.failure.description) continue;
     text += join({kLineBreak, error_line(error.number, error.description, error.source)});
   }

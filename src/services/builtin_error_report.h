@@ -6,8 +6,8 @@
 
 namespace qvr::services {
 
-// The text of the box: what kind of error it is in one of the captions, the error with every error of the ADO
-// connection, and the operation that failed.
+// The text of the box: a caption for the kind of error, the error and the Errors of the ADO connection, and the failed
+// operation.
 Text error_report_text(const ErrorNotice& notice);
 
 class BuiltinErrorReport : public ErrorReport {

@@ -8,7 +8,7 @@
 
 namespace qvr::services {
 
-// In pieces, since nobody tells the size before: a buffer that grows is there up to three times over.
+// Read in chunks, as the size is unknown: a growing buffer would need up to three times the memory.
 std::string script_bytes(Files& files, TextView Ruta) {
   constexpr std::size_t kAtOnce = std::size_t{1} << 20, kMost = BuiltinScriptReader::kLargest + 1;
   const auto file = files.open(Ruta);
@@ -19,7 +19,7 @@ std::string script_bytes(Files& files, TextView Ruta) {
     const std::size_t count = file->read(piece);
     whole = count < piece.size();
     piece.resize(count);
-    if (whole) piece.shrink_to_fit();  // in a small file its room would outweigh the text
+    if (whole) piece.shrink_to_fit();  // do not keep a whole chunk for a small file
     size += count;
     if (size == kMost) throw RuntimeFailure(failure_number::kFile);
   }
@@ -35,7 +35,7 @@ std::optional<Text> BuiltinScriptReader::Leer(TextView, TextView Ruta) {
   {
     const std::string bytes = script_bytes(*files_, Ruta);
     text = decoded_script(bytes, *files_);
-  }  // the bytes go before the text is copied
+  }  // the bytes are freed before the text is copied
   return with_whole_line_breaks(std::move(text));
 }
 

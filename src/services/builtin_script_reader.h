@@ -10,8 +10,8 @@ namespace qvr::services {
 
 class BuiltinScriptReader : public ScriptReader {
  public:
-  // A file beyond this is refused: what is read is held in memory up to three times over while it is prepared.
-  // A 32-bit process has less room for that.
+  // Larger files are refused: preparing a script needs up to three copies in memory. Less in a 32-bit process because
+  // of its address space.
   static constexpr std::size_t kLargest = std::size_t{sizeof(void*) == 4 ? 128 : 512} << 20;
 
   explicit BuiltinScriptReader(Files& files) : files_(&files) {}
@@ -21,7 +21,7 @@ class BuiltinScriptReader : public ScriptReader {
   Files* files_;
 };
 
-// A script file as it is stored. Throws failure 75 for what cannot be read or is beyond the largest size.
+// A script file's bytes. Throws failure 75 for a file that cannot be read or is too large.
 std::string script_bytes(Files& files, TextView Ruta);
 
 }  // namespace qvr::services

@@ -1,4 +1,4 @@
-// The library's own services, for programs that put nothing else in their place.
+// Factories of the built-in services, for `Environment`.
 #pragma once
 
 #include <memory>

@@ -9,7 +9,7 @@
 namespace qvr::services {
 namespace {
 
-constexpr char16_t kScheme = u'1';  // not a letter or digit of the alphabet behind it
+constexpr char16_t kScheme = u'1';  // not in the Base32 alphabet
 constexpr std::size_t kStep = 32;
 constexpr std::uint8_t kEndOfText = 0x80;
 constexpr std::uint32_t kRounds = 100000;
@@ -25,7 +25,7 @@ MutableBytes as_mutable(std::string& text) { return {reinterpret_cast<std::uint8
                        u"The protected text is damaged or was written with another key");
 }
 
-// Without the mark of the end and the zeros behind it.
+// Removes the padding: the end mark and the zeros behind it.
 std::optional<Bytes> unpadded(Bytes padded) {
   std::size_t size = padded.size();
   while (size > 0 && padded[size - 1] == 0) --size;
@@ -41,12 +41,13 @@ Siv& BuiltinTextProtection::cipher_for(TextView key) {
   if (cipher_ && derived_for_ == key) return *cipher_;
   cipher_.reset();
   wipe(derived_for_);
-  // The marks around the identification keep an empty one, and ones that differ by trailing zeros, apart.
+  // HMAC pads its key with zeros: the delimiters keep identifications apart that differ by trailing NULs only, an empty
+  // one included.
   std::string password = "<" + to_utf8(key) + ">";
   SecretBytes derived(*cryptography_, kKeySize);
   cryptography_->pbkdf2_hmac_sha256(as_bytes(password), as_bytes(kSalt), kRounds, derived.span());
   cryptography_->wipe(as_mutable(password));
-  // In this order: a cipher without its key would be taken for the one of an empty key.
+  // In this order: if the allocation throws, the cache must not hold a cipher under the wrong identification.
   derived_for_ = key;
   cipher_ = std::make_unique<Siv>(*cryptography_, derived.span());
   return *cipher_;

@@ -8,8 +8,8 @@
 
 namespace qvr::services {
 
-// Form of a protected text: one scheme digit, then Base32 of the sealed UTF-8, filled up in steps of 32 bytes so that
-// lengths of passwords do not show. Equal texts under equal keys look equal: the file's check line needs that.
+// A protected text is one scheme digit, then Base32 of the sealed UTF-8, padded to a multiple of 32 bytes to hide the
+// length of passwords. Deterministic: the check line of the ".cfp" file needs that.
 class BuiltinTextProtection : public TextProtection {
  public:
   explicit BuiltinTextProtection(Cryptography& cryptography) : cryptography_(&cryptography) {}
@@ -23,7 +23,7 @@ class BuiltinTextProtection : public TextProtection {
   Siv& cipher_for(TextView key);
 
   Cryptography* cryptography_;
-  // The derivation is slow on purpose, and an object asks for the same key eleven times in a row.
+  // Cached: key derivation is slow on purpose, and loading a file needs the same key eleven times.
   Text derived_for_;
   std::unique_ptr<Siv> cipher_;
 };

@@ -22,7 +22,7 @@ struct ErrorNotice {
   FailureDetail failure;
   Engine motor = Engine::None;  // as the caller gave it
   Text label;                   // the operation that failed
-  Text object;                  // what it worked on; empty where the label says it
+  Text object;                  // the procedure, say; empty where the label says it
   Captions captions;
   std::vector<AdoError> errors;  // of the ADO connection, in order
 };

@@ -10,8 +10,8 @@ namespace qvr::services {
 class ScriptReader {
  public:
   virtual ~ScriptReader() = default;
-  // The file's whole text, with the caller's identification for files that are protected; nothing when it cannot be
-  // read. May throw.
+  // The file's whole text; `ID` is the caller's identification, for protected files. Nothing when it cannot be read.
+  // May throw.
   virtual std::optional<Text> Leer(TextView ID, TextView Ruta) = 0;
 };
 

@@ -30,7 +30,7 @@ void increment(Block& counter) {
   }
 }
 
-// Takes the same time wherever the two differ.
+// Compares in constant time.
 bool equal_blocks(Bytes a, Bytes b) {
   std::uint8_t difference = 0;
   for (std::size_t i = 0; i < kBlock; ++i) difference = static_cast<std::uint8_t>(difference | (a[i] ^ b[i]));
@@ -48,7 +48,7 @@ Siv::Siv(Cryptography& cryptography, Bytes key)
   subkey_partial_ = doubled(subkey_whole_);
 }
 
-// The CMAC of the message; `into_last` is xored over its last 16 bytes first, which is how a vector's last part enters.
+// AES-CMAC of the message after xoring `into_last` over its last 16 bytes (xorend in RFC 5297, S2V).
 Block Siv::cmac(Bytes message, const Block* into_last) {
   const bool whole = !message.empty() && message.size() % kBlock == 0;
   const std::size_t blocks = std::max<std::size_t>(1, (message.size() + kBlock - 1) / kBlock);
@@ -87,7 +87,7 @@ Block Siv::s2v(std::initializer_list<Bytes> associated, Bytes plaintext) {
 }
 
 void Siv::apply_keystream(Block counter, MutableBytes text) {
-  counter[8] &= 0x7F;  // the two bits that the standard clears, for implementations with narrower counters
+  counter[8] &= 0x7F;  // RFC 5297 clears bits 31 and 63 of the counter
   counter[12] &= 0x7F;
   constexpr std::size_t kAtOnce = 256;
   std::array<std::uint8_t, kAtOnce * kBlock> stream;

@@ -1,4 +1,4 @@
-// AES-SIV (RFC 5297): deterministic encryption that recognises any change of what it wrote.
+// AES-SIV (RFC 5297): deterministic authenticated encryption.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ namespace qvr::services {
 
 using Block = std::array<std::uint8_t, 16>;
 
-// Bytes that may be secret: overwritten before their memory is given back.
+// Bytes that may be secret: wiped before their memory is freed.
 class SecretBytes {
  public:
   SecretBytes(Cryptography& cryptography, std::size_t size) : cryptography_(&cryptography), bytes_(size) {}
@@ -35,8 +35,8 @@ class Siv {
 
   // The synthetic initialisation vector of 16 bytes, then as many bytes as the plaintext has.
   std::vector<std::uint8_t> seal(std::initializer_list<Bytes> associated, Bytes plaintext);
-  // The plaintext, in the buffer that held the sealed bytes behind their first 16; nothing (and the buffer is of no
-  // use) when they were not sealed under this key with these associated bytes.
+  // Decrypts in place, behind the first 16 bytes of the buffer; nothing, and the buffer's content is unspecified, when
+  // authentication under this key and these associated bytes fails.
   std::optional<MutableBytes> open(std::initializer_list<Bytes> associated, MutableBytes sealed);
 
  private:
@@ -46,8 +46,8 @@ class Siv {
 
   std::unique_ptr<BlockCipher> authentication_;
   std::unique_ptr<BlockCipher> encryption_;
-  Block subkey_whole_{};    // for a message whose last block is full
-  Block subkey_partial_{};  // for one whose last block is filled up
+  Block subkey_whole_{};    // K1 of CMAC: the last block is complete
+  Block subkey_partial_{};  // K2 of CMAC: the last block is padded
 };
 
 }  // namespace qvr::services

@@ -1,12 +1,11 @@
-// Scrambling of texts with the caller's identification as the key.
+// Encryption of texts with the caller's identification as the key.
 #pragma once
 
 #include "base/text.h"
 
 namespace qvr::services {
 
-// Deterministic, and inverted with the same key; what it writes has no comma, double quote or blank at its edges.
-// Both operations throw when they cannot answer.
+// Deterministic. The encrypted text has no comma, no double quote and no blank at its ends. Both throw on failure.
 class TextProtection {
  public:
   virtual ~TextProtection() = default;

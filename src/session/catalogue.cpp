@@ -10,7 +10,7 @@ struct MessageRow {
   TextView spanish, english, french;
 };
 
-// "|1", "|2" stand for arguments. The blank before the French question mark belongs to the text.
+// "|1", "|2" are placeholders of arguments. French has a blank before the question mark.
 constexpr MessageRow kRows[] = {
     {MsgContandoComandos, u"Contando comandos...", u"Counting commands...", u"Comptage des commandes..."},
     {MsgEjecutarRestantes, u"\u00bfDesea que se ejecuten los restantes comandos?",
@@ -44,7 +44,7 @@ void CtesMensajes(TextTable& Mensajes) {
   for (const MessageRow& row : kRows) {
     Mensajes.at(row.key, language::kSpanish) = row.spanish;
     Mensajes.at(row.key, language::kEnglish) = row.english;
-    Mensajes.at(row.key, language::kItalian) = row.spanish;  // Italian can be chosen but reads Spanish
+    Mensajes.at(row.key, language::kItalian) = row.spanish;  // Italian can be selected, but has no translation
     Mensajes.at(row.key, language::kFrench) = row.french;
   }
 }

@@ -23,14 +23,14 @@ enum Message : std::int32_t {
   kMessageCount
 };
 
-// Language numbers. The catalogue carries the first four.
+// Language numbers. The catalogue has a column for each of the first four.
 namespace language {
 inline constexpr std::int32_t kSpanish = 0, kEnglish = 1, kItalian = 2, kFrench = 3, kCatalan = 4, kGalician = 5,
                               kBasque = 6, kPortuguese = 7, kGerman = 8;
 inline constexpr std::int32_t kCarried = 4;
 }  // namespace language
 
-// A rectangular table of texts, addressed by row and column.
+// A table of texts by row and column.
 class TextTable {
  public:
   TextTable() = default;

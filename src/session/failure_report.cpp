@@ -7,8 +7,8 @@
 namespace qvr {
 namespace {
 
-// The provider's errors behind this failure. The connection keeps them until its provider fails again, so that after
-// a failure of ADO's own, or of the library, they are those of some former call: then none has the failure's number.
+// The provider's errors behind this failure. ADO clears its Errors collection only when the provider fails again: after
+// a failure of ADO itself or of the library it holds stale errors, none of which has the failure's number.
 std::vector<services::AdoError> errors_behind(const FailureDetail& failure, services::AdoConnection& connection) {
   auto errors = connection.errors();
   const bool of_this_call = std::ranges::any_of(errors, [&](const services::AdoError& error) {
@@ -27,7 +27,7 @@ void report_failure(const FailureDetail& failure, FailedOperation operation, Eng
   notice.motor = motor;
   notice.label = std::move(operation.label);
   notice.object = std::move(operation.object);
-  // A broken connection may not even tell its errors; the failure itself is reported all the same.
+  // Reading the Errors of a broken connection can fail too; the failure itself is reported anyway.
   using Errors = std::vector<services::AdoError>;
   if (connection != nullptr) notice.errors = or_default(Errors(), [&] { return errors_behind(failure, *connection); });
   thread_state().error_report().Informar(notice);

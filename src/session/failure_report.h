@@ -9,10 +9,10 @@ namespace qvr {
 
 struct FailedOperation {
   Text label;
-  Text object = {};  // what it worked on; empty where the label says it
+  Text object = {};  // the procedure, say; empty where the label says it
 };
 
-// With every error that the connection (if there is one) still holds.
+// Includes the Errors collection of the connection; null where there is none.
 void report_failure(const FailureDetail& failure, FailedOperation operation, Engine motor,
                     services::AdoConnection* connection);
 

@@ -1,4 +1,4 @@
-// Functions that every class shares.
+// Functions shared by all classes.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +9,16 @@
 
 namespace qvr {
 
-// Loads this thread's catalogue in the default language, once per thread; every public class calls it when it is made.
+// Loads this thread's catalogue in the default language, once per thread; the constructor of every public class calls
+// it.
 void InicializarComun() noexcept;
 
 // The default language: the per-user setting "QVR" / "Idioma" / "IdiomaOmision", or the operating system's language
 // where there is none. Read once per thread.
 std::int32_t IdiomaOmision() noexcept;
 
-// A text for the user in this thread's language, which is loaded where it is not yet, with "|1", "|2"... replaced by
-// the arguments. Throws where there is no text.
+// A message in this thread's language, with "|1", "|2"... replaced by the arguments. Loads the catalogue if necessary.
+// Throws when there is no text.
 Text message(Message row, std::span<const Value> arguments = {});
 
 // Whether a directory search for the path with this attribute mask finds an entry; false for an empty path and on any

@@ -1,5 +1,5 @@
-// The language in force on a thread and the texts that it shows. No member fails: what cannot be answered is an empty
-// text, 0 or false.
+// The current language of a thread and its messages. The noexcept members do not fail: they give an empty text, 0 or
+// false.
 #pragma once
 
 #include <cstdint>
@@ -16,8 +16,8 @@ class IdiomaSimple {
  public:
   explicit IdiomaSimple(System& system) : system_(&system) {}
 
-  // Takes over the catalogue (a copy) and selects the language, or the nearest one that the list carries; false, and
-  // not loaded, when that language has no column.
+  // Copies the catalogue and selects the language, or the nearest one in the list; false, and not loaded, when that
+  // language has no column.
   bool CargarEnMemoria(std::int32_t Idioma, std::vector<Value> Idiomas, const TextTable& Mensajes) noexcept;
 
   std::int32_t Idioma() const noexcept { return current_; }
@@ -26,24 +26,22 @@ class IdiomaSimple {
 
   // The row's text in the current language with "||" as line breaks.
   Text CI(std::int32_t row) const noexcept;
-  // CI with "|1", "|2"... replaced in ascending order, each over the result of the one before.
+  // CI with "|1", "|2"... replaced in ascending order, each in the result of the previous replacement.
   Text CIp(std::int32_t row, std::span<const Value> Param) const noexcept;
-  // The same for the library's own texts: an empty one would be shown, or become part of a longer one. Throws failure 9
-  // where CI would be empty.
+  // The same for the library's own messages, which must not be shown empty: throws failure 9 where CI would be empty.
   Text text_of(std::int32_t row) const;
   Text filled_text_of(std::int32_t row, std::span<const Value> values) const;
-  // The row when Cantidad is 1, else the one after it; "|1" is Cantidad, the list goes on at "|2".
+  // Singular and plural: the row when Cantidad is 1, else the next one; "|1" is Cantidad, Param begins at "|2".
   Text CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const Value> Param) const noexcept;
 
   std::int32_t NumIdiomas() const noexcept { return language_count_; }
   std::int32_t NumMensajes() const noexcept { return message_count_; }
-  // The language number of the operating system's user language. Before loading, languages that need a look at the
-  // list give 0.
+  // The language number of the user's Windows language. Before loading, languages that depend on the list give 0.
   std::int32_t IdiomaDesdeSOP() const noexcept;
   std::vector<Value> IdiomasDisponibles() const noexcept;
 
  private:
-  // Makes the language, or the nearest one that the list carries, the current one; false when it has no column.
+  // Selects the language, or the nearest one in the list; false when it has no column.
   bool select(std::int32_t idioma);
   std::int32_t nearest_available(std::int32_t idioma) const noexcept;
 

@@ -1,4 +1,4 @@
-// Message boxes for the user of the host, and the policy of members that show their failures in one.
+// Message boxes, and the failure policy of members that show one.
 #pragma once
 
 #include "base/failure.h"
@@ -8,11 +8,10 @@ namespace qvr {
 // Shows a message box with an OK button.
 void tell(TextView text);
 
-// One message box in the thread's language with the object, the operation that failed and the error's number and
-// description.
+// A message box in the thread's language with class, member, and the error's number and description.
 void show_failure(TextView source, TextView detail, const FailureDetail& failure);
 
-// The policy of members that show their failures: `fallback` when the body throws, after the box.
+// Policy of members that show their failures: when the body throws, a message box and `fallback`.
 template <class R, class Body>
 R or_shown(R fallback, TextView source, TextView detail, Body&& body) noexcept {
   return or_reported(std::move(fallback), std::forward<Body>(body),

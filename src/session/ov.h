@@ -11,18 +11,18 @@ struct VersionNumbers {
   std::int32_t major, minor, revision;
 };
 
-// This build's numbers, the same that the version resource carries.
+// This build's version, the same as in the version resource.
 VersionNumbers own_version();
 
 class Ov {
  public:
-  // Major, two digits of minor and two of revision read as one number: 2.10.24 is 21024. A longer revision makes the
-  // number longer.
+  // Major, two digits of minor and two of revision as one number: 2.10.24 is 21024. A revision of three digits makes it
+  // longer.
   static std::int32_t Version(VersionNumbers numbers) noexcept;
   static Text CadenaVersion(VersionNumbers numbers) noexcept;  // "2.10.24"
-  // Folder of the library file, without a separator at its end.
+  // Folder of the library file, without a trailing separator.
   static Text Path(TextView library_file) noexcept;
-  // The library file's path with ".dll" as its extension, whatever the file is called.
+  // The library file's path with its extension replaced by ".dll".
   static Text PathCompleto(TextView library_file) noexcept;
 };
 

@@ -45,7 +45,7 @@ ThreadState& thread_state() {
 
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {
   ThreadState* const former = current();
-  // A leaving thread that has none asks the system for nothing; one that has a place for it can be sure of it.
+  // No TLS call when nothing changes: setting a slot can fail, and a detaching thread mostly has no state.
   if (state.get() != former && !thread_slot::set(state.get(), destroy)) throw std::bad_alloc();
   static_cast<void>(state.release());
   return std::unique_ptr<ThreadState>(former);

@@ -1,5 +1,5 @@
-// Everything that the library keeps between calls, once per client thread: created by the first use on a thread, gone
-// when the thread detaches, never shared.
+// What the library keeps between calls, per thread: created on first use, destroyed when the thread detaches, never
+// shared between threads.
 #pragma once
 
 #include <memory>
@@ -14,8 +14,8 @@
 
 namespace qvr {
 
-// What a program puts behind the library: the system and the outside services. Each program (the DLL, a test) defines
-// `environment()` once; services are made on first use, once per thread.
+// The platform and the factories of the services. Each program (the DLL, qvrscript, a test) defines `environment()`
+// once; services are created on first use, once per thread.
 struct Environment {
   const Platform& platform;
   std::unique_ptr<services::TextProtection> (*make_text_protection)(const Platform&);
@@ -38,7 +38,7 @@ class ThreadState {
 
   IdiomaSimple idioma;
   TextTable mensajes{kMessageCount, language::kCarried};
-  std::optional<double> idioma_omision;  // the setting as read, once it was
+  std::optional<double> idioma_omision;  // cached; the setting is read once per thread
 
  private:
   const Environment environment_;
@@ -51,7 +51,7 @@ class ThreadState {
 // This thread's state, created when there is none.
 ThreadState& thread_state();
 
-// Puts this state (or none) in place for this thread and gives back the one that was there.
+// Replaces this thread's state (null removes it) and returns the previous one.
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state);
 
 }  // namespace qvr

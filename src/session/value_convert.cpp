@@ -117,7 +117,7 @@ Date to_date(const Value& value) {
   } else {
     date = Date{to_number(value)};
   }
-  static_cast<void>(calendar_time(date));  // a number too far away is no date
+  static_cast<void>(calendar_time(date));  // throws for a number outside the range of dates
   return date;
 }
 

@@ -1,4 +1,4 @@
-// What scripting hosts send, and what must be refused.
+// Late-bound arguments, valid and invalid.
 #include "automation/both.h"
 
 namespace qvr::tests {
@@ -174,7 +174,7 @@ TEST_F(ArgumentsTest, AReferenceToNowhereIsRefused) {
   nowhere.raw().vt = VT_EMPTY;
 }
 
-// A script's object whose value is asked for while the other arguments wait: it puts something else into a variable.
+// Re-entrance during conversion: the default property of one argument changes the variable of another.
 class ValueThatReplaces final : public IDispatch {
  public:
   explicit ValueThatReplaces(Var& variable) : variable_(variable) {}

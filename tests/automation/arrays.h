@@ -1,4 +1,4 @@
-// Arrays as hosts make them.
+// Arrays as hosts create them.
 #pragma once
 
 #include "automation/variant_list.h"
@@ -8,16 +8,16 @@ namespace qvr::tests {
 // An array of variants, or of a type that the items are converted to.
 Var array_of(const std::vector<Var>& items, LONG lower = 0, VARTYPE type = VT_VARIANT);
 
-// Two rows of two.
+// Two dimensions.
 Var square_array();
 
-// A variable for an array that was never given bounds.
+// An array variable without dimensions (Dim a() in Visual Basic).
 Var no_array(VARTYPE type = VT_VARIANT);
 
-// An array with bounds whose elements were taken away.
+// An array after SafeArrayDestroyData.
 Var hollow_array(VARTYPE type, ULONG count);
 
-// Held by the caller as one does who looks at its elements.
+// Locked by the caller, as by SafeArrayAccessData.
 class Locked {
  public:
   explicit Locked(const Var& array) : array_(array.raw().parray) { SafeArrayLock(array_); }

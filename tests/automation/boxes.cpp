@@ -13,8 +13,8 @@ bool is_box(HWND window) {
 
 thread_local Person* Person::present_ = nullptr;
 
-// A box tells of itself when it is activated. On a busy machine the system may keep the foreground to another program
-// and activate none, so the person also looks around now and then.
+// Boxes are found by the CBT hook when they are activated. On a busy machine Windows may not activate them, so a timer
+// looks for them as well.
 Person::Person(int answer)
     : answer_(answer),
       hook_(SetWindowsHookExW(WH_CBT, on_event, nullptr, GetCurrentThreadId())),

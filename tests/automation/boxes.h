@@ -1,4 +1,4 @@
-// The person in front of the screen: answers the message boxes of this thread and remembers what they said.
+// Answers the message boxes of this thread and records their texts.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// A SQLite database of one test's own, reached through the test ADO.
+// A SQLite database for one test, through the test ADO.
 #pragma once
 
 #include <string>
@@ -27,7 +27,7 @@ class Database {
   std::wstring connection_string_;
 };
 
-// For as long as it lives the test ADO fails where `failures` says ("Open", "Execute:3") and writes down its calls.
+// Makes the test ADO fail at these calls ("Open", "Execute:3") and log its calls.
 class FaultyAdo {
  public:
   explicit FaultyAdo(const wchar_t* failures);

@@ -1,4 +1,4 @@
-// Whoever the library calls finds the floating-point state that the host has set, and may call back.
+// Calls out of the library run under the host's floating-point state, and may call back.
 #include <gtest/gtest.h>
 
 #include "QVRlib21.h"

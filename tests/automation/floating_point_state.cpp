@@ -5,7 +5,7 @@
 namespace qvr::tests {
 namespace {
 
-// What the x87 keeps but for its registers.
+// The x87 environment.
 struct Environment {
   std::uint32_t control, status, tags, instruction[4];
 };

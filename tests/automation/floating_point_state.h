@@ -1,4 +1,4 @@
-// The floating-point state of a thread as hosts set it, and what there is of it bit for bit.
+// Floating-point states that hosts set, and the complete state of the thread.
 #pragma once
 
 #include <array>
@@ -13,13 +13,13 @@ struct HostState {
   const char* name;
   std::uint16_t x87;          // control word
   std::uint32_t sse;          // MXCSR
-  std::uint16_t pending = 0;  // flags of the x87; one that the control word does not mask stops the next instruction
+  std::uint16_t pending = 0;  // flags of the x87; an unmasked one raises an exception at the next instruction
   bool operator==(const HostState&) const = default;
 };
 
 inline void PrintTo(const HostState& state, std::ostream* out) { *out << state.name; }
 
-// Windows' own: 53 bits, to the nearest, nothing stops.
+// Windows' default: 53 bits, round to nearest, all exceptions masked.
 inline constexpr HostState kDefaultState{"Default", 0x027F, 0x1F80};
 
 // One of each way in which a host's state can differ.

@@ -1,5 +1,5 @@
-// Hosts set the processor to round as they like and to stop where they like. Whatever they set: numbers, dates and
-// amounts are the same, nothing stops, and the host and whoever is called on the way find the host's state.
+// Whatever rounding mode, precision and exception mask a host sets, numbers, dates and amounts are the same, no
+// exception is raised, and the host's state is restored.
 #include <cmath>
 #include <limits>
 

@@ -1,4 +1,4 @@
-// What type-library browsers show of each type and member.
+// Help strings of all types and members.
 #include <map>
 
 #include "automation/both.h"

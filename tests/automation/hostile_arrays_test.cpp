@@ -1,4 +1,4 @@
-// Arrays and references that no host makes on purpose: none may end or hold up the process.
+// Malformed arrays and references: they must neither crash nor hang the process.
 #include "automation/boxes.h"
 #include "automation/sql_members.h"
 

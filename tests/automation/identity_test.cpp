@@ -1,4 +1,4 @@
-// What COM asks of every object and class object.
+// COM's rules for objects and class objects: identity, QueryInterface, aggregation.
 #include "automation/both.h"
 #include "automation/library.h"
 

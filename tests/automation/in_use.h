@@ -1,4 +1,4 @@
-// What the process holds: counted before and after, it shows what was left behind.
+// Memory and handles of the process, to detect leaks.
 #pragma once
 
 #include <windows.h>
@@ -14,7 +14,7 @@ struct InUse {
 
 InUse in_use();
 
-// Automation keeps released strings for reuse, which would hide and feign leaks. From here on it does not.
+// Disables the BSTR cache of OLE Automation, which would hide and fake leaks.
 void stop_string_cache();
 
 }  // namespace qvr::tests

@@ -1,4 +1,4 @@
-// What a host does over and over leaves nothing behind: blocks of memory and handles are counted before and after.
+// Leaks: memory blocks and handles are counted before and after repeated calls.
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"

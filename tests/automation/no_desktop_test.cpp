@@ -1,5 +1,5 @@
-// A process on a window station that nobody sees, as a service has it: no call waits in a box; what would have stood
-// there is in the debug output, once and to the word.
+// On an invisible window station, as of a service, no call blocks in a message box; its text goes to the debug output,
+// exactly once.
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"

@@ -1,4 +1,4 @@
-// A host that builds the parameters of its own commands.
+// A host that uses AgregarParametroADO.
 #pragma once
 
 #include "automation/both.h"

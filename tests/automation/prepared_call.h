@@ -1,4 +1,4 @@
-// A call of which everything is ready beforehand, so that nothing but the call itself runs in a state that a test sets.
+// A call with its arguments prepared, so that nothing else runs under the floating-point state that a test sets.
 #pragma once
 
 #include <memory>

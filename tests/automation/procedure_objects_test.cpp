@@ -1,4 +1,4 @@
-// Values that only objects and binary columns have, and hosts that change their variables while the procedure runs.
+// Objects and binary values, and hosts that change their variables during the call (re-entrance).
 #include "automation/procedures.h"
 #include "automation/scripted_command.h"
 

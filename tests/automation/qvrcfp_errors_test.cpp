@@ -1,4 +1,4 @@
-// The two members whose caller is told by an error.
+// The two members that raise errors.
 #include "automation/boxes.h"
 #include "automation/sql_members.h"
 

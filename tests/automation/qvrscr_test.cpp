@@ -140,7 +140,7 @@ TEST_F(QVRScrTest, TheObjectLivesThroughARunThatReleasesIt) {
     source.Reset();
     return S_OK;
   };
-  IDispatch* const raw = source.Get();  // called through the pointer that the event lets go of
+  IDispatch* const raw = source.Get();  // the raw pointer: the event releases the reference
   Var arguments[] = {database.connection_string(), kTwoCommands, 2, L"app"};
   VARIANT flat[] = {arguments[0].raw(), arguments[1].raw(), arguments[2].raw(), arguments[3].raw()};
   DISPPARAMS parameters{flat, nullptr, 4, 0};

@@ -1,4 +1,4 @@
-// Registration writes what it says and takes exactly that away again.
+// Registration, and its exact removal.
 #include <algorithm>
 
 #include "automation/both.h"

@@ -1,5 +1,5 @@
-// Plays ADODB.Command for as long as it lives: with values that no database gives, and with things that happen to the
-// caller's variables while the procedure runs.
+// A mock of ADODB.Command: with values that no database returns, and with changes of the caller's variables while the
+// procedure runs.
 #pragma once
 
 #include <memory>

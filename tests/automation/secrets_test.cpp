@@ -1,11 +1,11 @@
-// A password that has passed through the library is nowhere in the process once nobody holds it.
+// No copy of a password stays in the memory of the process.
 #include "automation/both.h"
 #include "automation/library.h"
 
 namespace qvr::tests {
 namespace {
 
-// A password with every unit turned over, so that the program itself does not hold it.
+// The password with inverted units, so that the test program itself does not contain it.
 constexpr wchar_t kMask = 0x1555;
 constexpr wchar_t masked(wchar_t unit) { return static_cast<wchar_t>(unit ^ kMask); }
 constexpr wchar_t kMasked[] = {masked(L'K'), masked(L'3'), masked(L'y'), masked(L'-'), masked(L'o'), masked(L'f'),
@@ -14,7 +14,7 @@ constexpr wchar_t kMasked[] = {masked(L'K'), masked(L'3'), masked(L'y'), masked(
                                masked(L'-'), masked(L'5'), masked(L'6'), masked(L'3'), masked(L'0'), masked(L'8')};
 constexpr std::size_t kLength = std::size(kMasked);
 
-// A string of the host that is overwritten when it goes.
+// A BSTR of the host that is wiped on destruction.
 class Password {
  public:
   Password() : string_(SysAllocStringLen(nullptr, kLength)) {
@@ -58,7 +58,7 @@ std::size_t copies_in(const unsigned char* from, std::size_t size) {
   return found;
 }
 
-// How often the password is in memory that can be written, as UTF-16 or as UTF-8.
+// Occurrences of the password in writable memory, as UTF-16 or UTF-8.
 std::size_t copies_in_memory() {
   std::size_t found = 0;
   MEMORY_BASIC_INFORMATION region;

@@ -1,4 +1,4 @@
-// The published contract, written out whole and compared with the text that was agreed on.
+// The type library as text, compared with the approved one.
 #include <fstream>
 #include <iterator>
 #include <sstream>

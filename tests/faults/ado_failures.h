@@ -1,4 +1,4 @@
-// What ADO can do to a call: refuse it, hang up, or tell what makes no sense.
+// Failures of ADO: errors, lost connections, invalid answers.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Memory that runs out where a test says so. The program that has this allocates through it everywhere.
+// Replaces operator new, so that the n-th allocation of a thread can fail.
 #pragma once
 
 #include <cstddef>

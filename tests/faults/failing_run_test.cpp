@@ -100,7 +100,7 @@ TEST(FailingRun, EndsOnceAndCleansUp) {
   }
 }
 
-// Whatever ADO tells, one box shows it.
+// Every failure of ADO is shown in one box.
 TEST(FailingRun, IsShownWhateverAdoTells) {
   for (const NamedFailure& failure : ado_failures()) {
     for (const NamedErrors& errors : ado_errors()) {

@@ -1,8 +1,6 @@
-// What each member does when memory runs out in a call.
-//
-// A case makes its call on a fresh object again and again, each time with another of its allocations failing. Such a
-// call gives the member's default result, every text that the object shows is whole, the object goes on working and
-// nothing is left behind.
+// Members under out of memory.  A case makes its call on a fresh object again and again, each time with another of its
+// allocations failing. Such a call gives the member's default result, every text that the object shows is whole, the
+// object goes on working and nothing is left behind.
 #pragma once
 
 #include <functional>
@@ -35,8 +33,8 @@ struct FaultCase {
   std::function<std::unique_ptr<Stage>()> make;
   // What holds of every call's log, beyond that its boxes and reports are whole.
   void (*check_log)(const Lines&, const std::string& result) = nullptr;
-  bool may_succeed = false;  // the standard library does without one of its allocations
-  bool lasting = false;      // once more with memory that stays away, from each allocation on
+  bool may_succeed = false;  // the standard library tolerates a failure of one of its allocations
+  bool lasting = false;      // also with all allocations failing from the n-th on
 };
 
 // For the failures of a test that has cases as its parameters.

@@ -1,4 +1,4 @@
-// Every case, with a failure at each of its allocations.
+// Runs every case with a failure at each of its allocations.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,7 +23,7 @@ const FaultCases& all_cases() {
   return kAll;
 }
 
-// What a call leads to.
+// The outcome of a call.
 struct Course {
   std::string result;
   Lines texts, log;
@@ -89,7 +89,7 @@ class OutOfMemory : public ::testing::TestWithParam<FaultCase> {
     if (row.check_log) row.check_log(log, result);
   }
 
-  // Memory is there again: the same call succeeds, for the first or for a second time.
+  // With memory available again the same call succeeds.
   void check_next(Stage& stage) const {
     const Course next = course_of(stage);
     EXPECT_TRUE(next.result == once.result || next.result == twice.result) << next.result;

@@ -1,4 +1,4 @@
-// What holds of every run of the script runner, whatever failed in it.
+// Invariants of every run of the script runner.
 #pragma once
 
 #include <string>

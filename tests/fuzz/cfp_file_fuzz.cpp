@@ -1,4 +1,4 @@
-// The parameters' file and the protection of its lines: what was written is read, whatever else is refused.
+// The ".cfp" file and the text protection: what was written is read back, everything else is rejected.
 #include "connection/cfp_file.h"
 
 #include "base/failure.h"

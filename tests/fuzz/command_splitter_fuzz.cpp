@@ -1,4 +1,4 @@
-// Commands are what stands between the GO lines, as plainly as that can be found.
+// The splitter compared with a plain search for the separator.
 #include "script/command_splitter.h"
 
 #include "fuzz/fuzz_input.h"

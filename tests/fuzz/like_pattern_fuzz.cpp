@@ -1,4 +1,4 @@
-// A pattern finds exactly what its user meant, and a search for a quoted text finds that text.
+// A pattern matches exactly what "*" and "?" mean, and a search for a quoted text matches that text.
 #include "dialect/like_pattern.h"
 
 #include "dialect/like_pieces.h"

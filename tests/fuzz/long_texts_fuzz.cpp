@@ -1,4 +1,4 @@
-// Long texts of a piece again and again cost about what their length says, whatever the piece is.
+// Run time is about linear in the length of repetitive texts.
 #include <ctime>
 
 #include "base/failure.h"

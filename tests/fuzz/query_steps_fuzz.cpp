@@ -1,4 +1,4 @@
-// A query beside its plain model, whatever is done to both.
+// Random calls on a query and on its reference model.
 #include "query/query_steps.h"
 
 #include "fuzz/fuzz_input.h"

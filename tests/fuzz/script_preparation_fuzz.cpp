@@ -1,4 +1,4 @@
-// Scripts are prepared as the plain passes do it.
+// Preparation of scripts compared with its reference model.
 #include "base/date_text.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"

@@ -1,4 +1,4 @@
-// Commands that are none, and text that is never run.
+// Empty commands, and text that is never run.
 #include <gtest/gtest.h>
 
 #include "tool_in_process.h"

@@ -1,4 +1,4 @@
-// What the doctor says of a machine.
+// The findings of the doctor.
 #include "qvrscript/doctor.h"
 
 #include <gtest/gtest.h>

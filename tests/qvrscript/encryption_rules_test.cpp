@@ -1,4 +1,4 @@
-// What the rewrite for encryption will and will not make of AS and FOR lines.
+// AS and FOR lines that the rewriting for WITH ENCRYPTION changes or misses.
 #include <gtest/gtest.h>
 
 #include "tool_in_process.h"

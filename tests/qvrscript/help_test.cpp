@@ -1,4 +1,4 @@
-// What the program teaches about itself.
+// The help texts.
 #include <gtest/gtest.h>
 
 #include <regex>

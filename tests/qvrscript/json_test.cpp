@@ -1,4 +1,4 @@
-// JSON as text.
+// Writing JSON.
 #include "qvrscript/json.h"
 
 #include <gtest/gtest.h>

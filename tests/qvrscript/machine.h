@@ -1,4 +1,4 @@
-// The machine that the doctor of this test program looks at.
+// The facts that the doctor of this test program gets.
 #pragma once
 
 #include "qvrscript/doctor_facts.h"

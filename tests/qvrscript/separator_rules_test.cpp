@@ -1,4 +1,4 @@
-// Lines that separate where the author may not mean it, and lines that do not.
+// GO lines that separate unintentionally, and look-alikes that do not separate.
 #include <gtest/gtest.h>
 
 #include "support/rows.h"

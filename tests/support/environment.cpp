@@ -1,4 +1,4 @@
-// What stands behind the library in this program where a test puts nothing else: the system and the built-in services.
+// The environment of this test program: the system's platform and the built-in services.
 #include "base/failure.h"
 #include "services/builtin_services.h"
 #include "session/thread_state.h"

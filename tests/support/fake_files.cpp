@@ -26,7 +26,7 @@ class MemoryOutput final : public OutputFile {
   MemoryOutput& operator=(const MemoryOutput&) = delete;
 
   void write(std::string_view bytes) override {
-    const FaultsPaused paused;  // a disk has its own room
+    const FaultsPaused paused;  // a disk does not use this memory
     begun_ = true;
     const auto& disk = files_.writable_bytes;
     const std::size_t room = disk ? *disk - std::min(*disk, written().size()) : bytes.size();

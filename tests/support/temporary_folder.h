@@ -1,4 +1,4 @@
-// A folder of its own below the system's folder for such, gone at the end.
+// A temporary folder, removed on destruction.
 #pragma once
 
 #include <filesystem>

@@ -1,4 +1,4 @@
-// What stands behind the library in this program: the system, the built-in services and ADO over ODBC.
+// The environment of this program: the system's platform, the built-in services and ADO over ODBC.
 #include "odbc/odbc_ado.h"
 #include "services/builtin_services.h"
 #include "session/thread_state.h"

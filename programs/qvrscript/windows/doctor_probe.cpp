@@ -28,7 +28,7 @@ Function function_of(const wchar_t* module, const char* name) {
   return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(module), name)));
 }
 
-// The version that the system has, not the one that it shows to programs without a manifest.
+// The real version of Windows: GetVersionEx lies to programs without a manifest.
 void look_at_system(Facts& facts) {
   using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
   OSVERSIONINFOW version{};

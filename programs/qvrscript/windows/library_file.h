@@ -1,4 +1,4 @@
-// Library files looked at, and asked.
+// Facts about a library file.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@ namespace qvr::script_tool::windows {
 
 bool exists(const std::wstring& path);
 
-// Width and version without loading it, so that a library of the other width can be looked at as well.
+// Width and version without loading it, which works for the other width as well.
 LibraryFile library_file(const std::wstring& path);
 
-// What an `Ov` of this very file says, whatever is registered.
+// What `Ov` of this file answers, created without the registry.
 OvMembers ov_of(const std::wstring& path);
 
 }  // namespace qvr::script_tool::windows

@@ -9,7 +9,7 @@
 
 namespace {
 
-// ADO's objects live in an apartment; they are gone when it ends.
+// ADO needs a single-threaded apartment; its objects must be released before CoUninitialize.
 class Apartment {
  public:
   Apartment() : entered_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
@@ -24,7 +24,7 @@ class Apartment {
   bool entered_;
 };
 
-// The console shows UTF-8 while the program runs, and is left as it was.
+// Sets the console's code page to UTF-8 and restores it.
 class Utf8Output {
  public:
   Utf8Output() : former_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }

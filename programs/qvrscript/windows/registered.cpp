@@ -40,7 +40,7 @@ std::wstring text_of(REFGUID id) {
   return text;
 }
 
-// The default value of a key below the classes, with what it has of environment variables replaced.
+// The default value of a key below Software\Classes, environment variables expanded.
 std::optional<std::wstring> class_value(const Place& place, const std::wstring& key) {
   const HKEY root = place.scope == RegistrationScope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
   HKEY opened = nullptr;
@@ -79,7 +79,7 @@ bool system_has(const Place& place) {
   return place.width == 32 || system.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_AMD64;
 }
 
-// This program's width, the user's scope first, as COM looks.
+// In this program's width, the user's scope first, as COM does.
 template <class Look>
 auto first_of_own_width(Look look) -> decltype(look(Place{})) {
   for (const RegistrationScope scope : {RegistrationScope::User, RegistrationScope::Machine}) {
@@ -93,7 +93,7 @@ std::optional<std::wstring> class_id_of(const wchar_t* program_id) {
   return first_of_own_width([&](const Place& place) { return class_value(place, key); });
 }
 
-// A server's value may be quoted, may have variables and may be a name alone, which the system's folder has.
+// InprocServer32 may be quoted, may contain environment variables and may be a file name without a folder.
 bool server_exists(const std::wstring& value) {
   wchar_t expanded[4096];
   if (ExpandEnvironmentStringsW(value.c_str(), expanded, static_cast<DWORD>(std::size(expanded))) == 0) return false;
@@ -144,7 +144,7 @@ Component provider(const wchar_t* program_id) {
   const auto id = class_id_of(program_id);
   if (!id) return found;
   const auto server = first_of_own_width([&](const Place& place) { return server_of(place, *id); });
-  // A name whose class is there for the other width only is nothing to this one.
+  // A ProgID whose CLSID exists in the other width only is not registered for this one.
   found.registered = server.has_value();
   found.usable = server && server_exists(*server);
   return found;

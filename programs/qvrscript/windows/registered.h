@@ -1,4 +1,4 @@
-// What the registry says of the library's classes and of those of others.
+// Reads the registration of the library's and of other classes.
 #pragma once
 
 #include <windows.h>
@@ -11,20 +11,20 @@ namespace qvr::script_tool::windows {
 
 std::size_t class_count();
 
-// What is registered of the library in each scope and for each width. Wine keeps one set of the user's classes for both
-// widths: with `one_user_view` it counts for the width of the file that it leads to.
+// The registration of the library in each scope and for each width. Wine has no registry views of the user's classes:
+// with `one_user_view` a registration counts for the width of its file.
 std::vector<Registration> registrations(bool one_user_view);
 
-// Names of the library's classes that are registered, but whose class is not, for either width.
+// ProgIDs of the library that are registered while their CLSID is not, in either width.
 std::vector<Text> stale_names();
 
 // The type library's file for this width, the user's before the machine's; empty for none.
 std::wstring registered_type_library();
 
-// A class of others by its name, for this width; usable when its file is there.
+// Another class by its ProgID, for this width; usable when its file exists.
 Component provider(const wchar_t* program_id);
 
-// The same; usable when an object can be made.
+// The same; usable when an object can be created.
 Component component(const wchar_t* program_id);
 
 }  // namespace qvr::script_tool::windows

@@ -35,7 +35,7 @@ class ComConnection final : public services::AdoConnection {
   std::vector<services::AdoError> errors() override {
     std::vector<services::AdoError> found;
     const LateObject collection = object_.get_object(L"Errors");
-    // A provider that miscounts must not keep the report from its user.
+    // A provider with a wrong count of errors must not block the report.
     constexpr std::int32_t kMost = 1000;
     const std::int32_t count = std::min(to_long(collection.get(L"Count")), kMost);
     for (std::int32_t i = 0; i < count; ++i) found.push_back(error_from(object_in(collection.get(L"Item", {i}))));

@@ -1,4 +1,4 @@
-// The system's ADO, reached by name only: the ids of its interfaces differ between systems.
+// The system's ADO, late-bound only: the IIDs of its interfaces differ between Windows versions.
 #pragma once
 
 #include "com/com.h"
@@ -13,7 +13,7 @@ class ComAdo : public services::Ado {
   std::unique_ptr<services::AdoParameter> new_parameter() override;
 };
 
-// A connection or command that a host handed over; null for Nothing.
+// A connection or command of the host; null for Nothing.
 std::unique_ptr<services::AdoConnection> wrap_connection(IDispatch* connection);
 std::unique_ptr<services::AdoCommand> wrap_command(IDispatch* command);
 

@@ -14,7 +14,7 @@ void ComErrorReport::hand_over(const services::ErrorNotice& notice) {
                               &captions.method, &captions.object}) {
     texts.items.emplace_back(*caption);
   }
-  // The component has one argument for both.
+  // The component takes both in one argument.
   const Text label = notice.object.empty() ? notice.label : join({notice.label, u": ", notice.object});
   component_.call(L"Informar", {notice.failure.number, notice.failure.description, notice.failure.source,
                                 number_of(notice.motor), label, std::move(texts)});

@@ -12,10 +12,10 @@ class ComErrorReport final : public services::ErrorReport {
  public:
   static constexpr wchar_t kProgramId[] = L"QVRServicios.InformeErrores";
 
-  // Where the component does not take a notice, the other report shows it: no failure goes unseen.
+  // If the component fails, the other report shows the failure.
   ComErrorReport(LateObject component, std::unique_ptr<services::ErrorReport> otherwise)
       : component_(std::move(component)), otherwise_(std::move(otherwise)) {}
-  // Runs when the thread leaves; see ComTextProtection.
+  // Runs at thread detach; see ComTextProtection.
   ~ComErrorReport() override { component_.abandon(); }
 
   void Informar(const services::ErrorNotice& notice) override;

@@ -11,7 +11,7 @@ class ComScriptReader final : public services::ScriptReader {
   static constexpr wchar_t kProgramId[] = L"QVRServicios.LectorScripts";
 
   explicit ComScriptReader(LateObject component) : component_(std::move(component)) {}
-  // Runs when the thread leaves; see ComTextProtection.
+  // Runs at thread detach; see ComTextProtection.
   ~ComScriptReader() override { component_.abandon(); }
 
   std::optional<Text> Leer(TextView ID, TextView Ruta) override;

@@ -11,7 +11,8 @@ class ComTextProtection final : public services::TextProtection {
   static constexpr wchar_t kProgramId[] = L"QVRServicios.ProteccionTexto";
 
   explicit ComTextProtection(LateObject component) : component_(std::move(component)) {}
-  // Runs when the thread leaves, under the loader's lock and maybe after COM has gone: no call may be made then.
+  // Runs at thread detach, under the loader lock and maybe after CoUninitialize: no COM call is allowed, not even
+  // Release.
   ~ComTextProtection() override { component_.abandon(); }
 
   Text Cifrar(TextView Clave, TextView Texto) override;

@@ -9,7 +9,7 @@
 namespace qvr::com {
 namespace {
 
-// The texts of an error report, released whatever happens.
+// EXCEPINFO that frees its strings.
 struct Exception : EXCEPINFO {
   Exception() : EXCEPINFO{} {}
   ~Exception() {
@@ -30,7 +30,7 @@ struct Exception : EXCEPINFO {
   throw RuntimeFailure(number, text_from(exception.bstrDescription), text_from(exception.bstrSource));
 }
 
-// Arguments as Invoke wants them: last one first.
+// Arguments in reverse order, as Invoke takes them.
 class Arguments {
  public:
   explicit Arguments(std::span<const Value> values) : owned_(values.size()) {
@@ -52,7 +52,7 @@ class Arguments {
     }
   }
 
-  // Behind the last argument, so first in the list.
+  // The last argument is the first in the list.
   void add_by_reference(OwnedBstr& text) {
     VARIANT reference;
     reference.vt = VT_BYREF | VT_BSTR;
@@ -67,7 +67,7 @@ class Arguments {
 
  private:
   std::vector<OwnedVariant> owned_;
-  std::vector<VARIANT> passed_;  // the same contents side by side, as Invoke wants them
+  std::vector<VARIANT> passed_;  // shallow copies in one array, for Invoke
   DISPID put_name_ = DISPID_PROPERTYPUT;
 };
 

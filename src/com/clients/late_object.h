@@ -1,4 +1,4 @@
-// Calls by name on objects outside the library.
+// Late-bound calls of objects outside the library.
 #pragma once
 
 #include <initializer_list>
@@ -9,19 +9,19 @@
 
 namespace qvr::com {
 
-// Every call throws RuntimeFailure with what the object said of its error.
+// Every call throws RuntimeFailure with the object's error (EXCEPINFO).
 class LateObject {
  public:
   explicit LateObject(HostPtr<IDispatch> object) : object_(std::move(object)) {}
 
-  // A new object of the class; throws failure 429 when it cannot be created.
+  // Creates an object; throws failure 429 when that fails.
   static LateObject create(REFCLSID id);
 
   Value call(const wchar_t* name, std::initializer_list<Value> arguments) const;
-  // With one more argument behind the others: a text by reference, which the object may change.
+  // With one more argument at the end, a text by reference, which the object may change.
   Value call(const wchar_t* name, std::initializer_list<Value> arguments, Text& by_reference) const;
   Value get(const wchar_t* name, std::initializer_list<Value> arguments = {}) const;
-  // All of the arguments texts, of which no copy stays in memory.
+  // With text arguments only, which are wiped afterwards.
   Value call_with_secrets(const wchar_t* name, std::initializer_list<TextView> arguments) const;
   void put(const wchar_t* name, const Value& value) const;
   void put_secret(const wchar_t* name, TextView text) const;
@@ -29,7 +29,7 @@ class LateObject {
   LateObject get_object(const wchar_t* name) const;
 
   ObjectRef as_value() const { return std::make_shared<DispatchObject>(object_.Get()); }
-  // Gives the reference up without releasing it.
+  // Leaks the reference on purpose: no Release.
   void abandon() noexcept { static_cast<void>(object_.Detach()); }
 
  private:
@@ -39,7 +39,7 @@ class LateObject {
   HostPtr<IDispatch> object_;
 };
 
-// The class registered under this program id; nothing when there is none.
+// The CLSID of this ProgID; nothing when it is not registered.
 std::optional<CLSID> registered_class(const wchar_t* program_id);
 
 // The object in a value; throws failure 91 for Nothing, 13 for anything else.

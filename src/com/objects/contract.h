@@ -1,4 +1,4 @@
-// The contract's members under their own names: how any query is held as `iSQL20`.
+// The interface iSQL20 on a core query.
 #pragma once
 
 #include "com/dual.h"

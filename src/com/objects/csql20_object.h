@@ -6,7 +6,7 @@
 
 namespace qvr::com {
 
-// The members that only this class has stand beside the contract's.
+// The members of this class only; the others are in contract.h.
 class cSQL20Object final : public Object<::cSQL20, PrefixedContract<_cSQL20>, Contract> {
  public:
   STDMETHODIMP get_Name(BSTR* Resultado) noexcept override {

@@ -6,7 +6,7 @@
 namespace qvr::com {
 namespace {
 
-// No shared initialisation here: asking for the version must not need a catalogue.
+// Without the shared initialisation: reading the version must not load the catalogue.
 Text library_file() {
   return or_default(Text(), [] { return system_platform().system.module_path(); });
 }

@@ -1,11 +1,11 @@
-// The contract's members as a class has them on its default interface, where their names begin with "iSQL20_".
+// The members of iSQL20 on a class's default interface, where their names begin with "iSQL20_".
 #pragma once
 
 #include "com/objects/contract.h"
 
 namespace qvr::com {
 
-// Each member is the contract's own, which the object has as well.
+// Forwards each member to the object's iSQL20.
 template <class I>
 class PrefixedContract : public Dual<I> {
  public:

@@ -1,4 +1,4 @@
-// The arguments of `Crear` as the core takes them.
+// Converts the arguments of `Crear`.
 #pragma once
 
 #include "QVRlib21.h"

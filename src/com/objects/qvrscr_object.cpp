@@ -10,7 +10,7 @@ namespace {
 
 constexpr DISPID kProgreso = 1, kTerminado = 2;
 
-// The arguments of a run or of a load, as the core takes them.
+// The converted arguments of a run or a load.
 struct RunTexts {
   Text given_id, given_shown, id, shown, commands;
   SecretText connection_string;
@@ -20,7 +20,7 @@ struct LoadTexts {
   ScriptAccounts accounts;
 };
 
-// Makes the arguments and calls the core with them. Where there is no memory for them, the end is told all the same.
+// Converts the arguments and calls the core. Terminado is fired also when converting them runs out of memory.
 template <class Make, class Call>
 auto with_arguments(qvr::QVRScr& core, Make&& make, Call&& call) {
   using Arguments = std::invoke_result_t<Make>;

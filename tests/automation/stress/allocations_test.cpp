@@ -1,4 +1,4 @@
-// Names are found without asking for memory: scripts look them up before each call.
+// GetIDsOfNames does not allocate: scripts call it before each call.
 #include "automation/stress/allocations.h"
 #include "automation/both.h"
 #include "automation/in_use.h"

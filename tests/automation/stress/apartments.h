@@ -1,4 +1,4 @@
-// Objects of this thread's apartment in the hands of another one.
+// Marshalling of objects to another apartment.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,4 @@
-// Sinks that do inside an event what no sink should. The run goes on, everybody else hears all of it, and its end once.
+// Misbehaving sinks (re-entrance, failures): the run goes on, other sinks get all events, and Terminado exactly once.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Someone who calls every member of an interface wrongly, and looks at what comes back.
+// Calls every member of an interface with invalid arguments and checks the answers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -53,8 +53,8 @@ class HostileCaller : public testing::TestWithParam<std::size_t> {
  protected:
   const DescribedInterface& interface_under_attack() const { return described_interfaces()[GetParam()]; }
 
-  // Attacks each member again and again, on a new object each time. No box may be left waiting and no memory, and the
-  // object works afterwards.
+  // Calls each member repeatedly, on a new object each time. No box stays open, no memory leaks, and the object works
+  // afterwards.
   using Attack = std::function<void(const Subject&, const DescribedMember&)>;
   void attack_every_member(const Attack& attack) const;
 

@@ -1,4 +1,4 @@
-// Arguments that nobody means, one after the other for every parameter of every member, and for all of them at once.
+// Hostile arguments for every parameter of every member, one at a time and all at once.
 #include "automation/stress/hostile_values.h"
 #include "automation/stress/hostile_caller.h"
 

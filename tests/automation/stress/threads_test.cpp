@@ -1,4 +1,4 @@
-// Ten thousand threads come, make an object, use it and go. Nothing of theirs stays.
+// Ten thousand threads create and use an object; nothing leaks.
 #include <gtest/gtest.h>
 
 #include "automation/in_use.h"

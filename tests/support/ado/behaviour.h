@@ -1,4 +1,4 @@
-// What ADO does, which this server puts behind automation.
+// The behaviour of ADO, which this server exposes by automation.
 #pragma once
 
 #include "odbc/ado_command_state.h"

@@ -1,4 +1,4 @@
-// What the collections have in common: Count, Item by position or name, and enumeration.
+// Base of the collections: Count, Item by position or name, and enumeration.
 #pragma once
 
 #include "support/ado/com/dispatch_object.h"

@@ -1,4 +1,4 @@
-// What the classes that execute commands share.
+// Shared by the classes that execute commands.
 #pragma once
 
 #include <memory>

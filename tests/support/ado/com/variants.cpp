@@ -66,7 +66,7 @@ struct Writer {
     to.decVal.Lo32 = held.low;
     to.decVal.scale = held.scale;
     to.decVal.sign = held.negative ? DECIMAL_NEG : BYTE{0};
-    to.vt = VT_DECIMAL;  // last: it shares its place with a part of the number's structure
+    to.vt = VT_DECIMAL;  // last: DECIMAL overlays vt
   }
   void operator()(Date held) const {
     to.vt = VT_DATE;
