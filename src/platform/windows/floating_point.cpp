@@ -5,11 +5,11 @@
 namespace qvr::windows {
 namespace {
 
-// The innermost entry of this thread that found another state than the default one; none while the host's code runs,
-// which may leave by a jump.
+// The innermost call of this thread that found another state than the default one; null while the host's code runs,
+// which may leave by longjmp.
 const ThreadPointer innermost;
 
-// Flags are cleared first: one whose exception the new words do not mask would stop the program at the next
+// Clears the flags first: a flag whose exception is unmasked by the new control word would raise at the next
 // instruction.
 void set(const FloatingPointControl& control) noexcept {
   asm volatile("fnclex" : : : "memory");
@@ -20,7 +20,7 @@ void set(const FloatingPointControl& control) noexcept {
 }  // namespace
 
 void DefaultFloatingPoint::enter() noexcept {
-  // Without waiting for a pending exception, unlike most instructions of the x87; masks all of them.
+  // fnstenv does not raise a pending exception, unlike most x87 instructions, and masks all exceptions.
   asm volatile("fnstenv %0" : "=m"(x87_));
   asm volatile("stmxcsr %0" : "=m"(sse_));
   set(kDefaultControl);

@@ -1,14 +1,13 @@
-// The floating-point state of a thread: how the processor rounds and to how many bits, what becomes of denormal
-// numbers, and which exceptions stop the program. Hosts set it as they like. The library calculates under the state in
-// which Windows starts every thread, and code of the host and of others runs under the host's.
+// The floating-point state of a thread: rounding mode, precision, denormals and exception masks of x87 and SSE. Hosts
+// set it as they like. The library runs under the state in which Windows starts every thread; code of the host and of
+// components runs under the host's.
 #pragma once
 
 #include <cstdint>
 
 namespace qvr::windows {
 
-// What arithmetic depends on: the control words of the x87 and of SSE. Every processor that Windows 7 supports has
-// both.
+// The control words of the x87 and of SSE. Processors without SSE are not supported.
 struct FloatingPointControl {
   std::uint16_t x87;
   std::uint32_t sse;  // MXCSR, whose low bits are flags
@@ -26,11 +25,11 @@ struct FloatingPointControl {
   }
 };
 
-// 53 bits, to the nearest, no exception stops the program.
+// 53 bits, round to nearest, all exceptions masked.
 inline constexpr FloatingPointControl kDefaultControl{0x027F, 0x1F80};
 
-// As long as it lives, the thread's state is the default one; then the host has its own again, with its flags and with
-// an exception that was pending. Where a call enters the library; within one another, what calls back enters too.
+// Sets the default state while it lives and restores the host's, with its flags and a pending exception. Used where a
+// call enters the library; nests when a call re-enters.
 class DefaultFloatingPoint {
  public:
   DefaultFloatingPoint() noexcept {
@@ -49,13 +48,14 @@ class DefaultFloatingPoint {
   void give_host_its_own() const noexcept;
 
   bool entered_ = false;
-  std::uint32_t x87_[7];  // environment: control, status and tag words, and where a pending exception came from
+  std::uint32_t
+      x87_[7];  // x87 environment (fnstenv): control, status and tag words, and the address of a pending exception
   std::uint32_t sse_;
   DefaultFloatingPoint* outer_;
 };
 
-// As long as it lives, the thread's state is the one that the host had when it called. Around every call of code that
-// is neither the library's nor the system's. What that code changes in the state ends with it.
+// Restores the host's state while it lives, around every call of code that is neither the library's nor the system's.
+// Changes that this code makes to the state are dropped.
 class HostFloatingPoint {
  public:
   HostFloatingPoint() noexcept;
@@ -64,7 +64,7 @@ class HostFloatingPoint {
   HostFloatingPoint& operator=(const HostFloatingPoint&) = delete;
 
  private:
-  DefaultFloatingPoint* const entered_;  // null where the host's state is the default one
+  DefaultFloatingPoint* const entered_;  // null if the host's state is the default one
   const FloatingPointControl inside_;
 };
 
