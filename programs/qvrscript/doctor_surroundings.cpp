@@ -39,7 +39,7 @@ TextView language_word(std::int32_t number) {
   return number >= 0 && number < language::kCarried ? kWords[number] : u"unknown";
 }
 
-// What a component that is registered and does not work costs.
+// The consequence of a component that is registered but does not work.
 struct FamilyComponent {
   TextView program_id, task, without;
   bool wrong;

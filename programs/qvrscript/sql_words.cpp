@@ -7,7 +7,7 @@ namespace {
 
 constexpr TextView kModules[] = {u"PROC", u"PROCEDURE", u"VIEW", u"FUNCTION", u"TRIGGER"};
 
-// The kind of thing that the command makes or changes; empty for another command.
+// The kind of object that the command creates or alters; empty for other commands.
 TextView made(const std::vector<Word>& words) {
   const bool create_or_alter = words_are(words, 0, {u"CREATE", u"OR"});
   const bool makes = words_are(words, 0, {u"CREATE"}) || words_are(words, 0, {u"ALTER"});

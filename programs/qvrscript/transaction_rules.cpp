@@ -45,7 +45,7 @@ bool is_refused(const std::vector<Word>& words, std::size_t at) {
 
 void check_command(const Script& script, const ScriptCommand& command, Findings& findings) {
   const std::vector<Word> words = words_in(script, command);
-  if (is_module(words)) return;  // its statements run when it is called, not now
+  if (is_module(words)) return;  // its statements run when it is called, not now, not now
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (!is_refused(words, at) || is_part(words, at) || is_permission(script, words, at)) continue;
     const bool alone = equal_no_case(words[at].text, u"RECONFIGURE");

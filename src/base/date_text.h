@@ -1,4 +1,4 @@
-// Dates taken apart and written, independent of the locale.
+// Conversion of dates to calendar fields and to text, independent of the locale.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// A text that is overwritten before its memory is given back: keys, passwords, and what holds them.
+// A text that is wiped before its memory is freed, for keys and passwords.
 #pragma once
 
 #include <utility>
@@ -9,13 +9,13 @@ namespace qvr {
 
 class SecretText {
  public:
-  // A short text is copied by a move: what is left of it in the source goes too.
+  // Moving a short text (small-string optimisation) copies it: wipe the source.
   explicit SecretText(Text&& text) noexcept : text_(std::move(text)) { wipe(text); }
   SecretText(SecretText&& other) noexcept : SecretText(std::move(other.text_)) {}
   SecretText& operator=(SecretText&&) = delete;
   ~SecretText() { wipe(text_); }
 
-  operator TextView() const noexcept { return text_; }  // stands wherever a text is read
+  operator TextView() const noexcept { return text_; }  // implicit, to be read like a text
 
  private:
   Text text_;

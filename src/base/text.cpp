@@ -52,7 +52,7 @@ Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t*
   std::size_t from = 0, place = position != nullptr ? *position : 0;
   for (std::size_t at = find_no_case(text, what); at != TextView::npos; at = find_no_case(text, what, from)) {
     result.append(text, from, at - from);
-    // One inside the piece that goes moves behind the first unit of what comes.
+    // A position inside a replaced piece moves behind the first unit of its replacement.
     if (position != nullptr && *position > at) {
       place = *position < at + what.size() ? result.size() + 1 : place + by.size() - what.size();
     }
@@ -69,7 +69,7 @@ std::size_t find_no_case(TextView text, TextView what, std::size_t from) {
   const char16_t first = fold(what[0]);
   const bool one_case = first < 0x80 && !(first >= u'A' && first <= u'Z');
   for (std::size_t at = from; at + what.size() <= text.size(); ++at) {
-    // A sign without cases is looked for at the speed of the standard library.
+    // A unit without case is searched by the standard library, which is faster.
     if (one_case) at = text.find(first, at);
     if (at == TextView::npos || at + what.size() > text.size()) return TextView::npos;
     if (fold(text[at]) == first && equal_no_case(text.substr(at, what.size()), what)) return at;
@@ -85,7 +85,7 @@ TextView trimmed(TextView text, TextView blanks) {
 bool all_digits(TextView text) { return !text.empty() && std::ranges::all_of(text, is_digit); }
 
 Text decimal(std::int64_t number) {
-  char digits[20];  // of the smallest number, with its sign
+  char digits[20];  // enough for the smallest number with its sign
   const auto written = std::to_chars(std::begin(digits), std::end(digits), number);
   return Text(digits, written.ptr);
 }
@@ -108,7 +108,7 @@ Text join(std::initializer_list<TextView> pieces) {
   Text result;
   result.reserve(size);
   for (const TextView piece : pieces) {
-    if (!piece.empty()) result.append(piece);  // half the pieces of a statement are clauses that it has not
+    if (!piece.empty()) result.append(piece);  // many clauses of a statement are empty
   }
   return result;
 }

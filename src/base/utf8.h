@@ -1,4 +1,4 @@
-// UTF-8 for what leaves the process as bytes.
+// Conversion between UTF-16 and UTF-8.
 #pragma once
 
 #include <optional>
@@ -9,8 +9,8 @@
 
 namespace qvr {
 
-// UTF-8 of any text. A lone surrogate, which strict UTF-8 cannot carry, is written as its three bytes, so that every
-// text comes back unchanged from `from_utf8`.
+// UTF-8 of any text. A lone surrogate is encoded as three bytes (WTF-8), so that `from_utf8` gives every text back
+// unchanged.
 std::string to_utf8(TextView text);
 
 // Decodes UTF-8; nothing for bytes that `to_utf8` could not have written.

@@ -205,7 +205,7 @@ struct Put {
   void operator()(const Decimal& held) const {
     v.decVal.Hi32 = held.high, v.decVal.Mid32 = held.mid, v.decVal.Lo32 = held.low;
     v.decVal.scale = held.scale, v.decVal.sign = held.negative ? DECIMAL_NEG : BYTE{0};
-    v.vt = VT_DECIMAL;  // last: it shares its place with a part of the number's structure
+    v.vt = VT_DECIMAL;  // last: DECIMAL overlays vt
   }
   void operator()(const Text& held) const {
     v.bstrVal = new_bstr(held);
@@ -220,7 +220,7 @@ struct Put {
     v.vt = VT_UNKNOWN, v.punkVal = HostPtr<IUnknown>(object->object).Detach();
   }
   void operator()(const Array& held) const {
-    // Bytes are binary data, which ADO takes in this form only.
+    // Bytes as VT_UI1 arrays, the only form in which ADO takes binary data.
     const bool binary = !held.items.empty() && std::ranges::all_of(held.items, &Value::is<std::uint8_t>);
     const VARTYPE type = binary ? VT_UI1 : VT_VARIANT;
     SAFEARRAY* array = SafeArrayCreateVector(type, held.lower, static_cast<ULONG>(held.items.size()));
@@ -231,7 +231,7 @@ struct Put {
       OwnedVariant element;
       put_value(*element.get(), item);
       void* content = binary ? static_cast<void*>(&element->bVal) : element.get();
-      const HostFloatingPoint host;  // of an object, a reference is taken
+      const HostFloatingPoint host;  // AddRef of the host's object
       if (FAILED(SafeArrayPutElement(array, &index, content))) throw std::bad_alloc();
       ++index;
     }

@@ -1,4 +1,4 @@
-// The pieces of the system's platform, each in a file of its own in windows/ and in posix/.
+// The implementations of platform.h, each in a file of its own in windows/ and posix/.
 #pragma once
 
 #include "platform/platform.h"

@@ -1,5 +1,5 @@
-// What the library asks of the operating system, as small interfaces; windows/ and posix/ implement them under equal
-// file names. They are handed in through the thread's state, so that a test can put its own in their place.
+// The interfaces to the operating system; windows/ and posix/ implement them under equal file names. They are passed in
+// through the thread's state, so that tests can replace them.
 #pragma once
 
 #include <cstddef>
@@ -25,19 +25,19 @@ struct InputFile {
 struct OutputFile {
   virtual ~OutputFile() = default;
   virtual void write(std::string_view bytes) = 0;  // all of them, or throws
-  virtual void close() = 0;                        // the file is there now; throws when it could not be kept
+  virtual void close() = 0;                        // commits: the file has its name now; throws on failure
 };
 
 struct Files {
   // Whether a directory search for the path (wildcards allowed) with this mask of file attributes finds anything.
   virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
-  virtual std::vector<Text> names(TextView folder) = 0;        // of its plain files; throws when it cannot be read
+  virtual std::vector<Text> names(TextView folder) = 0;        // of its regular files; throws when it cannot be read
   virtual std::unique_ptr<InputFile> open(TextView path) = 0;  // throws when it cannot be read
-  // A file that is there stays as it is until the new one is closed and takes its place. What is written until then
-  // stands beside it, its name with ".tmp" behind, and stays there when it comes to no end. Where nothing can stand
-  // beside it, or cannot take its place, it is written over, from the first byte that is written. Throws.
+  // Atomic replacement: the text is written to a temporary file with ".tmp" appended to its name, which close() renames
+  // to the final name. Until then an existing file stays as it is; without close() the temporary file remains. Where no
+  // temporary file can be created, or renaming fails, the file is written in place. Throws.
   virtual std::unique_ptr<OutputFile> create(TextView path) = 0;
-  // Text in the system's single-byte or multi-byte page. Throws when a character has no place in that page.
+  // Text in the system's ANSI code page (UTF-8 on posix). Throws for characters that the code page does not have.
   virtual std::string to_system_page(TextView text) = 0;
   virtual Text from_system_page(std::string_view bytes) = 0;
 
@@ -49,19 +49,19 @@ enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
 struct MessageBoxes {
-  // Shows a modal box titled with the library's name. Where nobody could see it, the text is logged once and the
-  // answer to a question is No.
+  // Shows a modal message box titled with the library's name. Without a visible desktop the text is logged instead and
+  // the answer to a question is No.
   virtual BoxAnswer show(TextView text, BoxButtons buttons) = 0;
 
  protected:
   ~MessageBoxes() = default;
 };
 
-// The user's conventions for dates and numbers.
+// The user's locale.
 struct Locale {
   virtual std::optional<Date> parse_date(TextView text) = 0;
   virtual std::optional<double> parse_number(TextView text) = 0;
-  virtual Text date_text(Date date) = 0;  // short date, and the time unless it is midnight
+  virtual Text date_text(Date date) = 0;  // short date, with the time unless it is midnight
   virtual char16_t decimal_separator() = 0;
   virtual char16_t thousands_separator() = 0;
   virtual Text currency_symbol() = 0;
@@ -73,13 +73,13 @@ struct Locale {
 using Bytes = std::span<const std::uint8_t>;
 using MutableBytes = std::span<std::uint8_t>;
 
-// AES under one key.
+// AES with one key.
 struct BlockCipher {
   virtual ~BlockCipher() = default;
-  virtual void encrypt(MutableBytes blocks) = 0;  // each 16-byte block by itself, in place
+  virtual void encrypt(MutableBytes blocks) = 0;  // ECB, in place
 };
 
-// Primitives of the platform's own cryptographic library; they throw when it refuses.
+// Primitives of the system's cryptographic library (CNG, OpenSSL); they throw when it fails.
 struct Cryptography {
   virtual std::unique_ptr<BlockCipher> aes(Bytes key) = 0;  // a key of 16, 24 or 32 bytes
   virtual void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) = 0;
@@ -89,15 +89,15 @@ struct Cryptography {
   ~Cryptography() = default;
 };
 
-// What needs one call to the system and has no subject of its own.
+// Single functions of the system.
 struct System {
-  // The user's setting of an application: section / key, or `fallback` where there is none.
+  // GetSetting of Visual Basic: a per-user setting, or `fallback` where there is none.
   virtual Text setting(TextView application, TextView section, TextView key, TextView fallback) = 0;
-  // The user's default language identifier in Windows' numbering (0x0C0A is Spanish, Spain).
+  // The LANGID of the user's language (0x0C0A is Spanish, Spain).
   virtual std::uint16_t user_language() = 0;
   virtual Date now() = 0;             // the local date and time
-  virtual void process_events() = 0;  // lets the host paint and react; does not wait
-  virtual Text module_path() = 0;     // full path of the file that holds this code
+  virtual void process_events() = 0;  // runs the message loop until the queue is empty
+  virtual Text module_path() = 0;     // full path of the module that contains this code
 
  protected:
   ~System() = default;
@@ -111,7 +111,7 @@ struct Platform {
   System& system;
 };
 
-// The implementation for the system that this build runs on; stateless, usable from any thread.
+// The implementation for this system; stateless, usable from any thread.
 const Platform& system_platform();
 
 }  // namespace qvr

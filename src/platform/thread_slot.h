@@ -1,12 +1,12 @@
-// One pointer per thread. Windows frees nothing by itself: the library's entry point is told when a thread leaves.
+// One pointer per thread (TLS). On Windows the DLL's entry point destroys it at thread detach.
 #pragma once
 
 namespace qvr::thread_slot {
 
 void* get() noexcept;
 
-// `destroy` is for a pointer that is still there when the thread ends, where the system calls it by itself. False where
-// the system has no room for the pointer; the thread keeps what it had then.
+// `destroy` is called at thread exit where the system supports it (pthread keys). False when out of memory; the old
+// value stays then.
 using Destroy = void (*)(void*) noexcept;
 bool set(void* pointer, Destroy destroy) noexcept;
 

@@ -1,4 +1,4 @@
-// Conditions added to a clause: parenthesised, joined by " and ", none of them twice.
+// The conditions added to a clause: parenthesised, joined by " and ", without duplicates.
 #pragma once
 
 #include "base/text.h"
@@ -11,8 +11,8 @@ class ConditionChain {
   void clear() noexcept { text_.clear(); }
   void assign(Text text) noexcept { text_ = std::move(text); }
 
-  // Appends the condition in parentheses; false when it is blank or the text holds it, so parenthesised, already (in
-  // any case). Throws without having changed anything.
+  // Appends the condition in parentheses; false when it is blank or contained already, without regard to case. Strong
+  // exception guarantee.
   bool add(TextView condition);
 
  private:

@@ -48,7 +48,7 @@ AtomParser::Found AtomParser::parse_positive(TextView text) const {
   return is_textual(type_) ? words(text) : compared(Comparison::Equal, text);
 }
 
-// Tests for null or empty, and "*" for anything at all.
+// Null tests, and "*" for any value.
 AtomParser::Found AtomParser::nothing_or_something(TextView text) const {
   if (is_null_test(text, type_)) return one(IsNull{false});
   const std::size_t length = operator_length(text);
@@ -77,7 +77,7 @@ AtomParser::Found AtomParser::compared(Comparison comparison, TextView operand) 
   }
 }
 
-// Long texts of these engines know nothing but LIKE.
+// SQL Server and Oracle support only LIKE on memos (text, CLOB).
 bool AtomParser::can_be_compared() const { return type_ != SearchType::Memo || engine_ == Engine::Jet; }
 
 AtomParser::Found AtomParser::compared_text(Comparison comparison, TextView operand) const {
@@ -111,7 +111,7 @@ AtomParser::Found AtomParser::compared_number(Comparison comparison, TextView op
   return digits ? std::optional(one(CompareNumber{comparison, std::move(*digits)})) : std::nullopt;
 }
 
-// Years and months are told by their first and last days, as the criterion shows them.
+// Years and months become a range of days, as the criterion shows them.
 AtomParser::Found AtomParser::compared_date(Comparison comparison, TextView operand) const {
   const auto period = period_in(operand);
   if (!period) return std::nullopt;
@@ -144,7 +144,7 @@ AtomParser::Found AtomParser::pattern(TextView operand) const {
   return one(value.only_stars() ? Atom(IsEmpty{true}) : Atom(Like{false, std::move(value)}));
 }
 
-// Without wildcards each word may be anywhere; with one the whole is a pattern as written.
+// Without wildcards each word is searched anywhere in the text; with one the operand is a single pattern.
 AtomParser::Found AtomParser::words(TextView text) const {
   Operand value = Operand::read(text);
   if (value.empty() || value.too_long()) return std::nullopt;

@@ -1,4 +1,4 @@
-// One piece of a search: a value, a comparison, a range, a pattern or a test for nothing, maybe negated.
+// Parses one piece of a search: a value, a comparison, a range, a pattern or a null test, possibly negated.
 #pragma once
 
 #include "base/engine.h"

@@ -7,13 +7,13 @@
 namespace qvr::query {
 namespace {
 
-// A pattern in which any character can be meant, as the engine's literal, with an ESCAPE clause (a blank before it,
-// none behind) where it needs one.
+// A LIKE pattern, literal wildcards escaped, as the engine's literal, with an ESCAPE clause (preceded by a blank) where
+// necessary.
 struct PatternText {
   Text literal, escape;
 };
 
-// Jet knows no ESCAPE: whatever means something to it goes into brackets.
+// Jet has no ESCAPE: special characters are escaped by brackets.
 constexpr TextView kSpecialToJet = u"%_#[*?";
 
 bool is_special(Engine engine, char16_t unit, bool bracketed) {
@@ -21,8 +21,8 @@ bool is_special(Engine engine, char16_t unit, bool bracketed) {
   return unit == u'%' || unit == u'_' || (bracketed && unit == u'[');
 }
 
-// A character that is free to mark others: the usual candidates, else one that nobody types. No letter: both sides of
-// the comparison may be turned to capitals.
+// An escape character that the text does not contain: the usual candidates, else a rare one. Not a letter, as both
+// sides of the comparison may be converted to upper case.
 Text free_escape(Engine engine, TextView text) {
   const Text usual = dialect::CaracterEscapeLibre(text);
   if (!usual.empty() || engine != Engine::Oracle) return usual;
@@ -136,7 +136,7 @@ class ConditionWriter {
   bool upper_, like_only_;
 };
 
-// "<=C; C*" is written just as the bound "C*" is within a longer condition, parentheses around it, and is not it.
+// "<=C; C*" in parentheses would read like the inclusive upper bound "C*" inside a longer condition.
 bool reads_as_bound(TextView condition, const ConditionWriter& writer, const Alternatives& search) {
   const auto* first = std::get_if<CompareText>(&search.front().front());
   if (search.size() != 2 || first == nullptr || first->comparison != Comparison::LessOrEqual) return false;

@@ -1,4 +1,4 @@
-// A search as a condition in an engine's SQL.
+// Writes a search as an SQL condition of an engine.
 #pragma once
 
 #include "base/engine.h"
@@ -6,8 +6,8 @@
 
 namespace qvr::query {
 
-// Atoms that hold an "or" have parentheses of their own, the others none: no atom inside a longer condition looks like
-// a search that was added alone.
+// Only atoms with an "or" are parenthesised: an atom inside a longer condition must not look like a whole condition
+// that was added before.
 Text search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search);
 
 }  // namespace qvr::query

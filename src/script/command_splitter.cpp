@@ -4,8 +4,7 @@ namespace qvr {
 namespace {
 
 constexpr TextView kSeparator = u"\r\nGO\r\n";
-constexpr std::size_t kPastGo =
-    4;  // CR LF G O; the separator's line end is skipped together with the blank lines behind it
+constexpr std::size_t kPastGo = 4;  // CR LF G O; the line end is skipped with the blank lines
 
 bool separator_at(const char16_t* p) {
   return p[0] == u'\r' && p[1] == u'\n' && (p[2] | 0x20) == u'g' && (p[3] | 0x20) == u'o' && p[4] == u'\r' &&

@@ -25,7 +25,7 @@ void tell_step(ScriptEvents& events, std::size_t step, std::size_t of) {
 }
 
 Text replaced(Text text, TextView what, TextView by) {
-  if (find_no_case(text, what) == Text::npos) return text;  // a long one is not copied for nothing
+  if (find_no_case(text, what) == Text::npos) return text;  // do not copy a long text for nothing
   return replace_all_no_case(text, what, by);
 }
 

@@ -1,11 +1,11 @@
-// How the operating system's language identifiers map to language numbers.
+// Maps Windows language identifiers (LANGID) to the library's language numbers.
 #pragma once
 
 #include <cstdint>
 
 namespace qvr {
 
-// What one list of identifiers leads to: the number itself, or the nearest one that a catalogue carries.
+// The language number; `needs_availability_check` where the catalogue may lack it, so that the nearest one counts.
 struct SystemLanguage {
   std::int32_t number;
   bool needs_availability_check;

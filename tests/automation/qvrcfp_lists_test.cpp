@@ -1,4 +1,4 @@
-// Lists of every form that hosts have, read by the members that take them; and forms that cannot be read.
+// Array arguments in all forms that hosts pass, and invalid ones.
 #include "automation/sql_members.h"
 #include "support/rows.h"
 
@@ -85,7 +85,7 @@ TEST_F(Lists, WithElementsByReference) {
               "BSTR INSERT INTO T VALUES ('a',  7,  5)");
 }
 
-// No member but two fails a call for what it finds in an argument, and those two for a few lists only.
+// Only two members raise errors, and only for some arrays.
 struct NoList {
   const char* name;
   Var value;

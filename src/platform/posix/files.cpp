@@ -37,7 +37,8 @@ class Descriptor {
   int number_;
 };
 
-// The objects open their files themselves, so that no file is open, or emptied, before there is memory for its object.
+// Files are opened in constructors, after the allocation, so that out of memory leaves no descriptor open and no file
+// truncated.
 class DescriptorInput : public InputFile {
  public:
   explicit DescriptorInput(const std::string& path) : descriptor_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
@@ -62,7 +63,7 @@ int opened_to_write(const std::string& path, int how) {
   return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | how, 0666);
 }
 
-// The permissions of the file that is there; none where there is no file. What may not be written must not be replaced
+// The permissions of the existing file; none if there is no file. A read-only file must not be replaced by renaming
 // either.
 std::optional<mode_t> permissions_to_keep(const std::string& path) {
   const int number = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
@@ -73,7 +74,7 @@ std::optional<mode_t> permissions_to_keep(const std::string& path) {
   return entry.st_mode & 07777;
 }
 
-// Written under a name of its own, where there is one, and put in the file's place when it is whole.
+// Writes to a temporary file, if one can be created, and renames it when it is complete.
 class DescriptorOutput : public OutputFile {
  public:
   explicit DescriptorOutput(std::string path)
@@ -102,8 +103,8 @@ class DescriptorOutput : public OutputFile {
     begun_ = true;
     const int number = descriptor_.number();
     const bool kept = !permissions_ || ::fchmod(number, *permissions_) == 0;
-    // Ends where it was written to, and is on the disk before its name is: a machine that stops must not keep the name
-    // alone.
+    // Truncates at the current position and flushes to disk before renaming, so that a power failure does not leave an
+    // empty file.
     const bool whole = ::ftruncate(number, ::lseek(number, 0, SEEK_CUR)) == 0 && ::fsync(number) == 0;
     if (::close(descriptor_.release()) != 0 || !whole || !kept) refuse();
     if (!beside_.empty() && ::rename(beside_.c_str(), path_.c_str()) != 0) refuse();
@@ -113,12 +114,12 @@ class DescriptorOutput : public OutputFile {
   int opened() {
     const int number = opened_to_write(beside_, O_TRUNC);
     if (number >= 0) return number;
-    beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
+    beside_.clear();  // no permission to create files in the folder, or the name is too long
     return opened_to_write(path_, 0);
   }
 
   const std::string path_;
-  std::string beside_;  // empty where there is none
+  std::string beside_;  // the temporary file; empty: none
   bool begun_ = false;
   const std::optional<mode_t> permissions_;
   Descriptor descriptor_;
@@ -126,9 +127,8 @@ class DescriptorOutput : public OutputFile {
 
 constexpr std::int32_t kDirectoryAttribute = 16;
 
-// Hands the name of every entry over, with the way to it, until it is told that this is enough; a name that is no text
-// cannot be asked for. Throws when the folder cannot be read. (The standard library's walk ends the program when there
-// is no memory.)
+// Calls `use` with name and path of every entry until it answers true, skipping names that are not UTF-8. Throws when
+// the folder cannot be read. (std::filesystem::directory_iterator calls std::terminate when out of memory.)
 template <class Use>
 void each_name(const std::string& folder, Use&& use) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(folder.c_str()), &::closedir);
@@ -139,7 +139,7 @@ void each_name(const std::string& folder, Use&& use) {
   }
 }
 
-// Devices and what leads nowhere are none of both.
+// Devices and dangling links are neither.
 enum class Kind { None, Plain, Directory };
 Kind kind_of(const std::string& path) {
   struct stat entry {};
@@ -149,7 +149,7 @@ Kind kind_of(const std::string& path) {
 
 class PosixFiles final : public Files {
  public:
-  // Without regard to case, as the names of a folder are compared everywhere else.
+  // Without regard to case, as everywhere else.
   bool any_entry(TextView path, std::int32_t attributes) override {
     const std::size_t end = path.find_last_of(u"/\\");
     const TextView folder = end == TextView::npos ? u"." : path.substr(0, end + 1);
@@ -181,7 +181,7 @@ class PosixFiles final : public Files {
     return std::make_unique<DescriptorOutput>(native_path(path));
   }
 
-  // This system's page is UTF-8.
+  // The code page here is UTF-8.
   std::string to_system_page(TextView text) override { return to_utf8(text); }
   Text from_system_page(std::string_view bytes) override {
     auto text = from_utf8(bytes);
@@ -195,7 +195,7 @@ class PosixFiles final : public Files {
 std::string native_path(TextView path) {
   std::string bytes = to_utf8(path);
   std::ranges::replace(bytes, '\\', '/');
-  if (bytes.find('\0') != std::string::npos) refuse();  // the system would see a shorter path
+  if (bytes.find('\0') != std::string::npos) refuse();  // the system would stop at the NUL
   return bytes;
 }
 

@@ -22,7 +22,7 @@ struct Conventions {
   TextView currency;
 };
 
-// By locale name, then by language alone; the last row is for every other one.
+// By locale name, then by language alone; the last row is the default.
 constexpr Conventions kConventions[] = {
     {"es_MX", DateOrder::DayMonthYear, u'/', u'.', u',', u"$"},
     {"en_GB", DateOrder::DayMonthYear, u'/', u'.', u',', u"\u00a3"},

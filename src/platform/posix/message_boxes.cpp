@@ -6,7 +6,7 @@
 namespace qvr::posix {
 namespace {
 
-// There is no desktop here: the text is logged once per call.
+// No desktop: the text goes to standard error.
 class LoggedBoxes final : public MessageBoxes {
  public:
   BoxAnswer show(TextView text, BoxButtons buttons) override {

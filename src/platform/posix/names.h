@@ -1,4 +1,4 @@
-// Names as this system writes them.
+// Paths and locale names of this system.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace qvr::posix {
 
-// A path: UTF-8 with "/" for "\". Throws where it holds a zero unit.
+// A path: UTF-8 with "/" for "\". Throws for a NUL.
 std::string native_path(TextView path);
 
 // The user's locale ("es_ES"), from the environment.

@@ -26,7 +26,7 @@ struct LocaleIdentifier {
   std::uint16_t identifier;
 };
 
-// The whole name first, then the language alone.
+// First the whole locale name, then the language alone.
 constexpr LocaleIdentifier kIdentifiers[] = {
     {"es_ES", 0x0C0A}, {"es_MX", 0x080A}, {"es_AR", 0x2C0A}, {"es", 0x0C0A}, {"en_US", 0x0409}, {"en_GB", 0x0809},
     {"en", 0x0409},    {"fr_FR", 0x040C}, {"fr_CH", 0x100C}, {"fr", 0x040C}, {"de_CH", 0x0807}, {"de", 0x0407},
@@ -57,12 +57,12 @@ class PosixSystem final : public System {
     const std::time_t moment = std::time(nullptr);
     std::tm local{};
     if (::localtime_r(&moment, &local) == nullptr) throw RuntimeFailure(failure_number::kOverflow);
-    const int second = local.tm_sec < 60 ? local.tm_sec : 59;  // no calendar of ours has leap seconds
+    const int second = local.tm_sec < 60 ? local.tm_sec : 59;  // no leap seconds in Date
     return date_from({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, second})
         .value();
   }
 
-  void process_events() override {}  // a native program has no message loop to give way to
+  void process_events() override {}  // no message loop here
 
   Text module_path() override {
     std::array<char, 4096> buffer;

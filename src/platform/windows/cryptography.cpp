@@ -15,8 +15,8 @@ void require(NTSTATUS status) {
 
 PUCHAR writable(Bytes bytes) { return const_cast<PUCHAR>(bytes.data()); }
 
-// Opened once in the process and never closed: closing may unload the provider, and a thread that leaves gives its
-// keys back under the loader's lock.
+// Opened once per process and never closed: closing can unload the provider's DLL, and keys are destroyed at thread
+// detach, under the loader lock.
 BCRYPT_ALG_HANDLE open_algorithm(LPCWSTR name, ULONG flags) {
   BCRYPT_ALG_HANDLE handle = nullptr;
   require(BCryptOpenAlgorithmProvider(&handle, name, nullptr, flags));

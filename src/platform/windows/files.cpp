@@ -25,7 +25,8 @@ class FileHandle {
   HANDLE handle_;
 };
 
-// The objects open their files themselves, so that no file is open, or emptied, before there is memory for its object.
+// Files are opened in constructors, after the allocation, so that out of memory leaves no handle open and no file
+// truncated.
 class HandleInput : public InputFile {
  public:
   explicit HandleInput(const std::wstring& path)
@@ -48,7 +49,7 @@ class HandleInput : public InputFile {
   FileHandle file_;
 };
 
-// Who may read the former file may read the new one, and nobody else. False where rights cannot be given.
+// Copies the DACL of the old file to the new one. False when that fails.
 bool keep_protection(const std::wstring& from, const std::wstring& to) {
   DWORD size = 0;
   GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -58,7 +59,7 @@ bool keep_protection(const std::wstring& from, const std::wstring& to) {
   return SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data()) != FALSE;
 }
 
-// Programs that look at every new file, and readers of the former one, hold them for a moment.
+// Retries on sharing violations: virus scanners and readers keep files open for a moment.
 bool replace(const std::wstring& file, const std::wstring& by) {
   constexpr int kAttempts = 5;
   constexpr DWORD kPause = 20, kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
@@ -77,7 +78,7 @@ HANDLE opened_to_write(const std::wstring& path, DWORD how, DWORD shared = 0) {
 
 constexpr DWORD kWithReaders = FILE_SHARE_READ;
 
-// What may not be written, or is in use by somebody who allows no writer, must not be replaced either.
+// A read-only file, or one that is open without FILE_SHARE_WRITE, must not be replaced by renaming either.
 void require_replaceable(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) refuse();
@@ -99,15 +100,15 @@ void write_all(HANDLE file, std::string_view bytes) {
   }
 }
 
-// Ends where it was written to, and is on the disk before it counts as closed: a machine that stops must not keep the
-// name alone.
+// Truncates at the current position and flushes to disk before renaming, so that a power failure does not leave an
+// empty file.
 void close_whole(FileHandle& file) {
   const bool whole = SetEndOfFile(file.get()) && FlushFileBuffers(file.get());
   if (!file.close() || !whole) refuse();
 }
 
-// A folder may let a file be written and neither renamed nor given rights, and a reader may stay. The copy beside it
-// goes only when all is written, so that a full disk leaves it whole.
+// Fallback where renaming or copying the DACL fails: writes in place. The temporary file is deleted only afterwards, so
+// that it survives a full disk.
 void copy_into(const std::wstring& path, const std::wstring& from) {
   HandleInput source(from);
   FileHandle target(opened_to_write(path, OPEN_ALWAYS, kWithReaders));
@@ -116,7 +117,7 @@ void copy_into(const std::wstring& path, const std::wstring& from) {
   close_whole(target);
 }
 
-// Written under a name of its own, where there is one, and put in the file's place when it is whole.
+// Writes to a temporary file, if one can be created, and renames it when it is complete.
 class HandleOutput : public OutputFile {
  public:
   explicit HandleOutput(std::wstring path) : path_(std::move(path)), beside_(path_ + L".tmp"), file_(opened()) {}
@@ -145,29 +146,30 @@ class HandleOutput : public OutputFile {
     require_replaceable(path_);
     const HANDLE handle = opened_to_write(beside_, CREATE_ALWAYS);
     if (handle != INVALID_HANDLE_VALUE) return handle;
-    if (GetLastError() == ERROR_SHARING_VIOLATION) refuse();  // somebody else is writing the same file
-    beside_.clear();  // a folder that takes no further file, or a name that cannot be longer
+    if (GetLastError() == ERROR_SHARING_VIOLATION) refuse();  // another process is writing the same file
+    beside_.clear();  // no permission to create files in the folder, or the name is too long
     return opened_to_write(path_, OPEN_ALWAYS, kWithReaders);
   }
 
   const std::wstring path_;
-  std::wstring beside_;  // empty where there is none
+  std::wstring beside_;  // the temporary file; empty: none
   bool begun_ = false;
   FileHandle file_;
 };
 
 std::wstring path_of(TextView path) {
-  if (path.find(u'\0') != TextView::npos) refuse();  // the system would see a shorter path
+  if (path.find(u'\0') != TextView::npos) refuse();  // Windows would stop at the NUL
   return wide(path);
 }
 
-// A directory search finds plain files always, folders and hidden and system files only where the mask asks for them.
+// Dir() of Visual Basic: regular files always match, folders, hidden and system files only if the mask has their
+// attributes.
 bool shown(DWORD attributes, std::int32_t mask) {
   constexpr DWORD kOnRequest = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
   return (attributes & kOnRequest & ~static_cast<DWORD>(mask)) == 0;
 }
 
-// Hands every entry of a directory search over until it is told that this is enough; the reason why it ended.
+// Calls `use` for every entry of a directory search until it answers true; returns the last error.
 template <class Use>
 DWORD search(const std::wstring& path, Use&& use) {
   WIN32_FIND_DATAW entry;
@@ -195,7 +197,7 @@ class SystemFiles final : public Files {
       if (shown(entry.dwFileAttributes, 0)) found.push_back(text_from(entry.cFileName));
       return false;
     });
-    // An empty root folder has no entry at all, any other one at least those for itself and its parent.
+    // An empty root folder has no entries; every other folder has "." and "..".
     if (end != ERROR_NO_MORE_FILES && end != ERROR_FILE_NOT_FOUND) refuse();
     return found;
   }
@@ -208,7 +210,7 @@ class SystemFiles final : public Files {
     const std::wstring from = wide(text);
     if (from.empty()) return {};
     BOOL replaced = FALSE;
-    // The UTF-8 page has a place for everything and takes neither of these.
+    // With UTF-8 as the ANSI code page WideCharToMultiByte rejects this flag and this argument.
     const bool total = GetACP() == CP_UTF8;
     BOOL* const report = total ? nullptr : &replaced;
     const DWORD flags = total ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS;

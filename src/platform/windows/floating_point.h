@@ -48,8 +48,7 @@ class DefaultFloatingPoint {
   void give_host_its_own() const noexcept;
 
   bool entered_ = false;
-  std::uint32_t
-      x87_[7];  // x87 environment (fnstenv): control, status and tag words, and the address of a pending exception
+  std::uint32_t x87_[7];  // x87 environment, as fnstenv stores it
   std::uint32_t sse_;
   DefaultFloatingPoint* outer_;
 };

@@ -9,10 +9,10 @@
 namespace qvr::windows {
 namespace {
 
-// The conversions stop at a zero unit, which belongs to no date and no number.
+// The OLE conversions stop at a NUL, so reject it first.
 bool has_zero(TextView text) { return text.find(u'\0') != TextView::npos; }
 
-// Automation's own conversions under the user's locale: the ones that Visual Basic hosts use for their values.
+// The conversions of OLE Automation under the user's locale, as Visual Basic uses them.
 class UserLocale final : public Locale {
  public:
   std::optional<Date> parse_date(TextView text) override {

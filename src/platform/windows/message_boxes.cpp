@@ -26,10 +26,11 @@ class SystemBoxes final : public MessageBoxes {
       return question ? BoxAnswer::No : BoxAnswer::Ok;
     }
     const HWND owner = GetActiveWindow();
-    // With another application in front no window of the thread is active: the box still has to stop all of them.
+    // While another application is in the foreground the thread has no active window: MB_TASKMODAL disables all of its
+    // windows.
     const UINT reach = owner == nullptr ? MB_TASKMODAL : 0;
     const UINT style = question ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONEXCLAMATION;
-    const HostFloatingPoint host;  // its windows get messages meanwhile
+    const HostFloatingPoint host;  // the box's message loop calls the host's window procedures
     const int answer = MessageBoxW(owner, wide(text).c_str(), kLibraryName, style | reach);
     if (!question) return BoxAnswer::Ok;
     return answer == IDYES ? BoxAnswer::Yes : BoxAnswer::No;

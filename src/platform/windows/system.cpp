@@ -9,7 +9,7 @@
 namespace qvr::windows {
 namespace {
 
-// Where the application-settings functions of Visual Basic hosts keep their values.
+// The key of GetSetting and SaveSetting of Visual Basic.
 constexpr TextView kSettings = u"Software\\VB and VBA Program Settings\\";
 
 HMODULE module_of_this_code() {
@@ -48,7 +48,7 @@ class WindowsSystem final : public System {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
       if (message.message == WM_QUIT) {
-        // The host's own loop has to see it; taken here, the application would never end.
+        // Posted again for the host's own message loop; otherwise the application would not quit.
         PostQuitMessage(static_cast<int>(message.wParam));
         return;
       }

@@ -1,4 +1,4 @@
-// One pointer per thread. Nothing here runs when a thread ends.
+// A TLS slot. Nothing is called at thread detach.
 #pragma once
 
 #include <windows.h>
@@ -15,13 +15,13 @@ class ThreadPointer {
   ThreadPointer& operator=(const ThreadPointer&) = delete;
 
   void* get() const noexcept {
-    const DWORD last_error = GetLastError();  // TlsGetValue clears it, and a caller may be about to read it
+    const DWORD last_error = GetLastError();  // TlsGetValue resets it; keep it for the caller
     void* pointer = TlsGetValue(number_);
     SetLastError(last_error);
     return pointer;
   }
 
-  // False where the system has no room for it; the thread keeps what it had then.
+  // False when out of TLS memory; the old value stays then.
   bool set(void* pointer) const noexcept { return TlsSetValue(number_, pointer) != FALSE; }
 
  private:

@@ -1,4 +1,4 @@
-// Text for the functions of Windows and from them.
+// Conversion between Text and std::wstring.
 #pragma once
 
 #include <windows.h>
@@ -9,10 +9,10 @@
 
 namespace qvr::windows {
 
-// This library's name, as boxes are titled and log lines begin.
+// The title of boxes and the prefix of log lines.
 inline constexpr wchar_t kLibraryName[] = L"QVRlib21";
 
-// Windows' text type and ours hold the same units.
+// wchar_t and char16_t are both UTF-16 code units on Windows.
 inline std::wstring wide(TextView text) { return std::wstring(text.begin(), text.end()); }
 inline Text text_from(std::wstring_view text) { return Text(text.begin(), text.end()); }
 
