@@ -14,8 +14,8 @@ Comparison opposite(Comparison comparison) {
   }
 }
 
-// An opposite as an alternative of its own. Equality and patterns count null among what is different by themselves; for
-// the others `null_too` says that it has to be added.
+// The negation of an atom. Negated equality and patterns include null already; for the other comparisons `null_too` is
+// set, so that IS NULL is added.
 struct Opposite {
   bool& null_too;
 
@@ -45,8 +45,8 @@ struct Opposite {
   }
 };
 
-// Where not one of several single atoms holds: all their opposites. Only the "<>" of a year or a month gives several,
-// and null is one of them, which leaves what lies within: comparisons that no null passes.
+// The negation of several single atoms: the conjunction of their negations (De Morgan). Only "<>" of a year or a month
+// gives several; one of them is null, so that the negation excludes null.
 Alternatives none_of(const Alternatives& alternatives) {
   Alternative all;
   bool null_too = false;

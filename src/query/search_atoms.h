@@ -55,7 +55,7 @@ using Atom = std::variant<IsNull, IsEmpty, CompareText, Like, CompareNumber, Com
 using Alternative = std::vector<Atom>;
 using Alternatives = std::vector<Alternative>;
 
-// What holds where none of the alternatives does; what is null belongs to it.
+// The negation of the alternatives; null fulfils it.
 Alternatives negated(const Alternatives& alternatives);
 
 }  // namespace qvr::query
