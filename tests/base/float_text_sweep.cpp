@@ -29,7 +29,7 @@ bool reads_back(float number) {
   return error == std::errc() && stop == end && read == number;
 }
 
-// Every `step`-th pattern of bits from `first` on, but for what is no finite number.
+// Every `step`-th bit pattern from `first` on, finite numbers only.
 Tally walk(std::uint64_t first, std::uint64_t step) {
   Tally tally;
   for (std::uint64_t bits = first; bits <= UINT32_MAX; bits += step) {

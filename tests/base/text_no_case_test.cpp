@@ -1,4 +1,4 @@
-// Texts without regard to case, put in order and looked for.
+// Case-insensitive comparison and search.
 #include <gtest/gtest.h>
 
 #include <algorithm>

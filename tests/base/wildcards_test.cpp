@@ -63,7 +63,7 @@ constexpr Row kRows[] = {
     {"three asterisks behind", u"abc", u"abc***", true},
     {"point", u"a.b", u"a.b", true},
     {"point is no wildcard", u"axb", u"a.b", false},
-    {"point of old file names", u"abc", u"*.*", false},  // no rules of old file names
+    {"point of old file names", u"abc", u"*.*", false},  // no DOS rule for "*.*"
     {"point at the end of a name", u"abc.", u"*.*", true},
     {"brackets are no list", u"a", u"[a]", false},
     {"brackets are themselves", u"[a]", u"[A]", true},
@@ -92,7 +92,7 @@ TEST(MatchesWildcards, AZeroUnitIsACharacter) {
   EXPECT_FALSE(matches_wildcards(u"", zero));
 }
 
-// The definition as plainly as it can be written.
+// A naive reference implementation.
 bool plainly(TextView name, TextView pattern) {
   if (pattern.empty()) return name.empty();
   const TextView rest = pattern.substr(1);

@@ -1,4 +1,4 @@
-// Every single bit of a protected file turned over.
+// Every single-bit error in a protected file.
 #include <gtest/gtest.h>
 
 #include "connection/qvrcfp.h"
@@ -13,8 +13,7 @@ bool is_letter(char character) {
   return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-// The check line is compared without regard to case, so the bit that makes a small letter a capital says nothing there;
-// it changes none of the values either.
+// The check line is compared case-insensitively, so that its case bits may change; no value depends on them.
 bool says_nothing(const std::string& bytes, std::size_t at, int bit) {
   const std::size_t check_line = bytes.rfind("\r\n", bytes.size() - 3) + 2;
   return at >= check_line && bit == 5 && is_letter(bytes[at]);

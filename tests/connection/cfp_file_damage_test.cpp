@@ -1,4 +1,4 @@
-// Files that are not what was written: each is refused as a whole, and the object is left cleared.
+// Damaged files: each is rejected as a whole, and the object is cleared.
 #include <gtest/gtest.h>
 
 #include <random>

@@ -1,4 +1,4 @@
-// What a file holds and what comes back from it.
+// Writing and reading of ".cfp" files.
 #include "connection/cfp_file.h"
 
 #include <gtest/gtest.h>

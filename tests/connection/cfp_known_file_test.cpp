@@ -1,4 +1,4 @@
-// One file kept as it was once written: each system, and each later build, writes and reads the same bytes.
+// A stored file: every system and every later build writes and reads the same bytes.
 #include <gtest/gtest.h>
 
 #include "connection/sample_parameters.h"

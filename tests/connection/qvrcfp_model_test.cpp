@@ -1,4 +1,4 @@
-// Random sequences of calls against a model that keeps files and fields in plain sight.
+// Random sequences of calls compared with a reference model.
 #include <gtest/gtest.h>
 
 #include <map>

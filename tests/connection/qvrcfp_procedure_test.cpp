@@ -1,4 +1,4 @@
-// The two members that work on ADO objects of the caller: neither raises, whatever ADO refuses.
+// The two members that use the caller's ADO objects: neither raises an error when ADO fails.
 #include <algorithm>
 
 #include "connection/qvrcfp.h"

@@ -1,4 +1,4 @@
-// The members that write SQL: each with the object's engine, and what becomes of a failure.
+// The members that write SQL: each with the object's engine, and their failure policies.
 #include <algorithm>
 #include <functional>
 #include <iterator>

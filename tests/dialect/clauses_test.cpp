@@ -106,7 +106,7 @@ TEST_P(Concatenar, JoinsTheElements) {
 
 INSTANTIATE_TEST_SUITE_P(, Concatenar, ::testing::ValuesIn(kConcatenarRows), row_name);
 
-// A comma would part a number in two.
+// A decimal comma would separate list elements.
 TEST_F(ClausesTest, NumbersHaveAPointInEveryLocale) {
   thread.locale.decimal = u',', thread.locale.thousands = u'.';
   const Value numbers = list({2.5, 0.1f, Currency{-12500}, Decimal{0, 0, 15, 1, false}, std::int64_t{7}});

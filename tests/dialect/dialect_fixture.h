@@ -49,7 +49,7 @@ inline EachEngine all_engines(const Text& text) { return {text, text, text, text
 
 inline Value list(std::vector<Value> items, std::int32_t lower = 0) { return Array{std::move(items), lower, 1}; }
 inline Value square(std::vector<Value> items) { return Array{std::move(items), 0, 2}; }
-inline Value shapeless() { return Array{{}, 0, 0}; }  // an array that was never given bounds
+inline Value shapeless() { return Array{{}, 0, 0}; }  // an array without dimensions
 inline Value object() { return ObjectRef(std::make_shared<Object>()); }
 
 // The failure that a call throws, as "RuntimeFailure 13" or "CallerFailure 5"; empty when it throws none.

@@ -1,4 +1,4 @@
-// Random values that try to get out of their literals, with what an engine must read of each.
+// Random values for SQL injection, with the tokens that an engine must read.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// No value ends its literal: every statement splits into exactly the tokens of its parts.
+// SQL injection: every statement has exactly the tokens of its parts, whatever the values.
 #include "dialect/dialect_fixture.h"
 #include "dialect/expected_tokens.h"
 #include "dialect/hostile_values.h"

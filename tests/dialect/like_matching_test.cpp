@@ -1,4 +1,4 @@
-// What a pattern matches: exactly what its user meant by "*" and "?", and everything else for itself.
+// A pattern matches exactly what "*" and "?" mean; all other characters are literal.
 #include <random>
 
 #include "dialect/dialect_fixture.h"

@@ -4,7 +4,7 @@
 
 namespace qvr::tests {
 
-// Which beginnings of the text the pieces so far can stand for.
+// The prefixes of the text that the pieces so far match (dynamic programming).
 bool matches(const Pieces& pieces, TextView text) {
   std::vector<bool> reached(text.size() + 1);
   reached[0] = true;

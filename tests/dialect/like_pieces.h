@@ -1,4 +1,4 @@
-// Patterns taken apart: as their user means them, and as LIKE reads them.
+// Parsed patterns: "*" and "?" as the user means them, and LIKE as engines read it.
 #pragma once
 
 #include <vector>

@@ -67,7 +67,7 @@ std::vector<NumberRow> rows() {
       {"Decimal, least", Decimal{kAll, kAll, kAll, 0, true}, u"-79228162514264337593543950335"},
       {"Decimal, all decimals", Decimal{kAll, kAll, kAll, 28, true}, u"-7.9228162514264337593543950335"},
       {"Decimal, last digit", Decimal{0, 0, 1, 28, false}, u" 0.0000000000000000000000000001"},
-      // What no engine can write, and a width that is none of the contract's.
+      // No literal: infinities, NaN and 64-bit integers.
       {"Double, infinite", Limits<double>::infinity(), u"Null"},
       {"Double, minus infinite", -Limits<double>::infinity(), u"Null"},
       {"Double, no number", Limits<double>::quiet_NaN(), u"Null"},
@@ -135,7 +135,7 @@ void expect_single_reads_back(std::uint32_t bits) {
   if (read_back<float>(literal) != number) ADD_FAILURE() << "bits " << bits << " are" << to_utf8(literal);
 }
 
-// A stride through all patterns of bits; `float_text_sweep` takes every one.
+// A sample of all bit patterns; `float_text_sweep 1` takes every one.
 TEST_F(NumbersInSqlTest, SinglesReadBackExactly) {
   for (std::uint64_t bits = 0; bits <= UINT32_MAX; bits += QVR_TESTS_FLOAT_STEP) {
     expect_single_reads_back(static_cast<std::uint32_t>(bits));

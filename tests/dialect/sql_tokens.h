@@ -1,4 +1,4 @@
-// SQL taken apart as an engine's parser would, written without a look at how the library puts it together.
+// An SQL tokenizer as an independent check: written without regard to how the library writes SQL.
 #pragma once
 
 #include <iosfwd>

@@ -1,4 +1,4 @@
-// The platform's primitives against published figures: FIPS 197 for AES, RFC 7914 for the derivation.
+// Test vectors: FIPS 197 for AES, RFC 7914 for PBKDF2.
 #include <gtest/gtest.h>
 
 #include "base/failure.h"

@@ -1,4 +1,4 @@
-// The system's own locale, whichever it is: what holds in each of them.
+// The system's locale: properties that hold for every locale.
 #include <gtest/gtest.h>
 
 #include <random>

@@ -1,4 +1,4 @@
-// Random calls against a model whose answers are written down beside each key.
+// Random calls compared with a reference model.
 #include <gtest/gtest.h>
 
 #include <random>

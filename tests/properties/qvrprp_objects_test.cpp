@@ -10,7 +10,7 @@
 namespace qvr::tests {
 namespace {
 
-// Tells when the last reference to it goes.
+// Records its destruction.
 struct Watched final : Object {
   explicit Watched(std::function<void()> end) : at_end(std::move(end)) {}
   ~Watched() override { at_end(); }
@@ -19,7 +19,7 @@ struct Watched final : Object {
 
 class QVRprpObjectsTest : public testing::Test {
  protected:
-  // An object that looks into the list as it ends.
+  // An object that re-enters the list on its release.
   ObjectRef watched() {
     return std::make_shared<Watched>([this] {
       ++ended;

@@ -32,7 +32,7 @@ TEST(ConditionChainTest, RefusesWhatItHoldsInAnyCase) {
   }
 }
 
-// Parentheses that do not match, and some in literals: containment is a matter of text alone.
+// Unbalanced parentheses, and some in literals: containment compares text only.
 TEST(ConditionChainTest, AnswersAsAPlainSearchDoes) {
   ConditionChain chain;
   Text plain;

@@ -1,4 +1,4 @@
-// Conditions on one column run over a row as each of the three engines would: its rules of LIKE, of case and of null.
+// Evaluates conditions on one column by the rules of each engine for LIKE, case and null.
 #pragma once
 
 #include <cstdint>

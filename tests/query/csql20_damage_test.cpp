@@ -1,4 +1,4 @@
-// Kept definition texts: one that was written long ago, and what becomes of those that were damaged since.
+// Stored definition texts: compatibility with the first version, and damaged texts.
 #include "query/definition_text.h"
 #include "query/query_fixture.h"
 #include "support/rows.h"
@@ -8,7 +8,7 @@ namespace {
 
 using tests::PrintTo;
 
-// Written by the first version; hosts have such texts in their files.
+// Written by the first version, and to be read by every later one.
 constexpr TextView kKept =
     u"cSQL20 1<*MotorBD=N*>2<*NombreObjeto=T*>Ventas<*UsarDistinct=L*>1<*TOP=N*>5"
     u"<*Cabecera=T*>SELECT DISTINCT  TOP 5 <*Columna=T*>C.Nombre<*Tipo=T*>T<*Campo=T*>Nombre"

@@ -40,7 +40,7 @@ Text in_capitals(TextView text) {
   return capitals;
 }
 
-// Which beginnings of the text the parts so far can stand for.
+// The prefixes of the text that the parts so far match (dynamic programming).
 bool is_like(Engine engine, TextView text, TextView pattern, TextView escape) {
   if (engine == Engine::Jet) return is_like(Engine::SqlServer, in_capitals(text), in_capitals(pattern), escape);
   std::vector<bool> reached(text.size() + 1);

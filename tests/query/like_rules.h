@@ -1,4 +1,4 @@
-// How the three engines understand LIKE.
+// LIKE by the rules of the three engines.
 #pragma once
 
 #include "base/engine.h"

@@ -1,5 +1,5 @@
-// Queries once more, as plainly as they can be told: whole texts, searched and put together anew at each call. They
-// have the members of the real ones, so that a test does the same to both and compares.
+// Reference models of queries: naive, on whole texts. They have the members of the real classes, so that a test can do
+// the same to both and compare.
 #pragma once
 
 #include <utility>

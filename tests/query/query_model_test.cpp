@@ -1,4 +1,4 @@
-// Long random sequences of everything that can be done to a query, each step beside a plain model of it.
+// Random sequences of calls on queries, compared with a reference model after each step.
 #include <random>
 
 #include "query/query_fixture.h"

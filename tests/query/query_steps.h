@@ -1,4 +1,4 @@
-// Everything that can be done to a query, as steps that somebody chooses and that its model makes as well.
+// All calls on a query as steps, chosen at random, which the reference model makes as well.
 #pragma once
 
 #include <array>

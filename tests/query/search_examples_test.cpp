@@ -1,4 +1,4 @@
-// What users type, and what comes of it for each kind of column, engine and language.
+// Searches with their conditions and criteria, by column type, engine and language.
 #include "query/search_fixture.h"
 #include "support/rows.h"
 

@@ -1,4 +1,4 @@
-// How long what is typed may be, and that nothing takes long.
+// Limits of the length of searches, and linear run time.
 #include "base/utf8.h"
 #include "query/search_fixture.h"
 #include "support/rows.h"
@@ -93,8 +93,7 @@ TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
   expect_none(kNombre, join({u"=\"", quotes, quotes, u"\"\"\"\"\""}));
 }
 
-// Whoever looks at a run of blanks again from each of its blanks, or for a ";" to the end from each word, does not come
-// back from these.
+// With quadratic run time for blanks or for the search for ";" these would not terminate in time.
 TEST_F(SearchLengths, TextsOfMillionsOfCharactersAreRead) {
   constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
   const Text blanks(std::size_t{1} << 21, u' ');

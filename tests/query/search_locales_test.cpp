@@ -30,7 +30,7 @@ class SearchLocales : public ::testing::TestWithParam<Home> {
     thread.locale.day_first = home.day_first;
     thread.locale.currency = home.currency;
   }
-  // With "." as the decimal mark and "," between thousands.
+  // With "." as the decimal separator and "," as the thousands separator.
   Text at_home(TextView number) const {
     Text text(number);
     for (char16_t& unit : text) unit = unit == u'.' ? GetParam().decimal : unit == u',' ? GetParam().thousands : unit;
@@ -61,7 +61,7 @@ TEST_P(SearchLocales, ReadTheirOwnNumbers) {
             join({u"P.Precio= 9.5 | Precio = ", at_home(u"9.5")}));
 }
 
-// A mark that cannot stand between thousands is taken for the decimal one, never dropped.
+// A misplaced thousands separator counts as the decimal separator and is never dropped.
 TEST_P(SearchLocales, NeverReadANumberTenTimesTooLarge) {
   for (const TextView typed : {u"1.5", u"1,5"}) {
     const Text found = interpreted(kPrecio, Engine::Jet, typed);

@@ -1,4 +1,4 @@
-// The pages for users, row by row: what is typed there gives the criterion that stands beside it, on every engine.
+// The manual's search pages, row by row: each search gives the criterion that the page shows, on every engine.
 #include <fstream>
 
 #include "base/utf8.h"

@@ -1,4 +1,4 @@
-// Whatever is typed, a condition is nothing but tests of its column against literals.
+// SQL injection: whatever is typed, a condition consists of tests of its column against literals.
 #include "base/utf8.h"
 #include "query/condition_evaluator.h"
 #include "query/search_fixture.h"

@@ -1,4 +1,4 @@
-// Queries joined by UNION: who answers what.
+// Unions: which member of the union answers.
 #include "query/usql20.h"
 
 #include "query/query_fixture.h"

@@ -82,7 +82,7 @@ TEST(FindSeparator, LooksAtOrAfterAPosition) {
   EXPECT_EQ(find_separator(u"", 0), TextView::npos);
 }
 
-// The definition as plainly as it can be written.
+// A naive reference implementation.
 bool separator_starts_at(TextView text, std::size_t at) {
   return at + 6 <= text.size() && equal_no_case(text.substr(at, 6), u"\r\nGO\r\n");
 }

@@ -1,4 +1,4 @@
-// Folders and files that are not what they should be, in memory and on the system's disk.
+// Invalid folders and files, in memory and on disk.
 #include "script/loading_fixture.h"
 #include "support/temporary_folder.h"
 

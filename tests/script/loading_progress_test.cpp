@@ -1,4 +1,4 @@
-// What loading tells its host, how it ends, and what the host may do meanwhile.
+// Events of loading, and re-entrance from them.
 #include "script/loading_fixture.h"
 #include "support/rows.h"
 

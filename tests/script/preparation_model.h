@@ -1,4 +1,4 @@
-// The preparation of scripts as plainly as its passes can be written.
+// A naive reference model of the preparation of scripts.
 #pragma once
 
 #include "script/script_preparation.h"

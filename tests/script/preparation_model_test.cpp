@@ -1,4 +1,4 @@
-// The preparation of scripts against its passes as plainly as they can be written, and on large texts.
+// The preparation of scripts compared with its reference model, and on large texts.
 #include <random>
 
 #include "script/loading_fixture.h"

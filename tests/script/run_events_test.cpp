@@ -1,4 +1,4 @@
-// What a host may do from inside the events of a run.
+// Re-entrance from the events of a run.
 #include "script/script_fixture.h"
 
 namespace qvr::tests {

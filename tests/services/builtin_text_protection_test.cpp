@@ -49,7 +49,7 @@ class BuiltinTextProtectionTest : public ::testing::Test {
   BuiltinTextProtection protection{cryptography};
 };
 
-// Written once and kept: a file protected on one system, or by an earlier build, must read on every other.
+// Compatibility: texts protected on another system or by an earlier build must be readable.
 TEST_F(BuiltinTextProtectionTest, WritesTheSameOnEverySystem) {
   struct Row {
     TextView key, text, written;

@@ -1,4 +1,4 @@
-// Random texts and bytes through the reader's decoding, against what they were made from.
+// Decoding of random texts and bytes, compared with what they were encoded from.
 #include <gtest/gtest.h>
 
 #include <random>

@@ -1,4 +1,4 @@
-// Here the thread itself takes its state along; on Windows the library's entry point does.
+// Natively a pthread key destroys the state at thread exit; on Windows DllMain does.
 #include <gtest/gtest.h>
 
 #include <thread>

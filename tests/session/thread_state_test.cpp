@@ -61,7 +61,7 @@ TEST(ThreadState, StandsBackForAnotherAndReturns) {
   EXPECT_EQ(thread_state().idioma.Idioma(), 3);
 }
 
-// Tells when it is gone.
+// Records its destruction.
 class Mortal final : public services::TextProtection {
  public:
   explicit Mortal(bool& alive) : alive_(alive) { alive_ = true; }

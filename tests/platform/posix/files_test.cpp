@@ -1,4 +1,4 @@
-// What only this system can show of files that take another one's place.
+// Atomic replacement of files on posix.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 

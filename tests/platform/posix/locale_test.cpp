@@ -1,4 +1,4 @@
-// The native build's conventions by the locale's name.
+// The native locale by its name.
 #include <gtest/gtest.h>
 
 #include "platform/platform.h"

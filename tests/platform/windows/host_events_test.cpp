@@ -1,4 +1,4 @@
-// Letting the host process its pending messages.
+// The message loop that runs pending messages of the host.
 #include <gtest/gtest.h>
 #include <windows.h>
 

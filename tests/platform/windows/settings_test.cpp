@@ -1,4 +1,4 @@
-// The settings that Visual Basic hosts write with their own functions.
+// Settings as written by SaveSetting of Visual Basic.
 #include <gtest/gtest.h>
 #include <windows.h>
 
