@@ -185,7 +185,9 @@ constexpr Written<Decimal> kDecimals[] = {
 
 using ShortestDecimal = Rows<testing::Test, Written<Decimal>>;
 
-TEST_P(ShortestDecimal, HasNoZerosBehindItsDecimals) { EXPECT_EQ(shortest_number(GetParam().number), Text(GetParam().text)); }
+TEST_P(ShortestDecimal, HasNoZerosBehindItsDecimals) {
+  EXPECT_EQ(shortest_number(GetParam().number), Text(GetParam().text));
+}
 
 INSTANTIATE_TEST_SUITE_P(, ShortestDecimal, testing::ValuesIn(kDecimals), row_name);
 
