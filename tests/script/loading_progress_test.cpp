@@ -110,7 +110,7 @@ TEST_F(LoadingProgressTest, WhateverTheReaderFailsInEndsTheLoading) {
   };
   for (const auto& [name, failure] : kFailures) {
     SCOPED_TRACE(name);
-    thread.make_script_reader = [&] { return std::make_unique<SecondFileReader>(failure); };
+    thread.make_script_reader = [&failed = failure] { return std::make_unique<SecondFileReader>(failed); };
     thread.renew();
     EXPECT_EQ(definition(), u"");
     EXPECT_EQ(taken(), (Lines{"Progreso: Procesando GestionSQL1.cfc", "Progreso: Procesando GestionSQL2.cfc",
