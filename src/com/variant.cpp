@@ -262,6 +262,8 @@ const VARIANT* innermost(const VARIANT& variant) noexcept {
 
 Value value_from(const VARIANT& variant) { return value_inside(variant, nullptr); }
 
+void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
+
 void put_elements(VARIANT& variant, const Value& value) {
   const VARIANT* inner = innermost(variant);
   const Array* list = value.as<Array>();
