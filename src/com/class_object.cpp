@@ -37,7 +37,6 @@ HRESULT class_object(REFCLSID id, REFIID interface_id, void** found) noexcept {
   const auto rows = class_table();
   const auto row = std::ranges::find_if(rows, [&](const ClassRow& candidate) { return candidate.id == id; });
   if (row == rows.end()) return CLASS_E_CLASSNOTAVAILABLE;
-  keep_loaded();
   ComPtr<ClassObject> object;
   object.Attach(new (std::nothrow) ClassObject(*row));
   return object ? object->QueryInterface(interface_id, found) : E_OUTOFMEMORY;

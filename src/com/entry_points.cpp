@@ -17,6 +17,7 @@ using namespace qvr::com;
 // may be unloaded already. FreeLibrary unloads only a library that was not pinned, which never created an object: no
 // thread has a state then.
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+  if (reason == DLL_PROCESS_ATTACH) keep_loaded();
   if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
   return TRUE;
 }

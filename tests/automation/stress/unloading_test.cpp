@@ -1,4 +1,4 @@
-// A host lets go of the library as often as it likes. One that has been used stays until the process ends.
+// A host loads and frees the library as often as it likes. It stays until the process ends.
 #include <gtest/gtest.h>
 
 #include <iterator>
@@ -13,7 +13,7 @@ namespace {
 // Each in a process of its own, where the library has not been loaded before.
 TEST(Unloading, AThousandTimesAfterUseLeavesNothingBehind) { EXPECT_EQ(Child(kLoads, L"used").answer(), 0); }
 
-TEST(Unloading, AThousandTimesWithoutUseLeavesWhatTheRuntimeKeeps) { EXPECT_EQ(Child(kLoads, L"unused").answer(), 0); }
+TEST(Unloading, AThousandTimesWithoutUseLeavesNothingBehind) { EXPECT_EQ(Child(kLoads, L"unused").answer(), 0); }
 
 class LoadingInState : public testing::TestWithParam<std::size_t> {};
 
