@@ -26,7 +26,7 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID interface_id, void** found) {
   return class_object(id, interface_id, found);
 }
 
-// Tells whether objects are alive. COM then calls FreeLibrary, which does not unload the library once it is pinned.
+// Tells whether objects are alive. COM then calls FreeLibrary, which does not unload the library since it is pinned.
 STDAPI DllCanUnloadNow() { return ModuleLock::any() ? S_FALSE : S_OK; }
 
 STDAPI DllRegisterServer() { return register_library(Scope::Machine); }
