@@ -33,7 +33,7 @@ struct Joined {
 };
 
 Text text_of(TextView folder, TextView name) {
-  const auto read = or_default(std::optional<Text>(), [&] {
+  const auto read = or_default({}, std::optional<Text>(), [&] {
     return thread_state().script_reader().Leer(u"qvrscript", join({folder, u"\\", name}));
   });
   return read.value_or(Text());

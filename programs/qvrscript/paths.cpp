@@ -17,7 +17,7 @@ TextView file_name(TextView path) { return path.substr(path.find_last_of(u"/\\")
 
 std::optional<std::vector<Text>> names_in(TextView folder) {
   using Names = std::optional<std::vector<Text>>;
-  return or_default(Names(), [&] {
+  return or_default({}, Names(), [&] {
     Names names = thread_state().platform().files.names(folder);
     std::ranges::sort(*names, less_no_case);
     return names;

@@ -35,7 +35,7 @@ class RunThread {
 
 // The text as loading would prepare it; nothing when the file cannot be read.
 std::optional<Text> commands_in(TextView file) {
-  const auto text = or_default(std::optional<Text>(),
+  const auto text = or_default({}, std::optional<Text>(),
                                [&] { return thread_state().script_reader().Leer(u"qvrscript", file); });
   return text ? std::optional(join({*text, kLineBreak})) : std::nullopt;
 }

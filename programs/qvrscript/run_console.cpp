@@ -46,14 +46,14 @@ void ConsoleProgress::show(TextView counts) {
 }
 
 void ConsoleProgress::Progreso(const Text& Mensaje) noexcept {
-  or_default(false, [&] {
+  or_default({}, false, [&] {
     if (Mensaje.starts_with(kCounts)) show(TextView(Mensaje).substr(kCounts.size()));
     return true;
   });
 }
 
 void ConsoleProgress::Terminado(bool) noexcept {
-  or_default(false, [&] {
+  or_default({}, false, [&] {
     if (std::exchange(bar_open_, false)) console_.out << '\n';
     return true;
   });

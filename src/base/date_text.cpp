@@ -25,14 +25,12 @@ struct DayAndSeconds {
 std::optional<DayAndSeconds> split(Date date) noexcept {
   const double whole = std::trunc(date.days);
   if (!(whole >= kFirstDay && whole <= kLastDay)) return std::nullopt;
-  auto day = static_cast<int>(whole);
-  auto seconds = static_cast<int>(std::lround(std::fabs(date.days - whole) * kSecondsPerDay));
-  if (seconds == kSecondsPerDay) {
-    ++day;
-    seconds = 0;
-  }
-  if (day > kLastDay) return std::nullopt;
-  return DayAndSeconds{day, seconds};
+  const auto day = static_cast<int>(whole);
+  const auto seconds = static_cast<int>(std::lround(std::fabs(date.days - whole) * kSecondsPerDay));
+  if (seconds < kSecondsPerDay) return DayAndSeconds{day, seconds};
+  // 23:59:59.997 of the last day is the greatest value of some engines: it stays on the last second of the calendar.
+  if (day == kLastDay) return DayAndSeconds{day, kSecondsPerDay - 1};
+  return DayAndSeconds{day + 1, 0};
 }
 
 }  // namespace

@@ -12,7 +12,8 @@ struct CalendarTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
 };
 
-// Rounded to the nearest second, which can be midnight of the next day. Throws failure 6 outside the years 100 to 9999.
+// Rounded to the nearest second, which can be midnight of the next day, but not beyond 31/12/9999 23:59:59. Throws
+// failure 6 outside the years 100 to 9999.
 CalendarTime calendar_time(Date date);
 
 // The inverse; nothing when a part is out of its range.

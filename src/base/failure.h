@@ -1,5 +1,5 @@
-// Failures and their policies. Inner code throws; each public member names its policy in its first line. The only core
-// header with catch (...).
+// Failures and their policies. Inner code throws; each public member names its policy in its first line. Every policy
+// tells the failure to the trace. With failure.cpp the only core files with catch (...).
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "base/trace.h"
 
 namespace qvr {
 
@@ -23,16 +24,20 @@ inline constexpr std::int32_t kInvalidNull = 94;
 inline constexpr std::int32_t kCannotCreateObject = 429;
 }  // namespace failure_number
 
+inline constexpr TextView kOwnSource = u"QVRlib21";
+
 // What went wrong, as an error report shows it.
 struct FailureDetail {
   std::int32_t number = 0;
   Text description;
   Text source;
+  SourcePlace thrown = {};  // where this code threw it
 };
 
 class RuntimeFailure : public std::exception {
  public:
-  explicit RuntimeFailure(std::int32_t number, Text description = {}, Text source = u"QVRlib21");
+  explicit RuntimeFailure(std::int32_t number, Text description = {}, Text source = Text(kOwnSource),
+                          SourcePlace thrown = SourcePlace::here());
   explicit RuntimeFailure(FailureDetail detail) : detail_(std::move(detail)) {}
   const FailureDetail& detail() const { return detail_; }
   const char* what() const noexcept override { return "QVRlib21 run-time failure"; }
@@ -53,49 +58,61 @@ Text description_of(std::int32_t number);
 // The exception being handled as a failure, whatever its type; call inside a catch block only.
 FailureDetail current_failure();
 
+// Tells the trace of the exception being handled; call inside a catch block only. A description that comes from outside
+// is left out, as it may quote a connection string or a value.
+void trace_current_failure(TextView owner, SourcePlace place) noexcept;
+
+// In all policies `owner` is the class for the trace, which has the member's name from the place of the call.
+
 // Silent policy: the body's result, or `fallback` when it throws.
 template <class R, class Body>
-R or_default(R fallback, Body&& body) noexcept {
+R or_default(TextView owner, R fallback, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
   try {
     return std::forward<Body>(body)();
   } catch (...) {
+    trace_current_failure(owner, place);
     return fallback;
   }
 }
 
 // Silent policy for texts: the body appends to the result; when it throws, the result is what was appended so far.
 template <class Body>
-Text or_built_so_far(Body&& body) noexcept {
+Text or_built_so_far(TextView owner, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
   Text built;
   try {
     std::forward<Body>(body)(built);
   } catch (...) {
+    trace_current_failure(owner, place);
   }
   return built;
 }
 
 // Policy of the members that raise errors: a CallerFailure is rethrown, every other exception gives `fallback`.
 template <class R, class Body>
-R or_raised(R fallback, Body&& body) {
+R or_raised(TextView owner, R fallback, Body&& body, SourcePlace place = SourcePlace::here()) {
   try {
     return std::forward<Body>(body)();
   } catch (const CallerFailure&) {
     throw;
   } catch (...) {
+    trace_current_failure(owner, place);
     return fallback;
   }
 }
 
 // Error-reporting policy: when the body throws, calls `report` with the failure and gives `fallback`. Exceptions of
-// `report` itself are swallowed: the result must not depend on it.
+// `report` itself are only traced: the result must not depend on it.
 template <class R, class Body, class Report>
-R or_reported(R fallback, Body&& body, Report&& report) noexcept {
+R or_reported(TextView owner, R fallback, Body&& body, Report&& report,
+              SourcePlace place = SourcePlace::here()) noexcept {
   try {
     return std::forward<Body>(body)();
   } catch (...) {
+    trace_current_failure(owner, place);
     try {
       std::forward<Report>(report)(current_failure());
     } catch (...) {
+      trace_current_failure(owner, place);
     }
     return fallback;
   }

@@ -29,28 +29,17 @@ bool starts_with_no_case(TextView text, TextView prefix) {
 
 bool less_no_case(TextView a, TextView b) { return std::ranges::lexicographical_compare(a, b, {}, fold, fold); }
 
-Text replace_all(TextView text, TextView what, TextView by) {
-  Text result;
-  std::size_t from = 0;
-  if (!what.empty()) {
-    for (auto at = text.find(what); at != TextView::npos; at = text.find(what, from)) {
-      result.append(text, from, at - from).append(by);
-      from = at + what.size();
-    }
-  }
-  result.append(text, from);
-  return result;
-}
+namespace {
 
-Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
+// `find(from)` gives the next occurrence of `what`.
+template <class Find>
+Text replaced(TextView text, TextView what, TextView by, std::size_t* position, Find&& find) {
   std::size_t count = 0;
-  for (std::size_t at = find_no_case(text, what); at != TextView::npos; ++count) {
-    at = find_no_case(text, what, at + what.size());
-  }
+  for (std::size_t at = find(0); at != TextView::npos; ++count) at = find(at + what.size());
   Text result;
   result.reserve(text.size() - count * what.size() + count * by.size());
   std::size_t from = 0, place = position != nullptr ? *position : 0;
-  for (std::size_t at = find_no_case(text, what); at != TextView::npos; at = find_no_case(text, what, from)) {
+  for (std::size_t at = find(0); at != TextView::npos; at = find(from)) {
     result.append(text, from, at - from);
     // A position inside a replaced piece moves behind the first unit of its replacement.
     if (position != nullptr && *position > at) {
@@ -62,6 +51,17 @@ Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t*
   result.append(text, from);
   if (position != nullptr) *position = place;
   return result;
+}
+
+}  // namespace
+
+Text replace_all(TextView text, TextView what, TextView by, std::size_t* position) {
+  return replaced(text, what, by, position,
+                  [&](std::size_t from) { return what.empty() ? TextView::npos : text.find(what, from); });
+}
+
+Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
+  return replaced(text, what, by, position, [&](std::size_t from) { return find_no_case(text, what, from); });
 }
 
 std::size_t find_no_case(TextView text, TextView what, std::size_t from) {

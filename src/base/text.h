@@ -24,10 +24,9 @@ bool equal_no_case(TextView a, TextView b);
 bool starts_with_no_case(TextView text, TextView prefix);
 bool less_no_case(TextView a, TextView b);
 
-// Replaces every occurrence of `what`, left to right, case-sensitively. An empty `what` does not occur.
-Text replace_all(TextView text, TextView what, TextView by);
-
-// The same case-insensitively, in one allocation. Adjusts a position in the text, if given.
+// Replaces every occurrence of `what`, left to right, in one allocation; the first compares case-sensitively. An empty
+// `what` does not occur. Adjusts a position in the text, if given.
+Text replace_all(TextView text, TextView what, TextView by, std::size_t* position = nullptr);
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position = nullptr);
 
 // The first occurrence of `what`, case-insensitively; npos for none.
@@ -40,6 +39,9 @@ inline bool is_blank(TextView text, TextView blanks = u" ") { return text.find_f
 
 // Trims blanks, or these units, at both ends.
 TextView trimmed(TextView text, TextView blanks = u" ");
+
+// Without blanks, tabs and line ends at its end.
+inline TextView without_white_end(TextView text) { return text.substr(0, text.find_last_not_of(kWhiteSpace) + 1); }
 
 inline bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 bool all_digits(TextView text);  // at least one

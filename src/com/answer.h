@@ -5,6 +5,7 @@
 #include "QVRlib21.h"
 #include "base/engine.h"
 #include "base/secret_text.h"
+#include "com/class_table.h"
 #include "com/com.h"
 #include "com/late_failure.h"
 #include "com/text_bstr.h"
@@ -53,47 +54,46 @@ inline void put_result(VARIANT* out, const Value& result) { put_value(*out, resu
 inline void put_result(LONG* out, std::int32_t result) { *out = result; }
 inline void put_result(MotoresBD* out, Engine result) { *out = static_cast<MotoresBD>(result); }
 
-// Runs the body under the default floating-point state. RuntimeFailure becomes its HRESULT with error info; any other
-// exception, such as out of memory, gives `otherwise`.
+// Runs the body under the default floating-point state. RuntimeFailure becomes its HRESULT with error info, out of
+// memory `out_of_memory`, any other exception E_FAIL. All are traced as failures of this class.
 template <class Body>
-HRESULT guarded(HRESULT otherwise, Body&& body) noexcept {
+HRESULT guarded(REFCLSID owner, HRESULT out_of_memory, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
   const windows::DefaultFloatingPoint calculating;
   try {
     return std::forward<Body>(body)();
   } catch (const RuntimeFailure& failure) {
+    trace_current_failure(class_name(owner), place);
     set_error_info(failure.detail());
     return result_of(failure.detail().number);
+  } catch (const std::bad_alloc&) {
+    trace_current_failure(class_name(owner), place);
+    return out_of_memory;
   } catch (...) {
-    return otherwise;
+    trace_current_failure(class_name(owner), place);
+    return E_FAIL;
   }
 }
 
 // Runs a member's body and returns its result. Out of memory while converting arguments gives the default result.
 template <class Out, class Body>
-HRESULT answer(Out* out, Body&& body) noexcept {
+HRESULT answer(REFCLSID owner, Out* out, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
   if (out == nullptr) return E_POINTER;
   *out = Out{};
-  return guarded(S_OK, [&] {
+  const auto put = [&] {
     put_result(out, std::forward<Body>(body)());
     return S_OK;
-  });
-}
-
-// For members that run a message loop or call the host, which may release its last reference to the object meanwhile.
-template <class Out, class Body>
-HRESULT answer_while_kept(IUnknown& object, Out* out, Body&& body) noexcept {
-  const ComPtr<IUnknown> kept(&object);
-  return answer(out, std::forward<Body>(body));
+  };
+  return guarded(owner, S_OK, put, place);
 }
 
 // The same for members without a result.
 template <class Body>
-HRESULT perform_while_kept(IUnknown& object, Body&& body) noexcept {
-  const ComPtr<IUnknown> kept(&object);
-  return guarded(S_OK, [&] {
+HRESULT perform(REFCLSID owner, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+  const auto run = [&] {
     std::forward<Body>(body)();
     return S_OK;
-  });
+  };
+  return guarded(owner, S_OK, run, place);
 }
 
 }  // namespace qvr::com

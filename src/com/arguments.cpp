@@ -1,9 +1,12 @@
 #include "com/arguments.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
+#include "base/failure.h"
 #include "com/argument_slot.h"
+#include "com/late_failure.h"
 
 namespace qvr::com {
 namespace {
@@ -135,12 +138,34 @@ class Call {
 
 }  // namespace
 
-HRESULT invoke(const Signatures& signatures, void* object, const LateCall& call) {
+namespace {
+
+HRESULT run(const Signatures& signatures, void* object, const LateCall& call) {
   if (call.arguments == nullptr) return E_INVALIDARG;
   const Member* member = signatures.called(call.id, call.flags);
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
   if (call.result != nullptr) call.result->vt = VT_EMPTY;
   return Call(*member, call).run(object);
+}
+
+void trace_refusal(const Signatures& signatures, const LateCall& call, HRESULT result) noexcept {
+  or_default(signatures.owner(), false, [&] {
+    const Member* member = signatures.called(call.id, call.flags);
+    const std::string name = member != nullptr ? std::string(member->name.begin(), member->name.end())
+                                               : "dispatch id " + std::to_string(call.id);
+    trace(
+        {signatures.owner(), name, failure_number_of(result), u"The late-bound call was refused", SourcePlace::here()});
+    return true;
+  });
+}
+
+}  // namespace
+
+HRESULT invoke(const Signatures& signatures, void* object, const LateCall& call) {
+  const HRESULT result = run(signatures, object, call);
+  // A member that failed has told the trace itself.
+  if (FAILED(result) && result != DISP_E_EXCEPTION) trace_refusal(signatures, call, result);
+  return result;
 }
 
 HRESULT ids_of_names(const Signatures& signatures, LPOLESTR* names, UINT count, DISPID* ids) noexcept {

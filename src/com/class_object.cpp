@@ -17,7 +17,7 @@ class ClassObject final : public Counted<IClassFactory> {
     if (found == nullptr) return E_POINTER;
     *found = nullptr;
     if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-    return guarded(E_OUTOFMEMORY, [&] { return row_.create(id, found); });
+    return guarded(row_.id, E_OUTOFMEMORY, [&] { return row_.create(id, found); });
   }
 
   STDMETHODIMP LockServer(BOOL lock) noexcept override {

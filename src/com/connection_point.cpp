@@ -49,7 +49,7 @@ void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcep
 }  // namespace
 
 void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
-  const auto connected = or_default(std::optional<std::vector<Sink>>(), [&] { return std::optional(sinks_); });
+  const auto connected = or_default({}, std::optional<std::vector<Sink>>(), [&] { return std::optional(sinks_); });
   if (!connected) return fire_without_memory(event, argument);
   for (const Sink& sink : *connected) invoke_sink(*sink.dispatch.Get(), event, argument);
 }
@@ -91,7 +91,7 @@ HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer**
 HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
   if (sink == nullptr || cookie == nullptr) return E_POINTER;
   *cookie = 0;
-  return guarded(E_OUTOFMEMORY, [&] {
+  return guarded(GUID_NULL, E_OUTOFMEMORY, [&] {
     HostPtr<IDispatch> dispatch;
     void** const out = reinterpret_cast<void**>(&dispatch);
     // Some sinks implement the event interface's IID, others only IDispatch.
@@ -116,7 +116,7 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) noexcept {
   if (connections == nullptr) return E_POINTER;
   *connections = nullptr;
-  return guarded(E_OUTOFMEMORY, [&] {
+  return guarded(GUID_NULL, E_OUTOFMEMORY, [&] {
     std::vector<Connections::Stored> items;
     for (const Sink& sink : sinks_) items.emplace_back(HostPtr<IUnknown>(sink.dispatch.Get()), sink.cookie);
     return new_enumerator<Connections>(std::move(items), connections);
@@ -126,7 +126,7 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) noexcep
 HRESULT enumerate_points(IConnectionPoint& point, IEnumConnectionPoints** points) noexcept {
   if (points == nullptr) return E_POINTER;
   *points = nullptr;
-  return guarded(E_OUTOFMEMORY, [&] { return new_enumerator<Points>({Points::Stored(&point)}, points); });
+  return guarded(GUID_NULL, E_OUTOFMEMORY, [&] { return new_enumerator<Points>({Points::Stored(&point)}, points); });
 }
 
 HRESULT find_point(ConnectionPoint& point, REFIID id, IConnectionPoint** found) noexcept {

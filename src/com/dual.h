@@ -22,7 +22,7 @@ class Dual : public I {
     if (info == nullptr) return E_POINTER;
     *info = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
-    return guarded(E_OUTOFMEMORY, [&] {
+    return guarded(__uuidof(I), E_OUTOFMEMORY, [&] {
       *info = own_type_info(__uuidof(I)).Detach();
       return S_OK;
     });
@@ -30,13 +30,13 @@ class Dual : public I {
 
   STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override {
     if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    return guarded(E_OUTOFMEMORY, [&] { return ids_of_names(signatures(), names, count, ids); });
+    return guarded(__uuidof(I), E_OUTOFMEMORY, [&] { return ids_of_names(signatures(), names, count, ids); });
   }
 
   STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                       EXCEPINFO* exception, UINT* wrong_argument) noexcept override {
     if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    return guarded(E_OUTOFMEMORY, [&] {
+    return guarded(__uuidof(I), E_OUTOFMEMORY, [&] {
       return invoke(signatures(), static_cast<I*>(this),
                     {id, locale, flags, arguments, result, exception, wrong_argument});
     });

@@ -4,6 +4,7 @@
 #include "com/class_object.h"
 #include "com/module.h"
 #include "com/registration.h"
+#include "platform/windows/debugger_trace.h"
 #include "session/thread_state.h"
 
 namespace {
@@ -17,7 +18,10 @@ using namespace qvr::com;
 // may be unloaded already. FreeLibrary unloads only a library that was not pinned, which never created an object: no
 // thread has a state then.
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) keep_loaded();
+  if (reason == DLL_PROCESS_ATTACH) {
+    keep_loaded();
+    set_trace_sink(windows::trace_to_debugger);
+  }
   if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
   return TRUE;
 }

@@ -28,7 +28,7 @@ std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platfor
   const auto id = registered_class(ComErrorReport::kProgramId);
   if (!id) return builtin;
   std::unique_ptr<services::ErrorReport> component = or_default(
-      std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
+      {}, std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
         auto created = LateObject::create(*id);
         return std::make_unique<ComErrorReport>(std::move(created), std::move(builtin));
       });

@@ -24,7 +24,7 @@ class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideCla
   STDMETHODIMP GetClassInfo(ITypeInfo** info) noexcept override {
     if (info == nullptr) return E_POINTER;
     *info = nullptr;
-    return guarded(E_OUTOFMEMORY, [&] {
+    return guarded(__uuidof(Coclass), E_OUTOFMEMORY, [&] {
       *info = own_type_info(__uuidof(Coclass)).Detach();
       return S_OK;
     });
@@ -38,12 +38,20 @@ class Object : public Counted<Default, Others..., ISupportErrorInfo, IProvideCla
 
  protected:
   template <class Out, class Body>
-  HRESULT answer_while_kept(Out* out, Body&& body) noexcept {
-    return com::answer_while_kept(static_cast<Default&>(*this), out, std::forward<Body>(body));
+  HRESULT answer(Out* out, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+    return com::answer(__uuidof(Coclass), out, std::forward<Body>(body), place);
   }
+  // For members that run a message loop or call the host, which may release its last reference to the object meanwhile.
+  template <class Out, class Body>
+  HRESULT answer_while_kept(Out* out, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+    const ComPtr<Default> kept(static_cast<Default*>(this));
+    return answer(out, std::forward<Body>(body), place);
+  }
+  // The same for members without a result.
   template <class Body>
-  HRESULT perform_while_kept(Body&& body) noexcept {
-    return com::perform_while_kept(static_cast<Default&>(*this), std::forward<Body>(body));
+  HRESULT perform_while_kept(Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+    const ComPtr<Default> kept(static_cast<Default*>(this));
+    return com::perform(__uuidof(Coclass), std::forward<Body>(body), place);
   }
 
   // The default event interface; none for most classes.

@@ -97,7 +97,7 @@ HRESULT result_from(LSTATUS status, HRESULT otherwise) {
 }  // namespace
 
 HRESULT register_library(Scope scope) noexcept {
-  return guarded(E_OUTOFMEMORY, [&] {
+  return guarded(GUID_NULL, E_OUTOFMEMORY, [&] {
     const RegistryRows rows = registry_rows(own_file());
     RegistryKey classes;
     LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE | DELETE, classes);
@@ -110,7 +110,7 @@ HRESULT register_library(Scope scope) noexcept {
 }
 
 HRESULT unregister_library(Scope scope) noexcept {
-  return guarded(E_OUTOFMEMORY, [&] {
+  return guarded(GUID_NULL, E_OUTOFMEMORY, [&] {
     const RegistryRows rows = registry_rows(own_file());
     RegistryKey classes;
     LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE | DELETE, classes);

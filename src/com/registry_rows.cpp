@@ -26,7 +26,7 @@ std::wstring text_of(REFGUID id) {
 std::wstring folder_of(const std::wstring& file) { return file.substr(0, file.find_last_of(L'\\')); }
 
 void add_class(RegistryRows& rows, const ClassRow& row, const std::wstring& file) {
-  const std::wstring program_id = std::wstring(windows::kLibraryName) + L"." + row.name;
+  const std::wstring program_id = std::wstring(windows::kLibraryName) + L"." + windows::wide(row.name);
   const std::wstring key = L"CLSID\\" + text_of(row.id);
   rows.values.insert(rows.values.end(), {
                                             {key, {}, program_id},

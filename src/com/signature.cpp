@@ -108,6 +108,9 @@ Signatures::Signatures(REFIID id) {
   require(info->GetTypeAttr(&attributes));
   const WORD count = attributes->cFuncs;
   info->ReleaseTypeAttr(attributes);
+  OwnedBstr name;
+  require(info->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr));
+  owner_ = name.text().substr(1);
   members_.reserve(count);
   for (UINT index = 0; index < count; ++index) {
     FUNCDESC* function = nullptr;

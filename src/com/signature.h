@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "com/com.h"
 
 namespace qvr::com {
@@ -35,12 +36,15 @@ class Signatures {
   Signatures(const Signatures&) = delete;
   Signatures& operator=(const Signatures&) = delete;
 
+  // The class: the interface's name without its underscore.
+  TextView owner() const noexcept { return owner_; }
   // The member with this name, without regard to case; null for none.
   const Member* named(std::wstring_view name) const noexcept;
   // The member with this dispatch id and kind of call; null for none.
   const Member* called(DISPID id, WORD flags) const noexcept;
 
  private:
+  Text owner_;
   std::vector<Member> members_;
   std::vector<const Member*> at_position_;  // first member of each position
 };

@@ -24,8 +24,12 @@ void QVRcfp::clear() noexcept {
   created_ = false;
 }
 
+void QVRcfp::require_parameters() const {
+  if (!created_) throw RuntimeFailure(failure_number::kObjectNotSet, u"No connection parameters were read or assigned");
+}
+
 bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept {
-  return or_default(false, [&] {
+  return or_default(kClass, false, [&] {
     ConnectionParameters copy = parameters;
     copy.Archivo = fields_.Archivo;
     std::swap(fields_, copy);
@@ -35,7 +39,7 @@ bool QVRcfp::Asignar(TextView, const ConnectionParameters& parameters) noexcept 
 }
 
 bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
-  const bool done = or_default(false, [&] {
+  const bool done = or_default(kClass, false, [&] {
     // Copied first: the arguments may refer to this object's own fields, which are cleared next.
     const Text key(ID), path = cfp_path(R, A);
     Text name(A);
@@ -53,7 +57,7 @@ bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
 }
 
 bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
-  return or_default(false, [&] {
+  return or_default(kClass, false, [&] {
     if (!created_) return false;
     ThreadState& state = thread_state();
     const auto file = state.platform().files.create(cfp_path(R, A));
@@ -66,8 +70,8 @@ bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
 }
 
 Text QVRcfp::CadenaADO(TextView, bool Adm) const noexcept {
-  return or_built_so_far([&](Text& built) {
-    if (!created_) return;
+  return or_built_so_far(kClass, [&](Text& built) {
+    require_parameters();
     const bool administrator = Adm && !fields_.UsuarioAdm.empty();
     built = connection_string(fields_, administrator ? Account{fields_.UsuarioAdm, fields_.ClaveAdm}
                                                      : Account{fields_.UsuarioCli, fields_.ClaveCli});
@@ -75,17 +79,18 @@ Text QVRcfp::CadenaADO(TextView, bool Adm) const noexcept {
 }
 
 Text QVRcfp::CadenaADOUsuario(TextView Usuario, TextView Clave) const noexcept {
-  return or_built_so_far([&](Text& built) {
-    if (created_) built = connection_string(fields_, {Usuario, Clave});
+  return or_built_so_far(kClass, [&](Text& built) {
+    require_parameters();
+    built = connection_string(fields_, {Usuario, Clave});
   });
 }
 
 Value QVRcfp::TextoAValor(TextView TipoTNFL, TextView Texto) const noexcept {
-  return or_default(Value(), [&] { return value_from_typed_text(TipoTNFL, Texto); });
+  return or_default(kClass, Value(), [&] { return value_from_typed_text(TipoTNFL, Texto); });
 }
 
 Text QVRcfp::ValorATexto(TextView TipoTNFL, const Value& Valor) const noexcept {
-  return or_default(Text(), [&] { return typed_text_from_value(TipoTNFL, Valor); });
+  return or_default(kClass, Text(), [&] { return typed_text_from_value(TipoTNFL, Valor); });
 }
 
 }  // namespace qvr

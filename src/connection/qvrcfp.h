@@ -35,6 +35,8 @@ struct PassingParameters {
 // Except for two, the members do not fail: false or an empty result tells of a failure.
 class QVRcfp {
  public:
+  static constexpr TextView kClass = u"QVRcfp";  // in reports and the trace
+
   QVRcfp() noexcept;
   ~QVRcfp();
   QVRcfp(const QVRcfp&) = delete;
@@ -109,6 +111,7 @@ class QVRcfp {
 
  private:
   void clear() noexcept;
+  void require_parameters() const;  // throws failure 91 unless created
 
   bool created_ = false;
   ConnectionParameters fields_;

@@ -18,8 +18,8 @@ constexpr std::int32_t kParameterImproperlyDefined = 3708;
 // Most members: the text, or the empty text on failure. Never "Null" instead of a value: engines reject a statement
 // with a missing piece, but would store the Null.
 template <class Body>
-Text or_no_text(Body&& body) noexcept {
-  return or_default(Text(), std::forward<Body>(body));
+Text or_no_text(Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+  return or_default(QVRcfp::kClass, Text(), std::forward<Body>(body), place);
 }
 
 }  // namespace
@@ -71,15 +71,13 @@ Text QVRcfp::sqlRowNum(std::int32_t Numero, bool AnteponerAndSiProcede) const no
   return or_no_text([&] { return dialect::sqlRowNum(fields_.MotorBD, Numero, AnteponerAndSiProcede); });
 }
 Text QVRcfp::sqlWhereRelacionTablas(const Value& mCampo1Campo2Relacion) const {
-  return or_raised(Text(),
+  return or_raised(kClass, Text(),
                    [&] { return dialect::CondicionWhereRelacionTablas(fields_.MotorBD, mCampo1Campo2Relacion); });
 }
 Text QVRcfp::sqlAlias(TextView Alias) const noexcept {
   return or_no_text([&] { return dialect::ClausulaAlias(fields_.MotorBD, Alias); });
 }
-Text QVRcfp::sqlConcatenar(const Value& Cadenas) const {
-  return or_raised(Text(), [&] { return dialect::sqlConcatenar(fields_.MotorBD, Cadenas); });
-}
+Text QVRcfp::sqlConcatenar(const Value& Cadenas) const { return dialect::sqlConcatenar(fields_.MotorBD, Cadenas); }
 Text QVRcfp::sqlEsNulo(TextView CampoComprobar, TextView CampoAlternativo) const noexcept {
   return or_no_text([&] { return dialect::sqlEsNulo(fields_.MotorBD, CampoComprobar, CampoAlternativo); });
 }
@@ -106,7 +104,7 @@ Text QVRcfp::SqlUpdate2(TextView NombreTabla, const Value& MCampos, const Value&
 bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc,
                               Value& Parametros) const noexcept {
   return or_reported(
-      false, [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
+      kClass, false, [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
       [&](const FailureDetail& failure) {
         report_failure(failure, {u"EjecutarProc", Text(NombreProc)}, fields_.MotorBD, Conexion);
       });
@@ -115,7 +113,11 @@ bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView Nombre
 bool QVRcfp::AgregarParametroADO(services::AdoCommand* Comando,
                                  const dialect::ParameterRequest& request) const noexcept {
   return or_reported(
-      false, [&] { return created_ && dialect::AgregarParametroADO(fields_.MotorBD, Comando, request); },
+      kClass, false,
+      [&] {
+        require_parameters();
+        return dialect::AgregarParametroADO(fields_.MotorBD, Comando, request);
+      },
       [&](const FailureDetail& failure) {
         if (failure.number != kParameterImproperlyDefined) return;
         const Text detail = join({u"AgregarParametroADO: ", request.Nombre, u"(", request.TipoSQLServer, u")"});

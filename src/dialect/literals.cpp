@@ -57,6 +57,11 @@ Text text_literal(Engine engine, const Text& text) {
 // A leading blank in the place of the sign, as Str() of Visual Basic has it.
 Text signed_number(Text digits) { return digits.starts_with(u'-') ? digits : u" " + digits; }
 
+Text unexpected(TextView diagnostic) {
+  trace({u"QVRcfp", "ExpSQL", failure_number::kTypeMismatch, diagnostic, SourcePlace::here()});
+  return Text(kNull);
+}
+
 struct Literal {
   Engine engine;
 
@@ -75,8 +80,14 @@ struct Literal {
   }
   Text operator()(Currency number) const { return signed_number(shortest_number(number)); }
   Text operator()(const Decimal& number) const { return signed_number(shortest_number(number)); }
-  // Null for all other types, 64-bit integers among them.
-  Text operator()(const auto&) const { return Text(kNull); }
+  Text operator()(Null) const { return Text(kNull); }
+  Text operator()(Empty) const { return Text(kNull); }
+  Text operator()(Missing) const { return Text(kNull); }
+  Text operator()(std::int64_t) const { return unexpected(u"Tipo de campo inesperado en ExpSQL: LongLong"); }
+  Text operator()(std::uint64_t) const { return unexpected(u"Tipo de campo inesperado en ExpSQL: ULongLong"); }
+  Text operator()(const ErrorValue&) const { return unexpected(u"Tipo de campo inesperado en ExpSQL: Error"); }
+  Text operator()(const ObjectRef&) const { return unexpected(u"Tipo de campo inesperado en ExpSQL: Object"); }
+  Text operator()(const Array&) const { return unexpected(u"Tipo de campo inesperado en ExpSQL: Variant()"); }
 };
 
 }  // namespace
@@ -140,7 +151,7 @@ Text sqlEsFalse(TextView Campo) { return join({u" ", Campo, u"=0 "}); }
 Text sqlFalse() { return u"0"; }
 
 float NumeroDesdeTexto(TextView text) noexcept {
-  return or_default(0.0f, [&] {
+  return or_default({}, 0.0f, [&] {
     const auto number = static_cast<float>(to_number(Text(text)));
     return std::isfinite(number) ? number : 0.0f;
   });

@@ -15,12 +15,18 @@ std::int32_t parameter_of(const Array& list, std::size_t position) {
   return static_cast<std::int32_t>(index);
 }
 
+// Traced only: these answers are no errors to be reported.
+bool refuse(TextView reason, SourcePlace place = SourcePlace::here()) {
+  trace({u"QVRcfp", place.function, failure_number::kInvalidArgument, reason, place});
+  return false;
+}
+
 bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(returned) == 0; }
 
 }  // namespace
 
 bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
-  if (engine != Engine::SqlServer) return false;
+  if (engine != Engine::SqlServer) return refuse(u"The engine is not SQL Server");
   const auto command = thread_state().ado().new_command();
   if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
   command->set_active_connection(*Conexion);
@@ -32,7 +38,7 @@ bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView
     command->set_parameter_value(parameter_of(list, i), list.items[i]);
   }
   command->execute();
-  if (!is_zero(command->parameter_value(0))) return false;
+  if (!is_zero(command->parameter_value(0))) return refuse(u"The procedure did not return 0");
   for (std::size_t i = 0; i < list.items.size(); ++i) {
     list.items[i] = command->parameter_value(parameter_of(list, i));
   }

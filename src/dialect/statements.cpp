@@ -44,7 +44,6 @@ Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, s
 }
 
 Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores) {
-  if (!MCampos.is<Array>() || !MValores.is<Array>()) return {};
   Text columns = join({u"INSERT INTO ", NombreTabla, u"("}), literals = u") VALUES(";
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
     columns.append(field).append(u",");
@@ -56,7 +55,6 @@ Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const
 }
 
 Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion) {
-  if (!MCampos.is<Array>() || !MValores.is<Array>()) return {};
   Text text = join({u"UPDATE ", NombreTabla, u" SET "});
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
     text.append(field).append(u"=").append(literal_at(engine, MValores, i)).append(u",");

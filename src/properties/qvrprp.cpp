@@ -25,7 +25,7 @@ QVRprp::QVRprp() noexcept { InicializarComun(); }
 void QVRprp::Borra() noexcept { const std::vector<Row> leaving = std::exchange(rows_, {}); }
 
 void QVRprp::CreaPropiedad(TextView Tipo, TextView Nombre, const Value& Valor) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     const bool known = std::ranges::any_of(kTypes, [&](TextView type) { return equal_no_case(type, Tipo); });
     if (!known) return tell_unexpected_type(Tipo, Nombre), false;
     rows_.push_back({Text(Tipo), Text(Nombre), Valor});
@@ -45,14 +45,14 @@ std::optional<std::size_t> QVRprp::position_of(const Value& name_or_index) const
 }
 
 Value QVRprp::Item(const Value& NombreOIndice) const noexcept {
-  return or_default(Value(), [&] {
+  return or_default(kClass, Value(), [&] {
     const auto position = rows_.empty() ? std::nullopt : position_of(NombreOIndice);
     return position ? rows_[*position].value : Value();
   });
 }
 
 void QVRprp::Item(const Value& NombreOIndice, const Value& Valor) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     const auto position = rows_.empty() ? std::nullopt : position_of(NombreOIndice);
     if (!position) return false;
     Value changed = Valor;
@@ -63,7 +63,7 @@ void QVRprp::Item(const Value& NombreOIndice, const Value& Valor) noexcept {
 }
 
 Text QVRprp::NombrePropiedad(std::int32_t Indice) const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     const bool there = Indice >= 0 && Indice < NumPropiedades();
     return there ? rows_[static_cast<std::size_t>(Indice)].name : Text();
   });

@@ -12,6 +12,8 @@ namespace qvr {
 // The members do not fail. Positions count from 0 in the order of creation.
 class QVRprp {
  public:
+  static constexpr TextView kClass = u"QVRprp";  // in reports and the trace
+
   QVRprp() noexcept;
 
   void Borra() noexcept;

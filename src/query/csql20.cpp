@@ -11,28 +11,34 @@
 namespace qvr {
 namespace {
 
-constexpr TextView kClass = u"cSQL20";
+// Traced only: this answer of `Crear` has no box.
+void trace_missing_columns() {
+  trace({cSQL20::kClass, "Crear", failure_number::kTypeMismatch, u"ColumnasSELECT is not an array",
+         SourcePlace::here()});
+}
 
 }  // namespace
 
 cSQL20::cSQL20() noexcept {
   InicializarComun();
-  fields_.language = or_default(language::kSpanish, [] { return thread_state().idioma.Idioma(); });
+  fields_.language = or_default(kClass, language::kSpanish, [] { return thread_state().idioma.Idioma(); });
 }
 
 Text cSQL20::Name() const noexcept {
-  return or_default(Text(), [] { return Text(kClass); });
+  return or_default(kClass, Text(), [] { return Text(kClass); });
 }
 
 bool cSQL20::Crear(const QueryRequest& request) noexcept {
   fields_ = {};
-  return or_shown(false, kClass, u"Crear", [&] {
+  return or_shown(kClass, u"Crear", [&] {
     fields_.engine = request.MotorBD;
     fields_.language = request.Idioma;
     fields_.name = request.NombreObjeto;
     fields_.distinct = request.UsarDistinct;
     fields_.top = request.TOP;
-    if (!request.ColumnasSELECT.is<Array>() || !build_select(request.ColumnasSELECT)) return false;
+    const bool listed = request.ColumnasSELECT.is<Array>();
+    if (!listed) trace_missing_columns();
+    if (!listed || !build_select(request.ColumnasSELECT)) return false;
     build_from_and_where(request);
     build_group_by(request.NumColumnasGROUPBY);
     fields_.having = request.CondicionHAVINGInicial;
@@ -42,7 +48,7 @@ bool cSQL20::Crear(const QueryRequest& request) noexcept {
 }
 
 bool cSQL20::build_select(const Value& pairs) noexcept {
-  return or_shown(false, kClass, u"ConstruirSelect", [&] {
+  return or_shown(kClass, u"ConstruirSelect", [&] {
     fields_.columns = query::ColumnList::from_pairs(pairs);
     const Text limit = dialect::ClausulaTop(fields_.engine, fields_.top);
     fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
@@ -81,7 +87,7 @@ std::size_t cSQL20::existing_column(TextView field) const {
 Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
   if (!fields_.created) return {};
   return or_reported(
-      Text(),
+      kClass, Text(),
       [&] {
         const TextView type = fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).type;
         if (type.empty()) throw RuntimeFailure(failure_number::kInvalidArgument);
@@ -94,7 +100,7 @@ Text cSQL20::TipoCampo(TextView NombreCampoRS) const noexcept {
 
 Text cSQL20::ExpresionOriginal(TextView NombreCampoRS) const noexcept {
   if (!fields_.created) return {};
-  return or_shown(Text(), kClass, u"ExpresionOriginal", [&] {
+  return or_shown(kClass, u"ExpresionOriginal", [&] {
     return Text(fields_.columns.at(static_cast<std::int64_t>(existing_column(NombreCampoRS))).expression);
   });
 }
@@ -110,20 +116,20 @@ std::int16_t cSQL20::NumColumnas() const noexcept {
 }
 
 Text cSQL20::CriterioActual() const noexcept {
-  return or_default(Text(), [&] { return fields_.criterion; });
+  return or_default(kClass, Text(), [&] { return fields_.criterion; });
 }
 
 Text cSQL20::Tag() const noexcept {
-  return or_default(Text(), [&] { return fields_.tag; });
+  return or_default(kClass, Text(), [&] { return fields_.tag; });
 }
 
 void cSQL20::Tag(TextView value) noexcept {
-  or_default(false, [&] { return fields_.tag = value, true; });
+  or_default(kClass, false, [&] { return fields_.tag = value, true; });
 }
 
 void cSQL20::Idioma(std::int32_t value) noexcept {
   fields_.language = value;
-  or_default(false, [&] { return thread_state().idioma.Idioma(value), true; });
+  or_default(kClass, false, [&] { return thread_state().idioma.Idioma(value), true; });
 }
 
 }  // namespace qvr

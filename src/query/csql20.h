@@ -12,6 +12,8 @@ namespace qvr {
 // The members do not fail: failures are shown in a message box.
 class cSQL20 final : public iSQL20 {
  public:
+  static constexpr TextView kClass = u"cSQL20";  // in reports and the trace
+
   cSQL20() noexcept;
 
   Text Name() const noexcept;
@@ -105,6 +107,7 @@ class cSQL20 final : public iSQL20 {
   void build_group_by(std::int16_t grouped);
   void insert_top(std::int32_t value);
   void replace_top(std::int32_t value);
+  void remove_top();
 
   bool extend(query::ConditionChain& chain, TextView condition, TextView criterion);
   std::size_t existing_column(TextView field) const;

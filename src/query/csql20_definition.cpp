@@ -18,7 +18,9 @@ constexpr TextView kEngine = u"MotorBD", kName = u"NombreObjeto", kDistinct = u"
                    kAddedWhere = u"WHERE+", kAddedHaving = u"HAVING+", kAddedOrder = u"ORDERBY+",
                    kCriterion = u"Criterio";
 
-[[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kTypeMismatch); }
+[[noreturn]] void refuse(SourcePlace place = SourcePlace::here()) {
+  throw RuntimeFailure(failure_number::kTypeMismatch, {}, Text(kOwnSource), place);
+}
 
 query::AddedOrder order_from(TextView clicks, const query::ColumnList& columns) {
   auto order = query::AddedOrder::from_clicks(clicks, columns.size());
@@ -29,7 +31,7 @@ query::AddedOrder order_from(TextView clicks, const query::ColumnList& columns) 
 }  // namespace
 
 Text cSQL20::TextoDefinicion() const noexcept {
-  return or_default(Text(), [&] { return definition(); });
+  return or_default(kClass, Text(), [&] { return definition(); });
 }
 
 Text cSQL20::definition() const {
@@ -100,7 +102,7 @@ void cSQL20::clear_definition() noexcept {
 bool cSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
   clear_definition();
   // The spelling of the member's name in the box is part of the contract.
-  return or_shown(false, u"cSQL20", u"CreareDesdeTextoDefinicion", [&] {
+  return or_shown(kClass, u"CreareDesdeTextoDefinicion", [&] {
     Fields read = read_definition(TextoDefinicion);
     read.tag = std::move(fields_.tag);
     read.language = fields_.language;
@@ -110,24 +112,29 @@ bool cSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
 }
 
 Text cSQL20::CriterioActualCompleto() const noexcept {
-  return or_default(Text(), [&] { return complete_criterion(); });
+  return or_default(kClass, Text(), [&] { return complete_criterion(); });
 }
 
+// A further mark keeps white space at the end apart from what a fixed-width column adds.
 Text cSQL20::complete_criterion() const {
   const Fields& f = fields_;
+  const bool open_end = without_white_end(f.criterion).size() < f.criterion.size();
   return join({query::escaped_marks(f.added_where.text()), kCriterionMark, query::escaped_marks(f.added_having.text()),
-               kCriterionMark, f.added_order.clicks(), kCriterionMark, query::escaped_marks(f.criterion)});
+               kCriterionMark, f.added_order.clicks(), kCriterionMark, query::escaped_marks(f.criterion),
+               open_end ? kCriterionMark : TextView()});
 }
 
 void cSQL20::CriterioActualCompleto(TextView value) noexcept {
+  value = without_white_end(value);
   if (value.empty()) return RestauraOriginal(true, true);
-  or_default(false, [&] {
-    const auto pieces = split(value, kCriterionMark);
-    if (pieces.size() != 4) return false;
+  or_default(kClass, false, [&] {
+    auto pieces = split(value, kCriterionMark);
+    if (pieces.size() == 5 && pieces.back().empty()) pieces.pop_back();
+    if (pieces.size() != 4) refuse();
     auto where = query::without_escapes(pieces[0]), having = query::without_escapes(pieces[1]),
          criterion = query::without_escapes(pieces[3]);
     auto order = query::AddedOrder::from_clicks(pieces[2], fields_.columns.size());
-    if (!where || !having || !criterion || !order) return false;
+    if (!where || !having || !criterion || !order) refuse();
     fields_.added_where.assign(std::move(*where));
     fields_.added_having.assign(std::move(*having));
     fields_.added_order = std::move(*order);

@@ -11,7 +11,6 @@
 namespace qvr {
 namespace {
 
-constexpr TextView kClass = u"cSQL20";
 constexpr std::size_t kAfterSelect = 7, kAfterDistinct = 16;
 
 Text top_mark(std::int32_t top) { return join({u" TOP ", decimal(top), u" "}); }
@@ -30,17 +29,15 @@ bool cSQL20::extend(query::ConditionChain& chain, TextView condition, TextView c
 }
 
 bool cSQL20::AmpliarCondicionWhere(TextView Condicion, TextView Criterio) noexcept {
-  return or_shown(false, kClass, u"AmpliarCondicionWhere",
-                  [&] { return extend(fields_.added_where, Condicion, Criterio); });
+  return or_shown(kClass, u"AmpliarCondicionWhere", [&] { return extend(fields_.added_where, Condicion, Criterio); });
 }
 
 bool cSQL20::AmpliarCondicionHaving(TextView Condicion, TextView Criterio) noexcept {
-  return or_shown(false, kClass, u"AmpliarCondicionHaving",
-                  [&] { return extend(fields_.added_having, Condicion, Criterio); });
+  return or_shown(kClass, u"AmpliarCondicionHaving", [&] { return extend(fields_.added_having, Condicion, Criterio); });
 }
 
 bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda, TextView Criterio) noexcept {
-  return or_default(false, [&] {
+  return or_default(kClass, false, [&] {
     const Text type = TipoCampo(NombreCampoRS);  // shows the box for an unknown column
     if (type.empty()) return false;
     const std::size_t position = fields_.columns.position_of(NombreCampoRS);
@@ -56,7 +53,7 @@ bool cSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
 }
 
 void cSQL20::CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondicionHaving) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     fields_.where = NuevaCondicionWhere;
     fields_.having = NuevaCondicionHaving;
     RestauraOriginal(true, false);
@@ -65,7 +62,7 @@ void cSQL20::CambiaCondicion(TextView NuevaCondicionWhere, TextView NuevaCondici
 }
 
 void cSQL20::CambiaOrden(TextView NuevoOrden) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     fields_.order = NuevoOrden;
     fields_.added_order.clear();
     return true;
@@ -83,7 +80,7 @@ void cSQL20::RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) n
 
 // The criterion stays, as it still describes the query.
 void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     if (AdoptarWhere) {
       fields_.where = current_where(true);
       fields_.added_where.clear();
@@ -101,7 +98,7 @@ void cSQL20::AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool Adop
 }
 
 bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
-  return or_shown(false, kClass, u"AmpliarOrden", [&] {
+  return or_shown(kClass, u"AmpliarOrden", [&] {
     const TextView type = fields_.columns.at(NuevaColumna).type;
     // The first click on a date sorts descending; memos cannot be sorted.
     if (!equal_no_case(type, u"M")) fields_.added_order.click(NuevaColumna, !equal_no_case(type, u"F"));
@@ -110,10 +107,10 @@ bool cSQL20::AmpliarOrden(std::int16_t NuevaColumna) noexcept {
 }
 
 void cSQL20::TOP(std::int32_t value) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     if (!fields_.created || value < 0) return false;
     if (fields_.top > 0) {
-      replace_top(value);
+      value > 0 ? replace_top(value) : remove_top();
     } else if (value > 0 && fields_.top == 0) {
       insert_top(value);
     }
@@ -121,15 +118,18 @@ void cSQL20::TOP(std::int32_t value) noexcept {
   });
 }
 
-// A ROWNUM limit inside the WHERE is changed along, but not removed: the contract has it so.
+// Without regard to case, and with a ROWNUM limit inside the WHERE; neither holds for `remove_top`. All that is the
+// contract.
 void cSQL20::replace_top(std::int32_t value) {
-  const Text old_mark = top_mark(fields_.top), new_mark = value > 0 ? top_mark(value) : Text(u" ");
-  if (value > 0) {
-    const Text old_limit = join({u" ROWNUM<=", decimal(fields_.top), u" "});
-    fields_.where = replace_all_no_case(fields_.where, old_limit, join({u" ROWNUM<=", decimal(value), u" "}));
-  }
-  fields_.select = replace_all_no_case(fields_.select, old_mark, new_mark, &fields_.columns_at);
+  const Text old_limit = join({u" ROWNUM<=", decimal(fields_.top), u" "});
+  fields_.where = replace_all_no_case(fields_.where, old_limit, join({u" ROWNUM<=", decimal(value), u" "}));
+  fields_.select = replace_all_no_case(fields_.select, top_mark(fields_.top), top_mark(value), &fields_.columns_at);
   fields_.top = value;
+}
+
+void cSQL20::remove_top() {
+  fields_.select = replace_all(fields_.select, top_mark(fields_.top), u" ", &fields_.columns_at);
+  fields_.top = 0;
 }
 
 void cSQL20::insert_top(std::int32_t value) {

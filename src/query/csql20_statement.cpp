@@ -7,8 +7,6 @@
 namespace qvr {
 namespace {
 
-constexpr TextView kClass = u"cSQL20";
-
 // Upper bound of keywords, joiners, blanks and the limit of rows.
 constexpr std::size_t kAroundClauses = 64;
 
@@ -63,19 +61,19 @@ std::size_t cSQL20::longest_statement() const {
 }
 
 Text cSQL20::ParteWhere(bool SoloCondicion) const noexcept {
-  return or_shown(Text(), kClass, u"ParteWhere", [&] { return current_where(SoloCondicion); });
+  return or_shown(kClass, u"ParteWhere", [&] { return current_where(SoloCondicion); });
 }
 
 Text cSQL20::ParteHaving(bool SoloCondicion) const noexcept {
-  return or_shown(Text(), kClass, u"ParteHaving", [&] { return current_having(SoloCondicion); });
+  return or_shown(kClass, u"ParteHaving", [&] { return current_having(SoloCondicion); });
 }
 
 Text cSQL20::ParteOrder(bool SinClausula) const noexcept {
-  return or_shown(Text(), kClass, u"ParteOrder", [&] { return current_order(SinClausula); });
+  return or_shown(kClass, u"ParteOrder", [&] { return current_order(SinClausula); });
 }
 
 Text cSQL20::SQL() const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     Text statement;
     statement.reserve(longest_statement());
     append_statement(statement);
@@ -86,7 +84,7 @@ Text cSQL20::SQL() const noexcept {
 }
 
 Text cSQL20::SQLSinOrden() const noexcept {
-  return or_default(Text(), [&] { return current_statement(); });
+  return or_default(kClass, Text(), [&] { return current_statement(); });
 }
 
 Text cSQL20::current_statement() const {
@@ -117,7 +115,7 @@ Text cSQL20::current_order(bool list_only) const {
 }
 
 Text cSQL20::SQLOriginal() const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     const Fields& f = fields_;
     return join({f.select, u" ", f.from, u" ", f.where.empty() ? u"" : u"WHERE ", f.where, u" ", f.group_by, u" ",
                  f.having.empty() ? u"" : u"HAVING ", f.having, u" ", f.order.empty() ? u"" : u"ORDER BY ", f.order});
@@ -125,7 +123,7 @@ Text cSQL20::SQLOriginal() const noexcept {
 }
 
 Text cSQL20::SQLOriginalSinOrden() const noexcept {
-  return or_default(Text(), [&] { return original_statement(); });
+  return or_default(kClass, Text(), [&] { return original_statement(); });
 }
 
 Text cSQL20::original_statement() const {

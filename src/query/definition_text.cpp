@@ -10,7 +10,9 @@ namespace {
 constexpr TextView kOpen = u"<*", kClose = u"*>", kEnd = u"<*fin=";
 constexpr std::size_t kDigits = 8;
 
-[[noreturn]] void refuse() { throw RuntimeFailure(failure_number::kTypeMismatch); }
+[[noreturn]] void refuse(SourcePlace place = SourcePlace::here()) {
+  throw RuntimeFailure(failure_number::kTypeMismatch, {}, Text(kOwnSource), place);
+}
 
 // 32-bit FNV-1a over both bytes of each unit: detects accidental changes, not forgeries.
 Text check_digits(TextView text) {
@@ -59,6 +61,7 @@ void DefinitionWriter::add_truth(TextView name, bool value) { add(name, u'L', va
 Text DefinitionWriter::finished() { return text_ += end_mark(text_); }
 
 DefinitionReader::DefinitionReader(TextView text, TextView version) {
+  text = without_white_end(text);
   const std::size_t end = text.rfind(kEnd);
   if (end == TextView::npos || text.substr(end) != end_mark(text.substr(0, end))) refuse();
   text = text.substr(0, end);

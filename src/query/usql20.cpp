@@ -31,11 +31,11 @@ void uSQL20::each(Use&& use) const noexcept {
 }
 
 Text uSQL20::Name() const noexcept {
-  return or_default(Text(), [] { return Text(u"uSQL20"); });
+  return or_default(kClass, Text(), [] { return Text(kClass); });
 }
 
 bool uSQL20::Crear(const QueryRequest& request) noexcept {
-  return or_default(false, [&] {
+  return or_default(kClass, false, [&] {
     auto member = std::make_unique<cSQL20>();
     if (!member->Crear(request)) return false;
     members_.push_back(std::move(member));
@@ -45,7 +45,7 @@ bool uSQL20::Crear(const QueryRequest& request) noexcept {
 
 bool uSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
   bool any = false;
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     for (const TextView piece : split(TextoDefinicion, kDefinitionMark)) {
       auto member = std::make_unique<cSQL20>();
       if (!member->CrearDesdeTextoDefinicion(piece)) continue;
@@ -58,17 +58,17 @@ bool uSQL20::CrearDesdeTextoDefinicion(TextView TextoDefinicion) noexcept {
 }
 
 Text uSQL20::TextoDefinicion() const noexcept {
-  return or_default(Text(), [&] { return joined(kDefinitionMark, &cSQL20::definition); });
+  return or_default(kClass, Text(), [&] { return joined(kDefinitionMark, &cSQL20::definition); });
 }
 
 Text uSQL20::CriterioActualCompleto() const noexcept {
-  return or_default(Text(), [&] { return joined(kCriterionMark, &cSQL20::complete_criterion); });
+  return or_default(kClass, Text(), [&] { return joined(kCriterionMark, &cSQL20::complete_criterion); });
 }
 
 void uSQL20::CriterioActualCompleto(TextView value) noexcept {
-  or_default(false, [&] {
+  or_default(kClass, false, [&] {
     const auto pieces = split(value, kCriterionMark);
-    if (pieces.size() != members_.size()) return false;
+    if (pieces.size() != members_.size()) throw RuntimeFailure(failure_number::kTypeMismatch);
     for (std::size_t i = 0; i < pieces.size(); ++i) members_[i]->CriterioActualCompleto(pieces[i]);
     return true;
   });
@@ -92,25 +92,25 @@ bool uSQL20::InterpretarBusqueda(TextView NombreCampoRS, TextView TextoBusqueda,
 }
 
 Text uSQL20::SQL() const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     if (members_.empty()) return Text();
     return join({joined(kUnion, &cSQL20::current_statement), u" ", members_.front()->current_order_clause()});
   });
 }
 
 Text uSQL20::SQLOriginal() const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     if (members_.empty()) return Text();
     return join({joined(kUnion, &cSQL20::original_statement), u" ", members_.front()->current_order_clause()});
   });
 }
 
 Text uSQL20::SQLOriginalSinOrden() const noexcept {
-  return or_default(Text(), [&] { return joined(kUnion, &cSQL20::original_statement); });
+  return or_default(kClass, Text(), [&] { return joined(kUnion, &cSQL20::original_statement); });
 }
 
 Text uSQL20::SQLSinOrden() const noexcept {
-  return or_default(Text(), [&] { return joined(kUnion, &cSQL20::current_statement); });
+  return or_default(kClass, Text(), [&] { return joined(kUnion, &cSQL20::current_statement); });
 }
 
 void uSQL20::TOP(std::int32_t value) noexcept {
@@ -165,11 +165,11 @@ std::int32_t uSQL20::Idioma() const noexcept {
 }
 
 void uSQL20::Tag(TextView value) noexcept {
-  or_default(false, [&] { return tag_ = value, true; });
+  or_default(kClass, false, [&] { return tag_ = value, true; });
 }
 
 Text uSQL20::Tag() const noexcept {
-  return or_default(Text(), [&] { return tag_; });
+  return or_default(kClass, Text(), [&] { return tag_; });
 }
 
 }  // namespace qvr

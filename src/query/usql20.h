@@ -11,6 +11,8 @@ namespace qvr {
 // Without members (queries of the union) everything does nothing and answers false, an empty text or 0. Nothing fails.
 class uSQL20 final : public iSQL20 {
  public:
+  static constexpr TextView kClass = u"uSQL20";  // in reports and the trace
+
   uSQL20() noexcept;
   ~uSQL20() override;
   uSQL20(const uSQL20&) = delete;

@@ -20,11 +20,11 @@ QVRScr::QVRScr(ScriptEvents& events) noexcept : events_(events) { InicializarCom
 
 bool QVRScr::EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos, TextView CadenaConexion,
                               Text& TextoMostrar) noexcept {
-  if (busy()) return false;
+  if (refused_as_busy(SourcePlace::here())) return false;
   running_ = true;
   InicializarComun();
   const bool success = or_reported(
-      false,
+      kClass, false,
       [&] {
         if (TextoMostrar.empty()) TextoMostrar = message(MsgComandosEjecutados) + u": ";
         const bool avoid = starts_with_no_case(ID, kAvoidTransaction);
@@ -37,6 +37,12 @@ bool QVRScr::EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos,
 }
 
 bool QVRScr::busy() const noexcept { return running_ || finishing_ == kDeepestChain; }
+
+bool QVRScr::refused_as_busy(SourcePlace place) const noexcept {
+  if (!busy()) return false;
+  trace({kClass, place.function, failure_number::kInvalidArgument, u"A run of this object is under way", place});
+  return true;
+}
 
 // The run ends before the event is fired, so that the host can start the next one in its handler.
 void QVRScr::finish(bool success) noexcept {
@@ -52,7 +58,7 @@ void QVRScr::end_unbegun() noexcept {
 
 bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, Engine MotorBD) noexcept {
   return or_reported(
-      false,
+      kClass, false,
       [&] {
         const auto command = thread_state().ado().new_command();
         if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
@@ -69,7 +75,7 @@ bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoC
 }
 
 Text QVRScr::UsuarioSegunMotor(Engine MotorBD) const noexcept {
-  return or_default(Text(), [&] { return Text(pick(MotorBD, kAdministrators).value_or(TextView())); });
+  return or_default(kClass, Text(), [&] { return Text(pick(MotorBD, kAdministrators).value_or(TextView())); });
 }
 
 }  // namespace qvr

@@ -6,6 +6,7 @@
 
 #include "base/engine.h"
 #include "base/text.h"
+#include "base/trace.h"
 #include "services/ado.h"
 
 namespace qvr {
@@ -24,6 +25,8 @@ struct ScriptEvents {
 // Failures of commands go to the error-reporting service; the member answers false.
 class QVRScr {
  public:
+  static constexpr TextView kClass = u"QVRScr";  // in reports and the trace
+
   explicit QVRScr(ScriptEvents& events) noexcept;
 
   // Runs every command of the text on a connection of its own, in one transaction unless ID begins with
@@ -58,8 +61,9 @@ class QVRScr {
  private:
   bool busy() const noexcept;
   void finish(bool success) noexcept;
+  bool refused_as_busy(SourcePlace place) const noexcept;
   template <class Body>
-  Text load(Body&& body) noexcept;
+  Text load(Body&& body, SourcePlace place = SourcePlace::here()) noexcept;
   Text joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names);
   Text prepared(Text text, Engine MotorBD, const ScriptAccounts& accounts, bool Encri);
 

@@ -6,19 +6,18 @@
 #include "session/thread_state.h"
 
 namespace qvr {
-namespace {}  // namespace
-
 // On any failure the text is empty: a partial installation is worse than none.
 template <class Body>
-Text QVRScr::load(Body&& body) noexcept {
-  if (busy()) return {};
+Text QVRScr::load(Body&& body, SourcePlace place) noexcept {
+  if (refused_as_busy(place)) return {};
   running_ = true;
-  Text text = or_default(Text(), std::forward<Body>(body));
+  Text text = or_default(kClass, Text(), std::forward<Body>(body), place);
   finish(!text.empty());
   return text;
 }
 
 Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names) {
+  if (names.empty()) throw RuntimeFailure(failure_number::kFile, u"No script file has such a name");
   std::vector<Text> texts;
   std::size_t size = 0;
   for (const Text& name : names) {
@@ -50,9 +49,11 @@ Text QVRScr::CargarDefinicion(TextView ID, Engine MotorBD, TextView Ruta, TextVi
 Text QVRScr::CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, TextView Aplicacion,
                                  std::int32_t VersionActual, const ScriptAccounts& accounts, bool Encri) noexcept {
   return load([&] {
-    if (!has_update_from(Ruta, Aplicacion, VersionActual, MotorBD)) return Text();
+    if (!has_update_from(Ruta, Aplicacion, VersionActual, MotorBD)) {
+      throw RuntimeFailure(failure_number::kFile, u"No update script begins with this version");
+    }
     Text text = joined_files(ID, Ruta, update_files(Ruta, Aplicacion, VersionActual, MotorBD));
-    return text.empty() ? text : prepared(std::move(text), MotorBD, accounts, Encri);
+    return prepared(std::move(text), MotorBD, accounts, Encri);
   });
 }
 

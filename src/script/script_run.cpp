@@ -9,6 +9,12 @@
 namespace qvr {
 namespace {
 
+// The member for the trace, whose failures these are.
+SourcePlace in_run(SourcePlace place = SourcePlace::here()) {
+  place.function = "EjecutarComandos";
+  return place;
+}
+
 bool user_says_yes(TextView question) {
   return thread_state().platform().message_boxes.show(question, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
@@ -17,14 +23,14 @@ bool user_says_yes(TextView question) {
 
 bool ScriptRun::run() noexcept {
   const bool success = or_reported(
-      false,
+      QVRScr::kClass, false,
       [this] {
         open();
         if (!run_commands()) return false;
         complete();
         return true;
       },
-      [this](const FailureDetail& failure) { report(failure); });
+      [this](const FailureDetail& failure) { report(failure); }, in_run());
   abandon();
   return success;
 }
@@ -73,12 +79,12 @@ void ScriptRun::abandon() noexcept {
   const auto reporting = [this](const FailureDetail& failure) { report(failure); };
   if (transaction_open_) {
     or_reported(
-        false, [this] { return connection_->rollback_trans(), true; }, reporting);
+        QVRScr::kClass, false, [this] { return connection_->rollback_trans(), true; }, reporting, in_run());
     transaction_open_ = false;
   }
   if (connection_open_) {
     or_reported(
-        false, [this] { return connection_->close(), true; }, reporting);
+        QVRScr::kClass, false, [this] { return connection_->close(), true; }, reporting, in_run());
     connection_open_ = false;
   }
   connection_.reset();

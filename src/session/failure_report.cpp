@@ -29,7 +29,8 @@ void report_failure(const FailureDetail& failure, FailedOperation operation, Eng
   notice.object = std::move(operation.object);
   // Reading the Errors of a broken connection can fail too; the failure itself is reported anyway.
   using Errors = std::vector<services::AdoError>;
-  if (connection != nullptr) notice.errors = or_default(Errors(), [&] { return errors_behind(failure, *connection); });
+  if (connection != nullptr)
+    notice.errors = or_default({}, Errors(), [&] { return errors_behind(failure, *connection); });
   thread_state().error_report().Informar(notice);
 }
 

@@ -8,6 +8,8 @@
 namespace qvr {
 namespace {
 
+constexpr TextView kOwner = u"Global";
+
 double read_default_language(ThreadState& state) {
   const Text system = decimal(state.idioma.IdiomaDesdeSOP());
   return number_prefix(state.platform().system.setting(u"QVR", u"Idioma", u"IdiomaOmision", system));
@@ -16,7 +18,7 @@ double read_default_language(ThreadState& state) {
 }  // namespace
 
 void InicializarComun() noexcept {
-  or_default(false, [] {
+  or_default(kOwner, false, [] {
     ThreadState& state = thread_state();
     if (state.idioma.Creado()) return true;
     CtesMensajes(state.mensajes);
@@ -27,7 +29,7 @@ void InicializarComun() noexcept {
 }
 
 std::int32_t IdiomaOmision() noexcept {
-  return or_default(language::kSpanish, [] {
+  return or_default(kOwner, language::kSpanish, [] {
     ThreadState& state = thread_state();
     if (!state.idioma_omision) state.idioma_omision = read_default_language(state);
     return to_long(*state.idioma_omision);
@@ -40,7 +42,7 @@ Text message(Message row, std::span<const Value> arguments) {
 }
 
 bool ExisteArchivo(TextView path, std::int32_t attributes) noexcept {
-  return or_default(false,
+  return or_default(kOwner, false,
                     [&] { return !path.empty() && thread_state().platform().files.any_entry(path, attributes); });
 }
 

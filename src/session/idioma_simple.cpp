@@ -22,7 +22,7 @@ Text filled(Text text, std::size_t first_placeholder, std::span<const Value> val
 bool IdiomaSimple::CargarEnMemoria(std::int32_t Idioma, std::vector<Value> Idiomas,
                                    const TextTable& Mensajes) noexcept {
   loaded_ = false;
-  return or_default(false, [&] {
+  return or_default(kClass, false, [&] {
     language_count_ = Mensajes.columns();
     available_ = std::move(Idiomas);
     message_count_ = Mensajes.rows();
@@ -41,11 +41,11 @@ bool IdiomaSimple::select(std::int32_t idioma) {
 }
 
 void IdiomaSimple::Idioma(std::int32_t NuevoIdioma) noexcept {
-  if (loaded_) loaded_ = or_default(true, [&] { return select(NuevoIdioma); });
+  if (loaded_) loaded_ = or_default(kClass, true, [&] { return select(NuevoIdioma); });
 }
 
 std::int32_t IdiomaSimple::nearest_available(std::int32_t idioma) const noexcept {
-  return or_default(language::kSpanish, [&] {
+  return or_default(kClass, language::kSpanish, [&] {
     if (available_.empty()) return language::kSpanish;
     for (const Value& number : available_) {
       if (to_number(number) == idioma) return idioma;
@@ -66,29 +66,29 @@ Text IdiomaSimple::filled_text_of(std::int32_t row, std::span<const Value> value
 }
 
 Text IdiomaSimple::CI(std::int32_t row) const noexcept {
-  return or_default(Text(), [&] { return text_of(row); });
+  return or_default(kClass, Text(), [&] { return text_of(row); });
 }
 
 Text IdiomaSimple::CIp(std::int32_t row, std::span<const Value> Param) const noexcept {
-  return or_default(Text(), [&] { return filled_text_of(row, Param); });
+  return or_default(kClass, Text(), [&] { return filled_text_of(row, Param); });
 }
 
 Text IdiomaSimple::CIsp(std::int32_t row, std::int32_t Cantidad, std::span<const Value> Param) const noexcept {
-  return or_default(Text(), [&] {
+  return or_default(kClass, Text(), [&] {
     const std::int32_t form = Cantidad == 1 || row == INT32_MAX ? row : row + 1;
     return filled(replace_all(text_of(form), u"|1", decimal(Cantidad)), 2, Param);
   });
 }
 
 std::int32_t IdiomaSimple::IdiomaDesdeSOP() const noexcept {
-  return or_default(language::kEnglish, [&] {
+  return or_default(kClass, language::kEnglish, [&] {
     const SystemLanguage system = system_language(system_->user_language());
     return system.needs_availability_check ? nearest_available(system.number) : system.number;
   });
 }
 
 std::vector<Value> IdiomaSimple::IdiomasDisponibles() const noexcept {
-  return or_default(std::vector<Value>(), [&] { return available_; });
+  return or_default(kClass, std::vector<Value>(), [&] { return available_; });
 }
 
 }  // namespace qvr

@@ -14,6 +14,8 @@ namespace qvr {
 
 class IdiomaSimple {
  public:
+  static constexpr TextView kClass = u"IdiomaSimple";  // in reports and the trace
+
   explicit IdiomaSimple(System& system) : system_(&system) {}
 
   // Copies the catalogue and selects the language, or the nearest one in the list; false, and not loaded, when that

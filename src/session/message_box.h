@@ -1,6 +1,8 @@
 // Message boxes, and the failure policy of members that show one.
 #pragma once
 
+#include <type_traits>
+
 #include "base/failure.h"
 
 namespace qvr {
@@ -11,11 +13,13 @@ void tell(TextView text);
 // A message box in the thread's language with class, member, and the error's number and description.
 void show_failure(TextView source, TextView detail, const FailureDetail& failure);
 
-// Policy of members that show their failures: when the body throws, a message box and `fallback`.
-template <class R, class Body>
-R or_shown(R fallback, TextView source, TextView detail, Body&& body) noexcept {
-  return or_reported(std::move(fallback), std::forward<Body>(body),
-                     [&](const FailureDetail& failure) { show_failure(source, detail, failure); });
+// Policy of members that show their failures: when the body throws, a message box and false, 0 or an empty text.
+template <class Body>
+auto or_shown(TextView owner, TextView detail, Body&& body, SourcePlace place = SourcePlace::here()) noexcept {
+  using Result = std::invoke_result_t<Body>;
+  return or_reported(
+      owner, Result(), std::forward<Body>(body),
+      [&](const FailureDetail& failure) { show_failure(owner, detail, failure); }, place);
 }
 
 }  // namespace qvr

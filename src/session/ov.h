@@ -16,6 +16,8 @@ VersionNumbers own_version();
 
 class Ov {
  public:
+  static constexpr TextView kClass = u"Ov";  // in reports and the trace
+
   // Major, two digits of minor and two of revision as one number: 2.10.24 is 21024. A revision of three digits makes it
   // longer.
   static std::int32_t Version(VersionNumbers numbers) noexcept;

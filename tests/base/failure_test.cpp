@@ -67,29 +67,30 @@ TEST_P(DescriptionOf, IsTheHostsText) { EXPECT_EQ(description_of(GetParam().numb
 INSTANTIATE_TEST_SUITE_P(, DescriptionOf, testing::ValuesIn(kDescriptions), row_name);
 
 TEST(OrDefault, GivesTheResultOrTheFallback) {
-  EXPECT_EQ(or_default(1, [] { return 2; }), 2);
-  EXPECT_EQ(or_default(1, []() -> int { throw RuntimeFailure(5); }), 1);
-  EXPECT_EQ(or_default(1, []() -> int { throw std::bad_alloc(); }), 1);
-  EXPECT_EQ(or_default(1, []() -> int { throw 0; }), 1);
+  EXPECT_EQ(or_default(u"Class", 1, [] { return 2; }), 2);
+  EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw RuntimeFailure(5); }), 1);
+  EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw std::bad_alloc(); }), 1);
+  EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw 0; }), 1);
 }
 
 TEST(OrBuiltSoFar, KeepsWhatWasAppended) {
-  EXPECT_EQ(or_built_so_far([](Text& built) { built = u"whole"; }), u"whole");
-  EXPECT_EQ(or_built_so_far([](Text& built) {
-              built += u"first";
-              throw RuntimeFailure(5);
-            }),
+  EXPECT_EQ(or_built_so_far(u"Class", [](Text& built) { built = u"whole"; }), u"whole");
+  EXPECT_EQ(or_built_so_far(u"Class",
+                            [](Text& built) {
+                              built += u"first";
+                              throw RuntimeFailure(5);
+                            }),
             u"first");
-  EXPECT_EQ(or_built_so_far([](Text&) { throw 0; }), u"");
+  EXPECT_EQ(or_built_so_far(u"Class", [](Text&) { throw 0; }), u"");
 }
 
 TEST(OrRaised, LetsOnlyWhatIsMeantForTheCallerOut) {
-  EXPECT_EQ(or_raised(1, [] { return 2; }), 2);
-  EXPECT_EQ(or_raised(1, []() -> int { throw RuntimeFailure(9); }), 1);
-  EXPECT_EQ(or_raised(1, []() -> int { throw std::bad_alloc(); }), 1);
-  EXPECT_EQ(or_raised(1, []() -> int { throw 0; }), 1);
+  EXPECT_EQ(or_raised(u"Class", 1, [] { return 2; }), 2);
+  EXPECT_EQ(or_raised(u"Class", 1, []() -> int { throw RuntimeFailure(9); }), 1);
+  EXPECT_EQ(or_raised(u"Class", 1, []() -> int { throw std::bad_alloc(); }), 1);
+  EXPECT_EQ(or_raised(u"Class", 1, []() -> int { throw 0; }), 1);
   try {
-    const int result = or_raised(1, []() -> int { throw CallerFailure(9); });
+    const int result = or_raised(u"Class", 1, []() -> int { throw CallerFailure(9); });
     ADD_FAILURE() << "result " << result;
   } catch (const CallerFailure& failure) {
     expect_detail(failure.detail(), 9, u"Subscript out of range", u"QVRlib21");
@@ -100,10 +101,10 @@ TEST(CallerFailure, IsOneLikeAnyOtherForTheOtherPolicies) {
   expect_detail(seen_when(CallerFailure(5)), 5, u"Invalid procedure call or argument", u"QVRlib21");
   expect_detail(seen_when(CallerFailure(5, u"own text", u"own source")), 5, u"own text", u"own source");
   const auto fail = []() -> bool { throw CallerFailure(5); };
-  EXPECT_TRUE(or_default(true, fail));
-  EXPECT_EQ(or_built_so_far([&](Text& built) { built = fail() ? u"" : u"built"; }), u"");
+  EXPECT_TRUE(or_default(u"Class", true, fail));
+  EXPECT_EQ(or_built_so_far(u"Class", [&](Text& built) { built = fail() ? u"" : u"built"; }), u"");
   std::int32_t reported = 0;
-  EXPECT_FALSE(or_reported(false, fail, [&](const FailureDetail& detail) { reported = detail.number; }));
+  EXPECT_FALSE(or_reported(u"Class", false, fail, [&](const FailureDetail& detail) { reported = detail.number; }));
   EXPECT_EQ(reported, 5);
 }
 
@@ -114,12 +115,12 @@ TEST(OrReported, ReportsOnlyWhatWasThrown) {
     EXPECT_EQ(detail.number, 13);
   };
   EXPECT_TRUE(or_reported(
-      false, [] { return true; }, report));
+      u"Class", false, [] { return true; }, report));
   EXPECT_FALSE(or_reported(
-      false, [] { return false; }, report));
+      u"Class", false, [] { return false; }, report));
   EXPECT_EQ(reports, 0);
   EXPECT_FALSE(or_reported(
-      false, []() -> bool { throw RuntimeFailure(13); }, report));
+      u"Class", false, []() -> bool { throw RuntimeFailure(13); }, report));
   EXPECT_EQ(reports, 1);
 }
 
@@ -130,7 +131,7 @@ TEST(OrReported, DropsAFailingReport) {
     throw RuntimeFailure(429);
   };
   EXPECT_FALSE(or_reported(
-      false, []() -> bool { throw std::bad_alloc(); }, failing));
+      u"Class", false, []() -> bool { throw std::bad_alloc(); }, failing));
   EXPECT_TRUE(asked);
 }
 

@@ -3,7 +3,7 @@
 namespace qvr::com {
 
 void ComErrorReport::Informar(const services::ErrorNotice& notice) {
-  const bool taken = or_default(false, [&] { return hand_over(notice), true; });
+  const bool taken = or_default({}, false, [&] { return hand_over(notice), true; });
   if (!taken) otherwise_->Informar(notice);
 }
 

@@ -32,6 +32,7 @@ class cSQL20Object final : public Object<::cSQL20, PrefixedContract<_cSQL20>, Co
 
  private:
   qvr::iSQL20& query() noexcept override { return core_; }
+  REFCLSID owner() const noexcept override { return __uuidof(::cSQL20); }
   Contract& contract() noexcept override { return *this; }
 
   qvr::cSQL20 core_;

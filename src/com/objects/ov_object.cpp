@@ -8,7 +8,7 @@ namespace {
 
 // Without the shared initialisation: reading the version must not load the catalogue.
 Text library_file() {
-  return or_default(Text(), [] { return system_platform().system.module_path(); });
+  return or_default(qvr::Ov::kClass, Text(), [] { return system_platform().system.module_path(); });
 }
 
 }  // namespace

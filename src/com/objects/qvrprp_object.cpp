@@ -11,7 +11,7 @@ struct ValueTraits {
   using Stored = Value;
   static VARIANT give(const Value& value) {
     OwnedVariant variant;
-    or_default(false, [&] { return put_value(*variant.get(), value), true; });
+    or_default(qvr::QVRprp::kClass, false, [&] { return put_value(*variant.get(), value), true; });
     return variant.release();
   }
 };

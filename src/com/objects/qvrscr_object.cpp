@@ -22,9 +22,11 @@ struct LoadTexts {
 
 // Converts the arguments and calls the core. Terminado is fired also when converting them runs out of memory.
 template <class Make, class Call>
-auto with_arguments(qvr::QVRScr& core, Make&& make, Call&& call) {
+auto with_arguments(qvr::QVRScr& core, const char* member, Make&& make, Call&& call) {
   using Arguments = std::invoke_result_t<Make>;
-  auto made = or_default(std::optional<Arguments>(), [&] { return std::optional<Arguments>(make()); });
+  auto made = or_default(
+      qvr::QVRScr::kClass, std::optional<Arguments>(), [&] { return std::optional<Arguments>(make()); },
+      SourcePlace::here(__builtin_FILE(), __builtin_LINE(), member));
   if (made) return call(*made);
   core.end_unbegun();
   return decltype(call(*made)){};
@@ -39,7 +41,7 @@ HRESULT QVRScrObject::EjecutarComandos(BSTR* ID, LONG* MotorBD, BSTR* TextosComa
       const Text id = text_of(ID), shown = text_of(TextoMostrar);
       return RunTexts{id, shown, id, shown, text_of(TextosComandos), secret_of(CadenaConexion)};
     };
-    return with_arguments(core_, make, [&](RunTexts& texts) {
+    return with_arguments(core_, "EjecutarComandos", make, [&](RunTexts& texts) {
       const bool success = core_.EjecutarComandos(texts.id, engine_of(MotorBD), texts.commands, texts.connection_string,
                                                   texts.shown);
       give_back(ID, texts.given_id, texts.id);
@@ -73,7 +75,7 @@ HRESULT QVRScrObject::CargarDefinicion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, BSTR
                        {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
-    return with_arguments(core_, make, [&](const LoadTexts& texts) {
+    return with_arguments(core_, "CargarDefinicion", make, [&](const LoadTexts& texts) {
       return core_.CargarDefinicion(texts.id, engine_of(MotorBD), texts.folder, texts.name, texts.accounts,
                                     truth_of(Encri));
     });
@@ -92,7 +94,7 @@ HRESULT QVRScrObject::CargarActualizacion(BSTR* ID, LONG* MotorBD, BSTR* Ruta, B
                        {text_of(NombreBaseOTablespace), text_of(UsuarioQVRAdm), text_of(ClaveUsuarioQVRAdm),
                         text_of(UsuarioQVRCli), text_of(ClaveUsuarioQVRCli)}};
     };
-    return with_arguments(core_, make, [&](const LoadTexts& texts) {
+    return with_arguments(core_, "CargarActualizacion", make, [&](const LoadTexts& texts) {
       return core_.CargarActualizacion(texts.id, engine_of(MotorBD), texts.folder, texts.name, number_of(VersionActual),
                                        texts.accounts, truth_of(Encri));
     });

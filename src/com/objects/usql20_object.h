@@ -14,6 +14,7 @@ class uSQL20Object final : public Object<::uSQL20, PrefixedContract<_uSQL20>, Co
 
  private:
   qvr::iSQL20& query() noexcept override { return core_; }
+  REFCLSID owner() const noexcept override { return __uuidof(::uSQL20); }
   Contract& contract() noexcept override { return *this; }
 
   qvr::uSQL20 core_;

@@ -1,0 +1,16 @@
+// What the library traces during a test. A test fails that leaves a traced failure unannounced.
+#pragma once
+
+#include <vector>
+
+#include "base/text.h"
+
+namespace qvr::tests {
+
+// The lines so far, without the place at their end, in order; they count as announced.
+std::vector<Text> traced();
+
+// For a test whose inputs fail by the hundred: announces all that this test still traces.
+void expect_any_traces();
+
+}  // namespace qvr::tests
