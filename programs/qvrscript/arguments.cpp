@@ -7,7 +7,7 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr unsigned kForCheck = 1, kForList = 2, kForRun = 4, kForDoctor = 8;
+constexpr unsigned kForCheck = 1, kForList = 2, kForRun = 4, kForDoctor = 8, kForAll = 15;
 
 [[noreturn]] void refuse(std::initializer_list<TextView> message) { throw UsageFailure(join(message)); }
 
@@ -38,7 +38,8 @@ constexpr Option kOptions[] = {
     {u"--connection", kForRun, true, [](Arguments& a, TextView value) { a.connection = Text(value); }},
     {u"--no-transaction", kForRun, false, [](Arguments& a, TextView) { a.use_transaction = false; }},
     {u"--continue", kForRun, false, [](Arguments& a, TextView) { a.go_on = true; }},
-    {u"--json", kForCheck | kForList | kForRun | kForDoctor, false, [](Arguments& a, TextView) { a.json = true; }},
+    {u"--json", kForAll, false, [](Arguments& a, TextView) { a.json = true; }},
+    {u"--verbose", kForAll, false, [](Arguments& a, TextView) { a.verbose = true; }},
 };
 
 unsigned bit_of(Action action) {

@@ -24,6 +24,7 @@ struct Arguments {
   bool use_transaction = true;
   bool go_on = false;
   bool json = false;
+  bool verbose = false;
 };
 
 // An invalid command line.

@@ -14,6 +14,10 @@ A script is text in which each command is followed by a line that holds only GO.
   qvrscript COMMAND --help         more about one of them, with examples
   qvrscript --version
 
+With --verbose every command also writes the failures inside the library to the error output, one line each:
+
+  trace: QVRScr.EjecutarComandos: 429 ActiveX component can't create object (clients/com_ado.cpp:99)
+
 Try it:
   qvrscript check scripts
   qvrscript list scripts Gestion --engine sqlserver

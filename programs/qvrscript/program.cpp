@@ -1,5 +1,10 @@
 #include "qvrscript/program.h"
 
+#include <new>
+#include <optional>
+
+#include "base/trace.h"
+#include "base/utf8.h"
 #include "qvrscript/check.h"
 #include "qvrscript/doctor.h"
 #include "qvrscript/help.h"
@@ -8,6 +13,26 @@
 
 namespace qvr::script_tool {
 namespace {
+
+// Writes the trace to this stream while it lives.
+class TraceOutput {
+ public:
+  explicit TraceOutput(std::ostream& stream) : former_(set_trace_sink(write)) { stream_ = &stream; }
+  ~TraceOutput() { set_trace_sink(former_); }
+  TraceOutput(const TraceOutput&) = delete;
+  TraceOutput& operator=(const TraceOutput&) = delete;
+
+ private:
+  static void write(TextView line) noexcept {
+    try {
+      *stream_ << "trace: " << to_utf8(line) << '\n';
+    } catch (const std::bad_alloc&) {  // the line is dropped
+    }
+  }
+
+  static inline std::ostream* stream_ = nullptr;
+  const TraceSink former_;
+};
 
 int act(const Arguments& arguments, const Console& console, MakeAdo make_ado) {
   switch (arguments.action) {
@@ -25,7 +50,10 @@ int act(const Arguments& arguments, const Console& console, MakeAdo make_ado) {
 
 int run_program(std::span<const Text> words, const Console& console, MakeAdo make_ado) {
   try {
-    const int code = act(parse_arguments(words), console, make_ado);
+    const Arguments arguments = parse_arguments(words);
+    std::optional<TraceOutput> verbose;
+    if (arguments.verbose) verbose.emplace(console.err);
+    const int code = act(arguments, console, make_ado);
     if (console.out.flush()) return code;
     complain(console, {u"the output cannot be written"});
   } catch (const UsageFailure& failure) {

@@ -5,6 +5,7 @@
 #include "automation/database.h"
 #include "automation/library.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -14,7 +15,14 @@ struct Failing {
   const char* calls;  // what reached ADO, in order
   std::size_t boxes;
   bool outcome;
+  Traces traces = {};
 };
+
+const Text kNoConnection = u"QVRScr.EjecutarComandos: 429 ActiveX component can't create object",
+           kNoCommand = u"QVRScr.Ejecutar1Comando: 429 ActiveX component can't create object",
+           kRefusedRun = u"QVRScr.EjecutarComandos: -2147467259 told by another component",
+           kRefusedCommand = u"QVRScr.Ejecutar1Comando: -2147467259 told by another component",
+           kStillInTransaction = u"QVRScr.EjecutarComandos: 3246 told by another component";
 
 std::ostream& operator<<(std::ostream& out, const Failing& row) { return out << narrow(row.where); }
 
@@ -44,6 +52,7 @@ TEST_P(AdoFailures, EndTheRunInOrder) {
       }
     }
     EXPECT_EQ(calls, row.calls) << faulty.calls();
+    EXPECT_EQ(traced(), row.traces);
     EXPECT_EQ(test_ado().can_unload(), S_OK) << "an ADO object was left behind";
   }
   EXPECT_EQ(describe(runner
@@ -55,17 +64,23 @@ TEST_P(AdoFailures, EndTheRunInOrder) {
 
 INSTANTIATE_TEST_SUITE_P(
     Each, AdoFailures,
-    testing::Values(Failing{L"CreateConnection", "", 1, false}, Failing{L"ConnectionString", "", 1, false},
-                    Failing{L"Open", "Open ", 1, false}, Failing{L"BeginTrans", "Open BeginTrans Close ", 1, false},
-                    Failing{L"CreateCommand:1", "Open BeginTrans RollbackTrans Close ", 2, false},
-                    Failing{L"ActiveConnection:2", "Open BeginTrans RollbackTrans Close ", 2, false},
-                    Failing{L"CommandText:1", "Open BeginTrans RollbackTrans Close ", 2, false},
-                    Failing{L"Execute:1", "Open BeginTrans RollbackTrans Close ", 2, false},
-                    Failing{L"Execute:2", "Open BeginTrans RollbackTrans Close ", 2, false},
-                    Failing{L"CommitTrans", "Open BeginTrans CommitTrans RollbackTrans Close ", 1, false},
-                    Failing{L"Close:1", "Open BeginTrans CommitTrans Close Close ", 1, false},
-                    Failing{L"Execute:2,RollbackTrans", "Open BeginTrans RollbackTrans Close ", 3, false},
-                    Failing{L"", "Open BeginTrans CommitTrans Close ", 0, true}),
+    testing::Values(
+        Failing{L"CreateConnection", "", 1, false, {kNoConnection}},
+        Failing{L"ConnectionString", "", 1, false, {kRefusedRun}}, Failing{L"Open", "Open ", 1, false, {kRefusedRun}},
+        Failing{L"BeginTrans", "Open BeginTrans Close ", 1, false, {kRefusedRun}},
+        Failing{L"CreateCommand:1", "Open BeginTrans RollbackTrans Close ", 2, false, {kNoCommand}},
+        Failing{L"ActiveConnection:2", "Open BeginTrans RollbackTrans Close ", 2, false, {kRefusedCommand}},
+        Failing{L"CommandText:1", "Open BeginTrans RollbackTrans Close ", 2, false, {kRefusedCommand}},
+        Failing{L"Execute:1", "Open BeginTrans RollbackTrans Close ", 2, false, {kRefusedCommand}},
+        Failing{L"Execute:2", "Open BeginTrans RollbackTrans Close ", 2, false, {kRefusedCommand}},
+        Failing{L"CommitTrans", "Open BeginTrans CommitTrans RollbackTrans Close ", 1, false, {kRefusedRun}},
+        Failing{L"Close:1", "Open BeginTrans CommitTrans Close Close ", 1, false, {kRefusedRun}},
+        Failing{L"Execute:2,RollbackTrans",
+                "Open BeginTrans RollbackTrans Close ",
+                3,
+                false,
+                {kRefusedCommand, kRefusedRun, kStillInTransaction}},
+        Failing{L"", "Open BeginTrans CommitTrans Close ", 0, true}),
     [](const auto& row) {
       std::string name = narrow(row.param.where);
       std::ranges::replace_if(
@@ -89,6 +104,7 @@ TEST(AdoMissing, AnUnregisteredAdoIsReportedAndTheRunnerGoesOnWorking) {
   EXPECT_EQ(connected.events(), std::vector<std::string>{"Terminado BOOL* false"});
   EXPECT_EQ(describe(runner.call(L"EjecutarComandos", {L"", 2, kCommands, database.connection_string()}).value.raw()),
             "BOOL true");
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: 429 ActiveX component can't create object"}));
 }
 
 // Run in a process of its own: the signatures are read by the first late-bound call of a process.
@@ -109,6 +125,10 @@ TEST(WithoutAdo, MembersWorkAlthoughAdosTypesCannotBeRead) {
     EXPECT_EQ(describe(cfp.call(L"AgregarParametroADO", {Var::nothing(), L"INT", L"@p"}).value.raw()), "BOOL false");
     EXPECT_EQ(describe(cfp.call(L"EjecutarProcSQL7", {Var::nothing(), L"p", L"no array"}).value.raw()), "BOOL false");
     EXPECT_EQ(person.boxes().size(), 1u);
+    EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 429 ActiveX component can't create object",
+                                u"QVRScr.Ejecutar1Comando: -2147352571 The late-bound call was refused",
+                                u"QVRcfp.AgregarParametroADO: 91 No connection parameters were read or assigned",
+                                u"QVRcfp.EjecutarProcSQL7: 5 The engine is not SQL Server"}));
   }
   ASSERT_EQ(test_ado().register_it(), S_OK);
 }
@@ -125,6 +145,10 @@ TEST(AdoRefusals, ConnectionStringsThatCannotServe) {
     EXPECT_EQ(person.boxes().size(), 1u);
     EXPECT_EQ(connected.events(), std::vector<std::string>{"Terminado BOOL* false"});
   }
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: -2147467259 told by another component",
+                              u"QVRScr.EjecutarComandos: 3706 told by another component",
+                              u"QVRScr.EjecutarComandos: -2147467259 told by another component",
+                              u"QVRScr.EjecutarComandos: -2147467259 told by another component"}));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "automation/database.h"
 #include "automation/library.h"
 #include "automation/parameter_host.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -41,15 +42,19 @@ TEST_F(RefusedParameter, WithoutATypeItIsImproperlyDefined) {
       EXPECT_EQ(there.refused({L"INT"}), narrow(box));
     });
   }
+  EXPECT_EQ(traced(), Traces(6, u"QVRcfp.AgregarParametroADO: 3708 told by another component"));
 }
 
 TEST_F(RefusedParameter, ATextWithoutAWidthIsImproperlyDefinedToo) {
   host.use(2);
   const std::string box = host.refused({L"NVARCHAR", L"@n", Var::null()});
   EXPECT_TRUE(box.ends_with(" 3708: The parameter is not defined completely or not consistently.")) << box;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: 3708 told by another component",
+                              u"QVRcfp.AgregarParametroADO: 3708 told by another component"}));
 }
 
 TEST_F(RefusedParameter, OtherRefusalsAreSilent) {
+  expect_any_traces();
   host.use(2);
   EXPECT_EQ(host.refused({L"INT", L"@p", L"abc"}), "silence");
   EXPECT_EQ(host.refused({L"NVARCHAR", L"@p", L"too long", 3}), "silence");
@@ -80,6 +85,10 @@ TEST_F(RefusedParameter, NothingAsTheCommandIsFalseInSilence) {
   EXPECT_EQ(host.object().call(L"AgregarParametroADO", {L"no object", L"INT", L"@p"}).result, DISP_E_TYPEMISMATCH);
   ASSERT_EQ(person.boxes().size(), 1u) << "the empty name of a type";
   EXPECT_TRUE(person.boxes()[0].text.ends_with(L" AgregarParametroADO:  ()"));
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: 91 Object variable or With block variable not set",
+                              u"QVRcfp.AgregarParametroADO: 91 Object variable or With block variable not set",
+                              u"QVRcfp.AgregarParametroADO: -2147352570 Application-defined or object-defined error",
+                              u"QVRcfp.AgregarParametroADO: -2147352571 The late-bound call was refused"}));
 }
 
 TEST_F(RefusedParameter, AnObjectWithoutParametersAddsNone) {
@@ -88,6 +97,8 @@ TEST_F(RefusedParameter, AnObjectWithoutParametersAddsNone) {
   EXPECT_EQ(host.append_early(command.get(), {L"INT"}), "BOOL false");
   EXPECT_EQ(host.append_late(command.get(), {L"INT", L"@p", 5, 0, 4}), "BOOL false");
   EXPECT_EQ(log.calls(), "CreateCommand\n");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: 91 No connection parameters were read or assigned",
+                              u"QVRcfp.AgregarParametroADO: 91 No connection parameters were read or assigned"}));
 }
 
 TEST_F(RefusedParameter, OracleHasNoReturnValues) {

@@ -2,6 +2,7 @@
 #include "automation/parameter_host.h"
 #include "automation/procedures.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -81,6 +82,7 @@ TEST_F(AdoParameter, ArgumentsMayBeLeftOut) {
   ASSERT_EQ(count_of_parameters(command), 5);
   for (int i = 0; i < 5; ++i) EXPECT_EQ(described_parameter(command, i), expected[i]);
   EXPECT_EQ(host.object().call(L"AgregarParametroADO", {target, L"INT"}).result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: -2147352561 The late-bound call was refused"}));
 }
 
 TEST_F(AdoParameter, AScriptsVariables) {

@@ -1,5 +1,6 @@
 // Late-bound arguments, valid and invalid.
 #include "automation/both.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -59,6 +60,7 @@ TEST_F(ArgumentsTest, AVariantThatRefersToItselfIsRefused) {
   EXPECT_EQ(answer.result, DISP_E_TYPEMISMATCH);
   EXPECT_EQ(answer.wrong_argument, 0u);
   loop.raw().vt = VT_EMPTY;
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.UsuarioSegunMotor: -2147352571 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, UnconvertibleArgumentsAreNamedByTheirIndex) {
@@ -70,6 +72,10 @@ TEST_F(ArgumentsTest, UnconvertibleArgumentsAreNamedByTheirIndex) {
   EXPECT_EQ(first.wrong_argument, 2u);
   EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {L"dos"}).result, DISP_E_TYPEMISMATCH);
   EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {3e9}).result, DISP_E_OVERFLOW);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Crear: -2147352571 The late-bound call was refused",
+                              u"QVRcfp.Crear: -2147352571 The late-bound call was refused",
+                              u"QVRScr.UsuarioSegunMotor: -2147352571 The late-bound call was refused",
+                              u"QVRScr.UsuarioSegunMotor: -2147352566 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, WrongCounts) {
@@ -77,6 +83,10 @@ TEST_F(ArgumentsTest, WrongCounts) {
   EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {1, 2}).result, DISP_E_BADPARAMCOUNT);
   EXPECT_EQ(cfp.get(L"Provider", {1}).result, DISP_E_BADPARAMCOUNT);
   EXPECT_EQ(scr.call(L"UsuarioSegunMotor", {Var::missing()}).result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.UsuarioSegunMotor: -2147352561 The late-bound call was refused",
+                              u"QVRScr.UsuarioSegunMotor: -2147352562 The late-bound call was refused",
+                              u"QVRcfp.Provider: -2147352562 The late-bound call was refused",
+                              u"QVRScr.UsuarioSegunMotor: -2147352561 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, NamedArgumentsInAnyOrder) {
@@ -86,6 +96,7 @@ TEST_F(ArgumentsTest, NamedArgumentsInAnyOrder) {
   EXPECT_EQ(describe(mixed.value.raw()), "BSTR 2.5");
   EXPECT_EQ(cfp.call_named(L"ValorATexto", {L"Otro"}, {2.5, L"N"}).result, DISP_E_UNKNOWNNAME);
   EXPECT_EQ(cfp.call_named(L"ValorATexto", {L"TipoTNFL"}, {L"N", 2.5}).result, DISP_E_PARAMNOTFOUND);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ValorATexto: -2147352572 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, UnknownMembersIdsAndFlags) {
@@ -99,6 +110,9 @@ TEST_F(ArgumentsTest, UnknownMembersIdsAndFlags) {
             E_INVALIDARG);
   EXPECT_EQ(cfp.get()->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, nullptr, nullptr, nullptr), S_OK)
       << "a host may not want the result";
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.dispatch id 12345: -2147352573 The late-bound call was refused",
+                              u"QVRcfp.dispatch id 1745027081: -2147352573 The late-bound call was refused",
+                              u"QVRcfp.Provider: -2147024809 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, NamesWithoutRegardToCase) {
@@ -122,6 +136,7 @@ TEST_F(ArgumentsTest, ArraysOfAnyKindAreNoText) {
     EXPECT_EQ(answer.result, S_OK);
     EXPECT_EQ(describe(answer.value.raw()), "BSTR ");
   }
+  EXPECT_EQ(traced(), Traces(6, u"QVRcfp.ValorATexto: 13 Type mismatch"));
 }
 
 TEST_F(ArgumentsTest, ArraysInsideArraysAreReadToTheDepthThatHostsNest) {
@@ -139,6 +154,7 @@ TEST_F(ArgumentsTest, ArraysInsideArraysAreReadToTheDepthThatHostsNest) {
   EXPECT_EQ(cfp.as<_QVRcfp>()->ValorATexto(&code, &passed, &result), S_OK);
   EXPECT_EQ(result.text(), L"");
   element->vt = VT_EMPTY;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ValorATexto: 13 Type mismatch"}));
 }
 
 TEST_F(ArgumentsTest, ArraysOfRecordsAreNoTextWhateverTheRecordsHold) {
@@ -157,12 +173,15 @@ TEST_F(ArgumentsTest, ArraysOfRecordsAreNoTextWhateverTheRecordsHold) {
   EXPECT_EQ(result.text(), L"");
   records->fFeatures = features;
   array.raw().vt = VT_ARRAY | VT_I8;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ValorATexto: 13 Type mismatch"}));
 }
 
 TEST_F(ArgumentsTest, ObjectsAreNoTextAndNothingIsNoConnection) {
   EXPECT_EQ(written(cfp.get()), "BSTR ");
   EXPECT_EQ(written(static_cast<IDispatch*>(nullptr)), "BSTR ");
   EXPECT_EQ(scr.call(L"Ejecutar1Comando", {L"no object", L"SELECT 1", 2}).result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ValorATexto: 13 Type mismatch", u"QVRcfp.ValorATexto: 13 Type mismatch",
+                              u"QVRScr.Ejecutar1Comando: -2147352571 The late-bound call was refused"}));
 }
 
 TEST_F(ArgumentsTest, AReferenceToNowhereIsRefused) {
@@ -172,6 +191,8 @@ TEST_F(ArgumentsTest, AReferenceToNowhereIsRefused) {
   EXPECT_EQ(cfp.call(L"ValorATexto", {L"T", nowhere}).result, DISP_E_TYPEMISMATCH);
   EXPECT_EQ(cfp.call(L"TextoAValor", {L"T", nowhere}).result, DISP_E_TYPEMISMATCH);
   nowhere.raw().vt = VT_EMPTY;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ValorATexto: -2147352571 The late-bound call was refused",
+                              u"QVRcfp.TextoAValor: -2147352571 The late-bound call was refused"}));
 }
 
 // Re-entrance during conversion: the default property of one argument changes the variable of another.

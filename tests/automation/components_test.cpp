@@ -3,6 +3,7 @@
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/family_component.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -48,6 +49,8 @@ TEST(TextProtectionComponent, FailsTheMembersWhenItFails) {
     });
     save_and_load(L"failing", false);
   });
+  EXPECT_EQ(traced(),
+            (Traces{u"QVRcfp.Guardar: -2147467259 Call failed.", u"QVRcfp.Crear: 75 Path/File access error"}));
 }
 
 TEST(TextProtectionComponent, IsNotReplacedWhenItIsRegisteredButCannotBeCreated) {
@@ -56,6 +59,8 @@ TEST(TextProtectionComponent, IsNotReplacedWhenItIsRegisteredButCannotBeCreated)
     component.revoke();
     save_and_load(L"absent", false);
   });
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Guardar: 429 ActiveX component can't create object",
+                              u"QVRcfp.Crear: 75 Path/File access error"}));
 }
 
 TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
@@ -77,6 +82,7 @@ TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
                   "I4 3, BSTR Ejecutar1Comando: select 1, {BSTR Servidor no encontrado; BSTR Registro "
                   "duplicado; BSTR Error indeterminado; BSTR M\u00e9todo; BSTR Objeto})"});
   });
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set"}));
 }
 
 TEST(ErrorReportComponent, LeavesTheFailureToTheBoxWhenItFailsOrCannotBeCreated) {
@@ -93,6 +99,10 @@ TEST(ErrorReportComponent, LeavesTheFailureToTheBoxWhenItFailsOrCannotBeCreated)
       EXPECT_TRUE(person.boxes()[0].text.ends_with(L"Ejecutar1Comando: select 1")) << narrow(person.boxes()[0].text);
     });
   }
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
+                              u"Informar: -2147467259 Call failed.",
+                              u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
+                              u"make_error_report: 429 ActiveX component can't create object"}));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "automation/prepared_call.h"
 #include "automation/script_folder.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -162,6 +163,8 @@ TEST_P(CallsOut, TheErrorReportComponentAndTheObjectThatFailed) {
     expect_seen(*call, 2);
     EXPECT_EQ(call->outcome(), "BOOL false");
     EXPECT_EQ(report.calls().size(), 1u);
+    EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 3001 told by another component",
+                                u"report_failure: -2147352570 Application-defined or object-defined error"}));
   });
 }
 
@@ -264,6 +267,7 @@ TEST_P(CallsOut, ObjectsInAnArray) {
     const auto call = late_call(parameters.get(), L"SqlINSERT", DISPATCH_METHOD, {L"T", objects});
     expect_seen(*call, 1);
     EXPECT_EQ(call->outcome(), "BSTR INSERT INTO T VALUES (Null,  0.1)");
+    EXPECT_EQ(traced(), Traces{u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Object"});
   }
   EXPECT_EQ(object.references(), 1u);
 }

@@ -12,6 +12,7 @@
 #include "automation/prepared_call.h"
 #include "automation/script_folder.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -51,6 +52,7 @@ struct Row {
   const char* expected;  // a property that is read afterwards behind "; "
   WORD kind = DISPATCH_METHOD;
   const wchar_t* read_after = nullptr;
+  TextView trace = {};
 };
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
@@ -100,7 +102,14 @@ std::vector<Row> rows() {
        {L"N", L"123456789012345678901E-5"},
        "R8 1234567890123456.750000"},
       {"TextoAValor_TooSmall", sql_server, L"TextoAValor", {L"N", L"1E-400"}, "R8 0.000000"},
-      {"TextoAValor_TooLarge", sql_server, L"TextoAValor", {L"N", L"1E+400"}, "Empty"},
+      {"TextoAValor_TooLarge",
+       sql_server,
+       L"TextoAValor",
+       {L"N", L"1E+400"},
+       "Empty",
+       DISPATCH_METHOD,
+       nullptr,
+       u"QVRcfp.TextoAValor: 6 Overflow"},
       {"TextoAValor_Date", sql_server, L"TextoAValor", {L"F", L"2011-01-05"}, "DATE 40548.000000"},
       {"TextoAValor_Truth", sql_server, L"TextoAValor", {L"L", L"0.1"}, "BOOL true"},
       {"sqlTOP", sql_server, L"sqlTOP", {2.5}, "BSTR  TOP 2 "},
@@ -213,6 +222,7 @@ class FloatingPoint : public testing::TestWithParam<Row> {
     std::string outcome = call->outcome();
     if (row.read_after != nullptr) outcome += "; " + describe(subject.get(row.read_after).value.raw());
     EXPECT_EQ(outcome, row.expected);
+    EXPECT_EQ(traced(), row.trace.empty() ? Traces() : Traces{Text(row.trace)});
     if (state == kDefaultState) return;  // flags of the library's calculations come in, as from any function
     EXPECT_EQ(to_string(state_of_host.after), to_string(state_of_host.before));
   }

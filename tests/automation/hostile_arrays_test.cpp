@@ -1,6 +1,7 @@
 // Malformed arrays and references: they must neither crash nor hang the process.
 #include "automation/boxes.h"
 #include "automation/sql_members.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -36,6 +37,7 @@ TEST_F(HostileArrays, AnArrayThatHoldsItselfManyTimes) {
   for (int i = 0; i < 100; ++i) nulls += i > 0 ? L", Null" : L"Null";
   EXPECT_EQ(result.text(), L"INSERT INTO T VALUES (" + nulls + L")");
   EXPECT_EQ(list.raw().parray->cLocks, 0u);
+  EXPECT_EQ(traced(), Traces(100, u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error"));
 }
 
 TEST_F(HostileArrays, TwoArraysThatHoldEachOther) {
@@ -45,19 +47,19 @@ TEST_F(HostileArrays, TwoArraysThatHoldEachOther) {
     items_of(second)[i] = referring_to(first.raw());
   }
   const Person person;
-  const auto concatenated = [&](Var& list) {
+  for (Var* const list : {&first, &second}) {
     Bstr result;
-    EXPECT_EQ(early->sqlConcatenar(&list.raw(), &result), S_OK);
-    return result.text();
-  };
-  EXPECT_EQ(concatenated(first), L"") << "an array is no text";
-  EXPECT_EQ(concatenated(second), L"");
+    EXPECT_EQ(early->sqlConcatenar(&list->raw(), &result), static_cast<HRESULT>(0x800A000D)) << "an array is no text";
+  }
+  EXPECT_EQ(traced(), Traces(2, u"QVRcfp.sqlConcatenar: 13 Type mismatch"));
 }
 
 TEST_F(HostileArrays, ArraysInsideArraysDeeperThanAnyHostNests) {
   Var list = array_of({1});
   for (int depth = 0; depth < 60; ++depth) list = array_of({list});
   expect_insert(list.raw(), "BSTR INSERT INTO T VALUES (Null)");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Variant()",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Variant()"}));
 }
 
 TEST_F(HostileArrays, AChainOfReferencesThatEndsNowhere) {
@@ -77,6 +79,10 @@ TEST_F(HostileArrays, AChainOfReferencesThatEndsNowhere) {
     EXPECT_EQ(late.call(L"SqlINSERT", {L"T", passed}).result, DISP_E_TYPEMISMATCH);
     passed.raw().vt = VT_EMPTY;
   }
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.SqlINSERT: 13 Type mismatch",
+                              u"QVRcfp.SqlINSERT: -2147352571 The late-bound call was refused",
+                              u"QVRcfp.SqlINSERT: 9 Subscript out of range",
+                              u"QVRcfp.SqlINSERT: -2147352571 The late-bound call was refused"}));
 }
 
 TEST_F(HostileArrays, ReferencesInARing) {
@@ -89,6 +95,8 @@ TEST_F(HostileArrays, ReferencesInARing) {
   passed.raw() = ring[0];
   EXPECT_EQ(late.call(L"SqlINSERT", {L"T", passed}).result, DISP_E_TYPEMISMATCH);
   passed.raw().vt = VT_EMPTY;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.SqlINSERT: 13 Type mismatch",
+                              u"QVRcfp.SqlINSERT: -2147352571 The late-bound call was refused"}));
 }
 
 TEST_F(HostileArrays, ElementsThatReferToNowhere) {
@@ -97,6 +105,12 @@ TEST_F(HostileArrays, ElementsThatReferToNowhere) {
   items_of(list)[1].vt = VT_BYREF | VT_BSTR;
   items_of(list)[2].vt = VT_BYREF | VT_ARRAY | VT_I4;
   expect_insert(list.raw(), "BSTR INSERT INTO T VALUES (Null, Null, Null)");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Variant()",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error",
+                              u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Variant()"}));
 }
 
 TEST_F(HostileArrays, ATypeInTheVariantThatIsNotTheArrays) {
@@ -123,6 +137,7 @@ TEST_F(HostileArrays, AnArrayThatKnowsNoTypeOfItsElements) {
     expect_insert(list, "BSTR ");
   }
   EXPECT_EQ(SafeArrayDestroy(array), S_OK);
+  EXPECT_EQ(traced(), Traces(10, u"QVRcfp.SqlINSERT: 9 Subscript out of range"));
 }
 
 TEST_F(HostileArrays, AnArrayOfTextsThatKnowsNoTypeOfItsElements) {
@@ -142,6 +157,7 @@ TEST_F(HostileArrays, ElementsLargerThanTheirTypeSays) {
   EXPECT_EQ(early->SqlINSERT(&table, &list.raw(), &result), S_OK);
   EXPECT_EQ(result.text(), L"INSERT INTO T VALUES (Null)");
   list.raw().parray->cbElements = 8;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error"}));
 }
 
 TEST_F(HostileArrays, TheSameListForFieldsAndValues) {

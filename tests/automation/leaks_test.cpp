@@ -7,6 +7,7 @@
 #include "automation/procedures.h"
 #include "automation/script_folder.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -53,9 +54,11 @@ TEST(Leaks, SavingLoadingAndRefusing) {
     cfp.call(L"Crear", {L"id", work_folder(), L"leak"});
     cfp.call(L"Crear", {L"id", work_folder(), L"missing"});
   });
+  EXPECT_EQ(traced(), Traces(40, u"QVRcfp.Crear: 75 Path/File access error"));
 }
 
 TEST(Leaks, WrongCalls) {
+  expect_any_traces();
   expect_no_leak([] {
     const LateObject cfp(L"QVRlib21.QVRcfp");
     Var text(L"by reference");
@@ -81,6 +84,7 @@ TEST(Leaks, RunsThatCannotOpen) {
     const LateObject runner(L"QVRlib21.QVRScr");
     runner.call(L"EjecutarComandos", {L"id", 2, L"", L"Provider=NoSuchProvider"});
   });
+  EXPECT_EQ(traced(), Traces(40, u"QVRScr.EjecutarComandos: 3706 told by another component"));
 }
 
 TEST(Leaks, CommandsThatFail) {
@@ -91,9 +95,11 @@ TEST(Leaks, CommandsThatFail) {
     Connected connected(runner);
     runner.call(L"EjecutarComandos", {L"id", 2, L"select 1\r\nGO\r\nnonsense\r\nGO\r\n", database.connection_string()});
   });
+  EXPECT_EQ(traced(), Traces(40, u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"));
 }
 
 TEST(Leaks, ListsAndErrors) {
+  expect_any_traces();
   const LateObject object(L"ADODB.Command");  // none of the library's, which could not be unloaded
   Var list = array_of({L"a", Var(object.get()), array_of({L"b"}), L"c"}), texts = array_of({L"a", L"b"}, 1, VT_BSTR);
   expect_no_leak([&] {
@@ -139,6 +145,7 @@ TEST(Leaks, ProceduresAndTheirOutputs) {
 }
 
 TEST(Leaks, ProceduresThatFailAndParametersThatAreRefused) {
+  expect_any_traces();
   ProcedureDatabase database;
   const LateObject connection = database.open();
   expect_no_leak([&] {
@@ -171,6 +178,7 @@ TEST(Leaks, QueriesNarrowedSortedAndKept) {
 }
 
 TEST(Leaks, QueriesThatAreRefused) {
+  expect_any_traces();
   expect_no_leak([] {
     Person person;
     const LateObject query(L"QVRlib21.cSQL20");
@@ -216,6 +224,7 @@ TEST(Leaks, ScriptsLoadedAndRefused) {
                                                                     L"b", L"c", L"d", true});
     EXPECT_EQ(describe(refused.value.raw()), "BSTR ");
   });
+  EXPECT_EQ(traced(), Traces(40, u"QVRScr.CargarActualizacion: 75 No update script begins with this version"));
 }
 
 // With every service made on the thread, so that its end has all of them to give back.
@@ -238,6 +247,7 @@ TEST(Leaks, ThreadsThatComeAndGo) {
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);
   });
+  EXPECT_EQ(traced(), Traces(40, u"QVRScr.EjecutarComandos: 3706 told by another component"));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "automation/family_component.h"
 #include "automation/script_folder.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -69,6 +70,8 @@ TEST_F(Loading, NothingToLoadIsAnEmptyTextAndTerminadoFalse) {
   Connected connected(late);
   expect_definition(folder.path() + L"\\none", 2, false, "BSTR ");
   EXPECT_EQ(connected.events(), std::vector<std::string>{"Terminado BOOL* false"});
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error"}));
 }
 
 TEST_F(Loading, UpdatesFromAVersionOn) {
@@ -78,6 +81,8 @@ TEST_F(Loading, UpdatesFromAVersionOn) {
   folder.write(L"Gestion10025a10026SQL.cfc", "second [ClaveUsuarioQVRCli]\r\nGO\r\n");
   expect_update(folder.path(), 10024, "BSTR first\r\nGO\r\n\r\nsecond [NombreBD]\r\nGO\r\n\r\n");
   expect_update(folder.path(), 10026, "BSTR ");
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version",
+                              u"QVRScr.CargarActualizacion: 75 No update script begins with this version"}));
 }
 
 TEST_F(Loading, TheRegisteredReaderReadsInsteadOfTheBuiltInOne) {
@@ -118,6 +123,7 @@ TEST_F(Loading, AReaderThatCannotReadLeavesNothing) {
     EXPECT_EQ(describe(loaded.value.raw()), "BSTR ");
     EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   });
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error"}));
 }
 
 }  // namespace

@@ -3,39 +3,12 @@
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
+#include "automation/debug_output.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
-
-// The debug output of this process, seen as a debugger sees it.
-class DebugOutput {
- public:
-  DebugOutput() : handler_(AddVectoredExceptionHandler(1, on_exception)) { lines_.clear(); }
-  ~DebugOutput() { RemoveVectoredExceptionHandler(handler_); }
-  DebugOutput(const DebugOutput&) = delete;
-  DebugOutput& operator=(const DebugOutput&) = delete;
-  std::vector<std::wstring> lines() const { return lines_; }
-
- private:
-  static LONG CALLBACK on_exception(EXCEPTION_POINTERS* pointers) {
-    constexpr DWORD kPrinted = 0x40010006, kPrintedWide = 0x4001000A;  // the second on newer systems only
-    const EXCEPTION_RECORD& record = *pointers->ExceptionRecord;
-    if (record.ExceptionCode != kPrinted && record.ExceptionCode != kPrintedWide) return EXCEPTION_CONTINUE_SEARCH;
-    const std::wstring text = record.ExceptionCode == kPrintedWide
-                                  ? reinterpret_cast<const wchar_t*>(record.ExceptionInformation[1])
-                                  : wide(reinterpret_cast<const char*>(record.ExceptionInformation[1]));
-    if (text.starts_with(L"QVRlib21: ")) lines_.push_back(text);
-    return EXCEPTION_CONTINUE_EXECUTION;
-  }
-  static std::wstring wide(const char* text) {
-    wchar_t buffer[2000];
-    const int units = MultiByteToWideChar(CP_ACP, 0, text, -1, buffer, static_cast<int>(std::size(buffer)));
-    return units > 0 ? std::wstring(buffer) : std::wstring();
-  }
-  static inline std::vector<std::wstring> lines_;
-  void* handler_;
-};
 
 bool station_is_visible() {
   USEROBJECTFLAGS flags{};
@@ -71,13 +44,12 @@ struct NoDesktop : testing::Test {
   NoDesktop() { EXPECT_FALSE(station_is_visible()); }
   UnseenStation unseen;
   Person person;  // whose boxes stay away
-  DebugOutput output;
 };
 
 TEST_F(NoDesktop, AMessageIsLoggedOnce) {
   const LateObject list(L"QVRlib21.QVRprp");
   EXPECT_EQ(list.call(L"CreaPropiedad", {L"X", L"Ancho", 1}).result, S_OK);
-  EXPECT_EQ(output.lines(), Lines{L"QVRlib21: Tipo inesperado (X) al agregar propiedad (Ancho)\r\n"});
+  EXPECT_EQ(box_lines(), Lines{L"QVRlib21: Tipo inesperado (X) al agregar propiedad (Ancho)\r\n"});
   EXPECT_TRUE(person.boxes().empty());
 }
 
@@ -91,10 +63,12 @@ TEST_F(NoDesktop, AFailedRunEndsAsIfSomebodyHadSaidNo) {
     EXPECT_EQ(describe(answer.value.raw()), "BOOL false");
     EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   });
-  ASSERT_EQ(output.lines().size(), 2u);
-  EXPECT_TRUE(output.lines()[0].starts_with(L"QVRlib21: Error indeterminado\r\n\r\nError "));
-  EXPECT_TRUE(output.lines()[0].ends_with(L"Ejecutar1Comando: nonsense\r\n"));
-  EXPECT_EQ(output.lines()[1], L"QVRlib21: Do you want further commands to execute?\r\n");
+  const Lines lines = box_lines();
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_TRUE(lines[0].starts_with(L"QVRlib21: Error indeterminado\r\n\r\nError "));
+  EXPECT_TRUE(lines[0].ends_with(L"Ejecutar1Comando: nonsense\r\n"));
+  EXPECT_EQ(lines[1], L"QVRlib21: Do you want further commands to execute?\r\n");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
   EXPECT_TRUE(person.boxes().empty());
 }
 
@@ -102,15 +76,17 @@ TEST_F(NoDesktop, AQueryIsRefusedAndSaysWhy) {
   const LateObject query(L"QVRlib21.cSQL20");
   const LateAnswer answer = query.call(L"iSQL20_CrearDesdeTextoDefinicion", {L"nonsense"});
   EXPECT_EQ(describe(answer.value.raw()), "BOOL false");
-  ASSERT_EQ(output.lines().size(), 1u);
-  EXPECT_NE(output.lines()[0].find(L"CreareDesdeTextoDefinicion"), std::wstring::npos);
+  const Lines lines = box_lines();
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_NE(lines[0].find(L"CreareDesdeTextoDefinicion"), std::wstring::npos);
+  EXPECT_EQ(traced(), Traces{u"cSQL20.CrearDesdeTextoDefinicion: 13 Type mismatch"});
   EXPECT_TRUE(person.boxes().empty());
 }
 
 TEST_F(NoDesktop, EveryMessageOfACallIsLogged) {
   const LateObject list(L"QVRlib21.QVRprp");
   for (int i = 0; i < 3; ++i) list.call(L"CreaPropiedad", {L"X", L"Ancho", 1});
-  EXPECT_EQ(output.lines().size(), 3u);
+  EXPECT_EQ(box_lines().size(), 3u);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "automation/family_component.h"
 #include "automation/library.h"
 #include "automation/procedures.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -50,6 +51,7 @@ TEST_F(ProcedureCall, PassesInputsAndGivesOutputsBack) {
 TEST_F(ProcedureCall, AReturnValueThatIsNotZeroLeavesTheArrayAlone) {
   expect_call(L"Rechazo", array_of({5}), false, "VARIANT(0) {I4 5}");
   expect_call(L"Rechazo", array_of({5}, 0, VT_I4), false, "I4(0) {I4 5}");
+  EXPECT_EQ(traced(), Traces(12, u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0"));
 }
 
 TEST_F(ProcedureCall, AProcedureWithoutParameters) {
@@ -91,6 +93,7 @@ TEST_F(ProcedureCall, OtherEnginesTouchNothing) {
     EXPECT_TRUE(person.boxes().empty());
   }
   EXPECT_EQ(log.calls(), "");
+  EXPECT_EQ(traced(), Traces(24, u"QVRcfp.EjecutarProcSQL7: 5 The engine is not SQL Server"));
 }
 
 TEST_F(ProcedureCall, AnUnknownProcedureIsReported) {
@@ -98,6 +101,8 @@ TEST_F(ProcedureCall, AnUnknownProcedureIsReported) {
             narrow(report(L"Error -2147217839: The provider cannot tell the command's parameters. "
                           L"(Microsoft OLE DB Provider for ODBC Drivers)",
                           L"NoExiste")));
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: -2147217839 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147217839 told by another component"}));
 }
 
 TEST_F(ProcedureCall, NothingOrAClosedConnectionIsReported) {
@@ -108,6 +113,14 @@ TEST_F(ProcedureCall, NothingOrAClosedConnectionIsReported) {
             report(L"Error 3709: The connection is closed, or not valid for this operation. (ADODB.Command)", L"Alta"));
   const LateObject other(L"QVRlib21.Ov");
   EXPECT_TRUE(failed(other.get(), L"Alta", array_of({1})).starts_with(L"Error indeterminado\r\n\r\nError 3001: "));
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: 91 Object variable or With block variable not set",
+                              u"QVRcfp.EjecutarProcSQL7: 91 Object variable or With block variable not set",
+                              u"QVRcfp.EjecutarProcSQL7: 3709 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3709 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3001 told by another component",
+                              u"report_failure: -2147352570 Application-defined or object-defined error",
+                              u"QVRcfp.EjecutarProcSQL7: 3001 told by another component",
+                              u"report_failure: -2147352570 Application-defined or object-defined error"}));
 }
 
 TEST_F(ProcedureCall, AFailureInsideTheProcedureIsReportedWithWhatTheProviderSays) {
@@ -115,6 +128,8 @@ TEST_F(ProcedureCall, AFailureInsideTheProcedureIsReportedWithWhatTheProviderSay
   const std::wstring text = failed(connection.get(), L"Falla", array_of({}));
   EXPECT_TRUE(text.find(L"NoExiste") != std::wstring::npos) << narrow(text);
   EXPECT_TRUE(text.ends_with(L"\r\n\r\nObjeto: Falla\r\nM\u00e9todo: EjecutarProc")) << narrow(text);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: -2147217900 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147217900 told by another component"}));
 }
 
 TEST_F(ProcedureCall, ValuesThatDoNotFitAreReported) {
@@ -125,9 +140,16 @@ TEST_F(ProcedureCall, ValuesThatDoNotFitAreReported) {
       L"Error 3265: The collection has no item of this name or position. (ADODB.Parameters)", L"Rechazo");
   EXPECT_EQ(failed(connection.get(), L"Rechazo", array_of({1, 2})), position);
   EXPECT_EQ(failed(connection.get(), L"Rechazo", array_of({1}, -3)), position);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: 3421 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3421 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3265 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3265 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3265 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 3265 told by another component"}));
 }
 
 TEST_F(ProcedureCall, WhatIsNoListIsReported) {
+  expect_any_traces();
   const std::wstring mismatch = report(L"Error 13: Type mismatch (QVRlib21)", L"Alta");
   const std::wstring subscript = report(L"Error 9: Subscript out of range (QVRlib21)", L"Alta");
   for (const Var& bad : {Var(5), Var(), Var(L"Ana"), Var::null(), Var::nothing()}) {
@@ -154,6 +176,13 @@ TEST_F(ProcedureCall, EveryRefusalOfAdoIsReportedOnceAndLeavesNothingBehind) {
   }
   connection = LateObject(L"QVRlib21.Ov");
   EXPECT_EQ(test_ado().can_unload(), S_OK) << "an ADO object was left behind";
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: 429 ActiveX component can't create object",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: -2147467259 told by another component"}));
 }
 
 TEST_F(ProcedureCall, TheFamilysReportTakesOverWhereItIsRegistered) {
@@ -175,6 +204,7 @@ TEST_F(ProcedureCall, TheFamilysReportTakesOverWhereItIsRegistered) {
         "Objeto})"};
     EXPECT_EQ(component.calls(), expected);
   });
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: 91 Object variable or With block variable not set"}));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Objects and binary values, and hosts that change their variables during the call (re-entrance).
 #include "automation/procedures.h"
 #include "automation/scripted_command.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -99,6 +100,7 @@ TEST_F(ProcedureObjects, ValuesGoInAsTheElementsAre) {
   const ScriptedCommand command({1});
   EXPECT_FALSE(call(array_of(values)));
   EXPECT_EQ(command.inputs(), expected);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0"}));
 }
 
 TEST_F(ProcedureObjects, AReturnValueOfAnyTypeIsReadAsANumber) {
@@ -110,6 +112,7 @@ TEST_F(ProcedureObjects, AReturnValueOfAnyTypeIsReadAsANumber) {
     const ScriptedCommand command({other, 5});
     expect_call(L"p", array_of({1}), false, "VARIANT(0) {I4 1}");
   }
+  EXPECT_EQ(traced(), Traces(36, u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0"));
 }
 
 // What the host's variable holds when the values are there decides; elements that are gone get none.

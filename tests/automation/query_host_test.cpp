@@ -4,6 +4,7 @@
 #include "QVRlib21.h"
 #include "automation/host.h"
 #include "automation/query_views.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -67,6 +68,7 @@ TEST(QueryHost, NullPointersCountAsNothing) {
   EXPECT_EQ(done, VARIANT_FALSE);
   EXPECT_EQ(contract->get_SQL(nullptr), E_POINTER);
   EXPECT_EQ(contract->NumColumnas(nullptr), E_POINTER);
+  EXPECT_EQ(traced(), (Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array"}));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "automation/boxes.h"
 #include "automation/query_views.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -84,6 +85,7 @@ TEST_P(Query, UnknownColumnIsShownByEachView) {
     EXPECT_NE(box.text.find(L"cSQL20"), std::wstring::npos);
     EXPECT_NE(box.text.find(L"TipoCampo(Nada)"), std::wstring::npos);
   }
+  EXPECT_EQ(traced(), Traces(4, u"cSQL20.TipoCampo: 5 Invalid procedure call or argument"));
 }
 
 TEST_P(Query, ConditionsAndCriterion) {
@@ -136,6 +138,7 @@ TEST_P(Query, DamagedDefinitionTextIsShownAndLeavesNothing) {
   EXPECT_EQ(views.read(L"Creado"), is_union() ? "BOOL true" : "BOOL false") << "a union keeps its members";
   ASSERT_EQ(person.boxes().size(), 4u);
   EXPECT_NE(person.boxes()[0].text.find(L"CreareDesdeTextoDefinicion"), std::wstring::npos);
+  EXPECT_EQ(traced(), Traces(4, u"cSQL20.CrearDesdeTextoDefinicion: 13 Type mismatch"));
 }
 
 TEST_P(Query, WritableProperties) {
@@ -156,6 +159,7 @@ TEST_P(Query, WritableProperties) {
 TEST_P(Query, CrearRefusesWhatIsNoList) {
   EXPECT_EQ(views.call(L"Crear", request(L"C.Nombre")), "BOOL false");
   EXPECT_EQ(views.read(L"Creado"), "BOOL false");
+  EXPECT_EQ(traced(), Traces(4, u"cSQL20.Crear: 13 ColumnasSELECT is not an array"));
 }
 
 struct Select : testing::Test {
@@ -179,6 +183,8 @@ TEST_F(Select, ExpresionOriginal) {
   Person person;
   EXPECT_EQ(views.call(L"ExpresionOriginal", {kUnknown}), "BSTR ");
   EXPECT_EQ(person.boxes().size(), 2u);
+  EXPECT_EQ(traced(), (Traces{u"cSQL20.ExpresionOriginal: 5 Invalid procedure call or argument",
+                              u"cSQL20.ExpresionOriginal: 5 Invalid procedure call or argument"}));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // ExpSQL of every type that a host can send.
 #include "automation/sql_members.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -11,6 +12,7 @@ struct Literal {
   const char* name;
   Var value;
   const wchar_t* literal;
+  TextView unexpected = {};  // the type that the trace names
 };
 
 Var most_of_currency() {
@@ -57,29 +59,35 @@ std::vector<Literal> literals() {
       {"BOOL, false", false, L"0"},
       {"Empty", Var(), L"Null"},
       {"Null", Var::null(), L"Null"},
-      {"ERROR", Var::error(E_FAIL), L"Null"},
-      {"Nothing", Var::nothing(), L"Null"},
-      {"I1", Var(5).as(VT_I1), L"Null"},
-      {"UI2", Var(5).as(VT_UI2), L"Null"},
-      {"UI4", Var(5).as(VT_UI4), L"Null"},
-      {"I8", Var(5).as(VT_I8), L"Null"},
-      {"UI8", Var(5).as(VT_UI8), L"Null"},
-      {"UI8, greatest", largest, L"Null"},
-      {"array", array_of({1, L"a"}), L"Null"},
-      {"array without elements", array_of({}), L"Null"},
-      {"array of I4", array_of({1, 2}, 1, VT_I4), L"Null"},
-      {"array of BSTR", array_of({L"a"}, -3, VT_BSTR), L"Null"},
-      {"array of two dimensions", square_array(), L"Null"},
-      {"array without bounds", no_array(), L"Null"},
-      {"array of BSTR without bounds", no_array(VT_BSTR), L"Null"},
+      {"ERROR", Var::error(E_FAIL), L"Null", u"Error"},
+      {"Nothing", Var::nothing(), L"Null", u"Object"},
+      {"I1", Var(5).as(VT_I1), L"Null", u"LongLong"},
+      {"UI2", Var(5).as(VT_UI2), L"Null", u"LongLong"},
+      {"UI4", Var(5).as(VT_UI4), L"Null", u"LongLong"},
+      {"I8", Var(5).as(VT_I8), L"Null", u"LongLong"},
+      {"UI8", Var(5).as(VT_UI8), L"Null", u"ULongLong"},
+      {"UI8, greatest", largest, L"Null", u"ULongLong"},
+      {"array", array_of({1, L"a"}), L"Null", u"Variant()"},
+      {"array without elements", array_of({}), L"Null", u"Variant()"},
+      {"array of I4", array_of({1, 2}, 1, VT_I4), L"Null", u"Variant()"},
+      {"array of BSTR", array_of({L"a"}, -3, VT_BSTR), L"Null", u"Variant()"},
+      {"array of two dimensions", square_array(), L"Null", u"Variant()"},
+      {"array without bounds", no_array(), L"Null", u"Variant()"},
+      {"array of BSTR without bounds", no_array(VT_BSTR), L"Null", u"Variant()"},
   };
 }
 
 using AnyType = Rows<SqlMembers, Literal>;
 
-TEST_P(AnyType, HasALiteralOrIsNull) { expect("ExpSQL", &_QVRcfp::ExpSQL, {GetParam().value}, GetParam().literal); }
+TEST_P(AnyType, HasALiteralOrIsNull) {
+  const TextView type = GetParam().unexpected;
+  const Text trace = type.empty() ? Text() : u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: " + Text(type);
+  expect("ExpSQL", &_QVRcfp::ExpSQL, {GetParam().value}, failed(trace, GetParam().literal));
+}
 
 INSTANTIATE_TEST_SUITE_P(, AnyType, testing::ValuesIn(literals()), row_name);
+
+constexpr const char16_t* kUnexpectedObject = u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Object";
 
 class AnyValue : public SqlMembers {};
 
@@ -88,14 +96,16 @@ TEST_F(AnyValue, AnObjectIsNull) {
   Var unknown;
   unknown.raw().vt = VT_UNKNOWN;
   unknown.raw().punkVal = object.as<IUnknown>().Detach();
-  for (const Var& value : {Var(object.get()), unknown}) expect("ExpSQL", &_QVRcfp::ExpSQL, {value}, L"Null");
+  for (const Var& value : {Var(object.get()), unknown}) {
+    expect("ExpSQL", &_QVRcfp::ExpSQL, {value}, failed(kUnexpectedObject, L"Null"));
+  }
 }
 
 // A default property that would give a text is not asked for it.
 TEST_F(AnyValue, AnObjectIsNullWhateverItsDefaultPropertySays) {
   const LateObject connection(L"ADODB.Connection");
   connection.put(L"ConnectionString", L"its default property");
-  expect("ExpSQL", &_QVRcfp::ExpSQL, {connection.get()}, L"Null");
+  expect("ExpSQL", &_QVRcfp::ExpSQL, {connection.get()}, failed(kUnexpectedObject, L"Null"));
 }
 
 TEST_F(AnyValue, WhatWasNotGiven) {
@@ -107,6 +117,8 @@ TEST_F(AnyValue, WhatWasNotGiven) {
   EXPECT_EQ(left_out.text(), L"Null");
   EXPECT_EQ(late.call(L"ExpSQL").result, DISP_E_PARAMNOTOPTIONAL);
   EXPECT_EQ(late.call(L"ExpSQL", {missing}).result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ExpSQL: -2147352561 The late-bound call was refused",
+                              u"QVRcfp.ExpSQL: -2147352561 The late-bound call was refused"}));
 }
 
 TEST_F(AnyValue, ReferencesOfReferences) {
@@ -132,6 +144,8 @@ TEST_F(AnyValue, AVariantThatRefersToItselfIsNullOrRefused) {
   passed.raw() = loop;
   EXPECT_EQ(late.call(L"ExpSQL", {passed}).result, DISP_E_TYPEMISMATCH);
   passed.raw().vt = VT_EMPTY;
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Error",
+                              u"QVRcfp.ExpSQL: -2147352571 The late-bound call was refused"}));
 }
 
 }  // namespace

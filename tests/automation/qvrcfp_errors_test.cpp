@@ -1,17 +1,25 @@
 // The two members that raise errors.
 #include "automation/boxes.h"
 #include "automation/sql_members.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
 
 constexpr HRESULT kInvalidArgument = static_cast<HRESULT>(0x800A0005);
 constexpr HRESULT kSubscript = static_cast<HRESULT>(0x800A0009);
+constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
+constexpr HRESULT kInvalidNull = static_cast<HRESULT>(0x800A005E);
 
 using ListMember = HRESULT (STDMETHODCALLTYPE _QVRcfp::*)(VARIANT*, BSTR*);
 
 std::wstring text_of(HRESULT error) {
-  return error == kInvalidArgument ? L"Invalid procedure call or argument" : L"Subscript out of range";
+  switch (error) {
+    case kInvalidArgument: return L"Invalid procedure call or argument";
+    case kSubscript: return L"Subscript out of range";
+    case kTypeMismatch: return L"Type mismatch";
+    default: return L"Invalid use of Null";
+  }
 }
 
 class Errors : public SqlMembers {
@@ -53,6 +61,9 @@ class Errors : public SqlMembers {
     expect_late(late.call(name, {Var::by_reference(variable)}), error);
     expect_late(late.call(name, {Var::by_content(variable)}), error);
     EXPECT_TRUE(person.boxes().empty());
+    const std::wstring line = std::wstring(L"QVRcfp.") + name + L": " + std::to_wstring(error & 0xFFFF) + L" " +
+                              text_of(error);
+    EXPECT_EQ(traced(), Traces(4, Text(line.begin(), line.end())));
   }
 };
 
@@ -66,6 +77,23 @@ TEST_F(Errors, WhatHasNoBoundsOrSeveralIsOutOfRange) {
   for (const Var& list : {square_array(), no_array(), no_array(VT_BSTR)}) {
     expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, list, kSubscript);
     expect_error(L"sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, list, kSubscript);
+  }
+}
+
+TEST_F(Errors, OnlyAListIsConcatenated) {
+  for (const Var& value : {Var(5), Var(L"Id"), Var(), Var::null(), Var::nothing(), Var::error(E_FAIL)}) {
+    expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, value, kTypeMismatch);
+  }
+}
+
+TEST_F(Errors, EveryConcatenatedElementNeedsAText) {
+  const LateObject object(L"QVRlib21.Ov");
+  const auto expect_refused = [this](const Var& element, HRESULT error) {
+    expect_error(L"sqlConcatenar", &_QVRcfp::sqlConcatenar, array_of({L"a", element}), error);
+  };
+  expect_refused(Var::null(), kInvalidNull);
+  for (const Var& element : {Var(object.get()), Var::nothing(), Var::missing(), array_of({1})}) {
+    expect_refused(element, kTypeMismatch);
   }
 }
 
@@ -85,12 +113,14 @@ TEST_F(Errors, ACallerThatWantsNoDetailsStillHearsOfIt) {
   constexpr DISPID kSqlConcatenar = 0x60030022;
   EXPECT_EQ(late.get()->Invoke(kSqlConcatenar, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
             DISP_E_EXCEPTION);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.sqlConcatenar: 5 Invalid procedure call or argument"}));
 }
 
 TEST_F(Errors, TheObjectGoesOnWorking) {
   use(3);
   EXPECT_EQ(late.call(L"sqlConcatenar", {array_of({})}).result, DISP_E_EXCEPTION);
   EXPECT_EQ(describe(late.call(L"sqlConcatenar", {array_of({L"a", L"b"})}).value.raw()), "BSTR  a || b ");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.sqlConcatenar: 5 Invalid procedure call or argument"}));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Array arguments in all forms that hosts pass, and invalid ones.
 #include "automation/sql_members.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -9,9 +10,9 @@ using tests::PrintTo;
 
 class Lists : public SqlMembers {
  protected:
-  void expect_insert(const Var& list, const std::wstring& values) {
+  void expect_insert(const Var& list, const std::wstring& values, const Text& trace = {}) {
     SCOPED_TRACE(describe(list.raw()));
-    expect("SqlINSERT", &_QVRcfp::SqlINSERT, {L"T", list}, L"INSERT INTO T VALUES (" + values + L")");
+    expect("SqlINSERT", &_QVRcfp::SqlINSERT, {L"T", list}, {L"INSERT INTO T VALUES (" + values + L")", {}, trace});
   }
 };
 
@@ -19,6 +20,7 @@ struct TypedList {
   const char* name;
   Var list;
   const wchar_t* values;
+  TextView trace = {};
 };
 
 std::vector<TypedList> typed_lists() {
@@ -33,21 +35,25 @@ std::vector<TypedList> typed_lists() {
       {"BSTR", array_of({L"a'b", L""}, -3, VT_BSTR), L"'a''b', ''"},
       {"DATE", array_of({Var::date(40548)}, 1, VT_DATE), L"{ d '2011-01-05'}"},
       {"BOOL", array_of({false}, 1, VT_BOOL), L"0"},
-      {"I8", array_of({7}, 0, VT_I8), L"Null"},
-      {"DISPATCH", array_of({Var::nothing()}, 0, VT_DISPATCH), L"Null"},
+      {"I8", array_of({7}, 0, VT_I8), L"Null", u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: LongLong"},
+      {"DISPATCH", array_of({Var::nothing()}, 0, VT_DISPATCH), L"Null",
+       u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: Object"},
   };
 }
 
 using ListOfOneType = Rows<Lists, TypedList>;
 
-TEST_P(ListOfOneType, GivesItsElements) { expect_insert(GetParam().list, GetParam().values); }
+TEST_P(ListOfOneType, GivesItsElements) { expect_insert(GetParam().list, GetParam().values, Text(GetParam().trace)); }
 
 INSTANTIATE_TEST_SUITE_P(, ListOfOneType, testing::ValuesIn(typed_lists()), row_name);
 
 TEST_F(Lists, OfAnyValues) {
+  expect_insert(array_of({Var(), Var::null(), Var::missing()}), L"Null, Null, Null");
   const LateObject object(L"QVRlib21.Ov");
-  expect_insert(array_of({Var(), Var::null(), Var::missing(), Var::error(7), Var(object.get()), array_of({1})}),
-                L"Null, Null, Null, Null, Null, Null");
+  const Text unexpected = u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: ";
+  expect_insert(array_of({Var::error(7), 1}), L"Null,  1", unexpected + u"Error");
+  expect_insert(array_of({Var(object.get()), 1}), L"Null,  1", unexpected + u"Object");
+  expect_insert(array_of({array_of({1}), 1}), L"Null,  1", unexpected + u"Variant()");
 }
 
 TEST_F(Lists, WithAnyLowerBound) {
@@ -85,11 +91,11 @@ TEST_F(Lists, WithElementsByReference) {
               "BSTR INSERT INTO T VALUES ('a',  7,  5)");
 }
 
-// Only two members raise errors, and only for some arrays.
+// Only two members raise errors: these are in qvrcfp_errors_test.cpp.
 struct NoList {
   const char* name;
   Var value;
-  bool array;
+  bool array;  // of a shape that cannot be walked: 9, not 13
 };
 
 std::vector<NoList> no_lists() {
@@ -110,27 +116,34 @@ using WhatIsNoList = Rows<Lists, NoList>;
 
 TEST_P(WhatIsNoList, GivesNoText) {
   const Var good = array_of({L"Id"}), &bad = GetParam().value;
-  expect("SqlINSERT", &_QVRcfp::SqlINSERT, {L"T", bad}, L"");
-  expect("SqlUPDATE", &_QVRcfp::SqlUPDATE, {L"T", L"k", 7, bad, good}, L"");
-  expect("SqlUPDATE", &_QVRcfp::SqlUPDATE, {L"T", L"k", 7, good, bad}, L"");
-  expect("SqlInsert2", &_QVRcfp::SqlInsert2, {L"T", bad, good}, L"");
-  expect("SqlInsert2", &_QVRcfp::SqlInsert2, {L"T", good, bad}, L"");
-  expect("SqlUpdate2", &_QVRcfp::SqlUpdate2, {L"T", bad, good, L""}, L"");
-  expect("SqlUpdate2", &_QVRcfp::SqlUpdate2, {L"T", good, bad, L""}, L"");
-  expect("sqlCASE", &_QVRcfp::sqlCASE, {L"c", bad}, L"");
-  if (GetParam().array) return;  // raised
-  expect("sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, {bad}, L"");
-  expect("sqlConcatenar", &_QVRcfp::sqlConcatenar, {bad}, L"");
+  const auto refused = [](TextView member) {
+    return failed(Text(u"QVRcfp.") + Text(member) +
+                  (GetParam().array ? u": 9 Subscript out of range" : u": 13 Type mismatch"));
+  };
+  expect("SqlINSERT", &_QVRcfp::SqlINSERT, {L"T", bad}, refused(u"SqlINSERT"));
+  expect("SqlUPDATE", &_QVRcfp::SqlUPDATE, {L"T", L"k", 7, bad, good}, refused(u"SqlUPDATE"));
+  expect("SqlUPDATE", &_QVRcfp::SqlUPDATE, {L"T", L"k", 7, good, bad}, refused(u"SqlUPDATE"));
+  expect("SqlInsert2", &_QVRcfp::SqlInsert2, {L"T", bad, good}, refused(u"SqlInsert2"));
+  expect("SqlInsert2", &_QVRcfp::SqlInsert2, {L"T", good, bad}, refused(u"SqlInsert2"));
+  expect("SqlUpdate2", &_QVRcfp::SqlUpdate2, {L"T", bad, good, L""}, refused(u"SqlUpdate2"));
+  expect("SqlUpdate2", &_QVRcfp::SqlUpdate2, {L"T", good, bad, L""}, refused(u"SqlUpdate2"));
+  expect("sqlCASE", &_QVRcfp::sqlCASE, {L"c", bad}, refused(u"sqlCASE"));
+  // No list at all means no relations.
+  if (!GetParam().array) expect("sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, {bad}, L"");
 }
 
 INSTANTIATE_TEST_SUITE_P(, WhatIsNoList, testing::ValuesIn(no_lists()), row_name);
 
-TEST_F(Lists, WithElementsThatHaveNoTextGiveNone) {
+TEST_F(Lists, OfRelationsWithElementsThatHaveNoTextGiveNone) {
   const LateObject object(L"QVRlib21.Ov");
-  for (const Var& element : {Var::null(), Var(object.get()), Var::nothing(), Var::missing(), array_of({1})}) {
+  const auto expect_none = [this](const Var& element, TextView reason) {
     SCOPED_TRACE(describe(element.raw()));
-    expect("sqlConcatenar", &_QVRcfp::sqlConcatenar, {array_of({L"a", element})}, L"");
-    expect("sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, {array_of({L"a", element, L"I"})}, L"");
+    expect("sqlWhereRelacionTablas", &_QVRcfp::sqlWhereRelacionTablas, {array_of({L"a", element, L"I"})},
+           failed(u"QVRcfp.sqlWhereRelacionTablas: " + Text(reason)));
+  };
+  expect_none(Var::null(), u"94 Invalid use of Null");
+  for (const Var& element : {Var(object.get()), Var::nothing(), Var::missing(), array_of({1})}) {
+    expect_none(element, u"13 Type mismatch");
   }
 }
 
@@ -142,6 +155,7 @@ TEST_F(Lists, WhoseElementsWereTakenAwayAreNone) {
     const HRESULT status = early->SqlINSERT(&table, &hollow.raw(), &result);
     expect_same(late.call(L"SqlINSERT", {L"T", Var::by_reference(hollow)}), status, early_result(result), "BSTR ");
   }
+  EXPECT_EQ(traced(), Traces(8, u"QVRcfp.SqlINSERT: 9 Subscript out of range"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Every member that writes SQL, as both kinds of host get it.
 #include "automation/sql_members.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -13,6 +14,7 @@ struct Member {
   std::vector<Var> arguments;
   std::wstring expected, of_null_pointers;
   int engine = 2;
+  TextView trace_of_null_pointers = {};
 };
 
 constexpr double kMoment = 40548 + (14 * 3600 + 7 * 60 + 9) / 86400.0;  // 5 January 2011
@@ -45,12 +47,16 @@ std::vector<Member> members() {
        bound(&_QVRcfp::sqlConcatenar),
        {array_of({1, 2.5, true, Var()}, 1)},
        L" 1 + 2.5 + True +  ",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.sqlConcatenar: 13 Type mismatch"},
       {"sqlCASE",
        bound(&_QVRcfp::sqlCASE),
        {L"Estado", array_of({1, L"'Alta'", L"'Otra'"}, -3)},
        L" CASE Estado WHEN 1 THEN 'Alta' ELSE 'Otra' END ",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.sqlCASE: 13 Type mismatch"},
       {"sqlWhereRelacionTablas",
        bound(&_QVRcfp::sqlWhereRelacionTablas),
        {array_of({L"C.Id", L"P.IdCliente", L"l", L"P.IdArt", L"A.Id", L"I"}, 1, VT_BSTR)},
@@ -60,22 +66,30 @@ std::vector<Member> members() {
        bound(&_QVRcfp::SqlINSERT),
        {L"T", array_of({5, true, Var::null()})},
        L"INSERT INTO T VALUES ( 5, 1, Null)",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.SqlINSERT: 13 Type mismatch"},
       {"SqlUPDATE",
        bound(&_QVRcfp::SqlUPDATE),
        {L"T", L"ID", 7, fields, values},
        L"UPDATE T SET Nombre='Ana' WHERE ID=7",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.SqlUPDATE: 13 Type mismatch"},
       {"SqlInsert2",
        bound(&_QVRcfp::SqlInsert2),
        {L"T", fields, values},
        L"INSERT INTO T(Id,Nombre) VALUES( 5,'Ana')",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.SqlInsert2: 13 Type mismatch"},
       {"SqlUpdate2",
        bound(&_QVRcfp::SqlUpdate2),
        {L"T", fields, values, L"Id=7"},
        L"UPDATE T SET Id= 5,Nombre='Ana' WHERE Id=7",
-       L""},
+       L"",
+       2,
+       u"QVRcfp.SqlUpdate2: 13 Type mismatch"},
   };
 }
 
@@ -89,9 +103,12 @@ TEST_P(SqlMember, AnswersAlikeEarlyAndLate) {
 TEST_P(SqlMember, TakesNullPointersForEmptyOrMissing) {
   use(GetParam().engine);
   Bstr result;
-  EXPECT_EQ(GetParam().slot(*early.Get(), nullptr, &result), S_OK);
-  EXPECT_NE(result.get(), nullptr) << "an empty text is a text";
+  const TextView failing = GetParam().trace_of_null_pointers;
+  const bool raises = std::string_view(GetParam().name) == "sqlConcatenar";
+  EXPECT_EQ(GetParam().slot(*early.Get(), nullptr, &result), raises ? static_cast<HRESULT>(0x800A000D) : S_OK);
+  EXPECT_EQ(result.get() == nullptr, raises) << "an empty text is a text";
   EXPECT_EQ(narrow(result.text()), narrow(GetParam().of_null_pointers));
+  EXPECT_EQ(traced(), failing.empty() ? Traces() : Traces{Text(failing)});
   EXPECT_EQ(GetParam().slot(*early.Get(), nullptr, nullptr), E_POINTER);
 }
 
@@ -139,6 +156,8 @@ TEST_F(SqlTexts, OfNumbersOfAnyTypeFromAScript) {
   }
   EXPECT_EQ(late.call(L"sqlTOP", {L"cinco"}).result, DISP_E_TYPEMISMATCH);
   EXPECT_EQ(late.call(L"sqlTOP", {3e9}).result, DISP_E_OVERFLOW);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.sqlTOP: -2147352571 The late-bound call was refused",
+                              u"QVRcfp.sqlTOP: -2147352566 The late-bound call was refused"}));
 }
 
 TEST_F(SqlTexts, OfWhatScriptsSendForTrueAndOtherLanguagesCallIt) {
@@ -172,6 +191,8 @@ TEST_F(CadenaParaLikeSQL, WithoutSomeOfItsWildcards) {
   EXPECT_EQ(asked({text, Var::missing(), Var::missing()}), "BSTR 'ab' ");
   EXPECT_EQ(late.call(L"CadenaParaLikeSQL").result, DISP_E_PARAMNOTOPTIONAL);
   EXPECT_EQ(late.call(L"CadenaParaLikeSQL", {text, true, true, true}).result, DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.CadenaParaLikeSQL: -2147352561 The late-bound call was refused",
+                              u"QVRcfp.CadenaParaLikeSQL: -2147352562 The late-bound call was refused"}));
 }
 
 TEST_F(CadenaParaLikeSQL, WithNamedArguments) {
@@ -179,6 +200,7 @@ TEST_F(CadenaParaLikeSQL, WithNamedArguments) {
   EXPECT_EQ(asked({L"comodinfinal", L"Cadena"}, {true, L"ab"}), "BSTR 'ab%' ");
   EXPECT_EQ(asked({L"Cadena", L"ComodinInicial", L"ComodinFinal"}, {L"ab", true, false}), "BSTR '%ab' ");
   EXPECT_EQ(late.call_named(L"CadenaParaLikeSQL", {L"ComodinFinal"}, {true}).result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.CadenaParaLikeSQL: -2147352561 The late-bound call was refused"}));
 }
 
 TEST_F(CadenaParaLikeSQL, TakesNullPointersForFalse) {

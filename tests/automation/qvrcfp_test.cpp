@@ -1,5 +1,6 @@
 #include "automation/both.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -102,6 +103,8 @@ TEST_F(QVRcfpTest, GuardarAndCrear) {
   const HRESULT refusing = early->Crear(&stranger, &folder, &name, &refused);
   expect_same(late.call(L"Crear", {L"otra", work_folder(), L"enlace"}), refusing, early_result(refused), "BOOL false");
   expect_property(L"Archivo", &_QVRcfp::get_Archivo, "BSTR ");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key",
+                              u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key"}));
 }
 
 struct Typed {
@@ -109,7 +112,10 @@ struct Typed {
   const wchar_t* code;
   Var value;
   const char* expected;
+  TextView trace = {};  // of each of the two calls
 };
+
+void expect_traced(TextView line) { EXPECT_EQ(traced(), line.empty() ? Traces() : Traces(2, Text(line))); }
 
 const Typed kTexts[] = {
     {"text", L"T", L"abc", "BSTR abc"},
@@ -117,7 +123,7 @@ const Typed kTexts[] = {
     {"false", L"L", L"0", "BOOL false"},
     {"true", L"L", L"1", "BOOL true"},
     {"date", L"F", L"2011-01-05", "DATE 40548.000000"},
-    {"no date", L"F", L"ma\u00f1ana", "Empty"},
+    {"no date", L"F", L"ma\u00f1ana", "Empty", u"QVRcfp.TextoAValor: 13 Type mismatch"},
     {"unknown code", L"X", L"abc", "Empty"},
 };
 
@@ -128,14 +134,18 @@ TEST_P(TextoAValor, GivesAValueOfThatType) {
   Var text = GetParam().value, result;
   const HRESULT status = early->TextoAValor(&code, &text.raw().bstrVal, &result.raw());
   expect_same(late.call(L"TextoAValor", {GetParam().code, text}), status, result, GetParam().expected);
+  expect_traced(GetParam().trace);
 }
 
 INSTANTIATE_TEST_SUITE_P(, TextoAValor, testing::ValuesIn(kTexts), row_name);
 
 const Typed kValues[] = {
-    {"truth", L"L", true, "BSTR 1"},          {"number", L"n", 2.5, "BSTR 2.5"},
-    {"whole number", L"N", -3, "BSTR -3"},    {"date", L"F", Var::date(40548.75), "BSTR 2011/01/05"},
-    {"text", L"T", L"\u00f1", "BSTR \u00f1"}, {"Null", L"T", Var::null(), "BSTR "},
+    {"truth", L"L", true, "BSTR 1"},
+    {"number", L"n", 2.5, "BSTR 2.5"},
+    {"whole number", L"N", -3, "BSTR -3"},
+    {"date", L"F", Var::date(40548.75), "BSTR 2011/01/05"},
+    {"text", L"T", L"\u00f1", "BSTR \u00f1"},
+    {"Null", L"T", Var::null(), "BSTR ", u"QVRcfp.ValorATexto: 94 Invalid use of Null"},
     {"unknown code", L"X", 1, "BSTR "},
 };
 
@@ -146,6 +156,7 @@ TEST_P(ValorATexto, GivesTheTextOfThatType) {
   Var value = GetParam().value;
   const HRESULT status = early->ValorATexto(&code, &value.raw(), &result);
   expect_same(late.call(L"ValorATexto", {GetParam().code, value}), status, early_result(result), GetParam().expected);
+  expect_traced(GetParam().trace);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ValorATexto, testing::ValuesIn(kValues), row_name);
@@ -176,6 +187,8 @@ TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {
   EXPECT_EQ(describe(saved.value.raw()), "BOOL false");
   const LateAnswer loaded = late.call(L"Crear", {id.get(), work_folder() + L"\\nowhere", L"x"});
   EXPECT_EQ(describe(loaded.value.raw()), "BOOL false");
+  EXPECT_EQ(traced(),
+            (Traces{u"QVRcfp.Guardar: 75 Path/File access error", u"QVRcfp.Crear: 75 Path/File access error"}));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "automation/both.h"
 #include "automation/boxes.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -121,6 +122,7 @@ TEST_F(QVRprpTest, ForEachWalksOverTheValues) {
   DISPPARAMS one{&first.raw(), nullptr, 1, 0};
   EXPECT_EQ(late.invoke(DISPID_NEWENUM, DISPATCH_PROPERTYGET, one).result, DISP_E_BADPARAMCOUNT);
   EXPECT_EQ(late.invoke(DISPID_NEWENUM, DISPATCH_PROPERTYPUT, none).result, DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(traced(), (Traces{u"QVRprp.dispatch id -4: -2147352573 The late-bound call was refused"}));
 }
 
 }  // namespace

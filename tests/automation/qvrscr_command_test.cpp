@@ -2,6 +2,7 @@
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -41,6 +42,11 @@ TEST_F(QVRScrCommandTest, Ejecutar1ComandoWithoutAnOpenConnectionReportsAndIsFal
             L"M\u00e9todo: Ejecutar1Comando: select 1");
   EXPECT_TRUE(person.boxes()[2].text.starts_with(L"Error indeterminado\r\n\r\nError 3709: "))
       << narrow(person.boxes()[2].text);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
+                              u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
+                              u"QVRScr.Ejecutar1Comando: 3709 told by another component",
+                              u"QVRScr.Ejecutar1Comando: 3001 told by another component",
+                              u"report_failure: -2147352570 Application-defined or object-defined error"}));
 }
 
 TEST_F(QVRScrCommandTest, UsuarioSegunMotor) {

@@ -2,6 +2,7 @@
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -108,6 +109,7 @@ TEST_F(QVRScrTest, ANestedRunOnTheSameObjectIsRefusedWithoutEvents) {
   EXPECT_EQ(nested, std::vector<std::string>(3, "BOOL false"));
   connected.sink().reaction = nullptr;
   EXPECT_EQ(describe(run_late(L"app", L"delete from Art\u00edculos\r\nGO\r\n").value.raw()), "BOOL true");
+  EXPECT_EQ(traced(), Traces(3, u"QVRScr.EjecutarComandos: 5 A run of this object is under way"));
 }
 
 TEST_F(QVRScrTest, TheNextRunMayBeginInsideTerminado) {
@@ -214,6 +216,7 @@ TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerNo) {
   EXPECT_TRUE(person.boxes()[1].question);
   EXPECT_EQ(connected.events().back(), "Terminado BOOL* false");
   EXPECT_EQ(database.ask(L"select count(*) from T"), "0");
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"}));
 }
 
 TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerYes) {
@@ -225,6 +228,7 @@ TEST_F(QVRScrTest, ARejectedCommandAndTheAnswerYes) {
   EXPECT_EQ(person.boxes().size(), 2u);
   EXPECT_EQ(connected.events().back(), "Terminado BOOL* true");
   EXPECT_EQ(database.ask(L"select count(*) from T"), "2");
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"}));
 }
 
 TEST_F(QVRScrTest, WithoutATransactionWhatRanStaysWhenTheAnswerIsNo) {
@@ -232,6 +236,7 @@ TEST_F(QVRScrTest, WithoutATransactionWhatRanStaysWhenTheAnswerIsNo) {
   const wchar_t* const commands = L"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n";
   EXPECT_EQ(describe(run_late(L"EvitarTransaccion", commands).value.raw()), "BOOL false");
   EXPECT_EQ(database.ask(L"select count(*) from T"), "1");
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"}));
 }
 
 }  // namespace

@@ -73,6 +73,7 @@ void SqlMembers::expect_outcome(const std::string& name, const EarlyCall& slot, 
     EXPECT_FALSE(box.question);
   }
   EXPECT_EQ(described(passed.variables), before) << "an argument was changed";
+  EXPECT_EQ(traced(), expected.trace.empty() ? Traces() : Traces(2, expected.trace));
 }
 
 }  // namespace qvr::tests

@@ -7,17 +7,21 @@
 
 #include "automation/arrays.h"
 #include "automation/both.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 
-// What a member answers, and what the user is told on the way.
+// What a member answers, and what the user and the trace are told on the way.
 struct Outcome {
   Outcome(const wchar_t* expected) : text(expected) {}
-  Outcome(std::wstring expected, std::wstring shown = {}) : text(std::move(expected)), box(std::move(shown)) {}
+  Outcome(std::wstring expected, std::wstring shown = {}, Text traced = {})
+      : text(std::move(expected)), box(std::move(shown)), trace(std::move(traced)) {}
   std::wstring text, box;  // no box: empty
+  Text trace;              // no failure: empty
 };
 
 inline Outcome told(const wchar_t* box) { return {L"", box}; }
+inline Outcome failed(Text trace, const wchar_t* text = L"") { return {text, {}, std::move(trace)}; }
 
 // Arguments of one call in one way of passing them; the variables stay the owners.
 struct Passed {

@@ -7,8 +7,10 @@
 
 namespace qvr::tests {
 
+using Traces = std::vector<Text>;
+
 // The lines so far, without the place at their end, in order; they count as announced.
-std::vector<Text> traced();
+Traces traced();
 
 // For a test whose inputs fail by the hundred: announces all that this test still traces.
 void expect_any_traces();

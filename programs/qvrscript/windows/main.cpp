@@ -5,6 +5,7 @@
 
 #include <iostream>
 
+#include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
 
 namespace {
@@ -40,6 +41,7 @@ class Utf8Output {
 
 int wmain(int count, wchar_t** words) {
   using namespace qvr;
+  set_trace_sink(windows::trace_to_debugger);
   const Utf8Output output;
   const Apartment apartment;
   const script_tool::Console console{std::cout, std::cerr, _isatty(_fileno(stdout)) != 0};

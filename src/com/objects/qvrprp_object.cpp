@@ -52,7 +52,7 @@ HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags
 HRESULT QVRprpObject::enumerate(VARIANT* result) noexcept {
   if (result == nullptr) return S_OK;
   VariantInit(result);
-  return guarded(E_OUTOFMEMORY, [&] {
+  return guarded(__uuidof(::QVRprp), E_OUTOFMEMORY, [&] {
     auto values = std::make_shared<std::vector<Value>>();
     for (std::int32_t position = 0; position < core_.NumPropiedades(); ++position)
       values->push_back(core_.Item(position));

@@ -55,7 +55,7 @@ class Enumerator : public IEnumVARIANT {
 
   HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) override {
     if (copy == nullptr) return E_POINTER;
-    *copy = or_default<IEnumVARIANT*>(nullptr, [&] { return new Enumerator(items_, next_); });
+    *copy = or_default<IEnumVARIANT*>(u"testado", nullptr, [&] { return new Enumerator(items_, next_); });
     if (*copy == nullptr) return E_OUTOFMEMORY;
     (*copy)->AddRef();
     return S_OK;
