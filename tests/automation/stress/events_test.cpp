@@ -8,6 +8,7 @@
 #include "automation/in_use.h"
 #include "automation/library.h"
 #include "automation/sink.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -59,7 +60,8 @@ struct DisturbedRun {
 struct Disturbance {
   const char* name;
   HRESULT (*react)(DisturbedRun&, DISPID, VARIANT& argument);
-  const char* nested = "";  // what each run inside the run, of those that begin with Progreso, answers
+  const char* nested = "";        // what each run inside the run, of those that begin with Progreso, answers
+  const char16_t* refused = u"";  // how each of them is traced
 };
 
 DisturbedRun* pumped = nullptr;
@@ -131,9 +133,9 @@ const Disturbance kDisturbances[] = {
        run_under_way.nested.push_back(run(*run_under_way.runner.get(), run_under_way.database));
        return S_OK;
      },
-     "0 BOOL false"},
-    {"starts another run from a message", [](DisturbedRun& run, DISPID, VARIANT&) { return pump(run); },
-     "0 BOOL false"},
+     "0 BOOL false", u"QVRScr.EjecutarComandos: 5 A run of this object is under way"},
+    {"starts another run from a message", [](DisturbedRun& run, DISPID, VARIANT&) { return pump(run); }, "0 BOOL false",
+     u"QVRScr.EjecutarComandos: 5 A run of this object is under way"},
     {"starts a run on another object",
      [](DisturbedRun& run_under_way, DISPID, VARIANT&) {
        const Database own;
@@ -149,7 +151,7 @@ const Disturbance kDisturbances[] = {
        run.nested.push_back(std::to_string(loaded.result) + " " + describe(loaded.value.raw()));
        return S_OK;
      },
-     "0 BSTR "},
+     "0 BSTR ", u"QVRScr.CargarDefinicion: 5 A run of this object is under way"},
 };
 
 class Disturbed : public testing::TestWithParam<Disturbance> {
@@ -170,6 +172,7 @@ class Disturbed : public testing::TestWithParam<Disturbance> {
     EXPECT_EQ(disturbed.listening->events, expected);
     EXPECT_GT(disturbed.disturbing->events.size(), 0u);
     EXPECT_EQ(disturbed.nested, std::vector<std::string>(nests ? expected.size() - 1 : 0, GetParam().nested));
+    EXPECT_EQ(traced(), *GetParam().refused != u'\0' ? Traces(expected.size() - 1, GetParam().refused) : Traces());
   }
 
   Database database_;
@@ -216,6 +219,7 @@ TEST(DisturbedChain, OfRunsEndsAndLeavesNothingBehind) {
     answers.front() = "0 BOOL false";  // the innermost one answers first
     EXPECT_EQ(disturbed.nested, answers);
     EXPECT_EQ(std::ranges::count(disturbed.listening->events, "Terminado BOOL* true"), 32);
+    EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: 5 A run of this object is under way"});
   };
   stop_string_cache();
   chain();

@@ -8,6 +8,7 @@
 #include "automation/boxes.h"
 #include "automation/family_component.h"
 #include "automation/stress/subjects.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 
@@ -51,6 +52,8 @@ inline constexpr const char* kInterfaces[] = {"_Ov", "_QVRcfp", "_iSQL20", "_cSQ
 // and whose boxes are answered.
 class HostileCaller : public testing::TestWithParam<std::size_t> {
  protected:
+  HostileCaller() { expect_any_traces(); }
+
   const DescribedInterface& interface_under_attack() const { return described_interfaces()[GetParam()]; }
 
   // Calls each member repeatedly, on a new object each time. No box stays open, no memory leaks, and the object works

@@ -9,6 +9,7 @@
 #include "automation/sink.h"
 #include "automation/stress/apartments.h"
 #include "automation/stress/classes.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -59,6 +60,7 @@ TEST(Marshalling, ParametersOfEveryKindByName) {
       "BSTR INSERT INTO x VALUES ('a',  2,  TO_DATE('2011-01-05','YYYY-MM-DD') , Null); "
       "BSTR 1; R8 2.500000; I4 3; 1";
   EXPECT_EQ(asked_elsewhere<IDispatch>(cfp, ask), twice(expected));
+  EXPECT_EQ(traced(), Traces(2, u"QVRcfp.Crear: -2147352571 The late-bound call was refused"));
 }
 
 TEST(Marshalling, TextsAndNumbersThroughSlots) {
@@ -169,6 +171,7 @@ TEST(Marshalling, ASinkOfAnotherApartment) {
 }
 
 TEST(Marshalling, LeavesNothingBehind) {
+  expect_any_traces();
   const auto round = [] {
     for (const COINIT apartment : kApartments) {
       const LateObject cfp(L"QVRlib21.QVRcfp");
