@@ -5,38 +5,11 @@
 #include "automation/database.h"
 #include "automation/debug_output.h"
 #include "automation/sink.h"
+#include "automation/unseen_station.h"
 #include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
-
-bool station_is_visible() {
-  USEROBJECTFLAGS flags{};
-  DWORD needed = 0;
-  GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof flags, &needed);
-  return (flags.dwFlags & WSF_VISIBLE) != 0;
-}
-
-// The process on a station of its own for as long as this lives. Where it is on an unseen one already, it stays there.
-class UnseenStation {
- public:
-  UnseenStation() : before_(GetProcessWindowStation()) {
-    if (!station_is_visible()) return;
-    station_ = CreateWindowStationW(nullptr, 0, WINSTA_ALL_ACCESS, nullptr);
-    EXPECT_NE(station_, nullptr) << GetLastError();
-    EXPECT_NE(SetProcessWindowStation(station_), FALSE) << GetLastError();
-  }
-  ~UnseenStation() {
-    if (station_ == nullptr) return;
-    SetProcessWindowStation(before_);
-    CloseWindowStation(station_);
-  }
-  UnseenStation(const UnseenStation&) = delete;
-  UnseenStation& operator=(const UnseenStation&) = delete;
-
- private:
-  HWINSTA before_, station_ = nullptr;
-};
 
 using Lines = std::vector<std::wstring>;
 
