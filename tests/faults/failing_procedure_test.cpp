@@ -7,6 +7,7 @@
 #include "faults/failing_allocations.h"
 #include "faults/run_log.h"
 #include "support/describe.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -45,6 +46,7 @@ int calls_of_one_that_succeeds() {
 }
 
 TEST(FailingProcedure, IsReportedOnceAndChangesNothing) {
+  expect_any_traces();
   const int calls = calls_of_one_that_succeeds();
   EXPECT_EQ(calls, kBefore + 11);
   for (int nth = kBefore + 1; nth <= calls; ++nth) {
@@ -120,6 +122,7 @@ TEST(FailingProcedure, PassesOnWhateverAParameterHolds) {
 }
 
 TEST(FailingParameter, AppendsNothingHalfMade) {
+  expect_any_traces();
   const dialect::ParameterRequest request{u"NVARCHAR", u"@p", u"Ana", 50, 2};
   for (int nth = 1; nth <= 7; ++nth) {
     for (const NamedFailure& failure : ado_failures()) {
