@@ -109,6 +109,9 @@ TEST(FailingProcedure, TakesOnlyZeroForSuccess) {
     EXPECT_LE(lines_that_begin(log, "Report"), output.succeeds ? 0u : 1u);
     EXPECT_EQ(lines_that_begin(log, "Command released"), 1u);
   }
+  Traces expected(7, trace_of(u"QVRcfp.EjecutarProcSQL7", 13));  // what is no number, then other numbers and Null
+  expected.insert(expected.end(), 5, u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0");
+  EXPECT_EQ(traced(), expected);
 }
 
 TEST(FailingProcedure, PassesOnWhateverAParameterHolds) {
