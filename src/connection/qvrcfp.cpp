@@ -47,7 +47,7 @@ bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
     ThreadState& state = thread_state();
     const auto file = state.platform().files.open(path);
     auto loaded = read_cfp(*file, state.platform().files, state.text_protection(), key);
-    if (!loaded) return false;
+    if (!loaded) throw RuntimeFailure(failure_number::kTypeMismatch, u"The check line does not fit the values");
     fields_ = std::move(*loaded);
     fields_.Archivo = std::move(name);
     return created_ = true;
@@ -58,7 +58,7 @@ bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
 
 bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
   return or_default(kClass, false, [&] {
-    if (!created_) return false;
+    require_parameters();
     ThreadState& state = thread_state();
     const auto file = state.platform().files.create(cfp_path(R, A));
     if (fields_.Archivo.empty()) fields_.Archivo = A;

@@ -76,8 +76,10 @@ class QVRcfp {
   Text CadenaParaLikeSQL(TextView Cadena, bool ComodinInicial, bool ComodinFinal) const noexcept;
   Text sqlFechaSistema() const noexcept;
 
-  // Pieces of clauses; see dialect/clauses.h and dialect/table_relations.h. The two that are not noexcept raise
-  // CallerFailure: 5 for a list without elements, 9 for one that cannot be walked or is not whole triples.
+  // Pieces of clauses; see dialect/clauses.h and dialect/table_relations.h. Two raise errors.
+  // sqlWhereRelacionTablas raises CallerFailure: 5 for a list without elements, 9 for one that cannot be walked or is
+  // not whole triples. sqlConcatenar raises every RuntimeFailure: these two, 13 for what is no list and for an element
+  // that has no text, 94 for a Null; only Empty is an empty piece.
   Text sqlTOP(std::int32_t Numero) const noexcept;
   Text sqlRowNum(std::int32_t Numero, bool AnteponerAndSiProcede) const noexcept;
   Text sqlWhereRelacionTablas(const Value& mCampo1Campo2Relacion) const;

@@ -1,5 +1,6 @@
 #include "dialect/statements.h"
 
+#include "base/failure.h"
 #include "dialect/lists.h"
 #include "dialect/literals.h"
 #include "session/value_convert.h"
@@ -17,6 +18,11 @@ void each_field(const Value& fields, Use&& use) {
   const Array& names = list_in(fields);
   std::int64_t index = names.lower;
   for (const Value& name : names.items) use(to_text(name), index++);
+}
+
+// Also where there are no fields, whose values nobody would look at.
+void require_arrays(const Value& fields, const Value& values) {
+  if (!fields.is<Array>() || !values.is<Array>()) throw RuntimeFailure(failure_number::kTypeMismatch);
 }
 
 Text literal_at(Engine engine, const Value& values, std::int64_t index) {
@@ -44,6 +50,7 @@ Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, s
 }
 
 Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores) {
+  require_arrays(MCampos, MValores);
   Text columns = join({u"INSERT INTO ", NombreTabla, u"("}), literals = u") VALUES(";
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
     columns.append(field).append(u",");
@@ -55,6 +62,7 @@ Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const
 }
 
 Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion) {
+  require_arrays(MCampos, MValores);
   Text text = join({u"UPDATE ", NombreTabla, u" SET "});
   each_field(MCampos, [&](const Text& field, std::int64_t i) {
     text.append(field).append(u"=").append(literal_at(engine, MValores, i)).append(u",");

@@ -1,5 +1,5 @@
 // INSERT and UPDATE with every value as a literal. Lists are one-dimensional arrays; a field and its value have the
-// same index. All throw for an array of no or several dimensions or with too few elements.
+// same index. All throw for what is no array, and for an array of no or several dimensions or with too few elements.
 #pragma once
 
 #include <cstdint>
@@ -16,10 +16,10 @@ Text SqlINSERT(Engine engine, TextView NombreTabla, const Value& MValores);
 Text SqlUPDATE(Engine engine, TextView NombreTabla, TextView NombreCampoClave, std::int32_t Clave_cd,
                const Value& MCampos, const Value& MValores);
 
-// "INSERT INTO t(f,f) VALUES(v,v)"; empty when an argument is no array.
+// "INSERT INTO t(f,f) VALUES(v,v)".
 Text SqlInsert2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores);
 
-// "UPDATE t SET f=v,f=v WHERE c", without WHERE for an empty condition; empty when an argument is no array.
+// "UPDATE t SET f=v,f=v WHERE c", without WHERE for an empty condition.
 Text SqlUpdate2(Engine engine, TextView NombreTabla, const Value& MCampos, const Value& MValores, TextView Condicion);
 
 }  // namespace qvr::dialect

@@ -6,6 +6,14 @@
 #include "session/thread_state.h"
 
 namespace qvr {
+namespace {
+
+void require_files(const std::vector<Text>& names) {
+  if (names.empty()) throw RuntimeFailure(failure_number::kFile, u"No script file has such a name");
+}
+
+}  // namespace
+
 // On any failure the text is empty: a partial installation is worse than none.
 template <class Body>
 Text QVRScr::load(Body&& body, SourcePlace place) noexcept {
@@ -17,7 +25,6 @@ Text QVRScr::load(Body&& body, SourcePlace place) noexcept {
 }
 
 Text QVRScr::joined_files(TextView ID, TextView Ruta, const std::vector<Text>& names) {
-  if (names.empty()) throw RuntimeFailure(failure_number::kFile, u"No script file has such a name");
   std::vector<Text> texts;
   std::size_t size = 0;
   for (const Text& name : names) {
@@ -41,8 +48,10 @@ Text QVRScr::prepared(Text text, Engine MotorBD, const ScriptAccounts& accounts,
 Text QVRScr::CargarDefinicion(TextView ID, Engine MotorBD, TextView Ruta, TextView NombreDefinicion,
                               const ScriptAccounts& accounts, bool Encri) noexcept {
   return load([&] {
-    Text text = joined_files(ID, Ruta, definition_files(Ruta, NombreDefinicion, MotorBD));
-    return prepared(std::move(text), MotorBD, accounts, Encri);
+    const auto names = definition_files(Ruta, NombreDefinicion, MotorBD);
+    Text text = prepared(joined_files(ID, Ruta, names), MotorBD, accounts, Encri);
+    require_files(names);  // behind the steps, which the host sees all the same
+    return text;
   });
 }
 
@@ -52,8 +61,9 @@ Text QVRScr::CargarActualizacion(TextView ID, Engine MotorBD, TextView Ruta, Tex
     if (!has_update_from(Ruta, Aplicacion, VersionActual, MotorBD)) {
       throw RuntimeFailure(failure_number::kFile, u"No update script begins with this version");
     }
-    Text text = joined_files(ID, Ruta, update_files(Ruta, Aplicacion, VersionActual, MotorBD));
-    return prepared(std::move(text), MotorBD, accounts, Encri);
+    const auto names = update_files(Ruta, Aplicacion, VersionActual, MotorBD);
+    require_files(names);
+    return prepared(joined_files(ID, Ruta, names), MotorBD, accounts, Encri);
   });
 }
 

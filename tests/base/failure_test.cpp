@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -71,6 +72,8 @@ TEST(OrDefault, GivesTheResultOrTheFallback) {
   EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw RuntimeFailure(5); }), 1);
   EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw std::bad_alloc(); }), 1);
   EXPECT_EQ(or_default(u"Class", 1, []() -> int { throw 0; }), 1);
+  EXPECT_EQ(traced(), (Traces{u"Class.TestBody: 5 Invalid procedure call or argument",
+                              u"Class.TestBody: 7 Out of memory", u"Class.TestBody: 5 Unforeseen exception"}));
 }
 
 TEST(OrBuiltSoFar, KeepsWhatWasAppended) {
@@ -82,6 +85,8 @@ TEST(OrBuiltSoFar, KeepsWhatWasAppended) {
                             }),
             u"first");
   EXPECT_EQ(or_built_so_far(u"Class", [](Text&) { throw 0; }), u"");
+  EXPECT_EQ(traced(), (Traces{u"Class.TestBody: 5 Invalid procedure call or argument",
+                              u"Class.TestBody: 5 Unforeseen exception"}));
 }
 
 TEST(OrRaised, LetsOnlyWhatIsMeantForTheCallerOut) {
@@ -95,6 +100,8 @@ TEST(OrRaised, LetsOnlyWhatIsMeantForTheCallerOut) {
   } catch (const CallerFailure& failure) {
     expect_detail(failure.detail(), 9, u"Subscript out of range", u"QVRlib21");
   }
+  EXPECT_EQ(traced(), (Traces{u"Class.TestBody: 9 Subscript out of range", u"Class.TestBody: 7 Out of memory",
+                              u"Class.TestBody: 5 Unforeseen exception"}));
 }
 
 TEST(CallerFailure, IsOneLikeAnyOtherForTheOtherPolicies) {
@@ -106,6 +113,7 @@ TEST(CallerFailure, IsOneLikeAnyOtherForTheOtherPolicies) {
   std::int32_t reported = 0;
   EXPECT_FALSE(or_reported(u"Class", false, fail, [&](const FailureDetail& detail) { reported = detail.number; }));
   EXPECT_EQ(reported, 5);
+  EXPECT_EQ(traced(), Traces(3, u"Class.TestBody: 5 Invalid procedure call or argument"));
 }
 
 TEST(OrReported, ReportsOnlyWhatWasThrown) {
@@ -122,6 +130,7 @@ TEST(OrReported, ReportsOnlyWhatWasThrown) {
   EXPECT_FALSE(or_reported(
       u"Class", false, []() -> bool { throw RuntimeFailure(13); }, report));
   EXPECT_EQ(reports, 1);
+  EXPECT_EQ(traced(), Traces{u"Class.TestBody: 13 Type mismatch"});
 }
 
 TEST(OrReported, DropsAFailingReport) {
@@ -133,6 +142,8 @@ TEST(OrReported, DropsAFailingReport) {
   EXPECT_FALSE(or_reported(
       u"Class", false, []() -> bool { throw std::bad_alloc(); }, failing));
   EXPECT_TRUE(asked);
+  EXPECT_EQ(traced(),
+            (Traces{u"Class.TestBody: 7 Out of memory", u"Class.TestBody: 429 ActiveX component can't create object"}));
 }
 
 }  // namespace

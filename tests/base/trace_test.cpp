@@ -28,7 +28,7 @@ TEST_F(Trace, IsOneLineWithClassMemberNumberDescriptionAndPlace) {
   trace({{}, "Advise", -2147024882, u"Out of memory", {"module.cpp", 3, ""}});
   EXPECT_EQ(last_line, u"Advise: -2147024882 Out of memory (module.cpp:3)");
   trace({{}, "Advise", 7, u"Out of memory", {"/module.cpp", 3, ""}});
-  EXPECT_EQ(last_line, u"Advise: 7 Out of memory (/module.cpp:3)");
+  EXPECT_EQ(last_line, u"Advise: 7 Out of memory (module.cpp:3)");
 }
 
 TEST_F(Trace, HasNoLineBreaks) {

@@ -5,6 +5,7 @@
 #include "connection/sample_parameters.h"
 #include "services/builtin_text_protection.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -20,6 +21,7 @@ bool says_nothing(const std::string& bytes, std::size_t at, int bit) {
 }
 
 TEST(CfpFileBits, EachThatSaysSomethingIsRefused) {
+  expect_any_traces();
   TestThread thread;
   thread.make_text_protection = [&] {
     return std::make_unique<services::BuiltinTextProtection>(thread_state().platform().cryptography);

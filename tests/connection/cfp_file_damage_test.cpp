@@ -7,12 +7,17 @@
 #include "services/builtin_text_protection.h"
 #include "support/rows.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
 
 using services::BuiltinTextProtection;
 using tests::PrintTo;
+
+const Text kNoLine = trace_of(u"QVRcfp.Crear", 75), kNoEngine = trace_of(u"QVRcfp.Crear", 13),
+           kNoProtectedText = trace_of(u"QVRcfp.Crear", 5),
+           kOtherValues = u"QVRcfp.Crear: 13 The check line does not fit the values";
 
 class CfpFileDamageTest : public ::testing::Test {
  protected:
@@ -43,13 +48,17 @@ class CfpFileDamageTest : public ::testing::Test {
 
   std::string protected_line(TextView text) { return to_utf8(CheapProtection().Cifrar(u"id", text)); }
 
-  void expect_refused(const std::string& bytes, TextView id = u"id") {
+  // Gives the one line that is traced.
+  Text refused(const std::string& bytes, TextView id = u"id") {
     thread.files.memory[u"F\\a.cfp"] = bytes;
     QVRcfp cfp;
     cfp.Asignar(u"id", sample_parameters());
     EXPECT_FALSE(cfp.Crear(id, u"F", u"a"));
     expect_cleared(cfp);
     EXPECT_TRUE(thread.log.take().empty()) << "nothing may be shown";
+    const Traces failures = traced();
+    EXPECT_EQ(failures.size(), 1U);
+    return failures.empty() ? Text() : failures[0];
   }
 
   void expect_read(const std::string& bytes) {
@@ -71,12 +80,13 @@ TEST_F(CfpFileDamageTest, AMissingFileIsRefused) {
   QVRcfp cfp;
   EXPECT_FALSE(cfp.Crear(u"id", u"F", u"a"));
   expect_cleared(cfp);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 75 Path/File access error"});
 }
 
 TEST_F(CfpFileDamageTest, TruncatedAtAnyByteOfItsLinesItIsRefused) {
   const std::size_t end_of_last_line = whole.size() - 2;
   for (std::size_t size = 0; size < end_of_last_line; ++size) {
-    expect_refused(whole.substr(0, size));
+    refused(whole.substr(0, size));
     ASSERT_FALSE(HasFailure()) << size << " bytes";
   }
 }
@@ -86,7 +96,7 @@ TEST_F(CfpFileDamageTest, WithoutAnyOneLineItIsRefused) {
     SCOPED_TRACE(missing);
     Lines fewer = lines;
     fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(missing));
-    expect_refused(of(fewer));
+    EXPECT_EQ(refused(of(fewer)), missing == 0 ? kNoEngine : kNoLine);
   }
 }
 
@@ -101,7 +111,7 @@ TEST_F(CfpFileDamageTest, WithAnyTwoLinesSwappedItIsRefused) {
       SCOPED_TRACE(::testing::Message() << a << " and " << b);
       Lines swapped = lines;
       std::swap(swapped[a], swapped[b]);
-      expect_refused(of(swapped));
+      EXPECT_EQ(refused(of(swapped)), a == 0 ? kNoEngine : kOtherValues);
     }
   }
 }
@@ -111,7 +121,7 @@ TEST_F(CfpFileDamageTest, WithAnotherValueInAnyLineItIsRefused) {
     SCOPED_TRACE(edited);
     Lines changed = lines;
     changed[edited] = protected_line(u"3");
-    expect_refused(of(changed));
+    EXPECT_EQ(refused(of(changed)), kOtherValues);
   }
 }
 
@@ -120,7 +130,7 @@ TEST_F(CfpFileDamageTest, WithAFirstLineThatIsNoNumberItIsRefused) {
     SCOPED_TRACE(to_utf8(text));
     Lines changed = lines;
     changed[0] = protected_line(text);
-    expect_refused(of(changed));
+    EXPECT_EQ(refused(of(changed)), kNoEngine);
   }
 }
 
@@ -128,22 +138,22 @@ TEST_F(CfpFileDamageTest, WithAnyOneCharacterChangedItIsRefused) {
   for (std::size_t at = 0; at < whole.size(); ++at) {
     std::string changed = whole;
     changed[at] = whole[at] == 'b' ? 'c' : 'b';
-    expect_refused(changed);
+    refused(changed);
     ASSERT_FALSE(HasFailure()) << "byte " << at;
   }
 }
 
 TEST_F(CfpFileDamageTest, WithOtherLineEndsItIsRefused) {
-  expect_refused(of(lines, "\n"));
-  expect_refused(of(lines, "\r"));
-  expect_refused(of(lines, ""));
-  expect_refused("\r\n" + whole);
+  EXPECT_EQ(refused(of(lines, "\n")), kNoLine);
+  EXPECT_EQ(refused(of(lines, "\r")), kNoLine);
+  EXPECT_EQ(refused(of(lines, "")), kNoLine);
+  EXPECT_EQ(refused("\r\n" + whole), kNoProtectedText);
 }
 
 TEST_F(CfpFileDamageTest, WithAnotherIdentificationItIsRefused) {
   for (TextView id : {TextView(u""), TextView(u"ID"), TextView(u"id "), TextView(u"other")}) {
     SCOPED_TRACE(to_utf8(id));
-    expect_refused(whole, id);
+    EXPECT_EQ(refused(whole, id), kNoEngine);
   }
 }
 
@@ -163,23 +173,26 @@ std::string ten_lines(std::string_view line) {
 struct OtherFileRow {
   const char* name;
   std::string bytes;
+  Text traced;
 };
 const OtherFileRow kOtherFiles[] = {
-    {"empty", ""},
-    {"an empty line", "\r\n"},
-    {"NUL", std::string(50, '\0')},
-    {"binary", random_bytes()},
-    {"empty lines", ten_lines("")},
-    {"lines of a word", ten_lines("hello")},
-    {"lines of a letter", ten_lines("x")},
-    {"UTF-16", std::string("\xff\xfe"
-                           "a\0\r\0\n\0",
-                           8)},
+    {"empty", "", kNoLine},
+    {"an empty line", "\r\n", kNoProtectedText},
+    {"NUL", std::string(50, '\0'), kNoLine},
+    {"binary", random_bytes(), kNoLine},
+    {"empty lines", ten_lines(""), kNoProtectedText},
+    {"lines of a word", ten_lines("hello"), kNoProtectedText},
+    {"lines of a letter", ten_lines("x"), kNoEngine},
+    {"UTF-16",
+     std::string("\xff\xfe"
+                 "a\0\r\0\n\0",
+                 8),
+     kNoLine},
 };
 
 using OtherFile = Rows<CfpFileDamageTest, OtherFileRow>;
 
-TEST_P(OtherFile, IsRefused) { expect_refused(GetParam().bytes); }
+TEST_P(OtherFile, IsRefused) { EXPECT_EQ(refused(GetParam().bytes), GetParam().traced); }
 
 INSTANTIATE_TEST_SUITE_P(, OtherFile, ::testing::ValuesIn(kOtherFiles), row_name);
 
@@ -192,6 +205,7 @@ TEST_F(CfpFileDamageTest, ALineWithoutEndIsGivenUpEarly) {
   expect_cleared(cfp);
   EXPECT_GT(taken, 0u);
   EXPECT_LT(taken, kEnough);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 75 Path/File access error"});
 }
 
 TEST_F(CfpFileDamageTest, AReadErrorIsAFalseResult) {
@@ -202,6 +216,7 @@ TEST_F(CfpFileDamageTest, AReadErrorIsAFalseResult) {
   QVRcfp cfp;
   EXPECT_FALSE(cfp.Crear(u"id", u"F", u"a"));
   expect_cleared(cfp);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 75 Path/File access error"});
 }
 
 TEST_F(CfpFileDamageTest, AProtectionThatFailsAtAnyCallIsAFalseResult) {
@@ -210,7 +225,7 @@ TEST_F(CfpFileDamageTest, AProtectionThatFailsAtAnyCallIsAFalseResult) {
     int calls = 0;
     thread.make_text_protection = [&] { return std::make_unique<FailingProtection>(failing, calls); };
     thread.renew();
-    expect_refused(whole);
+    EXPECT_EQ(refused(whole), trace_of(u"QVRcfp.Crear", 429));
     EXPECT_EQ(calls, failing);
     expect_read(whole);
   }
@@ -224,7 +239,7 @@ TEST_F(CfpFileDamageTest, TheBuiltInProtectionNoticesEveryCharacterToo) {
   for (std::size_t at = 0; at < whole.size(); at += 7) {
     std::string changed = whole;
     changed[at] = whole[at] == 'b' ? 'c' : 'b';
-    expect_refused(changed);
+    refused(changed);
     ASSERT_FALSE(HasFailure()) << "byte " << at;
   }
 }

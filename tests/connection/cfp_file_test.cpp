@@ -8,6 +8,7 @@
 #include "services/builtin_text_protection.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -87,6 +88,7 @@ TEST_F(CfpFileTest, GivesParametersBackThroughTheBuiltInProtection) {
   expect_parameters(loaded, parameters, u"a");
   EXPECT_FALSE(loaded.Crear(u"ID", folder.text(), u"a"));
   expect_cleared(loaded);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key"});
 }
 
 TEST_F(CfpFileTest, ShowsNoFieldInPlainText) {
@@ -138,6 +140,7 @@ TEST_F(CfpFileTest, IsNotMadeWhereThereIsNoPlace) {
   EXPECT_FALSE(cfp.Guardar(u"id", folder.text(), u"sub\\a"));
   EXPECT_EQ(cfp.Archivo(), u"");
   expect_parameters(cfp, sample_parameters(), u"");
+  EXPECT_EQ(traced(), Traces(3, u"QVRcfp.Guardar: 75 Path/File access error"));
 }
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
@@ -157,6 +160,7 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
     EXPECT_EQ(calls, failing);
     EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a")) << "the object still holds its parameters";
   }
+  EXPECT_EQ(traced(), Traces(10, trace_of(u"QVRcfp.Guardar", 429)));
 }
 
 struct NoProtection final : services::TextProtection {
@@ -179,6 +183,7 @@ TEST_F(CfpFileTest, IsNotWrittenWithALineThatCouldNotBeRead) {
   EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
   EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
   EXPECT_EQ(cfp.OtrosParametros().size(), std::size_t{1} << 20);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Guardar: 75 Path/File access error"});
 }
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
@@ -207,6 +212,7 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
   EXPECT_EQ(memory[u"F\\part.cfp"], whole);
   EXPECT_FALSE(memory.contains(u"F\\part.cfp.tmp"));
   EXPECT_EQ(cfp.Archivo(), u"whole");
+  EXPECT_EQ(traced(), Traces(7, trace_of(u"QVRcfp.Guardar", 75)));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "connection/sample_parameters.h"
 #include "services/builtin_text_protection.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -65,6 +66,7 @@ TEST_F(CfpKnownFileTest, IsRefusedUnderAnotherIdentification) {
   QVRcfp cfp;
   EXPECT_FALSE(cfp.Crear(u"App de gestion", u"F", u"a"));
   expect_cleared(cfp);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key"});
 }
 
 }  // namespace

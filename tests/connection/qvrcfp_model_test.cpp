@@ -6,6 +6,7 @@
 
 #include "connection/sample_parameters.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -95,6 +96,7 @@ class QVRcfpModelTest : public ::testing::Test {
 };
 
 TEST_F(QVRcfpModelTest, EveryStepIsAsTheModelHasIt) {
+  expect_any_traces();
   int created = 0;
   for (int round = 0; round < 5000; ++round) {
     step();
@@ -108,6 +110,7 @@ TEST_F(QVRcfpModelTest, EveryStepIsAsTheModelHasIt) {
 // A file changed at random places is refused; what little is read all the same (another case in the check line, bytes
 // behind the tenth line) gives the parameters that were saved.
 TEST_F(QVRcfpModelTest, RandomDamageIsNeverReadAsOtherParameters) {
+  expect_any_traces();
   ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
   ASSERT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
   const std::string whole = thread.files.memory[u"F\\a.cfp"];

@@ -5,6 +5,7 @@
 #include "dialect/dialect_fixture.h"
 #include "support/describe.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -106,6 +107,7 @@ TEST(QVRcfpProcedure, OtherEnginesDoNotTouchTheConnection) {
   TestThread thread;
   Value parameters;
   EXPECT_FALSE(QVRcfp().EjecutarProcSQL7(nullptr, u"p", parameters));
+  EXPECT_EQ(traced(), Traces(5, u"QVRcfp.EjecutarProcSQL7: 5 The engine is not SQL Server"));
 }
 
 TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
@@ -114,6 +116,7 @@ TEST(QVRcfpProcedure, AnotherReturnValueIsFalseWithoutAReport) {
   EXPECT_FALSE(setting.call(setting.connection.get()));
   EXPECT_EQ(setting.thread.log.take(), lines_until(kProcedure, 8, "Command released"));
   EXPECT_EQ(setting.first_parameter(), "Long 5");
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0"});
 }
 
 using RefusedProcedure = Rows<::testing::Test, Step>;
@@ -134,6 +137,7 @@ TEST_P(RefusedProcedure, IsReported) {
   EXPECT_EQ(notice.captions.unknown_error, u"Error indeterminado");
   EXPECT_EQ(notice.captions.duplicate_record, u"Registro duplicado");
   EXPECT_EQ(notice.captions.server_not_found, u"Servidor no encontrado");
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.EjecutarProcSQL7: -2147217900 told by another component"});
 }
 
 INSTANTIATE_TEST_SUITE_P(, RefusedProcedure, ::testing::ValuesIn(kProcedure), row_name);
@@ -162,6 +166,10 @@ TEST(QVRcfpProcedure, WhatIsNotAdosIsReportedToo) {
     EXPECT_EQ(log[log.size() - 2], "Command released");
     EXPECT_EQ(log.back(), row.report);
   }
+  EXPECT_EQ(traced(),
+            (Traces{u"QVRcfp.EjecutarProcSQL7: 91 Object variable or With block variable not set",
+                    u"QVRcfp.EjecutarProcSQL7: 13 Type mismatch", u"QVRcfp.EjecutarProcSQL7: 9 Subscript out of range",
+                    u"QVRcfp.EjecutarProcSQL7: 6 Overflow"}));
 }
 
 TEST(QVRcfpProcedure, AReportThatFailsIsStillFalse) {
@@ -170,6 +178,8 @@ TEST(QVRcfpProcedure, AReportThatFailsIsStillFalse) {
   setting.thread.ado.fail("Command.Execute", 1, kRefusal);
   EXPECT_FALSE(setting.call(setting.connection.get()));
   EXPECT_EQ(setting.thread.report.notices.size(), 1U);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.EjecutarProcSQL7: -2147217900 told by another component",
+                              u"QVRcfp.EjecutarProcSQL7: 429 ActiveX component can't create object"}));
 }
 
 TEST(QVRcfpParameter, IsAppendedWithTheTypeOfTheEngine) {
@@ -187,6 +197,7 @@ TEST(QVRcfpParameter, AnObjectWithoutParametersAppendsNone) {
   QVRcfp other;
   other.Asignar(u"id", parameters_with(kNoEngine));
   EXPECT_TRUE(other.AgregarParametroADO(setting.command.get(), {u"no type", u"@p", Missing{}}));
+  EXPECT_EQ(traced(), Traces(2, u"QVRcfp.AgregarParametroADO: 91 No connection parameters were read or assigned"));
 }
 
 TEST(QVRcfpParameter, AnUnexpectedTypeIsToldInTheUsersLanguage) {
@@ -227,6 +238,7 @@ TEST_P(RefusedParameter, IsShownInTheUsersLanguageWhenItIsImproperlyDefined) {
                        ": AgregarParametroADO: @p(NVARCHAR)\r\n" + words.error + " 3708: Mal definido");
     EXPECT_EQ(setting.thread.log.take(), expected);
   }
+  EXPECT_EQ(traced(), Traces(3, u"QVRcfp.AgregarParametroADO: 3708 told by another component"));
 }
 
 TEST_P(RefusedParameter, IsFalseWithoutABoxForAnyOtherReason) {
@@ -236,6 +248,8 @@ TEST_P(RefusedParameter, IsFalseWithoutABoxForAnyOtherReason) {
     setting.thread.ado.fail(GetParam().operation, 1, {number, u"refused", u"ADODB"});
     EXPECT_FALSE(setting.append());
     EXPECT_EQ(setting.thread.log.take(), lines_until(kParameter, GetParam(), "Parameter released"));
+    EXPECT_EQ(traced(),
+              Traces{join({u"QVRcfp.AgregarParametroADO: ", decimal(number), u" told by another component"})});
   }
 }
 
@@ -248,6 +262,10 @@ TEST(QVRcfpParameter, WithoutACommandItIsFalse) {
   }
   Setting setting(Engine::Oracle);
   EXPECT_FALSE(setting.cfp.AgregarParametroADO(nullptr, {u"NVARCHAR", u"@p", u"x", INT32_MAX})) << "the size overflows";
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: 91 Object variable or With block variable not set",
+                              u"QVRcfp.AgregarParametroADO: 91 Object variable or With block variable not set",
+                              u"QVRcfp.AgregarParametroADO: 91 Object variable or With block variable not set",
+                              u"QVRcfp.AgregarParametroADO: 6 Overflow"}));
 }
 
 TEST(QVRcfpParameter, ABoxThatCannotBeShownIsStillFalse) {
@@ -257,6 +275,9 @@ TEST(QVRcfpParameter, ABoxThatCannotBeShownIsStillFalse) {
   setting.thread.ado.fail("Parameter.Type", 1, {3708, u"Mal definido", u"ADODB"});
   setting.thread.boxes.fail_next();
   EXPECT_FALSE(setting.append());
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.AgregarParametroADO: 5 no box today",
+                              u"QVRcfp.AgregarParametroADO: 3708 told by another component",
+                              u"QVRcfp.AgregarParametroADO: 5 no box today"}));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "dialect/statements.h"
 #include "dialect/table_relations.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -131,6 +132,8 @@ TEST_P(QVRcfpTellingMember, GivesNothingWhenItsBoxCannotBeShown) {
   thread.boxes.fail_next();
   EXPECT_EQ(GetParam().member(fresh), u"");
   EXPECT_EQ(thread.log.take(), Lines{"Box OK: Motor de Base de Datos no definido: 0"});
+  const std::string_view name = GetParam().name, member = name.substr(0, name.find(','));
+  EXPECT_EQ(traced(), Traces{join({u"QVRcfp.", Text(member.begin(), member.end()), u": 5 no box today"})});
 }
 
 std::vector<MemberRow> telling_members() {
@@ -144,39 +147,56 @@ INSTANTIATE_TEST_SUITE_P(, QVRcfpTellingMember, ::testing::ValuesIn(telling_memb
 struct SilentRow {
   const char* name;
   Text (*member)(const QVRcfp&);
+  Traces traced;
   EachEngine expected = all_engines(u"");
 };
 const Outcome kNoCase = told(u"Funci\u00f3n CASE no implementada para Motor Jet");
 const Outcome kNoJoin = told(u"La funci\u00f3n CondicionWhereRelacionTablas no soporta Motor Jet");
 const SilentRow kSilent[] = {
-    {"sqlConcatenar, no array", [](const QVRcfp& cfp) { return cfp.sqlConcatenar(u"a"); }},
-    {"sqlConcatenar, Null", [](const QVRcfp& cfp) { return cfp.sqlConcatenar(list({Null{}})); }},
-    {"sqlConcatenar, object", [](const QVRcfp& cfp) { return cfp.sqlConcatenar(list({object()})); }},
-    {"sqlCASE, no elements", [](const QVRcfp& cfp) { return cfp.sqlCASE(u"c", list({})); }, {kNoCase, u"", u"", u""}},
-    {"sqlCASE, no array", [](const QVRcfp& cfp) { return cfp.sqlCASE(u"c", 1); }, {kNoCase, u"", u"", u""}},
+    {"sqlCASE, no elements",
+     [](const QVRcfp& cfp) { return cfp.sqlCASE(u"c", list({})); },
+     Traces(2, trace_of(u"QVRcfp.sqlCASE", 9)),
+     {kNoCase, u"", u"", u""}},
+    {"sqlCASE, no array",
+     [](const QVRcfp& cfp) { return cfp.sqlCASE(u"c", 1); },
+     Traces(2, trace_of(u"QVRcfp.sqlCASE", 13)),
+     {kNoCase, u"", u"", u""}},
     {"sqlCASE, two dimensions",
      [](const QVRcfp& cfp) {
        return cfp.sqlCASE(u"c", square({1, 2}));
      },
+     Traces(2, trace_of(u"QVRcfp.sqlCASE", 9)),
      {kNoCase, u"", u"", u""}},
-    {"sqlWhereRelacionTablas, no array", [](const QVRcfp& cfp) { return cfp.sqlWhereRelacionTablas(5); }},
+    {"sqlWhereRelacionTablas, no array", [](const QVRcfp& cfp) { return cfp.sqlWhereRelacionTablas(5); }, {}},
     {"sqlWhereRelacionTablas, Null",
      [](const QVRcfp& cfp) {
        return cfp.sqlWhereRelacionTablas(list({Null{}, u"b", u"I"}));
      },
+     Traces(2, trace_of(u"QVRcfp.sqlWhereRelacionTablas", 94)),
      {kNoJoin, u"", u"", u""}},
-    {"SqlINSERT, no array", [](const QVRcfp& cfp) { return cfp.SqlINSERT(u"T", 5); }},
-    {"SqlINSERT, two dimensions", [](const QVRcfp& cfp) { return cfp.SqlINSERT(u"T", square({1})); }},
-    {"SqlUPDATE, fewer values", [](const QVRcfp& cfp) { return cfp.SqlUPDATE(u"T", u"k", 7, kFields, list({5})); }},
-    {"SqlInsert2, no array", [](const QVRcfp& cfp) { return cfp.SqlInsert2(u"T", u"Id", kValues); }},
-    {"SqlInsert2, fewer values", [](const QVRcfp& cfp) { return cfp.SqlInsert2(u"T", kFields, list({5})); }},
+    {"SqlINSERT, no array", [](const QVRcfp& cfp) { return cfp.SqlINSERT(u"T", 5); },
+     Traces(4, trace_of(u"QVRcfp.SqlINSERT", 13))},
+    {"SqlINSERT, two dimensions", [](const QVRcfp& cfp) { return cfp.SqlINSERT(u"T", square({1})); },
+     Traces(4, trace_of(u"QVRcfp.SqlINSERT", 9))},
+    {"SqlUPDATE, fewer values", [](const QVRcfp& cfp) { return cfp.SqlUPDATE(u"T", u"k", 7, kFields, list({5})); },
+     Traces(4, trace_of(u"QVRcfp.SqlUPDATE", 9))},
+    {"SqlInsert2, no array", [](const QVRcfp& cfp) { return cfp.SqlInsert2(u"T", u"Id", kValues); },
+     Traces(4, trace_of(u"QVRcfp.SqlInsert2", 13))},
+    {"SqlInsert2, fewer values", [](const QVRcfp& cfp) { return cfp.SqlInsert2(u"T", kFields, list({5})); },
+     Traces(4, trace_of(u"QVRcfp.SqlInsert2", 9))},
     {"SqlUpdate2, Null as a field",
-     [](const QVRcfp& cfp) { return cfp.SqlUpdate2(u"T", list({Null{}}), kValues, u""); }},
+     [](const QVRcfp& cfp) { return cfp.SqlUpdate2(u"T", list({Null{}}), kValues, u""); },
+     Traces(4, trace_of(u"QVRcfp.SqlUpdate2", 94))},
+    {"SqlUpdate2, no array", [](const QVRcfp& cfp) { return cfp.SqlUpdate2(u"T", kFields, 5, u""); },
+     Traces(4, trace_of(u"QVRcfp.SqlUpdate2", 13))},
 };
 
 using QVRcfpSilentMember = Rows<QVRcfpSqlTest, SilentRow>;
 
-TEST_P(QVRcfpSilentMember, GivesNothing) { expect_member(GetParam().expected, GetParam().member); }
+TEST_P(QVRcfpSilentMember, GivesNothing) {
+  expect_member(GetParam().expected, GetParam().member);
+  EXPECT_EQ(traced(), GetParam().traced);
+}
 
 INSTANTIATE_TEST_SUITE_P(, QVRcfpSilentMember, ::testing::ValuesIn(kSilent), row_name);
 
@@ -194,6 +214,7 @@ TEST_F(QVRcfpSqlTest, ABoxThatJetCannotShowChangesNothing) {
   for (int box = 0; box < 2; ++box) thread.boxes.fail_next();
   EXPECT_EQ(jet.sqlCASE(u"c", list({1})), u"");
   EXPECT_EQ(jet.sqlWhereRelacionTablas(list({1})), u"");
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.sqlCASE: 5 no box today", u"QVRcfp.sqlWhereRelacionTablas: 5 no box today"}));
 }
 
 TEST_F(QVRcfpSqlTest, TwoMembersRaiseWhatTheyCannotWalk) {
@@ -215,10 +236,15 @@ TEST_F(QVRcfpSqlTest, TwoMembersRaiseWhatTheyCannotWalk) {
       }
     }
   };
-  const std::string kFive = "CallerFailure 5", kNine = "CallerFailure 9";
+  const std::string kFive = "CallerFailure 5", kNine = "CallerFailure 9", kThirteen = "RuntimeFailure 13",
+                    kNinetyFour = "RuntimeFailure 94";
   expect_raised({{"no elements", list({}), kFive, kFive, kFive, ""},
                  {"no bounds", shapeless(), kNine, kNine, kNine, kNine},
-                 {"two dimensions", square({u"a"}), kNine, kNine, kNine, kNine}},
+                 {"two dimensions", square({u"a"}), kNine, kNine, kNine, kNine},
+                 {"no array", u"a", kThirteen, kThirteen, kThirteen, kThirteen},
+                 {"Null", list({u"a", Null{}}), kNinetyFour, kNinetyFour, kNinetyFour, kNinetyFour},
+                 {"an object", list({object()}), kThirteen, kThirteen, kThirteen, kThirteen},
+                 {"Empty", list({Empty{}}), "", "", "", ""}},
                 [](const QVRcfp& cfp, const Value& elements) { return cfp.sqlConcatenar(elements); });
   for (int box = 0; box < 5; ++box) thread.boxes.answer(BoxAnswer::Ok);
   expect_raised({{"no elements", list({}), "", kFive, kFive, ""},

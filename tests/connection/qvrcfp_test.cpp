@@ -6,9 +6,15 @@
 #include "connection/sample_parameters.h"
 #include "session/thread_state.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
+
+// What a member of an object without parameters traces.
+Text without_parameters(TextView member) {
+  return join({u"QVRcfp.", member, u": 91 No connection parameters were read or assigned"});
+}
 
 class QVRcfpTest : public ::testing::Test {
  protected:
@@ -24,12 +30,15 @@ TEST_F(QVRcfpTest, BeginsCleared) {
   EXPECT_EQ(cfp.CadenaADO(u"id", false), u"");
   EXPECT_EQ(cfp.CadenaADOUsuario(u"user", u"password"), u"");
   EXPECT_TRUE(thread_state().idioma.Creado());
+  const Text administrator = without_parameters(u"CadenaADO"), user = without_parameters(u"CadenaADOUsuario");
+  EXPECT_EQ(traced(), (Traces{administrator, administrator, user}));
 }
 
 TEST_F(QVRcfpTest, GuardarOfAFreshObjectWritesNothing) {
   EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"name"));
   EXPECT_EQ(thread.files.created, 0);
   expect_cleared(cfp);
+  EXPECT_EQ(traced(), Traces{without_parameters(u"Guardar")});
 }
 
 TEST_F(QVRcfpTest, AsignarTakesTheNineValuesOver) {
@@ -82,6 +91,8 @@ TEST_F(QVRcfpTest, AFailedCrearClearsWhateverWasThere) {
   EXPECT_EQ(cfp.CadenaADO(u"id", true), u"");
   EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"other"));
   EXPECT_FALSE(thread.files.memory.contains(u"F\\other.cfp"));
+  EXPECT_EQ(traced(),
+            (Traces{trace_of(u"QVRcfp.Crear", 75), without_parameters(u"CadenaADO"), without_parameters(u"Guardar")}));
 }
 
 TEST_F(QVRcfpTest, IsUsableAgainAfterAFailure) {
@@ -89,6 +100,7 @@ TEST_F(QVRcfpTest, IsUsableAgainAfterAFailure) {
   EXPECT_TRUE(cfp.Asignar(u"id", sample_parameters()));
   EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"name"));
   EXPECT_TRUE(cfp.Crear(u"id", u"F", u"name"));
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 75 Path/File access error"});
 }
 
 TEST_F(QVRcfpTest, CrearCanBeGivenItsOwnName) {
@@ -123,6 +135,8 @@ TEST_F(QVRcfpTest, AProtectionThatCannotBeMadeIsAFalseResult) {
   thread.files.memory[u"F\\name.cfp"] = "a\r\n";
   EXPECT_FALSE(cfp.Crear(u"id", u"F", u"name"));
   expect_cleared(cfp);
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Guardar: 429 ActiveX component can't create object",
+                              u"QVRcfp.Crear: 429 ActiveX component can't create object"}));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "support/describe.h"
 #include "support/rows.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -13,6 +14,11 @@ namespace {
 using tests::PrintTo;
 class TypedTextTest : public ::testing::Test {
  protected:
+  // A number of 0 is no failure.
+  static void expect_traced(TextView member, std::int32_t number) {
+    EXPECT_EQ(traced(), number == 0 ? Traces() : Traces{trace_of(member, number)});
+  }
+
   TestThread thread;
   QVRcfp cfp;  // the converters do not need parameters
 };
@@ -21,6 +27,7 @@ struct TextRow {
   const char* name;
   TextView code, text;
   const char* value;
+  std::int32_t traced = 0;
 };
 
 constexpr TextRow kTextRows[] = {
@@ -36,12 +43,12 @@ constexpr TextRow kTextRows[] = {
     {"number behind blanks", u"N", u"  7", "Double 7"},
     {"number without a zero before the point", u"N", u".5", "Double 0.5"},
     {"number with an exponent", u"N", u"1E3", "Double 1000"},
-    {"number too great", u"N", u"1E+400", "Empty"},
+    {"number too great", u"N", u"1E+400", "Empty", 6},
     {"date", u"F", u"31/12/1999", "Date 36525"},
     {"date and time, code in lower case", u"f", u"01/01/2000 12:00:00", "Date 36526.5"},
-    {"no date", u"F", u"no date", "Empty"},
-    {"empty date", u"F", u"", "Empty"},
-    {"no such day", u"F", u"31/02/2000", "Empty"},
+    {"no date", u"F", u"no date", "Empty", 13},
+    {"empty date", u"F", u"", "Empty", 13},
+    {"no such day", u"F", u"31/02/2000", "Empty", 13},
     {"false", u"L", u"0", "Boolean False"},
     {"true, code in lower case", u"l", u"1", "Boolean True"},
     {"true below zero", u"L", u"-1", "Boolean True"},
@@ -59,6 +66,7 @@ using TextoAValor = Rows<TypedTextTest, TextRow>;
 
 TEST_P(TextoAValor, ReadsEachCode) {
   EXPECT_EQ(describe(cfp.TextoAValor(GetParam().code, GetParam().text)), GetParam().value);
+  expect_traced(u"QVRcfp.TextoAValor", GetParam().traced);
 }
 
 INSTANTIATE_TEST_SUITE_P(, TextoAValor, ::testing::ValuesIn(kTextRows), row_name);
@@ -68,6 +76,7 @@ struct ValueRow {
   TextView code;
   Value value;
   TextView text;
+  std::int32_t traced = 0;
 };
 
 const ValueRow kValueRows[] = {
@@ -76,8 +85,8 @@ const ValueRow kValueRows[] = {
     {"truth as a text", u"T", true, u"True"},
     {"date as a text", u"T", Date{36526}, u"01/01/2000"},
     {"Empty as a text", u"T", Empty{}, u""},
-    {"Null as a text", u"T", Null{}, u""},
-    {"array as a text", u"T", Array{}, u""},
+    {"Null as a text", u"T", Null{}, u"", 94},
+    {"array as a text", u"T", Array{}, u"", 13},
     {"number", u"N", 2.5, u"2.5"},
     {"number, code in lower case", u"n", 2.5, u"2.5"},
     {"quarter", u"N", 0.25, u"0.25"},
@@ -92,20 +101,20 @@ const ValueRow kValueRows[] = {
     {"Empty as a number", u"N", Empty{}, u"0"},
     {"date as a number", u"N", Date{36526.5}, u"36526.5"},
     {"text of a number", u"N", u"12.5", u"12.5"},
-    {"text of letters as a number", u"N", u"abc", u""},
-    {"empty text as a number", u"N", u"", u""},
-    {"Null as a number", u"N", Null{}, u""},
-    {"missing as a number", u"N", Missing{}, u""},
-    {"infinite number", u"N", std::numeric_limits<double>::infinity(), u""},
+    {"text of letters as a number", u"N", u"abc", u"", 13},
+    {"empty text as a number", u"N", u"", u"", 13},
+    {"Null as a number", u"N", Null{}, u"", 94},
+    {"missing as a number", u"N", Missing{}, u"", 13},
+    {"infinite number", u"N", std::numeric_limits<double>::infinity(), u"", 6},
     {"date", u"F", Date{36526}, u"2000/01/01"},
     {"date and time, code in lower case", u"f", Date{36526.75}, u"2000/01/01"},
     {"first day", u"F", Date{-657434}, u"0100/01/01"},
     {"text of a date", u"F", u"31/12/1999", u"1999/12/31"},
     {"number as a date", u"F", std::int32_t{36526}, u"2000/01/01"},
     {"Empty as a date", u"F", Empty{}, u"1899/12/30"},
-    {"text that is no date", u"F", u"no date", u""},
-    {"Null as a date", u"F", Null{}, u""},
-    {"number that is no date", u"F", 1e10, u""},
+    {"text that is no date", u"F", u"no date", u"", 13},
+    {"Null as a date", u"F", Null{}, u"", 94},
+    {"number that is no date", u"F", 1e10, u"", 6},
     {"true", u"L", true, u"1"},
     {"false", u"L", false, u"0"},
     {"number as a truth, code in lower case", u"l", std::int32_t{5}, u"1"},
@@ -113,8 +122,8 @@ const ValueRow kValueRows[] = {
     {"text of a truth", u"L", u"True", u"1"},
     {"text of zero as a truth", u"L", u"0", u"0"},
     {"Empty as a truth", u"L", Empty{}, u"0"},
-    {"text of letters as a truth", u"L", u"abc", u""},
-    {"Null as a truth", u"L", Null{}, u""},
+    {"text of letters as a truth", u"L", u"abc", u"", 13},
+    {"Null as a truth", u"L", Null{}, u"", 94},
     {"unknown code", u"X", u"abc", u""},
     {"no code", u"", u"abc", u""},
     {"code twice", u"NN", 1, u""},
@@ -124,6 +133,7 @@ using ValorATexto = Rows<TypedTextTest, ValueRow>;
 
 TEST_P(ValorATexto, WritesEachCode) {
   EXPECT_EQ(cfp.ValorATexto(GetParam().code, GetParam().value), Text(GetParam().text));
+  expect_traced(u"QVRcfp.ValorATexto", GetParam().traced);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ValorATexto, ::testing::ValuesIn(kValueRows), row_name);

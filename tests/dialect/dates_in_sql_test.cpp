@@ -57,6 +57,9 @@ constexpr DateRow kDates[] = {
     {"last second of the first day", kFirstDay - 86399 * kSecond, "0100-01-01", "23:59:59", Narrowest::Both},
     {"last day", kLastDay, "9999-12-31", "00:00:00", Narrowest::Date},
     {"last second", kLastDay + 86399 * kSecond, "9999-12-31", "23:59:59", Narrowest::Both},
+    // The calendar ends here, so that these are not rounded up.
+    {"23:59:59.6 of the last day", kLastDay + kNearlyMidnight, "9999-12-31", "23:59:59", Narrowest::Both},
+    {"23:59:59.997 of the last day", kLastDay + 86399.997 * kSecond, "9999-12-31", "23:59:59", Narrowest::Both},
 };
 
 Text wide(const std::string& narrow) { return Text(narrow.begin(), narrow.end()); }
@@ -137,7 +140,6 @@ const NoDateInSqlRow kNoDateInSqlRows[] = {
     {"array without bounds", shapeless()},
     {"year 99", Date{kFirstDay - 1}},
     {"year 10000", Date{kLastDay + 1}},
-    {"rounded up to the year 10000", Date{kLastDay + kNearlyMidnight}},
     {"far away", Date{1e300}},
     {"infinite", Date{std::numeric_limits<double>::infinity()}},
     {"no number", Date{std::numeric_limits<double>::quiet_NaN()}},

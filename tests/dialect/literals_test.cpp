@@ -5,6 +5,7 @@
 
 #include "dialect/dialect_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -47,6 +48,7 @@ struct ExpSQLRow {
   const char* name;
   Value value;
   EachEngine expected;
+  TextView unexpected = {};  // the type that the trace names
 };
 const ExpSQLRow kExpSQLRows[] = {
     {"text", u"Ana", all_engines(u"'Ana'")},
@@ -65,13 +67,13 @@ const ExpSQLRow kExpSQLRows[] = {
     {"Empty", Empty{}, kNull},
     {"Null", Null{}, kNull},
     {"missing", Missing{}, kNull},
-    {"error", ErrorValue{13}, kNull},
-    {"object", object(), kNull},
-    {"Nothing", ObjectRef(), kNull},
-    {"array", list({1, u"a"}), kNull},
-    {"array without elements", list({}), kNull},
-    {"array of two dimensions", square({1, 2, 3, 4}), kNull},
-    {"array without bounds", shapeless(), kNull},
+    {"error", ErrorValue{13}, kNull, u"Error"},
+    {"object", object(), kNull, u"Object"},
+    {"Nothing", ObjectRef(), kNull, u"Object"},
+    {"array", list({1, u"a"}), kNull, u"Variant()"},
+    {"array without elements", list({}), kNull, u"Variant()"},
+    {"array of two dimensions", square({1, 2, 3, 4}), kNull, u"Variant()"},
+    {"array without bounds", shapeless(), kNull, u"Variant()"},
 };
 
 using ExpSQL = Rows<DialectTest, ExpSQLRow>;
@@ -79,6 +81,8 @@ using ExpSQL = Rows<DialectTest, ExpSQLRow>;
 TEST_P(ExpSQL, WritesValuesThatAreNoNumbersAndNoDates) {
   const ExpSQLRow& row = GetParam();
   expect_each(row.expected, [&](Engine engine) { return dialect::ExpSQL(engine, row.value); });
+  const Text line = join({u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: ", row.unexpected});
+  EXPECT_EQ(traced(), row.unexpected.empty() ? Traces() : Traces(4, line));
 }
 
 INSTANTIATE_TEST_SUITE_P(, ExpSQL, ::testing::ValuesIn(kExpSQLRows), row_name);
@@ -145,22 +149,23 @@ struct NumeroDesdeTextoRow {
   TextView text;
   char16_t decimal;
   float number;
+  std::int32_t traced = 0;  // the number of the failure
 };
 constexpr NumeroDesdeTextoRow kNumeroDesdeTextoRows[] = {
     {"a point", u"2.5", u'.', 2.5f},
-    {"a comma where it is none", u"2,5", u'.', 0},
+    {"a comma where it is none", u"2,5", u'.', 0, 13},
     {"a comma", u"2,5", u',', 2.5f},
-    {"a point where it is none", u"2.5", u',', 0},
+    {"a point where it is none", u"2.5", u',', 0, 13},
     {"below zero", u"-0,1", u',', -0.1f},
-    {"empty", u"", u'.', 0},
-    {"letters", u"abc", u'.', 0},
-    {"letters behind", u"5x", u'.', 0},
+    {"empty", u"", u'.', 0, 13},
+    {"letters", u"abc", u'.', 0, 13},
+    {"letters behind", u"5x", u'.', 0, 13},
     {"more digits than a Single has", u"16777217", u'.', 16777216.0f},
     {"a tenth", u"0.1", u'.', 0.1f},
     {"greatest", u"3.4028235E+38", u'.', std::numeric_limits<float>::max()},
     {"too great", u"1E+39", u'.', 0},
     {"too far below zero", u"-1E+39", u'.', 0},
-    {"too great for a Double", u"1E+400", u'.', 0},
+    {"too great for a Double", u"1E+400", u'.', 0, 6},
     {"too small", u"1E-50", u'.', 0},
 };
 
@@ -170,6 +175,7 @@ TEST_P(NumeroDesdeTexto, ReadsAsTheLocaleDoes) {
   const NumeroDesdeTextoRow& row = GetParam();
   thread.locale.decimal = row.decimal;
   EXPECT_EQ(dialect::NumeroDesdeTexto(row.text), row.number);
+  EXPECT_EQ(traced(), row.traced == 0 ? Traces() : Traces{trace_of(u"NumeroDesdeTexto", row.traced)});
 }
 
 INSTANTIATE_TEST_SUITE_P(, NumeroDesdeTexto, ::testing::ValuesIn(kNumeroDesdeTextoRows), row_name);

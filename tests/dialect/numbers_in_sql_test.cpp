@@ -9,6 +9,7 @@
 #include "dialect/dialect_fixture.h"
 #include "dialect/literals.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -20,6 +21,7 @@ struct NumberRow {
   const char* name;
   Value value;
   Text literal;
+  Traces traced = {};
 };
 
 template <class Float>
@@ -73,7 +75,10 @@ std::vector<NumberRow> rows() {
       {"Double, no number", Limits<double>::quiet_NaN(), u"Null"},
       {"Single, infinite", Limits<float>::infinity(), u"Null"},
       {"Single, no number", Limits<float>::quiet_NaN(), u"Null"},
-      {"64 bits", std::int64_t{5}, u"Null"},
+      {"64 bits", std::int64_t{5}, u"Null",
+       Traces(4, u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: LongLong")},
+      {"64 bits, unsigned", std::uint64_t{5}, u"Null",
+       Traces(4, u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: ULongLong")},
   };
 }
 
@@ -82,6 +87,7 @@ class EveryNumberInSql : public Rows<DialectTest, NumberRow> {
   void expect_written() {
     expect_each(all_engines(GetParam().literal),
                 [](Engine engine) { return dialect::ExpSQL(engine, GetParam().value); });
+    EXPECT_EQ(traced(), GetParam().traced);
   }
 };
 

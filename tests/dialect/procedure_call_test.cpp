@@ -3,6 +3,7 @@
 #include "dialect/dialect_fixture.h"
 #include "support/describe.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -56,6 +57,7 @@ TEST_F(ProcedureCallTest, OnlySqlServerIsCalled) {
     Value nothing;
     EXPECT_FALSE(dialect::EjecutarProcSQL7(engine, nullptr, u"", nothing));
   }
+  EXPECT_EQ(traced(), Traces(10, u"QVRcfp.EjecutarProcSQL7: 5 The engine is not SQL Server"));
 }
 
 // Each element goes to the parameter after its own index, so that a zero-based list begins with the first.
@@ -119,6 +121,7 @@ TEST_P(ReturnValue, GivesSomethingBackWhenItIsZero) {
   log.push_back("Command released");
   EXPECT_EQ(thread.log.take(), log);
   EXPECT_EQ(elements(parameters), Lines{row.succeeds ? "String out" : "String in"});
+  EXPECT_EQ(traced(), row.succeeds ? Traces() : Traces{u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0"});
 }
 
 INSTANTIATE_TEST_SUITE_P(, ReturnValue, ::testing::ValuesIn(kReturnValueRows), row_name);

@@ -2,6 +2,7 @@
 
 #include "dialect/dialect_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -22,6 +23,7 @@ struct ListRow {
   const char* name;
   Value values;
   EachEngine expected;
+  std::vector<TextView> unexpected = {};  // types that the trace names
 };
 
 const ListRow kSqlINSERTRows[] = {
@@ -35,8 +37,10 @@ const ListRow kSqlINSERTRows[] = {
       u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', 1, { d '2011-01-05'}, Null, -2.5, GetDate())",
       u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', 1,  TO_DATE('2011-01-05','YYYY-MM-DD') , Null, -2.5, SYSDATE)",
       undefined(u"INSERT INTO Clientes VALUES ( 5, 'O''Neil', , , Null, -2.5, )", 3)}},
-    {"what has no literal", list({Empty{}, Missing{}, object(), ErrorValue{1}, list({1}), square({1, 2})}),
-     all_engines(u"INSERT INTO Clientes VALUES (Null, Null, Null, Null, Null, Null)")},
+    {"what has no literal",
+     list({Empty{}, Missing{}, object(), ErrorValue{1}, list({1}), square({1, 2})}),
+     all_engines(u"INSERT INTO Clientes VALUES (Null, Null, Null, Null, Null, Null)"),
+     {u"Object", u"Error", u"Variant()", u"Variant()"}},
     {"a value that ends like the separator", list({u", "}), all_engines(u"INSERT INTO Clientes VALUES (', ')")},
     // The end of the beginning goes in place of the separator that is not there.
     {"no values", list({}), all_engines(u"INSERT INTO Clientes VALUES)")},
@@ -47,6 +51,13 @@ using SqlINSERT = Rows<DialectTest, ListRow>;
 TEST_P(SqlINSERT, WritesEveryValue) {
   const ListRow& row = GetParam();
   expect_each(row.expected, [&](Engine engine) { return dialect::SqlINSERT(engine, u"Clientes", row.values); });
+  Traces unexpected;
+  for (int engine = 0; engine < 4; ++engine) {
+    for (const TextView type : row.unexpected) {
+      unexpected.push_back(join({u"QVRcfp.ExpSQL: 13 Tipo de campo inesperado en ExpSQL: ", type}));
+    }
+  }
+  EXPECT_EQ(traced(), unexpected);
 }
 
 INSTANTIATE_TEST_SUITE_P(, SqlINSERT, ::testing::ValuesIn(kSqlINSERTRows), row_name);
@@ -128,10 +139,6 @@ const PairRow kSqlInsert2Rows[] = {
       u"SYSDATE)",
       undefined(u"INSERT INTO Clientes(a,b,c,d,e,f,g) VALUES( 5,'O''Neil',,,Null,-2.5,)", 3)}},
     {"no fields", list({}), list({}), all_engines(u"INSERT INTO Clientes) VALUES)")},
-    {"fields are no array", u"Id", ana(), all_engines(u"")},
-    {"values are no array", names(), 5, all_engines(u"")},
-    {"neither is an array", Empty{}, Null{}, all_engines(u"")},
-    {"missing and an object", Missing{}, object(), all_engines(u"")},
 };
 
 using SqlInsert2 = Rows<DialectTest, PairRow>;
@@ -163,8 +170,6 @@ const SqlUpdate2Row kSqlUpdate2Rows[] = {
        undefined(u"UPDATE T SET a= 5,b='O''Neil',c=,d=,e=Null,f=-2.5,g= WHERE c", 3)}},
      u"c"},
     {{"no fields", list({}), list({}), all_engines(u"UPDATE T SET WHERE c")}, u"c"},
-    {{"fields are no array", u"Id", ana(), all_engines(u"")}, u"c"},
-    {{"values are no array", names(), Null{}, all_engines(u"")}, u"c"},
 };
 
 using SqlUpdate2 = Rows<DialectTest, SqlUpdate2Row>;
@@ -220,6 +225,28 @@ TEST_P(UnfittingLists, FailInAllThatHaveFields) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, UnfittingLists, ::testing::ValuesIn(kUnfittingListsRows), row_name);
+
+struct NoListsRow {
+  const char* name;
+  Value fields, values;
+};
+const NoListsRow kNoLists[] = {
+    {"fields are no array", u"Id", ana()},           {"values are no array", names(), 5},
+    {"neither is an array", Empty{}, Null{}},        {"missing and an object", Missing{}, object()},
+    {"no fields, values are no array", list({}), 5},
+};
+
+using NoLists = Rows<DialectTest, NoListsRow>;
+
+TEST_P(NoLists, FailInTheMembersOfTwoLists) {
+  const NoListsRow& row = GetParam();
+  EXPECT_EQ(thrown_by([&] { return dialect::SqlInsert2(Engine::Jet, u"T", row.fields, row.values); }),
+            "RuntimeFailure 13");
+  EXPECT_EQ(thrown_by([&] { return dialect::SqlUpdate2(Engine::Jet, u"T", row.fields, row.values, u"c"); }),
+            "RuntimeFailure 13");
+}
+
+INSTANTIATE_TEST_SUITE_P(, NoLists, ::testing::ValuesIn(kNoLists), row_name);
 
 }  // namespace
 }  // namespace qvr::tests

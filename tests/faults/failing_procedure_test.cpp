@@ -7,6 +7,7 @@
 #include "faults/failing_allocations.h"
 #include "faults/run_log.h"
 #include "support/describe.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -45,6 +46,7 @@ int calls_of_one_that_succeeds() {
 }
 
 TEST(FailingProcedure, IsReportedOnceAndChangesNothing) {
+  expect_any_traces();
   const int calls = calls_of_one_that_succeeds();
   EXPECT_EQ(calls, kBefore + 11);
   for (int nth = kBefore + 1; nth <= calls; ++nth) {
@@ -107,6 +109,9 @@ TEST(FailingProcedure, TakesOnlyZeroForSuccess) {
     EXPECT_LE(lines_that_begin(log, "Report"), output.succeeds ? 0u : 1u);
     EXPECT_EQ(lines_that_begin(log, "Command released"), 1u);
   }
+  Traces expected(7, trace_of(u"QVRcfp.EjecutarProcSQL7", 13));  // what is no number, then other numbers and Null
+  expected.insert(expected.end(), 5, u"QVRcfp.EjecutarProcSQL7: 5 The procedure did not return 0");
+  EXPECT_EQ(traced(), expected);
 }
 
 TEST(FailingProcedure, PassesOnWhateverAParameterHolds) {
@@ -120,6 +125,7 @@ TEST(FailingProcedure, PassesOnWhateverAParameterHolds) {
 }
 
 TEST(FailingParameter, AppendsNothingHalfMade) {
+  expect_any_traces();
   const dialect::ParameterRequest request{u"NVARCHAR", u"@p", u"Ana", 50, 2};
   for (int nth = 1; nth <= 7; ++nth) {
     for (const NamedFailure& failure : ado_failures()) {

@@ -6,6 +6,7 @@
 #include "faults/run_log.h"
 #include "script/script_fixture.h"
 #include "services/builtin_error_report.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -82,6 +83,7 @@ void try_run(Way way, int nth, const NamedFailure& failure, Broken broken, const
 }
 
 TEST(FailingRun, EndsOnceAndCleansUp) {
+  expect_any_traces();
   // What a process makes once is made by the first run; the others must leave nothing.
   try_run(kWays[0], 1, ado_failures().front(), Broken::No, ado_errors().front());
   for (const Way way : kWays) {
@@ -102,6 +104,7 @@ TEST(FailingRun, EndsOnceAndCleansUp) {
 
 // Every failure of ADO is shown in one box.
 TEST(FailingRun, IsShownWhateverAdoTells) {
+  expect_any_traces();
   for (const NamedFailure& failure : ado_failures()) {
     for (const NamedErrors& errors : ado_errors()) {
       SCOPED_TRACE(::testing::Message() << failure.name << ", errors " << errors.name);
@@ -120,6 +123,7 @@ TEST(FailingRun, IsShownWhateverAdoTells) {
 
 // A memory that fails while the failure of ADO is reported takes away the report at most.
 TEST(FailingRun, NeedsNoMemoryToEnd) {
+  expect_any_traces();
   for (const Shortage shortage : {Shortage::Once, Shortage::Lasting}) {
     for (int nth = 1; nth <= OneRun::calls(kWays[0]); ++nth) {
       bool failed = true;

@@ -53,8 +53,10 @@ template <class Call>
 Answer answer_of(const Call& call) {
   try {
     return {std::nullopt, call()};
-  } catch (const CallerFailure& failure) {
+  } catch (const RuntimeFailure& failure) {
     return {failure.detail().number, {}};
+  } catch (const std::bad_alloc&) {
+    return {};  // as the automation side has it
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include "faults/failing_allocations.h"
 #include "faults/fault_case.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -56,6 +57,8 @@ void expect_each_in(const Lines& lines, const Lines& some, const Lines& others) 
 
 class OutOfMemory : public ::testing::TestWithParam<FaultCase> {
  protected:
+  OutOfMemory() { expect_any_traces(); }
+
   // Whether the n-th allocation was there to fail.
   bool try_with_failure(std::size_t nth, Shortage shortage) {
     const std::size_t live = live_allocations();

@@ -139,12 +139,12 @@ FaultCases file_cases() {
                              [](WrittenCfp& f) { return f.cfp.Crear(kId, f.path, kName); }),
       fault_case<Protection>("BuiltinTextProtection.Cifrar",
                              [](Protection& f) {
-                               return or_default(Text(),
+                               return or_default({}, Text(),
                                                  [&] { return f.protection.Cifrar(kId, u"a text to protect"); });
                              }),
       fault_case<Protection>("BuiltinTextProtection.Descifrar",
                              [written](Protection& f) {
-                               return or_default(Text(), [&] { return f.protection.Descifrar(kId, written); });
+                               return or_default({}, Text(), [&] { return f.protection.Descifrar(kId, written); });
                              }),
       on("QVRcfp.CadenaADO", [](QVRcfp& f) { return f.CadenaADO(kId, true); }),
       on("QVRcfp.CadenaADOUsuario", [](QVRcfp& f) { return f.CadenaADOUsuario(u"u", u"p"); }),

@@ -6,6 +6,7 @@
 #include "properties/qvrprp.h"
 #include "support/describe.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -132,6 +133,7 @@ class QVRprpModelTest : public testing::Test {
 };
 
 TEST_F(QVRprpModelTest, EveryStepIsAsTheModelHasIt) {
+  expect_any_traces();
   std::size_t longest = 0;
   for (int round = 0; round < 20000; ++round) {
     step();

@@ -8,6 +8,7 @@
 #include "support/describe.h"
 #include "support/rows.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -91,6 +92,7 @@ TEST_F(QVRprpTest, ABoxThatCannotBeShownIsNoFailureOfTheCaller) {
   thread.boxes.fail_next();
   list.CreaPropiedad(u"X", u"Ancho", 1);
   EXPECT_EQ(list.NumPropiedades(), 0);
+  EXPECT_EQ(traced(), Traces{u"QVRprp.CreaPropiedad: 5 no box today"});
 }
 
 TEST_F(QVRprpTest, NamesAreFoundInAnyCase) {
@@ -118,13 +120,14 @@ struct Position {
   const char* name;
   Value which;
   const char* value;
+  std::int32_t traced = 0;  // the number of the failure
 };
 
 const Position kPositions[] = {
     {"Byte", std::uint8_t{1}, "String second"},
     {"Integer", std::int16_t{2}, "String third"},
     {"64 bits", std::int64_t{3}, "String fourth"},
-    {"64 bits beyond 32", std::int64_t{4294967296}, "Empty"},
+    {"64 bits beyond 32", std::int64_t{4294967296}, "Empty", 6},
     {"Single", 1.0f, "String second"},
     {"half to the even position", 0.5, "String first"},
     {"half to the even position above", 1.5, "String third"},
@@ -135,9 +138,9 @@ const Position kPositions[] = {
     {"Currency", Currency{19999}, "String third"},
     {"Decimal", Decimal{0, 0, 25, 1, false}, "String third"},
     {"negative Decimal", Decimal{0, 0, 1, 0, true}, "Empty"},
-    {"too large", 1e300, "Empty"},
-    {"infinite", std::numeric_limits<double>::infinity(), "Empty"},
-    {"no number", std::nan(""), "Empty"},
+    {"too large", 1e300, "Empty", 6},
+    {"infinite", std::numeric_limits<double>::infinity(), "Empty", 6},
+    {"no number", std::nan(""), "Empty", 6},
     {"false is position 0", false, "String first"},
     {"true is position -1", true, "Empty"},
     {"Empty is position 0", Empty{}, "String first"},
@@ -149,12 +152,12 @@ const Position kPositions[] = {
     {"text with a plus sign", u"+3", "String fourth"},
     {"text below zero", u"-1", "Empty"},
     {"text beyond the end", u"4", "Empty"},
-    {"text of a huge number", u"99999999999", "Empty"},
+    {"text of a huge number", u"99999999999", "Empty", 6},
     {"text that only begins as a number", u"1x", "Empty"},
-    {"Null", Null{}, "Empty"},
-    {"missing", Missing{}, "Empty"},
-    {"Nothing", ObjectRef(), "Empty"},
-    {"array", Array{{Value(1)}, 0, 1}, "Empty"},
+    {"Null", Null{}, "Empty", 94},
+    {"missing", Missing{}, "Empty", 13},
+    {"Nothing", ObjectRef(), "Empty", 13},
+    {"array", Array{{Value(1)}, 0, 1}, "Empty", 13},
     {"error value", ErrorValue{1}, "Empty"},
     {"date is no number", Date{1}, "Empty"},
 };
@@ -171,6 +174,8 @@ TEST_P(QVRprpPosition, IsThatOfANumberOrATextOfOne) {
     const std::string before = item(i);
     EXPECT_EQ(describe(other.Item(i)), before == GetParam().value ? "String changed" : before) << i;
   }
+  const std::int32_t number = GetParam().traced;
+  EXPECT_EQ(traced(), number == 0 ? Traces() : Traces(2, trace_of(u"QVRprp.Item", number)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, QVRprpPosition, testing::ValuesIn(kPositions), row_name);

@@ -1,6 +1,7 @@
 // How `Crear` puts a statement together, and what it does with what it cannot use.
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -59,6 +60,7 @@ TEST_F(Csql20CreateTest, AColumnWithoutADescriptorHasNoType) {
   EXPECT_EQ(query.NumColumna(u"5"), 3);
   EXPECT_EQ(query.ExpresionOriginal(u"nombre"), u"Nombre");
   EXPECT_EQ(showing({failed(u"TipoCampo(nombre)", 5)}, [&] { return query.TipoCampo(u"nombre"); }), u"");
+  EXPECT_EQ(traced(), Traces{u"cSQL20.TipoCampo: 5 Invalid procedure call or argument"});
 }
 
 TEST_F(Csql20CreateTest, DistinctAndTheLimitStandBeforeTheColumns) {
@@ -123,6 +125,7 @@ TEST_F(Csql20CreateTest, MoreGroupsThanColumnsFail) {
   EXPECT_EQ(query.NumColumna(u"nombre"), 1) << "the columns are known, whatever became of the rest";
   EXPECT_EQ(query.TipoCampo(u"nombre"), u"");
   EXPECT_EQ(query.ExpresionOriginal(u"nombre"), u"");
+  EXPECT_EQ(traced(), Traces{u"cSQL20.Crear: 9 Subscript out of range"});
 }
 
 // Without a box: nothing failed, there is only nothing to make a query from.
@@ -139,6 +142,7 @@ TEST_F(Csql20CreateTest, RefusesColumnsThatAreNoArray) {
     EXPECT_EQ(query.Idioma(), 3);
     EXPECT_EQ(query.TextoDefinicion(), u"");
   }
+  EXPECT_EQ(traced(), Traces(6, u"cSQL20.Crear: 13 ColumnasSELECT is not an array"));
 }
 
 struct UnreadableColumnsRow {
@@ -170,6 +174,7 @@ TEST_P(UnreadableColumns, AreTold) {
     EXPECT_FALSE(showing({failed(u"ConstruirSelect", row.number)}, create));
     EXPECT_FALSE(query.Creado());
   }
+  EXPECT_EQ(traced(), Traces(4, trace_of(u"cSQL20.build_select", row.number)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, UnreadableColumns, ::testing::ValuesIn(kUnreadableColumnsRows), row_name);
@@ -211,6 +216,7 @@ TEST_F(Csql20CreateTest, BeginsAnewEachTime) {
   EXPECT_FALSE(query.Crear(request(Engine::Jet, u"Nombre")));
   EXPECT_FALSE(query.Creado());
   EXPECT_EQ(query.SQL(), u"     ");
+  EXPECT_EQ(traced(), Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array"});
 }
 
 TEST_F(Csql20CreateTest, TellsInTheLanguageOfTheThread) {
@@ -230,6 +236,7 @@ TEST_F(Csql20CreateTest, TellsInTheLanguageOfTheThread) {
     wanted.Idioma = 2;  // of the object: the boxes are the thread's
     EXPECT_FALSE(showing({Text(row.box)}, [&] { return query.Crear(wanted); }));
   }
+  EXPECT_EQ(traced(), Traces(3, u"cSQL20.build_select: 9 Subscript out of range"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "query/definition_text.h"
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -30,6 +31,7 @@ class Csql20DamageTest : public QueryTest {
     EXPECT_EQ(query.MotorBD(), Engine::None);
     EXPECT_EQ(query.NumColumna(u"Nombre"), 0);
     EXPECT_EQ(query.TextoDefinicion(), u"");
+    EXPECT_EQ(traced(), Traces{trace_of(u"cSQL20.CrearDesdeTextoDefinicion", number)});
   }
 };
 
@@ -46,6 +48,18 @@ TEST_F(Csql20DamageTest, ReadsATextOfTheFirstVersion) {
   EXPECT_EQ(query.TipoCampo(u"alta"), u"F");
   EXPECT_EQ(query.TOP(), 5);
   EXPECT_EQ(query.TextoDefinicion(), kKept);
+}
+
+// A column of fixed width fills texts up with blanks, and a file ends its lines.
+constexpr TextView kWhiteEnds[] = {u"", u" ", u"\t", u"\r\n", u"\n", u" \t \r\n \r\n"};
+
+TEST_F(Csql20DamageTest, ReadsATextWithWhiteSpaceBehindIt) {
+  for (const TextView white : kWhiteEnds) {
+    SCOPED_TRACE(white.size());
+    cSQL20 query;
+    EXPECT_TRUE(query.CrearDesdeTextoDefinicion(join({kKept, white})));
+    EXPECT_EQ(query.TextoDefinicion(), kKept);
+  }
 }
 
 TEST_F(Csql20DamageTest, RefusesEveryTruncation) {
@@ -78,9 +92,12 @@ const OtherTextRow kOtherTexts[] = {
     {"a blank", u" "},
     {"a statement", u"SELECT a FROM b"},
     {"a blank before it", u" " + Text(kKept)},
-    {"a blank behind it", Text(kKept) + u" "},
     {"twice", Text(kKept) + Text(kKept)},
-    {"a line break behind it", Text(kKept) + u"\r\n"},
+    {"a letter behind it", Text(kKept) + u"x"},
+    {"a letter behind a blank behind it", Text(kKept) + u" x"},
+    {"a no-break space behind it", Text(kKept) + u"\u00a0"},
+    {"NUL behind it", Text(kKept) + Text(1, u'\0')},
+    {"a blank within its end mark", Text(kKept.substr(0, kKept.size() - 2)) + u" *>"},
     {"the first character of a mark", Text(1000, u'<')},
     {"NUL", Text(5, u'\0')},
 };
@@ -178,7 +195,6 @@ struct DamagedCriterionRow {
 constexpr TextView kMark = u"<*cSQL_CRI*>";
 constexpr DamagedCriterionRow kDamagedCriteria[] = {
     {"a letter", [](const Text&) { return Text(u"x"); }},
-    {"a blank", [](const Text&) { return Text(u" "); }},
     {"two pieces", [](const Text&) { return Text(kMark); }},
     {"three pieces",
      [](const Text&) {
@@ -186,9 +202,16 @@ constexpr DamagedCriterionRow kDamagedCriteria[] = {
      }},
     {"five pieces",
      [](const Text&) {
-       return join({kMark, kMark, kMark, kMark});
+       return join({kMark, kMark, kMark, kMark, u"x"});
      }},
-    {"a piece too many", [](const Text& complete) { return complete + Text(kMark); }},
+    {"six pieces",
+     [](const Text& complete) {
+       return join({complete, kMark, kMark});
+     }},
+    {"a further mark with a letter behind it",
+     [](const Text& complete) {
+       return join({complete, kMark, u" x"});
+     }},
     {"a click beside the columns",
      [](const Text&) {
        return join({kMark, kMark, u"3", kMark});
@@ -233,6 +256,7 @@ TEST_P(DamagedCriterion, ChangesNothing) {
   query.CriterioActualCompleto(GetParam().damaged(complete));
   EXPECT_EQ(query.SQL(), sql);
   EXPECT_EQ(query.CriterioActualCompleto(), complete);
+  EXPECT_EQ(traced(), Traces{trace_of(u"cSQL20.CriterioActualCompleto", 13)});
 }
 
 INSTANTIATE_TEST_SUITE_P(, DamagedCriterion, ::testing::ValuesIn(kDamagedCriteria), row_name);
@@ -242,6 +266,32 @@ TEST_F(Csql20DamageTest, ACompleteCriterionOfEmptyPiecesIsNothingAdded) {
   ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
   query.CriterioActualCompleto(join({kMark, kMark, kMark}));
   EXPECT_EQ(query.SQL(), query.SQLOriginal());
+}
+
+TEST_F(Csql20DamageTest, ACompleteCriterionMayHaveWhiteSpaceBehindIt) {
+  cSQL20 query;
+  ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
+  const Text complete = query.CriterioActualCompleto(), narrowed = query.SQL();
+  for (const TextView white : kWhiteEnds) {
+    SCOPED_TRACE(white.size());
+    for (const TextView mark : {TextView(), kMark}) {
+      query.RestauraOriginal(true, true);
+      query.CriterioActualCompleto(join({complete, mark, white}));
+      EXPECT_EQ(query.SQL(), narrowed);
+      EXPECT_EQ(query.CriterioActualCompleto(), complete);
+    }
+  }
+}
+
+TEST_F(Csql20DamageTest, ACompleteCriterionOfWhiteSpaceRestores) {
+  cSQL20 query;
+  for (const TextView white : kWhiteEnds) {
+    SCOPED_TRACE(white.size());
+    ASSERT_TRUE(query.CrearDesdeTextoDefinicion(kKept));
+    query.CriterioActualCompleto(white);
+    EXPECT_EQ(query.SQL(), query.SQLOriginal());
+    EXPECT_EQ(query.CriterioActual(), u"");
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // A query as one text, and the query that comes of it.
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -52,6 +53,7 @@ TEST_F(Csql20DefinitionTest, IsEmptyBeforeThereIsAQuery) {
   EXPECT_EQ(query.TextoDefinicion(), u"");
   EXPECT_FALSE(query.Crear(request(Engine::Jet, u"Nombre")));
   EXPECT_EQ(query.TextoDefinicion(), u"");
+  EXPECT_EQ(traced(), Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array"});
 }
 
 // Every column has its alias from the beginning, so that even the statements are the same.
@@ -131,6 +133,7 @@ TEST_F(Csql20DefinitionTest, TagAndLanguageStayWithTheirHolder) {
                        [&] { return copy.CrearDesdeTextoDefinicion(u""); }));
   EXPECT_EQ(copy.Tag(), u"dos");
   EXPECT_EQ(copy.Idioma(), 3);
+  EXPECT_EQ(traced(), Traces{u"cSQL20.CrearDesdeTextoDefinicion: 13 Type mismatch"});
 }
 
 struct HeldTextRow {
@@ -159,6 +162,8 @@ const HeldTextRow kHeldTexts[] = {
     {"noncharacters", Text{0xFFFF, 0xFFFE}},
     {"end of a statement", u"'; DROP TABLE x --"},
     {"blank", u" "},
+    {"white space", u"\t\r\n"},
+    {"white space at its end", u"a \r\n"},
 };
 
 using HeldText = Rows<Csql20DefinitionTest, HeldTextRow>;
@@ -189,6 +194,23 @@ TEST_P(HeldText, IsKeptInEveryPart) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, HeldText, ::testing::ValuesIn(kHeldTexts), row_name);
+
+TEST_F(Csql20DefinitionTest, MarksTheEndOfACriterionThatEndsInWhiteSpace) {
+  for (const TextView white : {u" ", u"  ", u"\t", u"\r\n"}) {
+    cSQL20 query, copy;
+    ASSERT_TRUE(query.Crear(plain(Engine::Jet)));
+    ASSERT_TRUE(copy.Crear(plain(Engine::Jet)));
+    EXPECT_TRUE(query.AmpliarCondicionWhere(u"a=1", u"uno"));
+    EXPECT_EQ(query.CriterioActualCompleto(), u"(a=1)<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*>uno");
+    query.RestauraOriginal(true, true);
+    EXPECT_TRUE(query.AmpliarCondicionWhere(u"a=1", join({u"uno", white})));
+    const Text complete = join({u"(a=1)<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*>uno", white, u"<*cSQL_CRI*>"});
+    EXPECT_EQ(query.CriterioActualCompleto(), complete);
+    copy.CriterioActualCompleto(complete + u"   ");
+    EXPECT_EQ(copy.CriterioActual(), join({u"uno", white}));
+    EXPECT_EQ(copy.SQL(), query.SQL());
+  }
+}
 
 // A list of keys that a host made, and many columns.
 TEST_F(Csql20DefinitionTest, HoldsVeryLongTexts) {

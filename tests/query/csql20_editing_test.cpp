@@ -1,6 +1,7 @@
 // What is added to a query, taken away again and made its own.
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -148,6 +149,7 @@ TEST_F(Csql20EditingTest, AClickBesideTheColumnsIsTold) {
     EXPECT_FALSE(showing({failed(u"AmpliarOrden", 9)}, [&] { return query.AmpliarOrden(column); }));
     EXPECT_EQ(query.ParteOrder(true), u"1");
   }
+  EXPECT_EQ(traced(), Traces(5, trace_of(u"cSQL20.AmpliarOrden", 9)));
 }
 
 TEST_F(Csql20EditingTest, RestaurarTakesAwayWhatItIsTold) {
@@ -212,6 +214,7 @@ TEST_F(Csql20EditingTest, WorksOnAQueryThatWasNeverCreated) {
   EXPECT_EQ(fresh.SQLSinOrden(), u"  WHERE x  HAVING y");
   EXPECT_FALSE(showing({failed(u"AmpliarOrden", 9)}, [&] { return fresh.AmpliarOrden(1); }));
   EXPECT_FALSE(fresh.Creado());
+  EXPECT_EQ(traced(), Traces{u"cSQL20.AmpliarOrden: 9 Subscript out of range"});
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Columns by their name, and the properties of a query.
 #include "query/query_fixture.h"
 #include "session/idioma_simple.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -56,12 +57,15 @@ TEST_F(Csql20PropertiesTest, TellOfAColumnThatIsNotThere) {
     EXPECT_EQ(query.NumColumna(field), 0);
     const Text procedure = join({u"TipoCampo(", field, u")"});
     EXPECT_EQ(showing({failed(procedure, 5)}, [&] { return query.TipoCampo(field); }), u"");
+    EXPECT_EQ(traced(), Traces{trace_of(u"cSQL20.TipoCampo", 5)});
     EXPECT_EQ(showing({failed(u"ExpresionOriginal", 5)}, [&] { return query.ExpresionOriginal(field); }), u"");
+    EXPECT_EQ(traced(), Traces{trace_of(u"cSQL20.ExpresionOriginal", 5)});
   }
   thread.load_language(u"1");
   EXPECT_EQ(showing({u"Object: cSQL20\r\nMethod: TipoCampo(x)\r\nError 5: Invalid procedure call or argument"},
                     [&] { return query.TipoCampo(u"x"); }),
             u"");
+  EXPECT_EQ(traced(), Traces{trace_of(u"cSQL20.TipoCampo", 5)});
 }
 
 TEST_F(Csql20PropertiesTest, CountColumnsUpToTheLargestPosition) {

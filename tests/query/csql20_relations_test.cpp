@@ -2,6 +2,7 @@
 #include "query/joins.h"
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -173,6 +174,7 @@ TEST_P(TornJoins, FailInCrear) {
     EXPECT_FALSE(showing({failed(u"Crear", row.number)}, create));
     EXPECT_FALSE(query.Creado());
   }
+  EXPECT_EQ(traced(), Traces(3, trace_of(u"cSQL20.Crear", row.number)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, TornJoins, ::testing::ValuesIn(kTornJoinsRows), row_name);
@@ -182,6 +184,7 @@ TEST_F(Csql20RelationsTest, FailForOracleWhenThereAreNone) {
   cSQL20 query;
   const auto create = [&] { return query.Crear(related(Engine::Oracle, u"T1, T2", list({}))); };
   EXPECT_FALSE(showing({failed(u"Crear", 5)}, create));
+  EXPECT_EQ(traced(), Traces{u"cSQL20.Crear: 5 Invalid procedure call or argument"});
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "dialect/dialect_fixture.h"
 #include "query/search_fixture.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -105,6 +106,7 @@ TEST_F(Search, OfAnUnknownColumnIsReportedOnce) {
   answer_box();
   EXPECT_FALSE(search(u"C.Otro", u"ana")) << "a column without a type";
   expect_box(u"TipoCampo(C.Otro)", u"5: Invalid procedure call or argument");
+  EXPECT_EQ(traced(), Traces(2, u"cSQL20.TipoCampo: 5 Invalid procedure call or argument"));
 }
 
 TEST_F(Search, BeforeThereIsAQueryIsFalse) {
@@ -132,6 +134,7 @@ TEST_F(Search, OfAUnionAsksAllItsMembers) {
   EXPECT_FALSE(both.InterpretarBusqueda(u"Total", u">5", u"")) << "the second member has no such column";
   EXPECT_NE(both.SQL().find(u"(Sum(L.Imp)> 5)"), Text::npos);
   thread.log.take();
+  EXPECT_EQ(traced(), Traces{u"cSQL20.TipoCampo: 5 Invalid procedure call or argument"});
 }
 
 }  // namespace

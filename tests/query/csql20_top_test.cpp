@@ -1,6 +1,7 @@
 // The limit of rows, written after the query was created.
 #include "query/query_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -67,6 +68,7 @@ TEST_F(Csql20TopTest, DoesNothingBeforeThereIsAQuery) {
   EXPECT_FALSE(query.Crear(refused));
   query.TOP(5);
   EXPECT_EQ(query.TOP(), 7);
+  EXPECT_EQ(traced(), Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array"});
 }
 
 TEST_F(Csql20TopTest, OfOracleIsInTheCondition) {
@@ -133,6 +135,33 @@ TEST_F(Csql20TopTest, ChangesEachLimitInTheSelectList) {
   query.TOP(0);
   EXPECT_EQ(query.SQLOriginal(), join({u"SELECT  a, (Select b From c) As [b], ' TOP 55 '", kRest}));
   EXPECT_EQ(query.ExpresionOriginal(u"b"), u"(Select top 5 b From c)");
+}
+
+// Only in the library's own spelling.
+TEST_F(Csql20TopTest, RemovesNoLimitInOtherLettersFromTheSelectList) {
+  const Value columns = list({u"(Select top 5 b From c)", u"N>b", u"(Select Top 5 d From e)", u"N>d",
+                              u"(Select TOP 5 f From g)", u"N>f", u"' TOP 55 '", u"T"});
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer}) {
+    QueryRequest wanted = request(engine, columns);
+    wanted.TOP = 5;
+    cSQL20 query;
+    ASSERT_TRUE(query.Crear(wanted));
+    query.TOP(0);
+    EXPECT_EQ(query.TOP(), 0);
+    EXPECT_EQ(query.SQLOriginal(), join({u"SELECT  (Select top 5 b From c) As [b], (Select Top 5 d From e) As [d], "
+                                         u"(Select f From g) As [f], ' TOP 55 '",
+                                         kRest}));
+  }
+}
+
+TEST_F(Csql20TopTest, KeepsTheSelectListInItsPlaceWhenLimitsGo) {
+  QueryRequest wanted = request(Engine::SqlServer, list({u"(Select top 5 b From c)", u"N>b"}));
+  wanted.TOP = 5;
+  cSQL20 query, copy;
+  ASSERT_TRUE(query.Crear(wanted));
+  query.TOP(0);
+  ASSERT_TRUE(copy.CrearDesdeTextoDefinicion(query.TextoDefinicion()));
+  EXPECT_EQ(copy.SQL(), query.SQL());
 }
 
 TEST_F(Csql20TopTest, FollowsAnotherEngine) {

@@ -4,6 +4,7 @@
 #include "query/query_fixture.h"
 #include "query/query_steps.h"
 #include "query/usql20.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -46,11 +47,13 @@ class QueryModelTest : public QueryTest {
 };
 
 TEST_F(QueryModelTest, ASelectIsAsItsModelHasIt) {
+  expect_any_traces();
   for (std::uint32_t seed = 1; seed <= 40; ++seed) compare<cSQL20, SelectModel>(seed, 100);
   EXPECT_GT(created, 20) << "most of them have something to do it to";
 }
 
 TEST_F(QueryModelTest, AUnionIsAsItsModelHasIt) {
+  expect_any_traces();
   for (std::uint32_t seed = 101; seed <= 140; ++seed) compare<uSQL20, UnionModel>(seed, 60);
   EXPECT_GT(created, 20);
 }

@@ -13,9 +13,10 @@ constexpr std::int32_t kLanguages[] = {0, 1, 3};
 constexpr Engine kEngines[] = {Engine::Jet, Engine::SqlServer, Engine::Oracle, Engine::None};
 
 QueryRequest chosen_request(Choices& choices) {
-  constexpr TextView kColumns[][2] = {{u"C.Nombre", u"T+"},        {u"C.Alta", u"F>Alta"}, {u"C.Notas", u"M"},
-                                      {u"Sum(P.Imp)", u"N>Total"}, {u"Nombre", u"F"},      {u"Count(*)", u""},
-                                      {u"L.total", u"N+"}};
+  constexpr TextView kColumns[][2] = {{u"C.Nombre", u"T+"}, {u"C.Alta", u"F>Alta"},
+                                      {u"C.Notas", u"M"},   {u"Sum(P.Imp)", u"N>Total"},
+                                      {u"Nombre", u"F"},    {u"Count(*)", u""},
+                                      {u"L.total", u"N+"},  {u"(Select top 5 x From y)", u"N>x"}};
   constexpr TextView kRelations[][2] = {{u"C.Id", u"P.IdCli"}, {u"P.Id", u"l.IdPed"}, {u"L.Id", u"X.IdLin"}};
   constexpr TextView kLetters[] = {u"I", u"L", u"R", u"A"};
   std::vector<Value> columns, relations;

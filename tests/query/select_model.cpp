@@ -164,13 +164,13 @@ Text SelectModel::ExpresionOriginal(TextView field) const {
 void SelectModel::TOP(std::int32_t top) {
   SelectParts& p = parts_;
   if (!p.created || top < 0) return;
-  const Text before = u" TOP " + number(p.top) + u" ";
+  const Text before = u" TOP " + number(p.top) + u" ", after = u" TOP " + number(top) + u" ";
   if (top > 0 && p.top > 0) {
-    p.select = replaced(p.select, before, u" TOP " + number(top) + u" ");
+    for (Text* text : {&p.select, &p.list}) *text = replaced(*text, before, after);
     p.where = replaced(p.where, u" ROWNUM<=" + number(p.top) + u" ", u" ROWNUM<=" + number(top) + u" ");
     p.top = top;
   } else if (top == 0 && p.top > 0) {
-    p.select = replaced(p.select, before, u" ");
+    for (Text* text : {&p.select, &p.list}) *text = replace_all(*text, before, u" ");  // only in these letters
     p.top = top;
   } else if (top > 0 && p.top == 0) {
     p.select.insert(p.distinct ? 16 : 7, top_mark(p.engine, top));

@@ -1,6 +1,7 @@
 // A union as one text, and what was added to its members as another.
 #include "query/query_fixture.h"
 #include "query/usql20.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -30,6 +31,20 @@ TEST_F(Usql20DefinitionTest, RebuildsTheMembersInOrder) {
   EXPECT_EQ(copy.SQLOriginal(), query.SQLOriginal());
   EXPECT_EQ(copy.CriterioActualCompleto(), query.CriterioActualCompleto());
   EXPECT_EQ(copy.TextoDefinicion(), query.TextoDefinicion());
+}
+
+// A column of fixed width fills texts up with blanks, and a file ends its lines.
+TEST_F(Usql20DefinitionTest, ReadsTextsWithWhiteSpaceBehindThem) {
+  const Text complete = query.CriterioActualCompleto(), narrowed = query.SQL(), definition = query.TextoDefinicion();
+  for (const TextView white : {u" ", u"\t", u"\r\n", u"   \r\n"}) {
+    uSQL20 copy;
+    EXPECT_TRUE(copy.CrearDesdeTextoDefinicion(join({definition, white})));
+    EXPECT_EQ(copy.TextoDefinicion(), definition);
+    query.RestauraOriginal(true, true);
+    query.CriterioActualCompleto(join({complete, white}));
+    EXPECT_EQ(query.SQL(), narrowed);
+    EXPECT_EQ(query.CriterioActualCompleto(), complete);
+  }
 }
 
 TEST_F(Usql20DefinitionTest, IsWhatItsMembersWrite) {
@@ -64,6 +79,7 @@ TEST_F(Usql20DefinitionTest, SkipsWhatCannotBeReadAndKeepsWhatIsThere) {
   uSQL20 fresh;
   EXPECT_FALSE(showing({box}, [&] { return fresh.CrearDesdeTextoDefinicion(all.substr(1, 50)); }));
   EXPECT_FALSE(fresh.Creado());
+  EXPECT_EQ(traced(), Traces(6, u"cSQL20.CrearDesdeTextoDefinicion: 13 Type mismatch"));
 }
 
 TEST_F(Usql20DefinitionTest, GivesEachMemberItsCriterion) {
@@ -92,6 +108,7 @@ TEST_F(Usql20DefinitionTest, AnotherNumberOfCriteriaChangesNothing) {
     EXPECT_EQ(query.SQL(), narrowed);
     EXPECT_EQ(query.CriterioActualCompleto(), complete);
   }
+  EXPECT_EQ(traced(), Traces(7, u"uSQL20.CriterioActualCompleto: 13 Type mismatch"));
 }
 
 // Of the right number of pieces each counts for itself.
@@ -101,6 +118,7 @@ TEST_F(Usql20DefinitionTest, ADamagedPieceLeavesItsMember) {
   query.CriterioActualCompleto(u"<*uSQL_CRI*>x<*uSQL_CRI*>");
   const Text nothing = u"<*cSQL_CRI*><*cSQL_CRI*><*cSQL_CRI*>";
   EXPECT_EQ(query.CriterioActualCompleto(), join({nothing, u"<*uSQL_CRI*>", pieces[1], u"<*uSQL_CRI*>", nothing}));
+  EXPECT_EQ(traced(), Traces{u"cSQL20.CriterioActualCompleto: 13 Type mismatch"});
 }
 
 }  // namespace

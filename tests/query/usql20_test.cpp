@@ -2,6 +2,7 @@
 #include "query/usql20.h"
 
 #include "query/query_fixture.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -49,6 +50,7 @@ TEST_F(Usql20Test, IsEmptyBeforeThereIsAMember) {
   EXPECT_FALSE(query.AmpliarOrden(1));
   EXPECT_FALSE(query.InterpretarBusqueda(u"a", u"x", u""));
   EXPECT_NE(thread_state().idioma.Idioma(), 3) << "there is no member that would set it";
+  EXPECT_EQ(traced(), Traces(2, u"uSQL20.CriterioActualCompleto: 13 Type mismatch"));
 }
 
 TEST_F(Usql20Test, OneMemberGivesItsOwnStatements) {
@@ -86,6 +88,9 @@ TEST_F(Usql20Test, ARefusedMemberIsDropped) {
   EXPECT_FALSE(other.Crear(request(Engine::Jet, u"a")));
   EXPECT_FALSE(other.Creado());
   EXPECT_EQ(other.TOP(), 0);
+  EXPECT_EQ(traced(), (Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array",
+                              u"cSQL20.build_select: 9 Subscript out of range",
+                              u"cSQL20.Crear: 13 ColumnasSELECT is not an array"}));
 }
 
 TEST_F(Usql20Test, NarrowsTheLastMember) {
@@ -130,6 +135,7 @@ TEST_F(Usql20Test, SearchesInEveryMember) {
   EXPECT_EQ(query.SQLSinOrden(),
             join({select(1, u"WHERE (a='x')"), u" UNION SELECT c  FROM t2     UNION ", select(1, u"WHERE (a='x')")}));
   EXPECT_EQ(query.CriterioActual(), u"col = x");
+  EXPECT_EQ(traced(), Traces{u"cSQL20.TipoCampo: 5 Invalid procedure call or argument"});
 }
 
 TEST_F(Usql20Test, TheFirstMemberAnswers) {
@@ -142,6 +148,8 @@ TEST_F(Usql20Test, TheFirstMemberAnswers) {
   EXPECT_EQ(showing({failed(u"TipoCampo(c)", 5)}, [&] { return query.TipoCampo(u"c"); }), u"");
   EXPECT_FALSE(showing({failed(u"AmpliarOrden", 9)}, [&] { return query.AmpliarOrden(3); }));
   EXPECT_EQ(query.ParteOrder(true), u"a");
+  EXPECT_EQ(traced(), (Traces{u"cSQL20.TipoCampo: 5 Invalid procedure call or argument",
+                              u"cSQL20.AmpliarOrden: 9 Subscript out of range"}));
 }
 
 TEST_F(Usql20Test, LimitAndEngineGoToEveryMember) {

@@ -6,6 +6,7 @@
 #include "base/utf8.h"
 #include "json_reader.h"
 #include "support/temporary_folder.h"
+#include "support/traced.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
@@ -37,6 +38,7 @@ TEST_F(Check, TellsFileLineMessageAndRule) {
                             "together with that file's first command [no-last-go]\n" +
                             shown(u"GestionSQL1.cfc") +
                             ":4: \"GO;\" separates nothing: the line must hold only GO [go-semicolon]\n");
+  EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
 TEST_F(Check, LooksAtTheScriptsOfAFolderAndTheirNames) {
@@ -66,6 +68,7 @@ TEST_F(Check, TellsTheEngineByTheNameUnlessItIsGiven) {
   EXPECT_EQ(run_tool({u"check", path(u"GestionORA1.cfc"), u"--engine", u"sqlserver"}).code, 1);
   EXPECT_EQ(run_tool({u"check", path(u"x.txt")}).code, 1);
   EXPECT_EQ(run_tool({u"check", path(u"x.txt"), u"--engine", u"jet"}).code, 0);
+  EXPECT_EQ(traced(), Traces(4, u"names_in: 75 Path/File access error"));
 }
 
 TEST_F(Check, GoesOnBehindAFileThatCannotBeRead) {
@@ -74,6 +77,7 @@ TEST_F(Check, GoesOnBehindAFileThatCannotBeRead) {
   EXPECT_EQ(answer.code, 2);
   EXPECT_EQ(answer.err, "qvrscript: " + shown(u"none.cfc") + " cannot be read\n");
   EXPECT_EQ(answer.out, shown(u"GestionSQL1.cfc") + ":1: the file has no GO line: nothing of it is run [no-go]\n");
+  EXPECT_EQ(traced(), Traces(2, u"names_in: 75 Path/File access error"));
 }
 
 TEST_F(Check, WritesOneJsonDocument) {
@@ -92,6 +96,7 @@ TEST_F(Check, WritesOneJsonDocument) {
   EXPECT_EQ(second["message"].text(), "\"GO;\" separates nothing: the line must hold only GO");
   ASSERT_EQ(json["unreadable"].size(), 1u);
   EXPECT_EQ(json["unreadable"][0].text(), shown(u"none.cfc"));
+  EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
 TEST_F(Check, WritesJsonWhereThereIsNothing) {

@@ -8,6 +8,7 @@
 #include "base/utf8.h"
 #include "qvrscript/program.h"
 #include "session/ov.h"
+#include "support/traced.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
@@ -57,6 +58,7 @@ TEST(Help, ShowsCommandLinesThatAreTaken) {
     }
   }
   EXPECT_GE(seen.size(), 4u);
+  EXPECT_EQ(traced(), Traces(5, u"names_in: 75 Path/File access error"));
 }
 
 TEST(Program, FailsWhereItsOutputCannotBeWritten) {

@@ -4,6 +4,7 @@
 #include "base/utf8.h"
 #include "json_reader.h"
 #include "support/temporary_folder.h"
+#include "support/traced.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
@@ -78,6 +79,7 @@ TEST_F(List, WantsAFolder) {
   const ToolAnswer answer = run_tool({u"list", folder.text() + u"/none", u"Gestion"});
   EXPECT_EQ(answer.code, 2);
   EXPECT_EQ(answer.err, "qvrscript: " + to_utf8(folder.text()) + "/none is no folder that can be read\n");
+  EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
 TEST_F(List, WritesOneJsonDocument) {

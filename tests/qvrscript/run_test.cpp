@@ -7,6 +7,7 @@
 #include "odbc/odbc_statement.h"
 #include "session/value_convert.h"
 #include "support/temporary_folder.h"
+#include "support/traced.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
@@ -62,6 +63,7 @@ TEST_F(Run, TakesAllBackAfterAFailure) {
   EXPECT_NE(answer.err.find("near \"nonsense\""), std::string::npos) << answer.err;
   EXPECT_TRUE(answer.err.ends_with(" no\nqvrscript: failed after 1 of 3 commands; all taken back\n")) << answer.err;
   EXPECT_EQ(ask(u"select count(*) from T"), "0");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(Run, GoesOnWhereItIsTold) {
@@ -71,6 +73,7 @@ TEST_F(Run, GoesOnWhereItIsTold) {
   EXPECT_TRUE(answer.out.ends_with("done: 2 of 3 commands\n")) << answer.out;
   EXPECT_TRUE(answer.err.ends_with(" yes (--continue)\n")) << answer.err;
   EXPECT_EQ(ask(u"select group_concat(N) from T"), "1,3");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(Run, KeepsWhatRanWithoutATransaction) {
@@ -79,6 +82,7 @@ TEST_F(Run, KeepsWhatRanWithoutATransaction) {
   EXPECT_EQ(answer.code, 1);
   EXPECT_TRUE(answer.err.ends_with("qvrscript: failed after 1 of 3 commands; what ran stays\n")) << answer.err;
   EXPECT_EQ(ask(u"select group_concat(N) from T"), "1");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(Run, TellsOfAFileWithoutGo) {
@@ -94,6 +98,7 @@ TEST_F(Run, RefusesAFileThatCannotBeRead) {
   EXPECT_EQ(zero.out, "");
   EXPECT_EQ(zero.err, "qvrscript: " + to_utf8(folder.file_text(u"x.cfc")) + " cannot be read\n");
   EXPECT_EQ(run_tool({u"run", u"--engine=jet", u"--connection=x", folder.file_text(u"none.cfc")}).code, 2);
+  EXPECT_EQ(traced(), Traces(2, u"commands_in: 75 Path/File access error"));
 }
 
 TEST_F(Run, FailsWhereTheDatabaseCannotBeOpened) {
@@ -104,6 +109,7 @@ TEST_F(Run, FailsWhereTheDatabaseCannotBeOpened) {
   EXPECT_EQ(answer.code, 1);
   EXPECT_EQ(answer.out, "");
   EXPECT_TRUE(answer.err.starts_with("Servidor no encontrado\n\nError ")) << answer.err;
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: -2147467259 told by another component"});
 }
 
 TEST_F(Run, WritesOneJsonDocument) {
@@ -118,6 +124,7 @@ TEST_F(Run, WritesOneJsonDocument) {
   EXPECT_EQ(json["total"].number(), 3);
   ASSERT_EQ(json["failures"].size(), 1u);
   EXPECT_NE(json["failures"][0].text().find("nonsense"), std::string::npos);
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(Run, LeavesTheThreadAsItWas) {

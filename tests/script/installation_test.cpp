@@ -11,6 +11,7 @@
 #include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -123,6 +124,7 @@ TEST_F(InstallationTest, AnUpdateFromTheMiddleTakesOnlyWhatIsLeft) {
 TEST_F(InstallationTest, ThereIsNothingBehindTheLastVersion) {
   EXPECT_EQ(update(Engine::Jet, scripts(u"\\sqlite"), 10100), u"");
   EXPECT_EQ(events.ends, std::vector<bool>{false});
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version"});
 }
 
 struct ScriptSet {

@@ -1,11 +1,16 @@
 // Which files of a folder are taken, and in which order.
 #include "script/loading_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
 
 using tests::PrintTo;
+
+const Text kNoDefinition = u"QVRScr.CargarDefinicion: 75 No script file has such a name",
+           kNoUpdate = u"QVRScr.CargarActualizacion: 75 No update script begins with this version",
+           kNoFiles = u"QVRScr.CargarActualizacion: 75 No script file has such a name";
 
 class LoadingFilesTest : public LoadingTest {};
 
@@ -44,6 +49,7 @@ using DefinitionFile = Rows<LoadingTest, Named>;
 TEST_P(DefinitionFile, IsNameTagAndOneCharacter) {
   put_names({GetParam().file});
   EXPECT_EQ(definition(), GetParam().taken ? joined({GetParam().file}) : Text());
+  EXPECT_EQ(traced(), GetParam().taken ? Traces() : Traces{kNoDefinition});
 }
 
 INSTANTIATE_TEST_SUITE_P(, DefinitionFile, testing::ValuesIn(kDefinitions), row_name);
@@ -100,6 +106,7 @@ TEST_F(LoadingFilesTest, WildcardsInANameAreWildcards) {
   EXPECT_EQ(definition(u""), joined({u"SQL1.cfc"}));
   EXPECT_EQ(definition(u"A["), u"");
   EXPECT_EQ(update(10024, u"A?"), joined({u"Ab10024a10025SQL.cfc", u"Ac10024a10025SQL.cfc"}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 75 No script file has such a name"});
 }
 
 TEST_F(LoadingFilesTest, FolderAndIdentificationReachTheReaderAsTheyAre) {
@@ -126,6 +133,7 @@ TEST_F(LoadingFilesTest, AnUpdateTakesEveryFileFromTheVersionOn) {
   EXPECT_EQ(update(10025, u"X"), joined({u"X10025a10026SQL.cfc"}));
   EXPECT_EQ(update(10026, u"X"), u"");
   EXPECT_EQ(update(10022, u"X"), u"");
+  EXPECT_EQ(traced(), Traces(2, u"QVRScr.CargarActualizacion: 75 No update script begins with this version"));
 }
 
 TEST_F(LoadingFilesTest, GapsAndOverlapsOfAnUpdateAreNotLookedAt) {
@@ -154,6 +162,7 @@ using NoUpdateFile = Rows<LoadingTest, Named>;
 TEST_P(NoUpdateFile, IsWithoutApplicationTwoVersionsAndTag) {
   put_names({GetParam().file});
   EXPECT_EQ(update(10024, u"X"), u"");
+  EXPECT_EQ(traced(), Traces{kNoUpdate});
 }
 
 INSTANTIATE_TEST_SUITE_P(, NoUpdateFile, testing::ValuesIn(kNoUpdates), row_name);
@@ -163,30 +172,35 @@ struct Versions {
   std::int32_t version;
   std::vector<TextView> files;
   std::vector<std::size_t> expected;
+  Traces traced = {};
 };
 
 const Versions kVersions[] = {
     {"least of five digits", 10000, {u"X09999a10000SQL.cfc", u"X10000a10001SQL.cfc"}, {1}},
     {"greatest of five digits", 99999, {u"X99998a99999SQL.cfc", u"X99999a00000SQL.cfc"}, {1}},
-    {"four digits written with a zero", 1002, {u"X01002a01003SQL.cfc"}, {}},
-    {"four digits written so are no file of an update", 1002, {u"X1002a01003SQL.cfc"}, {}},
+    {"four digits written with a zero", 1002, {u"X01002a01003SQL.cfc"}, {}, {kNoUpdate}},
+    {"four digits written so are no file of an update", 1002, {u"X1002a01003SQL.cfc"}, {}, {kNoFiles}},
     {"but let later ones through", 1002, {u"X01001a01002SQL.cfc", u"X01002a01003SQL.cfc", u"X1002a01003SQL.cfc"}, {1}},
     {"one digit", 7, {u"X7a00008SQL.cfc", u"X00006a00007SQL.cfc", u"X00007a00008SQL.cfc"}, {2}},
     {"zero", 0, {u"X0a00001SQL.cfc", u"X00000a00001SQL.cfc", u"X00001a00002SQL.cfc"}, {1, 2}},
-    {"six digits", 100024, {u"X100024a10002SQL.cfc", u"X99999a10002SQL.cfc"}, {}},
+    {"six digits", 100024, {u"X100024a10002SQL.cfc", u"X99999a10002SQL.cfc"}, {}, {kNoFiles}},
     {"negative of five characters",
      -1002,
      {u"X-1003a-1002SQL.cfc", u"X-1002a-1001SQL.cfc", u"X00001a00002SQL.cfc"},
      {1, 2}},
-    {"negative of fewer", -5, {u"X-0005a-0004SQL.cfc"}, {}},
-    {"negative of more", -10024, {u"X-10024a10025SQL.cfc"}, {}},
+    {"negative of fewer", -5, {u"X-0005a-0004SQL.cfc"}, {}, {kNoUpdate}},
+    {"negative of more", -10024, {u"X-10024a10025SQL.cfc"}, {}, {kNoFiles}},
     {"negative of more, with later ones", -10024, {u"X-10024a10025SQL.cfc", u"X-9999a00000SQL.cfc"}, {1}},
-    {"greatest number", INT32_MAX, {u"X2147483647a10025SQL.cfc", u"X99999a10025SQL.cfc"}, {}},
+    {"greatest number", INT32_MAX, {u"X2147483647a10025SQL.cfc", u"X99999a10025SQL.cfc"}, {}, {kNoFiles}},
     {"least number", INT32_MIN, {u"X-2147483648a10025SQL.cfc", u"X-9999a10025SQL.cfc"}, {1}},
     {"what is no number counts as 0", 10024, {u"X10024a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0}},
     {"and is above a negative one", -1002, {u"X-1002a10025SQL.cfc", u"Xabcdea10025SQL.cfc"}, {0, 1}},
     {"a number is read up to where it ends", 10024, {u"X10024a10025SQL.cfc", u"X1003xa10025SQL.cfc"}, {0}},
-    {"of too large a number nothing is known", 10024, {u"X10024a10025SQL.cfc", u"X1e999a10025SQL.cfc"}, {}},
+    {"of too large a number nothing is known",
+     10024,
+     {u"X10024a10025SQL.cfc", u"X1e999a10025SQL.cfc"},
+     {},
+     {trace_of(u"QVRScr.CargarActualizacion", 6)}},
 };
 
 using VersionOfAnyWidth = Rows<LoadingTest, Versions>;
@@ -197,6 +211,7 @@ TEST_P(VersionOfAnyWidth, IsComparedWithTheFilesOfAnUpdate) {
   Text expected;
   for (std::size_t file : row.expected) expected += joined({row.files[file]});
   EXPECT_EQ(update(row.version, u"X"), expected);
+  EXPECT_EQ(traced(), row.traced);
 }
 
 INSTANTIATE_TEST_SUITE_P(, VersionOfAnyWidth, testing::ValuesIn(kVersions), row_name);

@@ -1,6 +1,7 @@
 // Invalid folders and files, in memory and on disk.
 #include "script/loading_fixture.h"
 #include "support/temporary_folder.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -16,6 +17,9 @@ TEST_F(LoadingFoldersTest, AFolderThatCannotBeListedIsAFailure) {
   EXPECT_EQ(taken(), kOnlyFailed);
   EXPECT_EQ(update(10024), u"");
   EXPECT_EQ(taken(), kOnlyFailed);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"Global.ExisteArchivo: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 No update script begins with this version"}));
 }
 
 TEST_F(LoadingFoldersTest, AFileThatVanishesBeforeItIsReadEndsTheLoading) {
@@ -24,6 +28,7 @@ TEST_F(LoadingFoldersTest, AFileThatVanishesBeforeItIsReadEndsTheLoading) {
   events.on_progress = vanish;
   EXPECT_EQ(definition(), u"");
   EXPECT_EQ(taken(), together({file_lines(u"GestionSQL1.cfc"), file_lines(u"GestionSQL2.cfc"), kOnlyFailed}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error"});
 }
 
 TEST_F(LoadingFoldersTest, AFileThatComesAfterTheListingIsNotRead) {
@@ -40,6 +45,7 @@ TEST_F(LoadingFoldersTest, AnUpdateVanishingEndsItAsWell) {
   EXPECT_EQ(update(10024), u"");
   EXPECT_EQ(taken(), together({file_lines(u"Gestion10024a10025SQL.cfc"), file_lines(u"Gestion10025a10026SQL.cfc"),
                                kOnlyFailed}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarActualizacion: 75 Path/File access error"});
 }
 
 TEST_F(LoadingFoldersTest, AFileWithoutTextEndsTheLoading) {
@@ -54,6 +60,14 @@ TEST_F(LoadingFoldersTest, AFileWithoutTextEndsTheLoading) {
     EXPECT_EQ(update(10024), u"");
     EXPECT_EQ(taken(), together({file_lines(u"Gestion10024a10025SQL.cfc"), kOnlyFailed}));
   }
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 Path/File access error",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 Path/File access error",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 Path/File access error",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 Path/File access error"}));
 }
 
 TEST_F(LoadingFoldersTest, AnEmptyFileOfAnEarlierVersionIsNotRead) {
@@ -92,6 +106,7 @@ TEST_F(LoadingFromDiskTest, AFolderOfScripts) {
   EXPECT_EQ(definition(folder.text()), u"first\r\n\r\nsecond\r\n");
   EXPECT_EQ(update(folder.text(), 10024), u"update\r\n");
   EXPECT_EQ(update(folder.text(), 10025), u"");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version"});
 }
 
 TEST_F(LoadingFromDiskTest, FoldersWithOtherNames) {
@@ -113,8 +128,12 @@ TEST_F(LoadingFromDiskTest, NoFolderNoText) {
     SCOPED_TRACE(to_utf8(ruta));
     EXPECT_EQ(definition(ruta), u"");
     EXPECT_EQ(taken(), kOnlyFailed);
+    EXPECT_EQ(traced(), Traces{trace_of(u"QVRScr.CargarDefinicion", 75)});
     EXPECT_EQ(update(ruta, 10024), u"");
     EXPECT_EQ(taken(), kOnlyFailed);
+    Traces failures = {u"QVRScr.CargarActualizacion: 75 No update script begins with this version"};
+    if (ruta == inside) failures.insert(failures.begin(), trace_of(u"Global.ExisteArchivo", 75));  // no path at all
+    EXPECT_EQ(traced(), failures);
   }
 }
 
@@ -127,6 +146,7 @@ TEST_F(LoadingFromDiskTest, AFolderIsNoScriptWhateverItsName) {
   folder.write(u"Gestion10026a10027SQL.cfc", "later");
   EXPECT_EQ(update(folder.text(), 10024), u"update\r\nlater\r\n");
   EXPECT_EQ(update(folder.text(), 10025), u"") << "no file begins with this version";
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version"});
 }
 
 TEST_F(LoadingFromDiskTest, NamesInAnotherCaseAndWithAccents) {
@@ -135,12 +155,14 @@ TEST_F(LoadingFromDiskTest, NamesInAnotherCaseAndWithAccents) {
   EXPECT_EQ(definition(folder.text(), u"Gesti\u00f3n"), u"one\r\ntwo\r\n");
   EXPECT_EQ(definition(folder.text(), u"Gesti?n"), u"one\r\ntwo\r\n");
   EXPECT_EQ(definition(folder.text(), u"Gestion"), u"");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 75 No script file has such a name"});
 }
 
 TEST_F(LoadingFromDiskTest, UpdatesInAnotherCase) {
   folder.write(u"GESTI\u00d3N10024A10025sql.CFC", "one");
   EXPECT_EQ(update(folder.text(), 10024, u"Gesti\u00f3n"), u"one\r\n");
   EXPECT_EQ(update(folder.text(), 10025, u"Gesti\u00f3n"), u"");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version"});
 }
 
 }  // namespace

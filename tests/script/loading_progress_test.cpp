@@ -1,6 +1,7 @@
 // Events of loading, and re-entrance from them.
 #include "script/loading_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -76,6 +77,7 @@ TEST_F(LoadingProgressTest, TheTextsAreTheSameInEveryLanguage) {
 TEST_F(LoadingProgressTest, ADefinitionWithoutFilesGoesThroughItsStepsAndFails) {
   EXPECT_EQ(definition(u"Otra"), u"");
   EXPECT_EQ(taken(), together({kAccounts, kFailed}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 75 No script file has such a name"});
 }
 
 TEST_F(LoadingProgressTest, AnUpdateWithoutFilesTellsItsEndOnly) {
@@ -86,6 +88,9 @@ TEST_F(LoadingProgressTest, AnUpdateWithoutFilesTellsItsEndOnly) {
   put_names({u"Gestion1002a10025SQL.cfc"});
   EXPECT_EQ(update(1002), u"") << "one from this version that is no file of an update";
   EXPECT_EQ(taken(), kFailed);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarActualizacion: 75 No update script begins with this version",
+                              u"QVRScr.CargarActualizacion: 75 No update script begins with this version",
+                              u"QVRScr.CargarActualizacion: 75 No script file has such a name"}));
 }
 
 // A reader that does what the test tells it for the second file.
@@ -116,6 +121,11 @@ TEST_F(LoadingProgressTest, WhateverTheReaderFailsInEndsTheLoading) {
     EXPECT_EQ(taken(), (Lines{"Progreso: Procesando GestionSQL1.cfc", "Progreso: Procesando GestionSQL2.cfc",
                               "Terminado: False"}));
   }
+  EXPECT_EQ(traced(),
+            (Traces{u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                    u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                    u"QVRScr.CargarDefinicion: 75 Path/File access error", u"QVRScr.CargarDefinicion: 7 Out of memory",
+                    u"QVRScr.CargarDefinicion: 5 Unforeseen exception"}));
 }
 
 TEST_F(LoadingProgressTest, AReaderThatCannotBeMadeIsTriedAgainTheNextTime) {
@@ -130,6 +140,7 @@ TEST_F(LoadingProgressTest, AReaderThatCannotBeMadeIsTriedAgainTheNextTime) {
   EXPECT_EQ(definition(), definition_text);
   EXPECT_EQ(update(10024), joined({kUpdate}));
   EXPECT_EQ(tries, 2) << "one reader serves the whole thread";
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 429 ActiveX component can't create object"});
 }
 
 TEST_F(LoadingProgressTest, AClockOutsideTheCalendarFailsForOracleOnly) {
@@ -140,6 +151,7 @@ TEST_F(LoadingProgressTest, AClockOutsideTheCalendarFailsForOracleOnly) {
   put_names({u"GestionORA1.cfc"});
   EXPECT_EQ(definition(), u"");
   EXPECT_EQ(taken(), together({file_lines(u"GestionORA1.cfc"), kFailed}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.CargarDefinicion: 6 Overflow"});
 }
 
 // Everything of the same object that begins a run: refused, without events and without a look at its arguments.
@@ -150,6 +162,9 @@ TEST_F(LoadingProgressTest, NoOtherRunBeginsFromInside) {
     Text other_id = u"EvitarTransaccionOther", shown;
     const bool ran = runner.EjecutarComandos(other_id, Engine::Jet, u"B\r\nGO\r\n", u"other", shown);
     const bool loaded = !definition().empty() || !update(10024).empty();
+    EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: 5 A run of this object is under way",
+                                u"QVRScr.CargarDefinicion: 5 A run of this object is under way",
+                                u"QVRScr.CargarActualizacion: 5 A run of this object is under way"}));
     if (!ran && !loaded && other_id == u"EvitarTransaccionOther" && shown.empty()) ++refused;
   };
   events.on_progress = intrude;
@@ -186,6 +201,12 @@ TEST_F(LoadingProgressTest, NoLoadingBeginsInsideARunOfCommands) {
   EXPECT_EQ(taken(),
             together(
                 {opening(), {"Progreso: Comandos ejecutados: 0/1"}, command_lines("A"), {"Host events"}, closing()}));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 5 A run of this object is under way",
+                              u"QVRScr.CargarActualizacion: 5 A run of this object is under way",
+                              u"QVRScr.CargarDefinicion: 5 A run of this object is under way",
+                              u"QVRScr.CargarActualizacion: 5 A run of this object is under way",
+                              u"QVRScr.CargarDefinicion: 5 A run of this object is under way",
+                              u"QVRScr.CargarActualizacion: 5 A run of this object is under way"}));
 }
 
 TEST_F(LoadingProgressTest, AnotherObjectMayLoadFromInside) {
@@ -211,6 +232,10 @@ TEST_F(LoadingProgressTest, EachEndLeavesTheObjectUsable) {
   EXPECT_EQ(taken(), whole_definition());
   EXPECT_EQ(update(10024), joined({kUpdate}));
   EXPECT_EQ(taken(), whole_update());
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.CargarDefinicion: 75 No script file has such a name",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error",
+                              u"Global.ExisteArchivo: 75 Path/File access error",
+                              u"QVRScr.CargarActualizacion: 75 No update script begins with this version"}));
 }
 
 TEST_F(LoadingProgressTest, WhatIsLoadedCanBeRun) {

@@ -1,5 +1,6 @@
 #include "script/script_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -30,11 +31,13 @@ TEST_F(OneCommandTest, ReportsAFailureWithoutEventsOrQuestions) {
   EXPECT_EQ(taken(), together({command_lines("DELETE T"),
                                {"Report: -2147217900|refused|Provider|3|Ejecutar1Comando: DELETE T|refused"}}));
   EXPECT_TRUE(runner.Ejecutar1Comando(connection.get(), u"DELETE T", Engine::Oracle)) << "usable again";
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(OneCommandTest, ReportsAMissingConnection) {
   EXPECT_FALSE(runner.Ejecutar1Comando(nullptr, u"A", Engine::Jet));
   EXPECT_EQ(taken().back(), "Report: 91|Object variable or With block variable not set|QVRlib21|1|Ejecutar1Comando: A");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set"});
 }
 
 TEST_F(OneCommandTest, ReportsAWholeLongCommand) {
@@ -43,6 +46,7 @@ TEST_F(OneCommandTest, ReportsAWholeLongCommand) {
   EXPECT_FALSE(runner.Ejecutar1Comando(connection.get(), command, Engine::Jet));
   ASSERT_EQ(thread.report.notices.size(), 1u);
   EXPECT_EQ(thread.report.notices[0].label, u"Ejecutar1Comando: " + command);
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(OneCommandTest, AReportThatCannotBeMadeIsAFalseResult) {
@@ -51,6 +55,8 @@ TEST_F(OneCommandTest, AReportThatCannotBeMadeIsAFalseResult) {
   };
   thread.ado.fail("Command.Execute", 1, refusal());
   EXPECT_FALSE(runner.Ejecutar1Comando(connection.get(), u"A", Engine::Jet));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component",
+                              u"QVRScr.Ejecutar1Comando: 429 ActiveX component can't create object"}));
 }
 
 struct Administrator {

@@ -8,6 +8,7 @@
 #include "session/value_convert.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -68,6 +69,7 @@ TEST_F(RunIntoDatabase, RollsBackWhenTheAnswerIsNo) {
   EXPECT_TRUE(thread.boxes.shown[0].ends_with(u"\r\n\r\nM\u00e9todo: Ejecutar1Comando: nonsense"))
       << to_utf8(thread.boxes.shown[0]);
   EXPECT_EQ(thread.boxes.shown[1], u"\u00bfDesea que se ejecuten los restantes comandos?");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunIntoDatabase, AppliesTheRestWhenTheAnswerIsYes) {
@@ -76,6 +78,7 @@ TEST_F(RunIntoDatabase, AppliesTheRestWhenTheAnswerIsYes) {
   EXPECT_TRUE(run(u"create table T(N int)\r\nGO\r\nnonsense\r\nGO\r\ninsert into T values(2)\r\nGO\r\n"));
   EXPECT_EQ(ask(u"select N from T"), u"2");
   EXPECT_EQ(events.progress.back(), u"Hecho: 1/3") << "the refused command is not counted";
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunIntoDatabase, KeepsWhatRanWithoutATransaction) {
@@ -84,6 +87,7 @@ TEST_F(RunIntoDatabase, KeepsWhatRanWithoutATransaction) {
   EXPECT_FALSE(run(u"create table T(N int)\r\nGO\r\ninsert into T values(1)\r\nGO\r\nnonsense\r\nGO\r\n",
                    u"EvitarTransaccionApp"));
   EXPECT_EQ(ask(u"select count(*) from T"), u"1");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunIntoDatabase, ReportsADatabaseThatCannotBeOpened) {
@@ -97,6 +101,7 @@ TEST_F(RunIntoDatabase, ReportsADatabaseThatCannotBeOpened) {
       << to_utf8(thread.boxes.shown[0]);
   EXPECT_EQ(events.ends, std::vector<bool>{false});
   EXPECT_TRUE(events.progress.empty());
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: -2147467259 told by another component"});
 }
 
 TEST_F(RunIntoDatabase, RunsThousandsOfCommands) {

@@ -1,5 +1,6 @@
 // Re-entrance from the events of a run.
 #include "script/script_fixture.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -26,6 +27,7 @@ TEST_F(RunEventsTest, ARunFromProgresoIsRefusedWithoutEvents) {
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(refused, 2);
   EXPECT_EQ(taken(), whole_run);
+  EXPECT_EQ(traced(), Traces(2, u"QVRScr.EjecutarComandos: 5 A run of this object is under way"));
 }
 
 TEST_F(RunEventsTest, TheNextRunMayBeginInsideTerminado) {
@@ -49,6 +51,7 @@ TEST_F(RunEventsTest, ARunFromProgresoOfTheNextRunIsRefused) {
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(attempts, 2);
   EXPECT_EQ(taken(), together({whole_run, whole_run}));
+  EXPECT_EQ(traced(), Traces(2, u"QVRScr.EjecutarComandos: 5 A run of this object is under way"));
 }
 
 TEST_F(RunEventsTest, AChainOfRunsHasAnEnd) {
@@ -65,6 +68,7 @@ TEST_F(RunEventsTest, AChainOfRunsHasAnEnd) {
   taken();
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(taken(), whole_run) << "the next one that the host starts runs";
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: 5 A run of this object is under way"});
 }
 
 TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
@@ -73,6 +77,7 @@ TEST_F(RunEventsTest, ARunFromTheHostsMessagesIsRefusedToo) {
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(refused, 1);
   EXPECT_EQ(taken(), whole_run);
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: 5 A run of this object is under way"});
 }
 
 TEST_F(RunEventsTest, ARunThatCannotBeginIsToldAsEnded) {
@@ -124,6 +129,7 @@ TEST_F(RunEventsTest, AChangedLanguageIsKeptForTheNextText) {
   thread.boxes.answer(BoxAnswer::No);
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(thread.boxes.shown.at(0), u"Do you want further commands to execute?");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 }  // namespace

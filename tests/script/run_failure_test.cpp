@@ -1,5 +1,6 @@
 // Runs that end because something other than a command fails, at each call there is.
 #include "script/script_fixture.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -48,6 +49,7 @@ TEST_F(RunFailureTest, EachFailingCallEndsTheRunOnce) {
         << "usable again";
     EXPECT_EQ(inner.log.take(), together({opening(), kCommand, closing()}));
   }
+  EXPECT_EQ(traced(), Traces(6, u"QVRScr.EjecutarComandos: -2147217900 told by another component"));
 }
 
 // A command that cannot even be made or filled is a failed command: reported, and the user is asked.
@@ -73,6 +75,7 @@ TEST_F(RunFailureTest, EachFailingCallOfACommandIsAFailedCommand) {
                                           {"Box Yes/No: \u00bfDesea que se ejecuten los restantes comandos?"},
                                           rolled_back()}));
   }
+  EXPECT_EQ(traced(), Traces(6, u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"));
 }
 
 TEST_F(RunFailureTest, AFailingRollbackStillCloses) {
@@ -84,6 +87,8 @@ TEST_F(RunFailureTest, AFailingRollbackStillCloses) {
   const Lines expected_end = together({{"Connection.RollbackTrans"}, report_line("EjecutarComandos"), kClosed});
   ASSERT_GE(lines.size(), expected_end.size());
   EXPECT_EQ(Lines(lines.end() - static_cast<std::ptrdiff_t>(expected_end.size()), lines.end()), expected_end);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component",
+                              u"QVRScr.EjecutarComandos: -2147217900 told by another component"}));
 }
 
 TEST_F(RunFailureTest, EverythingFailingAtTheEndIsReportedOnce) {
@@ -96,6 +101,9 @@ TEST_F(RunFailureTest, EverythingFailingAtTheEndIsReportedOnce) {
                                kReport,
                                {"Connection.RollbackTrans", "Connection.Close"},
                                kReleased}));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: -2147217900 told by another component",
+                              u"QVRScr.EjecutarComandos: 1 told by another component",
+                              u"QVRScr.EjecutarComandos: 2 told by another component"}));
 }
 
 TEST_F(RunFailureTest, ACloseThatFailsAgainAndAgainEndsTheRun) {
@@ -105,6 +113,7 @@ TEST_F(RunFailureTest, ACloseThatFailsAgainAndAgainEndsTheRun) {
   EXPECT_EQ(taken(),
             together(
                 {opening(), {"Connection.CommitTrans", "Connection.Close"}, kReport, {"Connection.Close"}, kReleased}));
+  EXPECT_EQ(traced(), Traces(2, u"QVRScr.EjecutarComandos: -2147217900 told by another component"));
 }
 
 TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
@@ -122,6 +131,7 @@ TEST_F(RunFailureTest, TheReportHasTheConnectionsErrors) {
   EXPECT_EQ(notice.errors[0].description, u"first");
   EXPECT_EQ(notice.errors[0].native_error, 17);
   EXPECT_EQ(notice.errors[1].description, u"second");
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: -2147217900 told by another component"});
 }
 
 // The connection keeps them until its provider fails again.
@@ -132,6 +142,7 @@ TEST_F(RunFailureTest, TheReportHasNoErrorsOfFormerCalls) {
   ASSERT_EQ(thread.report.notices.size(), 1u);
   EXPECT_EQ(thread.report.notices[0].failure.number, 3709);
   EXPECT_TRUE(thread.report.notices[0].errors.empty());
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: 3709 told by another component"});
 }
 
 TEST_F(RunFailureTest, AConnectionThatCannotTellItsErrorsIsReportedAllTheSame) {
@@ -139,6 +150,8 @@ TEST_F(RunFailureTest, AConnectionThatCannotTellItsErrorsIsReportedAllTheSame) {
   thread.ado.fail("Connection.Errors", 1, refusal());
   EXPECT_FALSE(run(u""));
   EXPECT_EQ(taken(), together({opened(3), kReport, kReleased}));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: -2147217900 told by another component",
+                              u"report_failure: -2147217900 told by another component"}));
 }
 
 TEST_F(RunFailureTest, AReportThatFailsChangesNothing) {
@@ -149,6 +162,10 @@ TEST_F(RunFailureTest, AReportThatFailsChangesNothing) {
   thread.ado.fail("Command.Execute", 1, refusal());
   thread.boxes.answer(BoxAnswer::Yes);
   EXPECT_TRUE(run(u"A\r\nGO\r\n"));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.EjecutarComandos: -2147217900 told by another component",
+                              u"QVRScr.EjecutarComandos: 429 ActiveX component can't create object",
+                              u"QVRScr.Ejecutar1Comando: -2147217900 told by another component",
+                              u"QVRScr.Ejecutar1Comando: 429 ActiveX component can't create object"}));
 }
 
 TEST_F(RunFailureTest, AQuestionThatCannotBeAskedEndsTheRun) {
@@ -162,6 +179,8 @@ TEST_F(RunFailureTest, AQuestionThatCannotBeAskedEndsTheRun) {
                                {"Box Yes/No: \u00bfDesea que se ejecuten los restantes comandos?",
                                 "Report: 5|no box today|QVRlib21|2|EjecutarComandos"},
                                rolled_back()}));
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component",
+                              u"QVRScr.EjecutarComandos: 5 no box today"}));
 }
 
 TEST_F(RunFailureTest, AHostThatFailsEndsTheRun) {
@@ -169,6 +188,7 @@ TEST_F(RunFailureTest, AHostThatFailsEndsTheRun) {
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   EXPECT_EQ(taken(),
             together({opening(), kCommand, {"Report: 7|Out of memory|QVRlib21|2|EjecutarComandos"}, rolled_back()}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.EjecutarComandos: 7 Out of memory"});
 }
 
 }  // namespace

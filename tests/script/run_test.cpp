@@ -3,6 +3,7 @@
 
 #include "script/script_fixture.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -95,6 +96,7 @@ TEST_F(RunTest, AnAvoidedTransactionIsNotRolledBack) {
                                report_line("Ejecutar1Comando: B"),
                                {"Box Yes/No: \u00bfDesea que se ejecuten los restantes comandos?", "Connection.Close",
                                 "Connection released", "Terminado: False"}}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunTest, NoAfterAFailedCommandRollsEverythingBack) {
@@ -109,6 +111,7 @@ TEST_F(RunTest, NoAfterAFailedCommandRollsEverythingBack) {
                                report_line("Ejecutar1Comando: B"),
                                {"Box Yes/No: \u00bfDesea que se ejecuten los restantes comandos?"},
                                rolled_back()}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunTest, AnyAnswerButYesIsNo) {
@@ -121,6 +124,7 @@ TEST_F(RunTest, AnyAnswerButYesIsNo) {
                                report_line("Ejecutar1Comando: A"),
                                {"Box Yes/No: \u00bfDesea que se ejecuten los restantes comandos?"},
                                rolled_back()}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunTest, YesAfterAFailedCommandGoesOnWithoutCountingIt) {
@@ -138,6 +142,7 @@ TEST_F(RunTest, YesAfterAFailedCommandGoesOnWithoutCountingIt) {
                                command_lines("C"),
                                {kHost},
                                closing()}));
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 TEST_F(RunTest, AsksAfterEachFailedCommand) {
@@ -148,6 +153,7 @@ TEST_F(RunTest, AsksAfterEachFailedCommand) {
   EXPECT_TRUE(run(u"A\r\nGO\r\nB\r\nGO\r\n"));
   EXPECT_EQ(thread.boxes.shown.size(), 2u);
   EXPECT_EQ(thread.report.notices.size(), 2u);
+  EXPECT_EQ(traced(), Traces(2, u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"));
 }
 
 TEST_F(RunTest, ATextToShowIsUsedAsItStands) {
@@ -191,6 +197,7 @@ TEST_F(RunTest, SpeaksTheThreadsLanguage) {
     expected[4] = std::string("Progreso: ") + row.counting;
     EXPECT_EQ(taken(), expected);
   }
+  EXPECT_EQ(traced(), Traces(4, u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"));
 }
 
 TEST_F(RunTest, LoadsTheLanguageWhereItIsNotLoadedYet) {
@@ -216,6 +223,7 @@ TEST_F(RunTest, EnginesAreOnlyPassedOnToTheReport) {
   EXPECT_FALSE(run(u"A\r\nGO\r\n"));
   ASSERT_EQ(thread.report.notices.size(), 1u);
   EXPECT_EQ(thread.report.notices[0].motor, Engine{-7});
+  EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
 }  // namespace

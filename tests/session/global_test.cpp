@@ -9,6 +9,7 @@
 #include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -51,6 +52,7 @@ struct Row {
   const char16_t* setting;  // null: none
   std::uint16_t system;
   std::int32_t omision, loaded;
+  bool overflows = false;
 };
 
 constexpr Row kRows[] = {
@@ -71,9 +73,9 @@ constexpr Row kRows[] = {
     {"German falls back to English", u"8", 0x0C0A, 8, 1},
     {"negative falls back to English", u"-1", 0x0C0A, -1, 1},
     {"largest", u"2147483647", 0x0C0A, 2147483647, 1},
-    {"too large", u"2147483648", 0x0409, 0, 0},
-    {"huge", u"1E+300", 0x0409, 0, 0},
-    {"beyond any number", u"1E+400", 0x0409, 0, 0},
+    {"too large", u"2147483648", 0x0409, 0, 0, true},
+    {"huge", u"1E+300", 0x0409, 0, 0, true},
+    {"beyond any number", u"1E+400", 0x0409, 0, 0, true},
 };
 
 using IdiomaOmisionOf = Rows<testing::Test, Row>;
@@ -86,6 +88,7 @@ TEST_P(IdiomaOmisionOf, TheSettingIsLoaded) {
   InicializarComun();
   EXPECT_TRUE(thread_state().idioma.Creado());
   EXPECT_EQ(thread_state().idioma.Idioma(), GetParam().loaded);
+  EXPECT_EQ(traced(), GetParam().overflows ? Traces(2, trace_of(u"Global.IdiomaOmision", 6)) : Traces());
 }
 
 INSTANTIATE_TEST_SUITE_P(, IdiomaOmisionOf, testing::ValuesIn(kRows), row_name);
@@ -116,6 +119,7 @@ TEST(IdiomaOmision, IsSpanishWhenTheSettingsCannotBeRead) {
   EXPECT_EQ(IdiomaOmision(), 0);
   InicializarComun();
   EXPECT_TRUE(thread_state().idioma.Creado());
+  EXPECT_EQ(traced(), Traces(2, u"Global.IdiomaOmision: 75 Path/File access error"));
 }
 
 TEST(InicializarComun, GivesEachThreadALanguageOfItsOwn) {
@@ -145,6 +149,7 @@ TEST(ExisteArchivo, IsFalseWhenTheSearchFails) {
   thread.files.search_fails = true;
   EXPECT_FALSE(ExisteArchivo(u"any.txt", 0));
   EXPECT_EQ(thread.files.searches, 1);
+  EXPECT_EQ(traced(), Traces{u"Global.ExisteArchivo: 75 Path/File access error"});
 }
 
 struct Sought {

@@ -5,6 +5,7 @@
 #include "support/describe.h"
 #include "support/rows.h"
 #include "support/test_thread.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -45,6 +46,9 @@ TEST_F(IdiomaSimpleTest, AnswersNothingBeforeLoading) {
   idioma.Idioma(3);
   EXPECT_EQ(idioma.Idioma(), 0);
   EXPECT_FALSE(idioma.Creado());
+  EXPECT_EQ(traced(),
+            (Traces{u"IdiomaSimple.CI: 9 Subscript out of range", u"IdiomaSimple.CIp: 9 Subscript out of range",
+                    u"IdiomaSimple.CIsp: 9 Subscript out of range"}));
 }
 
 TEST_F(IdiomaSimpleTest, TellsWhatItLoaded) {
@@ -123,6 +127,7 @@ TEST_F(IdiomaSimpleTest, AFailedLoadLeavesItUnloaded) {
   EXPECT_FALSE(idioma.Creado());
   EXPECT_TRUE(load(1));
   EXPECT_EQ(idioma.CI(MsgY), u"and");
+  EXPECT_EQ(traced(), Traces{u"IdiomaSimple.CI: 9 Subscript out of range"});
 }
 
 TEST_F(IdiomaSimpleTest, TakesTheFirstPositionOfALanguage) {
@@ -159,8 +164,11 @@ TEST_F(IdiomaSimpleTest, RowsOutsideTheCatalogueAreEmpty) {
     EXPECT_EQ(idioma.CI(row), u"");
     EXPECT_EQ(idioma.CIp(row, one), u"");
     EXPECT_EQ(idioma.CIsp(row, 1, one), u"");
+    EXPECT_EQ(traced(), (Traces{trace_of(u"IdiomaSimple.CI", 9), trace_of(u"IdiomaSimple.CIp", 9),
+                                trace_of(u"IdiomaSimple.CIsp", 9)}));
   }
   EXPECT_EQ(idioma.CIsp(9, 2, {}), u"");
+  EXPECT_EQ(traced(), Traces{trace_of(u"IdiomaSimple.CIsp", 9)});
   EXPECT_EQ(idioma.CIsp(9, 1, {}), u"M\u00e9thode");
   EXPECT_EQ(idioma.CI(MsgEjecutarRestantes), u"Souhaitez-vous ex\u00e9cuter les commandes restantes ?");
 }
@@ -194,6 +202,7 @@ TEST_F(IdiomaSimpleTest, WritesArgumentsOfAnyKind) {
   EXPECT_EQ(idioma.CIp(0, kinds), u"2,5;True;;01/01/2000");
   const Value null[] = {Null{}};
   EXPECT_EQ(idioma.CIp(0, null), u"");
+  EXPECT_EQ(traced(), Traces{u"IdiomaSimple.CIp: 94 Invalid use of Null"});
 }
 
 TEST_F(IdiomaSimpleTest, ChoosesSingularOrPlural) {

@@ -73,7 +73,7 @@ class TracesAreAnnounced : public testing::EmptyTestEventListener {
 
 }  // namespace
 
-std::vector<Text> traced() { return lines.take(); }
+Traces traced() { return lines.take(); }
 
 void expect_any_traces() { any_expected = true; }
 

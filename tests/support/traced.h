@@ -3,11 +3,17 @@
 
 #include <vector>
 
+#include "base/failure.h"
 #include "base/text.h"
 
 namespace qvr::tests {
 
 using Traces = std::vector<Text>;
+
+// The line of a failure with its number's own description; `member` has its class, as in "QVRcfp.Crear".
+inline Text trace_of(TextView member, std::int32_t number) {
+  return join({member, u": ", decimal(number), u" ", description_of(number)});
+}
 
 // The lines so far, without the place at their end, in order; they count as announced.
 Traces traced();

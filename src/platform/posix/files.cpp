@@ -155,8 +155,10 @@ class PosixFiles final : public Files {
     const TextView folder = end == TextView::npos ? u"." : path.substr(0, end + 1);
     const TextView pattern = end == TextView::npos ? path : path.substr(end + 1);
     const bool directories = (attributes & kDirectoryAttribute) != 0;
+    const auto listed = native_path(folder);
+    if (kind_of(listed) != Kind::Directory) return false;  // no failure: nothing is there
     bool any = false;
-    each_name(native_path(folder), [&](const Text& name, const std::string& found) {
+    each_name(listed, [&](const Text& name, const std::string& found) {
       if (!matches_wildcards(name, pattern)) return false;
       const Kind kind = kind_of(found);
       return any = kind == Kind::Plain || (kind == Kind::Directory && directories);

@@ -100,7 +100,7 @@ HRESULT DispatchObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* 
   } catch (const DispatchFailure& failure) {
     return failure.result;
   } catch (const RuntimeFailure& failure) {
-    return or_default(u"testado", E_OUTOFMEMORY, [&] {
+    return or_default({}, E_OUTOFMEMORY, [&] {
       describe(failure.detail(), exception);
       return DISP_E_EXCEPTION;
     });
