@@ -178,5 +178,28 @@ TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {
   EXPECT_EQ(describe(loaded.value.raw()), "BOOL false");
 }
 
+// Opening one of these would reach a device and could wait for it for ever.
+TEST_F(QVRcfpTest, AFileThatIsADeviceOrAPipeIsFalse) {
+  assign_both();
+  const HANDLE pipe = CreateNamedPipeW(L"\\\\.\\pipe\\qvr.cfp", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 0, 0, 0,
+                                       nullptr);
+  ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+  const std::pair<std::wstring, const wchar_t*> places[] = {
+      {work_folder(), L"Aux"},  {work_folder(), L"COM1"},   {work_folder(), L"nul"},  {work_folder(), L"CON"},
+      {work_folder(), L"LPT1"}, {work_folder(), L"CONIN$"}, {L"\\\\.\\pipe", L"qvr"}, {L"\\\\.", L"COM1"},
+  };
+  for (const auto& [folder, name] : places) {
+    SCOPED_TRACE(narrow(name));
+    Bstr in(folder), of(name);
+    VARIANT_BOOL saved = VARIANT_TRUE, loaded = VARIANT_TRUE;
+    const HRESULT saving = early->Guardar(&id, &in, &of, &saved);
+    expect_same(late.call(L"Guardar", {id.get(), folder, name}), saving, early_result(saved), "BOOL false");
+    const HRESULT loading = early->Crear(&id, &in, &of, &loaded);
+    expect_same(late.call(L"Crear", {id.get(), folder, name}), loading, early_result(loaded), "BOOL false");
+    assign_both();
+  }
+  EXPECT_TRUE(CloseHandle(pipe));
+}
+
 }  // namespace
 }  // namespace qvr::tests

@@ -37,11 +37,28 @@ class Descriptor {
   int number_;
 };
 
+// By what a link leads to; a dangling one is none.
+enum class Kind { None, Plain, Directory, Other };
+Kind kind_of(const std::string& path) {
+  struct stat entry {};
+  if (::stat(path.c_str(), &entry) != 0) return Kind::None;
+  return S_ISDIR(entry.st_mode) ? Kind::Directory : S_ISREG(entry.st_mode) ? Kind::Plain : Kind::Other;
+}
+
+// Opening a device, or a pipe with nobody at its other end, would wait: asked before, and not waited for if one takes
+// the file's place meanwhile.
+int opened(const std::string& path, int how) {
+  const Kind found = kind_of(path);
+  const bool missing = found == Kind::None && (how & O_CREAT) != 0;
+  if (found != Kind::Plain && !missing) return -1;
+  return ::open(path.c_str(), how | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666);
+}
+
 // Files are opened in constructors, after the allocation, so that out of memory leaves no descriptor open and no file
 // truncated.
 class DescriptorInput : public InputFile {
  public:
-  explicit DescriptorInput(const std::string& path) : descriptor_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+  explicit DescriptorInput(const std::string& path) : descriptor_(opened(path, O_RDONLY)) {}
 
   std::size_t read(std::span<char> buffer) override {
     std::size_t filled = 0;
@@ -59,16 +76,13 @@ class DescriptorInput : public InputFile {
   Descriptor descriptor_;
 };
 
-int opened_to_write(const std::string& path, int how) {
-  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | how, 0666);
-}
+int opened_to_write(const std::string& path, int how) { return opened(path, O_WRONLY | O_CREAT | how); }
 
 // The permissions of the existing file; none if there is no file. A read-only file must not be replaced by renaming
 // either.
 std::optional<mode_t> permissions_to_keep(const std::string& path) {
-  const int number = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-  if (number < 0 && errno == ENOENT) return std::nullopt;
-  const Descriptor there(number);
+  if (kind_of(path) == Kind::None) return std::nullopt;
+  const Descriptor there(opened(path, O_WRONLY));
   struct stat entry {};
   if (::fstat(there.number(), &entry) != 0) refuse();
   return entry.st_mode & 07777;
@@ -137,14 +151,6 @@ void each_name(const std::string& folder, Use&& use) {
     auto name = from_utf8(entry->d_name);
     if (name && use(std::move(*name), folder + "/" + entry->d_name)) return;
   }
-}
-
-// Devices and dangling links are neither.
-enum class Kind { None, Plain, Directory };
-Kind kind_of(const std::string& path) {
-  struct stat entry {};
-  if (::stat(path.c_str(), &entry) != 0) return Kind::None;
-  return S_ISDIR(entry.st_mode) ? Kind::Directory : S_ISREG(entry.st_mode) ? Kind::Plain : Kind::None;
 }
 
 class PosixFiles final : public Files {

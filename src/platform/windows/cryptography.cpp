@@ -45,8 +45,8 @@ BCRYPT_ALG_HANDLE sha256() {
 }
 
 // HMAC takes a key that is longer than a block as its hash. An implementation of PBKDF2 that leaves this to HMAC hashes
-// the whole password in every round, as Wine's does; ten thousand characters then take eleven seconds. OpenSSL hashes it
-// once for all rounds.
+// the whole password in every round, as Wine's does; ten thousand characters then take eleven seconds. OpenSSL hashes
+// it once for all rounds.
 class HmacKey {
  public:
   explicit HmacKey(Bytes password) : key_(password) {

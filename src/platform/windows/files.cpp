@@ -1,5 +1,6 @@
 #include "base/failure.h"
 #include "platform/parts.h"
+#include "platform/windows/disk_path.h"
 #include "platform/windows/wide_text.h"
 
 namespace qvr::windows {
@@ -11,6 +12,11 @@ class FileHandle {
  public:
   explicit FileHandle(HANDLE handle) : handle_(handle) {
     if (handle_ == INVALID_HANDLE_VALUE) refuse();
+    // A path may lead out of the disk all the same: by a link, or a drive that stands for something else.
+    if (GetFileType(handle_) != FILE_TYPE_DISK) {
+      close();
+      refuse();
+    }
   }
   ~FileHandle() { close(); }
   FileHandle(const FileHandle&) = delete;
@@ -158,7 +164,7 @@ class HandleOutput : public OutputFile {
 };
 
 std::wstring path_of(TextView path) {
-  if (path.find(u'\0') != TextView::npos) refuse();  // Windows would stop at the NUL
+  if (!is_disk_path(path)) refuse();
   return wide(path);
 }
 

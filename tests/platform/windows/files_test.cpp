@@ -1,7 +1,9 @@
-// Atomic replacement of files on Windows.
+// Files on Windows: which are refused, and how they are replaced.
 #include <windows.h>
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 #include "base/failure.h"
 #include "platform/platform.h"
@@ -11,6 +13,67 @@ namespace qvr::tests {
 namespace {
 
 Files& files() { return system_platform().files; }
+
+void expect_refused(TextView path) {
+  EXPECT_THROW(files().open(path), RuntimeFailure);
+  EXPECT_THROW(files().create(path), RuntimeFailure);
+}
+
+TEST(WindowsFiles, AreNoDevices) {
+  const TemporaryFolder folder;
+  for (TextView name : {u"Aux.cfp", u"nul.cfp", u"NUL", u"COM1.cfp", u"con.cfp", u"CONIN$", u"LPT1", u"aux .cfp"}) {
+    SCOPED_TRACE(std::string(name.begin(), name.end()));
+    expect_refused(folder.file_text(name));
+    EXPECT_THROW(files().any_entry(folder.file_text(name), 0), RuntimeFailure);
+  }
+  EXPECT_EQ(files().names(folder.text()), std::vector<Text>());
+}
+
+// With a server that nobody waits at, and with one that would take the call.
+TEST(WindowsFiles, AreNoPipes) {
+  for (const DWORD instances : {DWORD{1}, DWORD{2}}) {
+    const HANDLE pipe = CreateNamedPipeW(L"\\\\.\\pipe\\qvr_files_test", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_WAIT,
+                                         instances, 0, 0, 0, nullptr);
+    ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+    expect_refused(u"\\\\.\\pipe\\qvr_files_test");
+    expect_refused(u"\\\\?\\pipe\\qvr_files_test");
+    expect_refused(u"//./pipe/qvr_files_test");
+    char byte = 0;
+    DWORD count = 0;
+    EXPECT_FALSE(PeekNamedPipe(pipe, &byte, 1, &count, nullptr, nullptr));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_BAD_PIPE)) << "nobody may have come";
+    EXPECT_TRUE(CloseHandle(pipe));
+  }
+  EXPECT_THROW(files().names(u"\\\\.\\pipe"), RuntimeFailure);
+}
+
+TEST(WindowsFiles, AreNoMailslotsStreamsOrFolders) {
+  const HANDLE mailslot = CreateMailslotW(L"\\\\.\\mailslot\\qvr_files_test", 0, MAILSLOT_WAIT_FOREVER, nullptr);
+  ASSERT_NE(mailslot, INVALID_HANDLE_VALUE);
+  expect_refused(u"\\\\.\\mailslot\\qvr_files_test");
+  EXPECT_TRUE(CloseHandle(mailslot));
+  const TemporaryFolder folder;
+  folder.write(u"x.cfp", "inside");
+  std::filesystem::create_directory(folder.file(u"sub"));
+  for (TextView name : {u"x.cfp:", u"x.cfp:s", u"x.cfp::$DATA", u"x.cfp.", u"x.cfp ", u"sub", u"sub\\"}) {
+    SCOPED_TRACE(std::string(name.begin(), name.end()));
+    expect_refused(folder.file_text(name));
+  }
+  EXPECT_EQ(folder.read(u"x.cfp"), "inside");
+}
+
+TEST(WindowsFiles, CanBeNamedInTheLongForm) {
+  const TemporaryFolder folder;
+  const Text path = join({u"\\\\?\\", folder.text(), u"\\x.cfp"});
+  const auto out = files().create(path);
+  out->write("new");
+  out->close();
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
+  std::array<char, 10> buffer;
+  EXPECT_EQ(files().open(path)->read(buffer), 3u);
+  EXPECT_TRUE(files().any_entry(path, 0));
+  EXPECT_EQ(files().names(join({u"\\\\?\\", folder.text()})), std::vector<Text>{u"x.cfp"});
+}
 
 TEST(WindowsFiles, ThatMustNotBeWrittenAreNotReplaced) {
   const TemporaryFolder folder;
