@@ -73,5 +73,38 @@ TEST(NativeFiles, KeepTheirPermissionsWhenTheyAreReplaced) {
   }
 }
 
+void save(TextView path, std::string_view bytes) {
+  const auto out = files().create(path);
+  out->write(bytes);
+  out->close();
+}
+
+TEST(NativeFiles, KeepTheirOwner) {
+  const TemporaryFolder folder;
+  folder.write(u"x.cfp", "former");
+  const bool may_give_away = ::geteuid() == 0;
+  const uid_t owner = may_give_away ? 1234 : ::geteuid();
+  ASSERT_EQ(::chown(folder.file(u"x.cfp").c_str(), owner, owner), 0);
+  save(folder.file_text(u"x.cfp"), "new");
+  struct stat entry {};
+  ASSERT_EQ(::stat(folder.file(u"x.cfp").c_str(), &entry), 0);
+  EXPECT_EQ(entry.st_uid, owner);
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
+}
+
+TEST(NativeFiles, ThatLinksLeadToAreReplacedAtTheirOwnPlace) {
+  const TemporaryFolder folder;
+  namespace fs = std::filesystem;
+  fs::create_directory(folder.file(u"sub"));
+  fs::create_symlink("sub/target", folder.file(u"x.cfp"));
+  for (const std::string_view bytes : {"made behind a link to nothing", "new"}) {
+    save(folder.file_text(u"x.cfp"), bytes);
+    EXPECT_TRUE(fs::is_symlink(folder.file(u"x.cfp")));
+    EXPECT_EQ(folder.read(u"sub/target"), bytes);
+    EXPECT_EQ(files().names(folder.text()), std::vector<Text>{u"x.cfp"});
+    EXPECT_EQ(files().names(folder.file_text(u"sub")), std::vector<Text>{u"target"});
+  }
+}
+
 }  // namespace
 }  // namespace qvr::tests
