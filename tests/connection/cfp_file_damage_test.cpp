@@ -81,6 +81,11 @@ TEST_F(CfpFileDamageTest, TruncatedAtAnyByteOfItsLinesItIsRefused) {
   }
 }
 
+TEST_F(CfpFileDamageTest, WithoutTheEndOfItsLastLineItIsRead) {
+  expect_read(whole.substr(0, whole.size() - 1));
+  expect_read(whole.substr(0, whole.size() - 2));
+}
+
 TEST_F(CfpFileDamageTest, WithoutAnyOneLineItIsRefused) {
   for (std::size_t missing = 0; missing < lines.size(); ++missing) {
     SCOPED_TRACE(missing);
@@ -115,14 +120,50 @@ TEST_F(CfpFileDamageTest, WithAnotherValueInAnyLineItIsRefused) {
   }
 }
 
-TEST_F(CfpFileDamageTest, WithAFirstLineThatIsNoNumberItIsRefused) {
-  for (TextView text : {TextView(u""), TextView(u"abc"), TextView(u"2x"), TextView(u"99999999999"), TextView(u"SQL")}) {
-    SCOPED_TRACE(to_utf8(text));
-    Lines changed = lines;
-    changed[0] = protected_line(text);
-    expect_refused(of(changed));
-  }
+struct FirstLineRow {
+  const char* name;
+  TextView text;
+  bool is_two;
+};
+const FirstLineRow kFirstLines[] = {
+    {"shortest", u"2", true},
+    {"zeros in front", u"002", true},
+    {"sign", u"+2", true},
+    {"blank in front", u" 2", true},
+    {"blank behind", u"2 ", true},
+    {"blanks and a tab", u" \t 2  ", true},
+    {"decimals that say nothing", u"2.0", true},
+    {"a point at the end", u"2.", true},
+    {"exponent", u"2e0", true},
+    {"exponent of another scale", u"0.2E+1", true},
+    {"another number", u"3", false},
+    {"negative", u"-2", false},
+    {"not whole", u"2.5", false},
+    {"another locale's decimals", u"2,0", false},
+    {"nothing", u"", false},
+    {"blanks only", u"  ", false},
+    {"word", u"SQL", false},
+    {"letter behind", u"2x", false},
+    {"letter in front", u"x2", false},
+    {"blank inside", u"+ 2", false},
+    {"two numbers", u"2 2", false},
+    {"sign alone", u"-", false},
+    {"hexadecimal", u"&H2", false},
+    {"no 32-bit number", u"99999999999", false},
+    {"no 32-bit number either", u"-2147483649", false},
+    {"no number of any size", u"2e999", false},
+    {"line feed", u"2\n", false},
+};
+
+using FirstLine = Rows<CfpFileDamageTest, FirstLineRow>;
+
+TEST_P(FirstLine, IsANumberInAnySpelling) {
+  Lines changed = lines;
+  changed[0] = protected_line(GetParam().text);
+  GetParam().is_two ? expect_read(of(changed)) : expect_refused(of(changed));
 }
+
+INSTANTIATE_TEST_SUITE_P(, FirstLine, ::testing::ValuesIn(kFirstLines), row_name);
 
 TEST_F(CfpFileDamageTest, WithAnyOneCharacterChangedItIsRefused) {
   for (std::size_t at = 0; at < whole.size(); ++at) {
@@ -133,11 +174,29 @@ TEST_F(CfpFileDamageTest, WithAnyOneCharacterChangedItIsRefused) {
   }
 }
 
+TEST_F(CfpFileDamageTest, WithLineFeedsAloneItIsRead) {
+  const std::string bytes = of(lines, "\n");
+  expect_read(bytes);
+  expect_read(bytes.substr(0, bytes.size() - 1));
+}
+
+TEST_F(CfpFileDamageTest, WithMixedLineEndsItIsRead) {
+  for (std::size_t with_line_feed = 0; with_line_feed < lines.size(); ++with_line_feed) {
+    SCOPED_TRACE(with_line_feed);
+    std::string bytes;
+    for (std::size_t i = 0; i < lines.size(); ++i) bytes += lines[i] + (i == with_line_feed ? "\n" : "\r\n");
+    expect_read(bytes);
+  }
+}
+
 TEST_F(CfpFileDamageTest, WithOtherLineEndsItIsRefused) {
-  expect_refused(of(lines, "\n"));
   expect_refused(of(lines, "\r"));
   expect_refused(of(lines, ""));
+  expect_refused(of(lines, "\n\r"));
+  expect_refused(of(lines, "\r\r\n"));
+  expect_refused(of(lines, "\n\n"));
   expect_refused("\r\n" + whole);
+  expect_refused("\n" + whole);
 }
 
 TEST_F(CfpFileDamageTest, WithAnotherIdentificationItIsRefused) {
