@@ -1,3 +1,7 @@
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 #include "automation/both.h"
 #include "support/rows.h"
 
@@ -176,6 +180,23 @@ TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {
   EXPECT_EQ(describe(saved.value.raw()), "BOOL false");
   const LateAnswer loaded = late.call(L"Crear", {id.get(), work_folder() + L"\\nowhere", L"x"});
   EXPECT_EQ(describe(loaded.value.raw()), "BOOL false");
+}
+
+TEST_F(QVRcfpTest, AFileWithOtherLineEndsIsRead) {
+  assign_both();
+  ASSERT_EQ(describe(late.call(L"Guardar", {id.get(), work_folder(), L"linux"}).value.raw()), "BOOL true");
+  const std::filesystem::path path = work_folder() + L"\\linux.cfp";
+  std::string bytes;
+  {
+    std::ifstream file(path);  // as text: the line ends are LF
+    bytes.assign(std::istreambuf_iterator<char>(file), {});
+  }
+  std::ofstream(path, std::ios::binary) << bytes.substr(0, bytes.size() - 1);
+  Bstr folder(work_folder()), name(L"linux");
+  VARIANT_BOOL loaded = 0;
+  const HRESULT loading = early->Crear(&id, &folder, &name, &loaded);
+  expect_same(late.call(L"Crear", {id.get(), work_folder(), L"linux"}), loading, early_result(loaded), "BOOL true");
+  expect_property(L"DataSource", &_QVRcfp::get_DataSource, "BSTR SRV01");
 }
 
 // Opening one of these would reach a device and could wait for it for ever.
