@@ -36,9 +36,9 @@ struct Files {
   // Throws when it cannot be read, and for everything that is no file on a disk, without waiting for it.
   virtual std::unique_ptr<InputFile> open(TextView path) = 0;
   // Atomic replacement: the text is written to a temporary file beside it (temporary_name.h), which close() gives the
-  // final name; temporary files that an ended process left are removed then. Without close() everything stays as it was.
-  // Links, attributes and rights of the former file are kept: where renaming would lose them or fails, and where no
-  // temporary file can be created, the file is written in place. Waits about a second while another process has the
+  // final name; temporary files that an ended process left are removed then. Without close() everything stays as it
+  // was. Links, attributes and rights of the former file are kept: where renaming would lose them or fails, and where
+  // no temporary file can be created, the file is written in place. Waits about a second while another process has the
   // file open. Throws.
   virtual std::unique_ptr<OutputFile> create(TextView path) = 0;
   // Text in the system's ANSI code page (UTF-8 on posix). Throws for characters that the code page does not have.

@@ -240,8 +240,9 @@ class HandleOutput : public OutputFile {
       beside_ = path_ + wide(temporary_suffix(number));
       const HANDLE handle = CreateFileW(beside_.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                                         FILE_ATTRIBUTE_NORMAL, nullptr);
+      const bool is_somebodys = handle == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS;
       if (handle != INVALID_HANDLE_VALUE) return handle;
-      if (GetLastError() != ERROR_FILE_EXISTS) break;  // somebody's own file
+      if (!is_somebodys) break;
     }
     beside_.clear();  // no permission to create files in the folder, or the name is too long
     return opened_in_place(path_);
