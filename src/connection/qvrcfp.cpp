@@ -46,9 +46,7 @@ bool QVRcfp::Crear(TextView ID, TextView R, TextView A) noexcept {
     clear();
     ThreadState& state = thread_state();
     const auto file = state.platform().files.open(path);
-    auto loaded = read_cfp(*file, state.platform().files, state.text_protection(), key);
-    if (!loaded) throw RuntimeFailure(failure_number::kTypeMismatch, u"The check line does not fit the values");
-    fields_ = std::move(*loaded);
+    fields_ = read_cfp(*file, state.platform().files, state.text_protection(), key);
     fields_.Archivo = std::move(name);
     return created_ = true;
   });
@@ -60,10 +58,13 @@ bool QVRcfp::Guardar(TextView ID, TextView R, TextView A) noexcept {
   return or_default(kClass, false, [&] {
     require_parameters();
     ThreadState& state = thread_state();
-    const auto file = state.platform().files.create(cfp_path(R, A));
+    Files& files = state.platform().files;
+    // Before the file is created: deriving a key takes a moment, during which no other saver has to wait, and a
+    // protection that fails leaves the existing file as it is.
+    const std::string bytes = cfp_bytes(fields_, files, state.text_protection(), ID);
+    const auto file = files.create(cfp_path(R, A));
     if (fields_.Archivo.empty()) fields_.Archivo = A;
-    // Everything that can fail comes before the first write: a protection that fails leaves the existing file as it is.
-    file->write(cfp_bytes(fields_, state.platform().files, state.text_protection(), ID));
+    file->write(bytes);
     file->close();
     return true;
   });

@@ -31,11 +31,15 @@ struct OutputFile {
 struct Files {
   // Whether a directory search for the path (wildcards allowed) with this mask of file attributes finds anything.
   virtual bool any_entry(TextView path, std::int32_t attributes) = 0;
-  virtual std::vector<Text> names(TextView folder) = 0;        // of its regular files; throws when it cannot be read
-  virtual std::unique_ptr<InputFile> open(TextView path) = 0;  // throws when it cannot be read
-  // Atomic replacement: the text is written to a temporary file with ".tmp" appended to its name, which close() renames
-  // to the final name. Until then an existing file stays as it is; without close() the temporary file remains. Where no
-  // temporary file can be created, or renaming fails, the file is written in place. Throws.
+  // The names of its files, whatever their attributes; throws when the folder cannot be read.
+  virtual std::vector<Text> names(TextView folder) = 0;
+  // Throws when it cannot be read, and for everything that is no file on a disk, without waiting for it.
+  virtual std::unique_ptr<InputFile> open(TextView path) = 0;
+  // Atomic replacement: the text is written to a temporary file beside it (temporary_name.h), which close() gives the
+  // final name; temporary files that an ended process left are removed then. Without close() everything stays as it
+  // was. Links, attributes and rights of the former file are kept: where renaming would lose them or fails, and where
+  // no temporary file can be created, the file is written in place. Waits about a second while another process has the
+  // file open. Throws.
   virtual std::unique_ptr<OutputFile> create(TextView path) = 0;
   // Text in the system's ANSI code page (UTF-8 on posix). Throws for characters that the code page does not have.
   virtual std::string to_system_page(TextView text) = 0;

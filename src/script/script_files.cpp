@@ -31,9 +31,9 @@ std::vector<Text> definition_files(TextView Ruta, TextView NombreDefinicion, Eng
 
 bool has_update_from(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD) {
   const Text pattern = join({Aplicacion, decimal(version), u"a?????", engine_tag(MotorBD), u".cfc"});
-  constexpr std::int32_t kPlainFiles = 0;
+  constexpr std::int32_t kHiddenAndSystemFiles = 2 | 4;  // attributes: those are files like others
   // The folder is listed only if the system's wildcard search finds something, which may match less than our pattern.
-  return ExisteArchivo(join({Ruta, u"\\", pattern}), kPlainFiles) && !sorted_names(Ruta, pattern).empty();
+  return ExisteArchivo(join({Ruta, u"\\", pattern}), kHiddenAndSystemFiles) && !sorted_names(Ruta, pattern).empty();
 }
 
 std::vector<Text> update_files(TextView Ruta, TextView Aplicacion, std::int32_t version, Engine MotorBD) {

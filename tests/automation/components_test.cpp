@@ -33,11 +33,35 @@ TEST(TextProtectionComponent, ProtectsTheFileWhenItIsRegistered) {
   on_fresh_thread([] {
     FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
     save_and_load(L"component", true);
-    // Ten lines written, ten read back with the check line written again: all through the component.
-    EXPECT_EQ(component.calls().size(), 20u);
+    // Ten lines written and, before and after they are in the file, read with the check line written again: all
+    // through the component.
+    EXPECT_EQ(component.calls().size(), 30u);
     EXPECT_EQ(component.calls()[1], "Cifrar(BSTR id, BSTR PROV)");
     EXPECT_EQ(component.calls()[10], "Descifrar(BSTR id, BSTR 2)");
   });
+}
+
+// Such a line ends early, for this library or another reader of the file.
+TEST(TextProtectionComponent, DoesNotReplaceAFileByOneThatCannotBeRead) {
+  for (const wchar_t* end : {L"\r\n", L"\n", L",", L"\"", L" "}) {
+    SCOPED_TRACE(narrow(end));
+    on_fresh_thread([] { save_and_load(L"kept", true); });
+    on_fresh_thread([end] {
+      FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"},
+                                [end](const std::wstring& member, const std::vector<Var>& arguments) {
+                                  LateAnswer answer = rot(member, arguments);
+                                  if (member == L"Cifrar") answer.value = Var(answer.value.text() + end);
+                                  return answer;
+                                });
+      const LateObject written(L"QVRlib21.QVRcfp");
+      written.call(L"Asignar", {L"id", 1, L"PROV", L"", L"", L"", L"", L"", L"", L""});
+      EXPECT_EQ(describe(written.call(L"Guardar", {L"id", work_folder(), L"kept"}).value.raw()), "BOOL false");
+    });
+    on_fresh_thread([] {
+      const LateObject read(L"QVRlib21.QVRcfp");
+      EXPECT_EQ(describe(read.call(L"Crear", {L"id", work_folder(), L"kept"}).value.raw()), "BOOL true");
+    });
+  }
 }
 
 TEST(TextProtectionComponent, FailsTheMembersWhenItFails) {

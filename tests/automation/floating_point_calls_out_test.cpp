@@ -145,10 +145,12 @@ TEST_P(CallsOut, AnEventThatChangesTheState) {
 
 TEST_P(CallsOut, Components) {
   on_fresh_thread([this] {
-    FamilyComponent protection(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, noting(L"x"));
+    FamilyComponent protection(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, noting(L"1"));
     const LateObject parameters(L"QVRlib21.QVRcfp");
-    parameters.call(L"Asignar", {L"id", 1, L"", L"", L"", L"", L"", L"", L"", L""});
-    expect_seen(*late_call(parameters.get(), L"Guardar", DISPATCH_METHOD, {L"id", work_folder(), L"floating"}), 10);
+    parameters.call(L"Asignar", {L"id", 1, L"1", L"1", L"1", L"1", L"1", L"1", L"1", L"1"});
+    const auto call = late_call(parameters.get(), L"Guardar", DISPATCH_METHOD, {L"id", work_folder(), L"floating"});
+    expect_seen(*call, 20);  // written, and read back
+    EXPECT_EQ(call->outcome(), "BOOL true");
     DeleteFileW((work_folder() + L"\\floating.cfp").c_str());
   });
 }

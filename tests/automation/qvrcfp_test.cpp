@@ -1,3 +1,7 @@
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 #include "automation/both.h"
 #include "support/rows.h"
 #include "support/traced.h"
@@ -189,6 +193,46 @@ TEST_F(QVRcfpTest, AFolderThatDoesNotExistIsFalse) {
   EXPECT_EQ(describe(loaded.value.raw()), "BOOL false");
   EXPECT_EQ(traced(),
             (Traces{u"QVRcfp.Guardar: 75 Path/File access error", u"QVRcfp.Crear: 75 Path/File access error"}));
+}
+
+TEST_F(QVRcfpTest, AFileWithOtherLineEndsIsRead) {
+  assign_both();
+  ASSERT_EQ(describe(late.call(L"Guardar", {id.get(), work_folder(), L"linux"}).value.raw()), "BOOL true");
+  const std::filesystem::path path = work_folder() + L"\\linux.cfp";
+  std::string bytes;
+  {
+    std::ifstream file(path);  // as text: the line ends are LF
+    bytes.assign(std::istreambuf_iterator<char>(file), {});
+  }
+  std::ofstream(path, std::ios::binary) << bytes.substr(0, bytes.size() - 1);
+  Bstr folder(work_folder()), name(L"linux");
+  VARIANT_BOOL loaded = 0;
+  const HRESULT loading = early->Crear(&id, &folder, &name, &loaded);
+  expect_same(late.call(L"Crear", {id.get(), work_folder(), L"linux"}), loading, early_result(loaded), "BOOL true");
+  expect_property(L"DataSource", &_QVRcfp::get_DataSource, "BSTR SRV01");
+}
+
+// Opening one of these would reach a device and could wait for it for ever.
+TEST_F(QVRcfpTest, AFileThatIsADeviceOrAPipeIsFalse) {
+  assign_both();
+  const HANDLE pipe = CreateNamedPipeW(L"\\\\.\\pipe\\qvr.cfp", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 0, 0, 0,
+                                       nullptr);
+  ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+  const std::pair<std::wstring, const wchar_t*> places[] = {
+      {work_folder(), L"Aux"},  {work_folder(), L"COM1"},   {work_folder(), L"nul"},  {work_folder(), L"CON"},
+      {work_folder(), L"LPT1"}, {work_folder(), L"CONIN$"}, {L"\\\\.\\pipe", L"qvr"}, {L"\\\\.", L"COM1"},
+  };
+  for (const auto& [folder, name] : places) {
+    SCOPED_TRACE(narrow(name));
+    Bstr in(folder), of(name);
+    VARIANT_BOOL saved = VARIANT_TRUE, loaded = VARIANT_TRUE;
+    const HRESULT saving = early->Guardar(&id, &in, &of, &saved);
+    expect_same(late.call(L"Guardar", {id.get(), folder, name}), saving, early_result(saved), "BOOL false");
+    const HRESULT loading = early->Crear(&id, &in, &of, &loaded);
+    expect_same(late.call(L"Crear", {id.get(), folder, name}), loading, early_result(loaded), "BOOL false");
+    assign_both();
+  }
+  EXPECT_TRUE(CloseHandle(pipe));
 }
 
 }  // namespace

@@ -3,9 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "base/failure.h"
 #include "base/utf8.h"
 #include "connection/sample_parameters.h"
 #include "services/builtin_text_protection.h"
+#include "support/rows.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 #include "support/traced.h"
@@ -14,6 +18,7 @@ namespace qvr::tests {
 namespace {
 
 using services::BuiltinTextProtection;
+using tests::PrintTo;
 
 class CfpFileTest : public ::testing::Test {
  protected:
@@ -105,6 +110,21 @@ TEST_F(CfpFileTest, ShowsNoFieldInPlainText) {
   EXPECT_EQ(bytes.find_first_of(", \""), std::string::npos);
 }
 
+// As failures of their own, which whoever traces failures can tell.
+TEST_F(CfpFileTest, IsAFailureWithoutItsCheckLine) {
+  CheapProtection protection;
+  std::string bytes = cfp_bytes(sample_parameters(), thread.files, protection, u"id");
+  bytes[bytes.size() - 3] = bytes[bytes.size() - 3] == 'a' ? 'b' : 'a';
+  MemoryInput file(bytes);
+  try {
+    read_cfp(file, thread.files, protection, u"id");
+    FAIL() << "read";
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.detail().number, failure_number::kInvalidArgument);
+    EXPECT_EQ(failure.detail().description, u"The file's check line does not match its other lines");
+  }
+}
+
 TEST_F(CfpFileTest, IsReadWhateverTheCaseOfItsCheckLine) {
   thread.files.keep_in_memory();
   thread.make_text_protection = [] {
@@ -145,7 +165,8 @@ TEST_F(CfpFileTest, IsNotMadeWhereThereIsNoPlace) {
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
   thread.files.keep_in_memory();
-  for (int failing = 1; failing <= 10; ++failing) {
+  constexpr int kCalls = 10 + 10;  // written, and read back
+  for (int failing = 1; failing <= kCalls; ++failing) {
     SCOPED_TRACE(failing);
     int calls = 0;
     thread.make_text_protection = [&] { return std::make_unique<FailingProtection>(failing, calls); };
@@ -155,12 +176,136 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheProtectionFails) {
     ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
     EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"a"));
     EXPECT_EQ(thread.files.memory[u"F\\a.cfp"], "what was there");
-    EXPECT_FALSE(thread.files.memory.contains(u"F\\a.cfp.tmp"));
-    EXPECT_EQ(cfp.Archivo(), u"a") << "the file could be opened";
+    EXPECT_EQ(thread.files.memory.size(), 1u) << "nothing is left beside it";
+    EXPECT_EQ(thread.files.created, failing - 1) << "it was not touched";
+    EXPECT_EQ(cfp.Archivo(), u"");
     EXPECT_EQ(calls, failing);
     EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a")) << "the object still holds its parameters";
   }
-  EXPECT_EQ(traced(), Traces(10, trace_of(u"QVRcfp.Guardar", 429)));
+  EXPECT_EQ(traced(), Traces(kCalls, trace_of(u"QVRcfp.Guardar", 429)));
+}
+
+// Deriving a key takes a moment, during which another saver would wait.
+TEST_F(CfpFileTest, IsCreatedWhenAllLinesAreProtected) {
+  struct Watching final : services::TextProtection {
+    explicit Watching(const int& files_created) : created(files_created) {}
+    Text Cifrar(TextView Clave, TextView Texto) override {
+      EXPECT_EQ(created, 0);
+      return inner.Cifrar(Clave, Texto);
+    }
+    Text Descifrar(TextView Clave, TextView Texto) override {
+      EXPECT_EQ(created, 0);
+      return inner.Descifrar(Clave, Texto);
+    }
+    const int& created;
+    CheapProtection inner;
+  };
+  thread.files.keep_in_memory();
+  thread.make_text_protection = [this] { return std::make_unique<Watching>(thread.files.created); };
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
+  EXPECT_EQ(thread.files.created, 1);
+}
+
+// A protection that undoes what it did, but writes something around or between that no line can hold.
+class Decorated final : public services::TextProtection {
+ public:
+  Decorated(TextView front, TextView middle, TextView end) : front_(front), middle_(middle), end_(end) {}
+  Text Cifrar(TextView Clave, TextView Texto) override {
+    const Text inner = inner_.Cifrar(Clave, Texto);
+    return join({front_, TextView(inner).substr(0, 1), middle_, TextView(inner).substr(1), end_});
+  }
+  Text Descifrar(TextView Clave, TextView Texto) override {
+    Texto.remove_prefix(front_.size());
+    Texto.remove_suffix(end_.size());
+    return inner_.Descifrar(Clave, join({Texto.substr(0, 1), Texto.substr(1 + middle_.size())}));
+  }
+
+ private:
+  CheapProtection inner_;
+  const TextView front_, middle_, end_;
+};
+
+struct DecoratedRow {
+  const char* name;
+  TextView front, middle, end;
+  bool kept;
+};
+const DecoratedRow kDecorated[] = {
+    {"nothing", u"", u"", u"", true},
+    {"a blank inside", u"", u" ", u"", true},
+    {"other punctuation", u"'", u";", u".", true},
+    {"a line break inside", u"", u"\r\n", u"", false},
+    {"a line feed inside", u"", u"\n", u"", false},
+    {"a carriage return inside", u"", u"\r", u"", false},
+    {"a line break at the end", u"", u"", u"\r\n", false},
+    {"a carriage return at the end", u"", u"", u"\r", false},
+    {"a comma", u"", u",", u"", false},
+    {"a comma at the end", u"", u"", u",", false},
+    {"a double quote", u"", u"\"", u"", false},
+    {"double quotes around it", u"\"", u"", u"\"", false},
+    {"a blank in front", u" ", u"", u"", false},
+    {"a blank at the end", u"", u"", u" ", false},
+    {"a tab in front", u"\t", u"", u"", false},
+    {"a tab at the end", u"", u"", u"\t", false},
+};
+
+using DecoratedLines = Rows<CfpFileTest, DecoratedRow>;
+
+TEST_P(DecoratedLines, AreSavedWhereEveryReaderTakesThem) {
+  thread.files.keep_in_memory();
+  thread.make_text_protection = [] {
+    return std::make_unique<Decorated>(GetParam().front, GetParam().middle, GetParam().end);
+  };
+  thread.files.memory[u"F\\a.cfp"] = "what was there";
+  QVRcfp cfp, reader;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  EXPECT_EQ(cfp.Guardar(u"id", u"F", u"a"), GetParam().kept);
+  EXPECT_EQ(thread.files.memory[u"F\\a.cfp"] == "what was there", !GetParam().kept);
+  EXPECT_EQ(traced(), GetParam().kept ? Traces()
+                                      : Traces{u"QVRcfp.Guardar: 5 The text protection wrote a line break, a comma, a "
+                                               u"double quote or a blank at an end"});
+  EXPECT_EQ(reader.Crear(u"id", u"F", u"a"), GetParam().kept);
+  EXPECT_EQ(traced(), GetParam().kept ? Traces() : Traces{trace_of(u"QVRcfp.Crear", 5)});
+}
+
+INSTANTIATE_TEST_SUITE_P(, DecoratedLines, ::testing::ValuesIn(kDecorated), row_name);
+
+// Protections that break their promise in one call of all.
+class Unfaithful final : public services::TextProtection {
+ public:
+  Unfaithful(int encrypting, int decrypting) : encrypting_(encrypting), decrypting_(decrypting) {}
+  Text Cifrar(TextView Clave, TextView Texto) override {
+    return inner_.Cifrar(Clave, --encrypting_ == 0 ? join({Texto, u"x"}) : Texto);
+  }
+  Text Descifrar(TextView Clave, TextView Texto) override {
+    Text text = inner_.Descifrar(Clave, Texto);
+    if (--decrypting_ == 0) std::ranges::reverse(text);
+    return text;
+  }
+
+ private:
+  CheapProtection inner_;
+  int encrypting_, decrypting_;
+};
+
+TEST_F(CfpFileTest, IsNotWrittenByAProtectionThatDoesNotReadItBack) {
+  thread.files.keep_in_memory();
+  constexpr int kWritten = 11, kRead = 9;
+  for (int call = 1; call <= kWritten + kRead; ++call) {
+    if (call == kWritten + 1) continue;  // "2" is the same backwards
+    SCOPED_TRACE(call);
+    thread.make_text_protection = [call] { return std::make_unique<Unfaithful>(call, call - kWritten); };
+    thread.renew();
+    thread.files.memory[u"F\\a.cfp"] = "what was there";
+    QVRcfp cfp;
+    ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+    EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"a"));
+    EXPECT_EQ(thread.files.memory[u"F\\a.cfp"], "what was there");
+    EXPECT_EQ(traced(), Traces{call == 1 ? u"QVRcfp.Guardar: 13 The file's first line is no 32-bit number"
+                                         : u"QVRcfp.Guardar: 5 The file's check line does not match its other lines"});
+  }
 }
 
 struct NoProtection final : services::TextProtection {
@@ -183,7 +328,7 @@ TEST_F(CfpFileTest, IsNotWrittenWithALineThatCouldNotBeRead) {
   EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"a"));
   EXPECT_TRUE(cfp.Crear(u"id", u"F", u"a"));
   EXPECT_EQ(cfp.OtrosParametros().size(), std::size_t{1} << 20);
-  EXPECT_EQ(traced(), Traces{u"QVRcfp.Guardar: 75 Path/File access error"});
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.Guardar: 75 A line of the file is longer than 16 MiB"});
 }
 
 TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
@@ -200,8 +345,7 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
     EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"part"));
     EXPECT_FALSE(cfp.Guardar(u"id", u"F", u"new"));
     EXPECT_EQ(memory[u"F\\part.cfp"], "what was there");
-    EXPECT_EQ(memory[u"F\\part.cfp.tmp"], whole.substr(0, room));
-    EXPECT_FALSE(memory.contains(u"F\\new.cfp"));
+    EXPECT_EQ(memory.size(), 2u) << "no part is left";
   }
   thread.files.writable_bytes = whole.size();
   thread.files.close_fails = true;
@@ -210,7 +354,7 @@ TEST_F(CfpFileTest, StaysAsItIsWhenTheDiskIsFull) {
   thread.files.close_fails = false;
   EXPECT_TRUE(cfp.Guardar(u"id", u"F", u"part"));
   EXPECT_EQ(memory[u"F\\part.cfp"], whole);
-  EXPECT_FALSE(memory.contains(u"F\\part.cfp.tmp"));
+  EXPECT_EQ(memory.size(), 2u);
   EXPECT_EQ(cfp.Archivo(), u"whole");
   EXPECT_EQ(traced(), Traces(7, trace_of(u"QVRcfp.Guardar", 75)));
 }

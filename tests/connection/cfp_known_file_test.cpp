@@ -61,6 +61,37 @@ TEST_F(CfpKnownFileTest, IsReadWithItsCheckLineInUpperCase) {
   EXPECT_TRUE(cfp.Crear(kId, u"F", u"a"));
 }
 
+// Written before long passwords were hashed ahead of their derivation.
+constexpr std::string_view kFileOfALongIdentification =
+    "1fx2zel265ejlbswqksqe2urfjywuezuar36vz2ramq5zkoyk2ytklqequvxpaitdbbppbhfd2dike\r\n"
+    "1tbmkxwfddt6khn6jrafclnfoxde5ckrlursqi4p72r4h47zbeinkgrqqxwhch6eilge43pud4pbnw\r\n"
+    "1zrckfjkqwgnom27egrxijvidrx6ogh2o7s6vimxg7adkqcp6knjwyz6ib6kd5fzvwjcn3xgpoq256\r\n"
+    "1poividqoj2x5jexvdcxvzuo66fl7aavkqeru67ghm5maj4nd23aqmq4y3zaydvno5snhwqfgldh4g\r\n"
+    "1673hcwtud42phwcktsbincyyy2wjqgiz37vbilcjmrvns3jvoc6srzzivgswb3jvwugkravufpgrq\r\n"
+    "15ncbirlqkebkepwbtf2wv2blm6hateonhqgghgudctazdtapejjczfp6to7qgvzk7m5267vgkhk52\r\n"
+    "1xwgap376qqnllawqm4dukoaqq5yjsuapvuiv2jdwu2xwj4pf2mzdhfyyjmyap3drhrjlrbgoz7iwq\r\n"
+    "1tr4gkblwowyhqqrip6qfvfuemdhqe22oc5m3xcrgqqrduvqy5iyuhztqjvvykjs7b2sclidvq3pv4\r\n"
+    "1iod57imrccnxh7ntn3mkwxk3nq2mvz7klk72m6shl52mdjf7yrr4zzlqnj7m5pd7rt3w5uvswykos\r\n"
+    "1gqdbvpuznhruys33htjqzv2tnusru4zrw4kzb4egmm73rzt2ozgg2yehir4hjv7pbyktu36me3u2k6choxfmdureprix7ccplcvkfgbz2ntqp"
+    "ycksndlfvkkot5hab4drgzlcdumo54bh4axus2cfaob5iy6nw3zsubbwokjypl6vj4yutma\r\n";
+
+Text long_identification() {
+  Text id;
+  while (id.size() < 10000) id += u"identificaci\u00f3n ";
+  id.resize(10000);
+  return id;
+}
+
+TEST_F(CfpKnownFileTest, IsReadAndWrittenUnderALongIdentification) {
+  thread.files.memory[u"F\\a.cfp"] = kFileOfALongIdentification;
+  QVRcfp cfp;
+  EXPECT_TRUE(cfp.Crear(long_identification(), u"F", u"a"));
+  expect_parameters(cfp, sample_parameters(), u"a");
+  ASSERT_TRUE(cfp.Asignar(kId, sample_parameters()));
+  EXPECT_TRUE(cfp.Guardar(long_identification(), u"F", u"b"));
+  EXPECT_EQ(thread.files.memory[u"F\\b.cfp"], kFileOfALongIdentification);
+}
+
 TEST_F(CfpKnownFileTest, IsRefusedUnderAnotherIdentification) {
   thread.files.memory[u"F\\a.cfp"] = kFile;
   QVRcfp cfp;

@@ -33,7 +33,7 @@ struct FaultCase {
   std::function<std::unique_ptr<Stage>()> make;
   // What holds of every call's log, beyond that its boxes and reports are whole.
   void (*check_log)(const Lines&, const std::string& result) = nullptr;
-  bool may_succeed = false;  // the standard library tolerates a failure of one of its allocations
+  bool may_succeed = false;  // the member, or the standard library, gets by without one of its allocations
   bool lasting = false;      // also with all allocations failing from the n-th on
 };
 

@@ -67,6 +67,37 @@ TEST(Cryptography, DerivesTheStandardsKeys) {
   }
 }
 
+// HMAC hashes a key that is longer than a block of its hash (64 bytes for SHA-256). Derived with Python's hashlib.
+TEST(Cryptography, DerivesTheSameKeysFromLongPasswords) {
+  struct Row {
+    std::size_t size;
+    std::string_view derived;
+  };
+  constexpr Row kRows[] = {
+      {63,
+       "9b6c90643d61042ecefa614a99a0bc11f8b27a3c622458db3eb0e85476f10095"
+       "6a5ef8803992ca9eaca5a305c9da01a2134338fcd8d1320281646ec12bc2ea3e"},
+      {64,
+       "52a35b55f8bf76a5cd41c6ecb550403d5db0cf1f9713129b7858ed7efdda102e"
+       "45d6dcfed7b2a73f6a29e39eb44c3791b868880c295e3c00388db9cfb8943306"},
+      {65,
+       "ae720262726b2fca085e76a3dc14048f0c078470e4df8be02ccb0faed8781973"
+       "0d95706e6411b473aa9c6dc58ae292002f669173b57e0371e2a85528511e08e3"},
+      {10000,
+       "0a5016ea6b7bd04a1eb6046a13c03bf118b9e24235820c85f18fbad099302cae"
+       "5013baa8b0c879966bbd98529557008be1da967a1813bd1d2b0e522a5c0cf417"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.size);
+    std::string password;
+    while (password.size() < row.size) password += "abcdefghij";
+    password.resize(row.size);
+    Octets derived(64);
+    cryptography().pbkdf2_hmac_sha256(as_bytes(password), as_bytes("salt"), 1000, derived);
+    EXPECT_EQ(derived, from_hexadecimal(row.derived));
+  }
+}
+
 TEST(Cryptography, WipesEveryByte) {
   Octets secret(100, 0xAA);
   cryptography().wipe(secret);

@@ -1,5 +1,6 @@
 // Script files run into a real database.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "base/utf8.h"
 #include "json_reader.h"
@@ -64,6 +65,19 @@ TEST_F(Run, TakesAllBackAfterAFailure) {
   EXPECT_TRUE(answer.err.ends_with(" no\nqvrscript: failed after 1 of 3 commands; all taken back\n")) << answer.err;
   EXPECT_EQ(ask(u"select count(*) from T"), "0");
   EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
+}
+
+// Nobody writes into the pipe: opening it would wait for ever.
+TEST_F(Run, DoesNotWaitForAPipe) {
+  ASSERT_EQ(::mkfifo(folder.file(u"x.cfc").c_str(), 0600), 0);
+  for (const TextView command : {u"run", u"check"}) {
+    std::vector<Text> words{Text(command), folder.file_text(u"x.cfc")};
+    if (command == u"run") words.insert(words.begin() + 1, {u"--engine", u"sqlserver", u"--connection", connection()});
+    const ToolAnswer answer = run_tool(words, false, [](const Platform&) { return odbc::make_odbc_ado(); });
+    EXPECT_EQ(answer.code, 2);
+    EXPECT_EQ(answer.out, "");
+    EXPECT_NE(answer.err.find("x.cfc"), std::string::npos) << answer.err;
+  }
 }
 
 TEST_F(Run, GoesOnWhereItIsTold) {

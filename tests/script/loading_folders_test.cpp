@@ -22,6 +22,14 @@ TEST_F(LoadingFoldersTest, AFolderThatCannotBeListedIsAFailure) {
                               u"QVRScr.CargarActualizacion: 75 No update script begins with this version"}));
 }
 
+// An installation without them would lack tables, and answer as if it were whole.
+TEST_F(LoadingFoldersTest, HiddenFilesAreFilesLikeOthers) {
+  put_names({u"GestionSQL1.cfc", u"GestionSQL2.cfc", u"Gestion10024a10025SQL.cfc", u"Gestion10025a10026SQL.cfc"});
+  for (TextView name : {u"GestionSQL2.cfc", u"Gestion10024a10025SQL.cfc"}) thread.files.hidden.insert(path(name));
+  EXPECT_EQ(definition(), joined({u"GestionSQL1.cfc", u"GestionSQL2.cfc"}));
+  EXPECT_EQ(update(10024), joined({u"Gestion10024a10025SQL.cfc", u"Gestion10025a10026SQL.cfc"}));
+}
+
 TEST_F(LoadingFoldersTest, AFileThatVanishesBeforeItIsReadEndsTheLoading) {
   const auto vanish = [&] { thread.files.memory.erase(path(u"GestionSQL2.cfc")); };
   put_names({u"GestionSQL1.cfc", u"GestionSQL2.cfc", u"GestionSQL3.cfc"});

@@ -4,6 +4,7 @@
 
 #include "base/failure.h"
 #include "base/wildcards.h"
+#include "platform/temporary_name.h"
 #include "support/faults_paused.h"
 
 namespace qvr::tests {
@@ -15,19 +16,17 @@ Files& real() { return system_platform().files; }
 
 class MemoryOutput final : public OutputFile {
  public:
-  MemoryOutput(FakeFiles& files, TextView path) : files_(files), path_(path), beside_(join({path, u".tmp"})) {
+  MemoryOutput(FakeFiles& files, TextView path)
+      : files_(files), path_(path), beside_(join({path, temporary_suffix(0)})) {
     const FaultsPaused paused;
     written().clear();
   }
-  ~MemoryOutput() override {
-    if (!begun_) files_.memory.erase(beside_);
-  }
+  ~MemoryOutput() override { files_.memory.erase(beside_); }
   MemoryOutput(const MemoryOutput&) = delete;
   MemoryOutput& operator=(const MemoryOutput&) = delete;
 
   void write(std::string_view bytes) override {
     const FaultsPaused paused;  // a disk does not use this memory
-    begun_ = true;
     const auto& disk = files_.writable_bytes;
     const std::size_t room = disk ? *disk - std::min(*disk, written().size()) : bytes.size();
     written() += bytes.substr(0, room);
@@ -36,7 +35,6 @@ class MemoryOutput final : public OutputFile {
 
   void close() override {
     const FaultsPaused paused;
-    begun_ = true;
     if (files_.close_fails) refuse();
     files_.memory[path_] = std::move(written());
     files_.memory.erase(beside_);
@@ -47,7 +45,6 @@ class MemoryOutput final : public OutputFile {
 
   FakeFiles& files_;
   const Text path_, beside_;
-  bool begun_ = false;
 };
 
 }  // namespace
@@ -56,7 +53,11 @@ bool FakeFiles::any_entry(TextView path, std::int32_t attributes) {
   ++searches;
   if (search_fails) refuse();
   if (!in_memory_) return real().any_entry(path, attributes);
-  return std::ranges::any_of(memory, [&](const auto& file) { return matches_wildcards(file.first, path); });
+  constexpr std::int32_t kHidden = 2;
+  return std::ranges::any_of(memory, [&](const auto& file) {
+    const bool shown = (attributes & kHidden) != 0 || !hidden.contains(file.first);
+    return shown && matches_wildcards(file.first, path);
+  });
 }
 
 std::vector<Text> FakeFiles::names(TextView folder) {

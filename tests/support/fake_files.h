@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 
 #include "platform/platform.h"
 
@@ -23,6 +24,7 @@ class FakeFiles final : public Files {
   void keep_in_memory() { in_memory_ = true; }
 
   std::map<Text, std::string> memory;
+  std::set<Text> hidden;                              // which of them have the attribute "hidden"
   std::function<std::unique_ptr<InputFile>()> input;  // what opening any path gives, when set
   int searches = 0, opened = 0, created = 0;
   bool search_fails = false;

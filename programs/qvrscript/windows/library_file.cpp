@@ -5,6 +5,7 @@
 #include "QVRlib21.h"
 #include "com/com.h"
 #include "com/text_bstr.h"
+#include "platform/windows/disk_path.h"
 #include "platform/windows/wide_text.h"
 
 namespace qvr::script_tool::windows {
@@ -91,6 +92,8 @@ OvMembers members_of(_Ov& ov) {
 }  // namespace
 
 bool exists(const std::wstring& path) {
+  // What the registry names can be anything, and a device would be waited for.
+  if (!qvr::windows::is_disk_path(qvr::windows::text_from(path))) return false;
   const DWORD attributes = GetFileAttributesW(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
