@@ -176,6 +176,51 @@ TEST_F(QVRScrTest, TheHostsMessagesAreProcessedBetweenCommands) {
                                             "Terminado"}));
 }
 
+// Windows that always have a next message. Each ends after so many, so that a run that waits for that is noticed.
+constexpr int kForEver = 5000;
+int handled;
+
+LRESULT CALLBACK posts_to_itself(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == kHostsMessage && ++handled < kForEver) {
+    Sleep(1);
+    PostMessageW(window, kHostsMessage, 0, 0);
+  }
+  return DefWindowProcW(window, message, first, second);
+}
+
+LRESULT CALLBACK is_slower_than_its_timer(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_TIMER) {
+    handled += 100;
+    Sleep(40);
+    if (handled >= kForEver) KillTimer(window, first);
+  }
+  return DefWindowProcW(window, message, first, second);
+}
+
+LRESULT CALLBACK never_validates(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_PAINT && ++handled < kForEver) return 0;
+  if (message == WM_PAINT) ValidateRect(window, nullptr);
+  return DefWindowProcW(window, message, first, second);
+}
+
+TEST_F(QVRScrTest, ARunEndsAlthoughAWindowAlwaysHasANextMessage) {
+  for (const WNDPROC procedure : {posts_to_itself, is_slower_than_its_timer, never_validates}) {
+    const HWND window = CreateWindowExW(WS_EX_NOACTIVATE, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 20, 20, nullptr,
+                                        nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    handled = 0;
+    PostMessageW(window, kHostsMessage, 0, 0);
+    SetTimer(window, 1, 10, nullptr);
+    InvalidateRect(window, nullptr, FALSE);
+    Sleep(30);
+    EXPECT_EQ(describe(run_late(L"EvitarTransaccion", L"select 1\r\nGO\r\nselect 2\r\nGO\r\n").value.raw()),
+              "BOOL true");
+    EXPECT_GT(handled, 0);
+    EXPECT_LT(handled, kForEver);
+    DestroyWindow(window);
+  }
+}
+
 TEST_F(QVRScrTest, AQuitMessageIsLeftToTheHost) {
   PostQuitMessage(7);
   EXPECT_EQ(describe(run_late(L"app", kTwoCommands).value.raw()), "BOOL true");
