@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <new>
+#include <vector>
 
+#include "base/failure.h"
 #include "com/text_bstr.h"
 
 namespace qvr::com {
@@ -155,18 +157,27 @@ SAFEARRAY* array_of(const VARIANT& variant) {
   return variant.pparray != nullptr ? *variant.pparray : nullptr;
 }
 
-// Converts to the element type through a variant.
-void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value) {
-  OwnedVariant element, converted;
-  put_value(*element.get(), value);
-  void* content = element.get();
-  if (type != VT_VARIANT) {
-    if (FAILED(convert_content(*converted.get(), *element, type, LOCALE_USER_DEFAULT))) return;
-    // SafeArrayPutElement takes strings and objects as the pointer itself, everything else by address.
-    const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
-    content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
-    if (type == VT_DECIMAL) content = &converted->decVal;
-  }
+[[noreturn]] void refuse_element(HRESULT result, const VARIANT& element) {
+  if (result == E_OUTOFMEMORY) throw std::bad_alloc();
+  if (element.vt == VT_NULL) throw RuntimeFailure(failure_number::kInvalidNull);
+  throw RuntimeFailure(result == DISP_E_OVERFLOW ? failure_number::kOverflow : failure_number::kTypeMismatch);
+}
+
+// The value as an element of this type.
+void make_element(OwnedVariant& element, VARTYPE type, const Value& value) {
+  if (type == VT_VARIANT) return put_value(*element.get(), value);
+  OwnedVariant held;
+  put_value(*held.get(), value);
+  const HRESULT converted = convert_content(*element.get(), *held, type, LOCALE_USER_DEFAULT);
+  if (FAILED(converted)) refuse_element(converted, *held);
+}
+
+void put_element(SAFEARRAY* array, VARTYPE type, LONG index, OwnedVariant& element) {
+  // SafeArrayPutElement takes strings and objects as the pointer itself, everything else by address.
+  const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
+  void* content = pointer ? static_cast<void*>(element->byref) : &element->llVal;
+  if (type == VT_DECIMAL) content = &element->decVal;
+  if (type == VT_VARIANT) content = element.get();
   const HostFloatingPoint host;  // Release of the host's old object
   if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
 }
@@ -274,8 +285,11 @@ void put_elements(VARIANT& variant, const Value& value) {
   if (type == VT_EMPTY) return;
   if (array->rgsabound[0].lLbound != list->lower || array->rgsabound[0].cElements != list->items.size()) return;
   const Locked locked(array);
+  // All are converted before the first is put.
+  std::vector<OwnedVariant> elements(list->items.size());
+  for (std::size_t i = 0; i < elements.size(); ++i) make_element(elements[i], type, list->items[i]);
   LONG index = list->lower;
-  for (const Value& item : list->items) put_element(array, type, index++, item);
+  for (OwnedVariant& element : elements) put_element(array, type, index++, element);
 }
 
 void OwnedVariant::let_go() noexcept {

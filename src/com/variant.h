@@ -61,8 +61,8 @@ Value value_from(const VARIANT& variant);
 void put_value(VARIANT& variant, const Value& value);
 
 // Copies the elements of an array value into the variant's array (by value or by reference), which keeps its element
-// type and bounds. Both must have the same bounds; elements whose value does not convert to the element type stay as
-// they are.
+// type and bounds; an array with other bounds stays as it is. Throws when a value does not convert to the element type,
+// and then the array is untouched.
 void put_elements(VARIANT& variant, const Value& value);
 
 }  // namespace qvr::com

@@ -19,7 +19,8 @@ bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(r
 
 }  // namespace
 
-bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
+bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros,
+                      const GiveBack& give_back) {
   if (engine != Engine::SqlServer) return false;
   const auto command = thread_state().ado().new_command();
   if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
@@ -37,6 +38,7 @@ bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView
     list.items[i] = command->parameter_value(parameter_of(list, i));
   }
   Parametros = std::move(list);
+  if (give_back) give_back(Parametros);
   return true;
 }
 
