@@ -94,6 +94,29 @@ TEST_F(QVRScrTest, ASinkMayLeaveDuringTheRun) {
   EXPECT_EQ(staying.events().size(), 4u);
 }
 
+TEST_F(QVRScrTest, ASinkThatAnotherOneDisconnectsHearsNotEvenThatEvent) {
+  Connected first(late), second(late), third(late);
+  first.sink().reaction = [&](DISPID, VARIANT&) {
+    if (first.events().size() == 2) second.disconnect();
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  EXPECT_EQ(first.events().size(), 4u);
+  EXPECT_EQ(second.events().size(), 1u);
+  EXPECT_EQ(third.events(), first.events());
+}
+
+TEST_F(QVRScrTest, ASinkThatAnotherOneConnectsHearsTheNextEvent) {
+  Connected first(late);
+  std::unique_ptr<Connected> second;
+  first.sink().reaction = [&](DISPID, VARIANT&) {
+    if (!second) second = std::make_unique<Connected>(late);
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  EXPECT_EQ(second->events(), std::vector<std::string>(first.events().begin() + 1, first.events().end()));
+}
+
 TEST_F(QVRScrTest, ANestedRunOnTheSameObjectIsRefusedWithoutEvents) {
   Connected connected(late);
   std::vector<std::string> nested;
