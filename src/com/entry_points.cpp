@@ -18,7 +18,10 @@ using namespace qvr::com;
 // thread has a state then.
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
   if (reason == DLL_PROCESS_ATTACH) keep_loaded();
-  if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
+  if (reason == DLL_THREAD_DETACH) {
+    const ThreadDetach detaching;
+    exchange_thread_state(nullptr);
+  }
   return TRUE;
 }
 
