@@ -44,7 +44,7 @@ HRESULT QVRprpObject::get_NombrePropiedad(LONG* Indice, BSTR* Resultado) noexcep
 HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments,
                              VARIANT* result, EXCEPINFO* exception, UINT* wrong_argument) noexcept {
   // Set puts an object as any other value is put; the interface has one accessor for both.
-  if (flags & DISPATCH_PROPERTYPUTREF) flags |= DISPATCH_PROPERTYPUT;
+  if (id == DISPID_VALUE && (flags & DISPATCH_PROPERTYPUTREF)) flags |= DISPATCH_PROPERTYPUT;
   const bool reads = (flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) != 0;
   if (id != DISPID_NEWENUM || !reads) {
     return Dual<_QVRprp>::Invoke(id, reserved, locale, flags, arguments, result, exception, wrong_argument);
