@@ -99,8 +99,6 @@ HRESULT ArgumentSlot::take_missing(const Parameter& parameter) noexcept {
   }
   VARIANT number;
   VariantInit(&number);
-  // A default value on an object parameter: an enumeration whose type library is not registered. Pass null, which means
-  // the default.
   if (type_ == VT_DISPATCH || type_ == VT_UNKNOWN) return take_object(*held_.get(), number);
   if (parameter.fallback) {
     number.vt = VT_I4;

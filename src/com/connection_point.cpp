@@ -1,6 +1,6 @@
 #include "com/connection_point.h"
 
-#include <optional>
+#include <algorithm>
 
 #include "com/answer.h"
 #include "com/enumerator.h"
@@ -48,14 +48,9 @@ void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcep
 
 }  // namespace
 
+// By ascending cookie and not over a copy of the list: a sink that is disconnected meanwhile hears nothing more, and
+// Terminado needs no memory to be fired.
 void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
-  const auto connected = or_default({}, std::optional<std::vector<Sink>>(), [&] { return std::optional(sinks_); });
-  if (!connected) return fire_without_memory(event, argument);
-  for (const Sink& sink : *connected) invoke_sink(*sink.dispatch.Get(), event, argument);
-}
-
-// Iterates by ascending cookie instead of copying the list: Terminado must be fired also when out of memory.
-void ConnectionPoint::fire_without_memory(DISPID event, const VARIANT& argument) noexcept {
   const DWORD end = next_cookie_;
   for (DWORD told = 0;;) {
     const auto next = std::ranges::find_if(sinks_,

@@ -20,7 +20,8 @@ class ConnectionPoint final : public IConnectionPoint {
   ConnectionPoint(const ConnectionPoint&) = delete;
   ConnectionPoint& operator=(const ConnectionPoint&) = delete;
 
-  // Fires the event to every connected sink. Sinks may fail, unadvise and advise others meanwhile (re-entrance). The
+  // Fires the event to every connected sink. Sinks may fail, unadvise and advise others meanwhile (re-entrance): one
+  // that is disconnected before its turn hears nothing, one that is connected meanwhile hears the next event first. The
   // argument goes by reference, a copy for each sink, so that no sink sees what another one wrote.
   void fire(DISPID event, const VARIANT& argument) noexcept;
 
@@ -39,8 +40,6 @@ class ConnectionPoint final : public IConnectionPoint {
     DWORD cookie;
     HostPtr<IDispatch> dispatch;
   };
-
-  void fire_without_memory(DISPID event, const VARIANT& argument) noexcept;
 
   IConnectionPointContainer& container_;
   const IID events_;

@@ -12,7 +12,26 @@ namespace {
 using namespace qvr;
 using namespace qvr::com;
 
+// Whether the host has left as many slots of thread-local storage as the library takes.
+bool slots_are_left() {
+  constexpr std::size_t kSlots = 4;  // ours (ThreadPointer) and one of the run-time
+  DWORD slots[kSlots];
+  std::size_t taken = 0;
+  while (taken < kSlots && (slots[taken] = TlsAlloc()) != TLS_OUT_OF_INDEXES) ++taken;
+  for (std::size_t i = 0; i < taken; ++i) TlsFree(slots[i]);
+  return taken == kSlots;
+}
+
 }  // namespace
+
+// The file's entry point. Without a slot the compiler's run-time ends the process before DllMain is called; so it is
+// not even begun then, and LoadLibrary fails.
+extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE, DWORD, LPVOID);
+extern "C" BOOL WINAPI library_entry(HINSTANCE module, DWORD reason, LPVOID reserved) {
+  static bool begun = false;
+  if (reason == DLL_PROCESS_ATTACH) begun = slots_are_left();
+  return begun ? DllMainCRTStartup(module, reason, reserved) : FALSE;
+}
 
 // Only thread detach cleans up. At process exit the memory is reclaimed anyway, and the modules that a state refers to
 // may be unloaded already. FreeLibrary unloads only a library that was not pinned, which never created an object: no
@@ -22,7 +41,10 @@ BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
     keep_loaded();
     set_trace_sink(windows::trace_to_debugger);
   }
-  if (reason == DLL_THREAD_DETACH) exchange_thread_state(nullptr);
+  if (reason == DLL_THREAD_DETACH) {
+    const ThreadDetach detaching;
+    exchange_thread_state(nullptr);
+  }
   return TRUE;
 }
 

@@ -18,7 +18,7 @@ using namespace com;
 std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
   // No fallback for a registered component that cannot be created: the built-in one does not read its files.
   if (const auto id = registered_class(ComTextProtection::kProgramId)) {
-    return std::make_unique<ComTextProtection>(LateObject::create(*id));
+    return std::make_unique<ComTextProtection>(Component::create(ComTextProtection::kProgramId, *id));
   }
   return std::make_unique<services::BuiltinTextProtection>(platform.cryptography);
 }
@@ -29,7 +29,7 @@ std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platfor
   if (!id) return builtin;
   std::unique_ptr<services::ErrorReport> component = or_default(
       {}, std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
-        auto created = LateObject::create(*id);
+        auto created = Component::create(ComErrorReport::kProgramId, *id);
         return std::make_unique<ComErrorReport>(std::move(created), std::move(builtin));
       });
   return component ? std::move(component) : std::move(builtin);
@@ -40,7 +40,7 @@ std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_uniq
 std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
   // As with text protection: the built-in reader cannot read protected scripts.
   if (const auto id = registered_class(ComScriptReader::kProgramId)) {
-    return std::make_unique<ComScriptReader>(LateObject::create(*id));
+    return std::make_unique<ComScriptReader>(Component::create(ComScriptReader::kProgramId, *id));
   }
   return std::make_unique<services::BuiltinScriptReader>(platform.files);
 }

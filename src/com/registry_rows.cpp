@@ -73,17 +73,28 @@ void add_interfaces(RegistryRows& rows) {
   }
 }
 
+std::wstring description_of_library() {
+  OwnedBstr text;
+  require(own_type_library()->GetDocumentation(MEMBERID_NIL, nullptr, text.out(), nullptr, nullptr));
+  return std::wstring(text.get(), SysStringLen(text.get()));
+}
+
+// The keys of RegisterTypeLib, and the library under the neutral locale as well: hosts ask with their own locale, and
+// the system falls back from it to the neutral one only.
 void add_type_library(RegistryRows& rows, const std::wstring& file) {
   const std::wstring key = L"TypeLib\\" + text_of(LIBID_QVRlib21);
   const std::wstring version = key + L"\\" + kTypeLibraryVersion;
   rows.values.insert(rows.values.end(), {
-                                            {version, {}, windows::kLibraryName},
+                                            {version, {}, description_of_library()},
+                                            {version + L"\\409\\" + kPlatform, {}, file},
                                             {version + L"\\0\\" + kPlatform, {}, file},
                                             {version + L"\\FLAGS", {}, L"0"},
                                             {version + L"\\HELPDIR", {}, folder_of(file)},
                                         });
+  rows.trees.push_back({version + L"\\409\\" + kPlatform, false});
   rows.trees.push_back({version + L"\\0\\" + kPlatform, false});
-  rows.trees.push_back({key, true});
+  rows.trees.push_back({version, true});
+  rows.trees.push_back({key, true, true});
 }
 
 }  // namespace

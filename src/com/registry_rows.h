@@ -18,6 +18,7 @@ struct RegistryValue {
 struct RegistryTree {
   std::wstring key;
   bool shared;
+  bool only_when_empty = false;  // other versions may be registered below it
 };
 
 struct RegistryRows {

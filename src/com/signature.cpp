@@ -22,13 +22,10 @@ bool equal_names(std::wstring_view a, std::wstring_view b) noexcept {
 std::size_t position_in(DISPID id) noexcept { return static_cast<std::uint32_t>(id) & 0xFFFF; }
 
 // VT_USERDEFINED: enumerations are numbers, all other types in the signatures are objects.
-VARTYPE named_type(ITypeInfo& info, HREFTYPE reference) {
+VARTYPE named_type(ITypeInfo& info, HREFTYPE reference, VARTYPE otherwise) {
   ComPtr<ITypeInfo> referred;
   TYPEATTR* attributes = nullptr;
-  // Fails for ADO's types where ADO's type library is not registered; those are objects.
-  if (FAILED(info.GetRefTypeInfo(reference, &referred)) || FAILED(referred->GetTypeAttr(&attributes))) {
-    return VT_DISPATCH;
-  }
+  if (FAILED(info.GetRefTypeInfo(reference, &referred)) || FAILED(referred->GetTypeAttr(&attributes))) return otherwise;
   const VARTYPE type = attributes->typekind == TKIND_ENUM ? VT_I4 : VT_DISPATCH;
   referred->ReleaseTypeAttr(attributes);
   return type;
@@ -39,11 +36,15 @@ struct ResolvedType {
   bool by_reference;
 };
 
-ResolvedType resolve(ITypeInfo& info, const TYPEDESC& described) {
-  const TYPEDESC* at = &described;
+ResolvedType resolve(ITypeInfo& info, const ELEMDESC& element) {
+  const TYPEDESC* at = &element.tdesc;
   int pointers = 0;
   for (; at->vt == VT_PTR; at = at->lptdesc) ++pointers;
-  const VARTYPE type = at->vt == VT_USERDEFINED ? named_type(info, at->hreftype) : at->vt;
+  // ADO's types cannot be read where its type library is not registered. An object is a pointer by itself, besides the
+  // one to the caller's variable.
+  const int of_variable = element.paramdesc.wParamFlags & PARAMFLAG_FOUT ? 1 : 0;
+  const VARTYPE unread = pointers > of_variable ? VT_DISPATCH : VT_I4;
+  const VARTYPE type = at->vt == VT_USERDEFINED ? named_type(info, at->hreftype, unread) : at->vt;
   const bool object = type == VT_DISPATCH || type == VT_UNKNOWN;
   // A pointer to an interface is an object.
   return {type, pointers > (object && at->vt == VT_USERDEFINED ? 1 : 0)};
@@ -60,7 +61,7 @@ std::optional<LONG> default_number(const PARAMDESC& described) {
 void add_parameters(Member& member, ITypeInfo& info, const FUNCDESC& function, const BSTR* names, UINT name_count) {
   for (SHORT index = 0; index < function.cParams; ++index) {
     const ELEMDESC& element = function.lprgelemdescParam[index];
-    const ResolvedType type = resolve(info, element.tdesc);
+    const ResolvedType type = resolve(info, element);
     if (element.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) {
       member.result = type.type;
       continue;

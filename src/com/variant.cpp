@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <new>
+#include <vector>
 
+#include "base/failure.h"
 #include "com/text_bstr.h"
 
 namespace qvr::com {
@@ -44,8 +46,20 @@ class Locked {
   SAFEARRAY* array_;
 };
 
-Value value_inside(const VARIANT& variant, const Reading* outer);
+// How scalars and arrays are read: for the core, or to be given back.
+struct Reader {
+  Value (*scalar)(const VARIANT& scalar);
+  Value (*array)(SAFEARRAY* array, VARTYPE told, const Reading* outer);
+};
+
+Value value_inside(const VARIANT& variant, const Reading* outer, const Reader& reader);
 Value scalar_from(const VARIANT& v);
+Value array_from(SAFEARRAY* array, VARTYPE type, const Reading* outer);
+Value travelling_scalar(const VARIANT& v);
+Value travelling_array(SAFEARRAY* array, VARTYPE told, const Reading* outer);
+
+constexpr Reader kForTheCore{scalar_from, array_from};
+constexpr Reader kTravelling{travelling_scalar, travelling_array};
 
 HRESULT get_element(SAFEARRAY* array, LONG index, void* target) noexcept {
   const HostFloatingPoint host;  // AddRef of the host's object
@@ -69,7 +83,7 @@ Value element_from(SAFEARRAY* array, VARTYPE type, LONG index, const Reading& re
   if (target == &item->llVal && SafeArrayGetElemsize(array) > sizeof(LONGLONG)) return ErrorValue{DISP_E_BADVARTYPE};
   if (FAILED(get_element(array, index, target))) throw std::bad_alloc();
   if (type != VT_VARIANT) item->vt = type;  // last: DECIMAL overlays vt
-  return value_inside(*item, &reading);
+  return value_inside(*item, &reading, kForTheCore);
 }
 
 // Null for an array without dimensions and for one whose data was destroyed (SafeArrayDestroyData).
@@ -141,6 +155,56 @@ Value scalar_from(const VARIANT& v) {
   }
 }
 
+Value travelling_scalar(const VARIANT& v) {
+  switch (v.vt) {
+    case VT_I1: return static_cast<std::int16_t>(v.cVal);
+    case VT_UI2: return static_cast<std::int32_t>(v.uiVal);
+    case VT_UI4:
+    case VT_UINT: return static_cast<double>(v.ulVal);
+    default: return scalar_from(v);
+  }
+}
+
+SAFEARRAY* new_array_of_variants(SAFEARRAY* shape) {
+  // The array has its bounds from the last dimension to the first.
+  std::vector<SAFEARRAYBOUND> bounds(shape->rgsabound, shape->rgsabound + SafeArrayGetDim(shape));
+  std::ranges::reverse(bounds);
+  SAFEARRAY* const made = SafeArrayCreate(VT_VARIANT, static_cast<UINT>(bounds.size()), bounds.data());
+  if (made == nullptr) throw std::bad_alloc();
+  return made;
+}
+
+// One by one: what the host's variants refer to may be gone when they are given back.
+void copy_variants(SAFEARRAY* from, SAFEARRAY* to, const Reading* outer) {
+  const Locked locked(from);
+  const Reading reading{from, outer, outer != nullptr ? outer->depth + 1 : 1};
+  std::size_t count = 1;
+  for (UINT dimension = 0; dimension < SafeArrayGetDim(from); ++dimension) {
+    count *= from->rgsabound[dimension].cElements;
+  }
+  const auto* source = static_cast<const VARIANT*>(from->pvData);
+  auto* target = static_cast<VARIANT*>(to->pvData);
+  for (std::size_t i = 0; i < count; ++i) put_value(target[i], value_inside(source[i], &reading, kTravelling));
+}
+
+// What cannot be copied is read as it is for the core.
+Value travelling_array(SAFEARRAY* array, VARTYPE told, const Reading* outer) {
+  const VARTYPE type = has_elements(array) && SafeArrayGetDim(array) > 0 ? type_of_elements(array, told)
+                                                                         : VARTYPE{VT_EMPTY};
+  const auto copied = std::make_shared<TravellingArray>();
+  SAFEARRAY* copy = nullptr;
+  if (type == VT_VARIANT && SafeArrayGetElemsize(array) == sizeof(VARIANT)) {
+    copy = new_array_of_variants(array);
+  } else if (type != VT_EMPTY && type != VT_RECORD && type != VT_VARIANT) {
+    const HostFloatingPoint host;  // AddRef of the host's objects
+    if (SafeArrayCopy(array, &copy) == E_OUTOFMEMORY) throw std::bad_alloc();
+  }
+  if (copy == nullptr) return array_from(array, told, outer);
+  copied->array->vt = static_cast<VARTYPE>(VT_ARRAY | type), copied->array->parray = copy;
+  if (type == VT_VARIANT) copy_variants(array, copy, outer);
+  return ObjectRef(copied);
+}
+
 HRESULT default_property(VARIANT& value, const VARIANT& of_object) noexcept {
   IDispatch* const object = of_object.vt & VT_BYREF ? *of_object.ppdispVal : of_object.pdispVal;
   if (object == nullptr) return DISP_E_TYPEMISMATCH;
@@ -155,34 +219,43 @@ SAFEARRAY* array_of(const VARIANT& variant) {
   return variant.pparray != nullptr ? *variant.pparray : nullptr;
 }
 
-// Converts to the element type through a variant.
-void put_element(SAFEARRAY* array, VARTYPE type, LONG index, const Value& value) {
-  OwnedVariant element, converted;
-  put_value(*element.get(), value);
-  void* content = element.get();
-  if (type != VT_VARIANT) {
-    if (FAILED(convert_content(*converted.get(), *element, type, LOCALE_USER_DEFAULT))) return;
-    // SafeArrayPutElement takes strings and objects as the pointer itself, everything else by address.
-    const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
-    content = pointer ? static_cast<void*>(converted->byref) : &converted->llVal;
-    if (type == VT_DECIMAL) content = &converted->decVal;
-  }
+[[noreturn]] void refuse_element(HRESULT result, const VARIANT& element) {
+  if (result == E_OUTOFMEMORY) throw std::bad_alloc();
+  if (element.vt == VT_NULL) throw RuntimeFailure(failure_number::kInvalidNull);
+  throw RuntimeFailure(result == DISP_E_OVERFLOW ? failure_number::kOverflow : failure_number::kTypeMismatch);
+}
+
+// The value as an element of this type.
+void make_element(OwnedVariant& element, VARTYPE type, const Value& value) {
+  if (type == VT_VARIANT) return put_value(*element.get(), value);
+  OwnedVariant held;
+  put_value(*held.get(), value);
+  const HRESULT converted = convert_content(*element.get(), *held, type, LOCALE_USER_DEFAULT);
+  if (FAILED(converted)) refuse_element(converted, *held);
+}
+
+void put_element(SAFEARRAY* array, VARTYPE type, LONG index, OwnedVariant& element) {
+  // SafeArrayPutElement takes strings and objects as the pointer itself, everything else by address.
+  const bool pointer = type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN;
+  void* content = pointer ? static_cast<void*>(element->byref) : &element->llVal;
+  if (type == VT_DECIMAL) content = &element->decVal;
+  if (type == VT_VARIANT) content = element.get();
   const HostFloatingPoint host;  // Release of the host's old object
   if (SafeArrayPutElement(array, &index, content) == E_OUTOFMEMORY) throw std::bad_alloc();
 }
 
-Value value_inside(const VARIANT& variant, const Reading* outer) {
+Value value_inside(const VARIANT& variant, const Reading* outer, const Reader& reader) {
   const VARIANT* inner = innermost(variant);
   if (inner == nullptr) return ErrorValue{DISP_E_BADVARTYPE};
   if (inner->vt & VT_ARRAY) {
     SAFEARRAY* array = array_of(*inner);
     if (never_ends(array, outer)) return ErrorValue{DISP_E_BADVARTYPE};
-    return array_from(array, inner->vt & VT_TYPEMASK, outer);
+    return reader.array(array, inner->vt & VT_TYPEMASK, outer);
   }
-  if (!(inner->vt & VT_BYREF)) return scalar_from(*inner);
+  if (!(inner->vt & VT_BYREF)) return reader.scalar(*inner);
   OwnedVariant copy;
   if (inner->byref == nullptr || FAILED(copy_content(*copy.get(), *inner))) return ErrorValue{DISP_E_BADVARTYPE};
-  return scalar_from(*copy);
+  return reader.scalar(*copy);
 }
 
 struct Put {
@@ -213,6 +286,10 @@ struct Put {
     v.vt = VT_BSTR;
   }
   void operator()(const ObjectRef& held) const {
+    if (const auto* array = dynamic_cast<const TravellingArray*>(held.get())) {
+      if (FAILED(copy_content(v, *array->array))) throw std::bad_alloc();
+      return;
+    }
     v.vt = VT_DISPATCH, v.pdispVal = nullptr;
     const auto* object = dynamic_cast<const DispatchObject*>(held.get());
     if (object == nullptr) return;
@@ -260,7 +337,9 @@ const VARIANT* innermost(const VARIANT& variant) noexcept {
   return at;
 }
 
-Value value_from(const VARIANT& variant) { return value_inside(variant, nullptr); }
+Value value_from(const VARIANT& variant) { return value_inside(variant, nullptr, kForTheCore); }
+
+Value travelling_value_from(const VARIANT& variant) { return value_inside(variant, nullptr, kTravelling); }
 
 void put_value(VARIANT& variant, const Value& value) { std::visit(Put{variant}, value.storage()); }
 
@@ -274,8 +353,11 @@ void put_elements(VARIANT& variant, const Value& value) {
   if (type == VT_EMPTY) return;
   if (array->rgsabound[0].lLbound != list->lower || array->rgsabound[0].cElements != list->items.size()) return;
   const Locked locked(array);
+  // All are converted before the first is put.
+  std::vector<OwnedVariant> elements(list->items.size());
+  for (std::size_t i = 0; i < elements.size(); ++i) make_element(elements[i], type, list->items[i]);
   LONG index = list->lower;
-  for (const Value& item : list->items) put_element(array, type, index++, item);
+  for (OwnedVariant& element : elements) put_element(array, type, index++, element);
 }
 
 void OwnedVariant::let_go() noexcept {

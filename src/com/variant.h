@@ -42,6 +42,11 @@ struct DispatchObject : Object {
   HostPtr<IUnknown> object;
 };
 
+// A copy of an array that only travels through.
+struct TravellingArray : Object {
+  OwnedVariant array;
+};
+
 // A deep copy; by-reference variants are dereferenced.
 inline HRESULT copy_content(VARIANT& to, const VARIANT& from) noexcept {
   const HostFloatingPoint host;
@@ -57,12 +62,17 @@ const VARIANT* innermost(const VARIANT& variant) noexcept;
 // By-reference variants are dereferenced. Types that Value does not have become an ErrorValue.
 Value value_from(const VARIANT& variant);
 
+// The same for a value that only travels through and is given back by put_value. An array keeps its element type,
+// dimensions and bounds; its value shows the core an object. An integer of a type that Visual Basic does not have
+// becomes the smallest of Visual Basic's types that holds all of its type.
+Value travelling_value_from(const VARIANT& variant);
+
 // Writes the value into the variant, which must be VT_EMPTY. Throws when out of memory.
 void put_value(VARIANT& variant, const Value& value);
 
 // Copies the elements of an array value into the variant's array (by value or by reference), which keeps its element
-// type and bounds. Both must have the same bounds; elements whose value does not convert to the element type stay as
-// they are.
+// type and bounds; an array with other bounds stays as it is. Throws when a value does not convert to the element type,
+// and then the array is untouched.
 void put_elements(VARIANT& variant, const Value& value);
 
 }  // namespace qvr::com

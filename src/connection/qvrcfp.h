@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "base/value.h"
 #include "dialect/ado_parameter.h"
+#include "dialect/procedure_call.h"
 
 namespace qvr {
 
@@ -97,7 +98,8 @@ class QVRcfp {
 
   // Stored procedures; see dialect/procedure_call.h and dialect/ado_parameter.h. A failed call is reported to the user,
   // a parameter that ADO finds improperly defined is shown in a box.
-  bool EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) const noexcept;
+  bool EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros,
+                        const dialect::GiveBack& give_back = {}) const noexcept;
   bool AgregarParametroADO(services::AdoCommand* Comando, const dialect::ParameterRequest& request) const noexcept;
 
   const Text& Archivo() const noexcept { return fields_.Archivo; }

@@ -101,10 +101,11 @@ Text QVRcfp::SqlUpdate2(TextView NombreTabla, const Value& MCampos, const Value&
   return or_no_text([&] { return dialect::SqlUpdate2(fields_.MotorBD, NombreTabla, MCampos, MValores, Condicion); });
 }
 
-bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc,
-                              Value& Parametros) const noexcept {
+bool QVRcfp::EjecutarProcSQL7(services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros,
+                              const dialect::GiveBack& give_back) const noexcept {
   return or_reported(
-      kClass, false, [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros); },
+      kClass, false,
+      [&] { return dialect::EjecutarProcSQL7(fields_.MotorBD, Conexion, NombreProc, Parametros, give_back); },
       [&](const FailureDetail& failure) {
         report_failure(failure, {u"EjecutarProc", Text(NombreProc)}, fields_.MotorBD, Conexion);
       });

@@ -25,7 +25,8 @@ bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(r
 
 }  // namespace
 
-bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros) {
+bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros,
+                      const GiveBack& give_back) {
   if (engine != Engine::SqlServer) return refuse(u"The engine is not SQL Server");
   const auto command = thread_state().ado().new_command();
   if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
@@ -43,6 +44,7 @@ bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView
     list.items[i] = command->parameter_value(parameter_of(list, i));
   }
   Parametros = std::move(list);
+  if (give_back) give_back(Parametros);
   return true;
 }
 

@@ -99,9 +99,10 @@ struct System {
   virtual Text setting(TextView application, TextView section, TextView key, TextView fallback) = 0;
   // The LANGID of the user's language (0x0C0A is Spanish, Spain).
   virtual std::uint16_t user_language() = 0;
-  virtual Date now() = 0;             // the local date and time
-  virtual void process_events() = 0;  // runs the message loop until the queue is empty
-  virtual Text module_path() = 0;     // full path of the module that contains this code
+  virtual Date now() = 0;  // the local date and time
+  // Handles the messages that are pending now, and not those that come meanwhile: it always returns.
+  virtual void process_events() = 0;
+  virtual Text module_path() = 0;  // full path of the module that contains this code
 
  protected:
   ~System() = default;

@@ -34,6 +34,14 @@ services::ScriptReader& ThreadState::script_reader() {
   return made_once(script_reader_, environment_.make_script_reader, platform());
 }
 
+// Taken out before they are destroyed: a component may call the library while it is released.
+void ThreadState::let_services_go() noexcept {
+  const auto text_protection = std::move(text_protection_);
+  const auto error_report = std::move(error_report_);
+  const auto ado = std::move(ado_);
+  const auto script_reader = std::move(script_reader_);
+}
+
 ThreadState& thread_state() {
   ThreadState* state = current();
   if (state == nullptr) {
@@ -41,6 +49,10 @@ ThreadState& thread_state() {
     state = current();
   }
   return *state;
+}
+
+void let_services_go() noexcept {
+  if (ThreadState* const state = current()) state->let_services_go();
 }
 
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state) {

@@ -36,6 +36,9 @@ class ThreadState {
   services::Ado& ado();
   services::ScriptReader& script_reader();
 
+  // Destroys the services; they are made anew when next needed.
+  void let_services_go() noexcept;
+
   IdiomaSimple idioma;
   TextTable mensajes{kMessageCount, language::kCarried};
   std::optional<double> idioma_omision;  // cached; the setting is read once per thread
@@ -50,6 +53,9 @@ class ThreadState {
 
 // This thread's state, created when there is none.
 ThreadState& thread_state();
+
+// Lets the services of this thread go, if it has a state.
+void let_services_go() noexcept;
 
 // Replaces this thread's state (null removes it) and returns the previous one.
 std::unique_ptr<ThreadState> exchange_thread_state(std::unique_ptr<ThreadState> state);

@@ -4,6 +4,7 @@
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/library.h"
+#include "automation/parameter_host.h"
 #include "automation/sink.h"
 #include "support/traced.h"
 
@@ -131,6 +132,26 @@ TEST(WithoutAdo, MembersWorkAlthoughAdosTypesCannotBeRead) {
                                 u"QVRcfp.EjecutarProcSQL7: 5 The engine is not SQL Server"}));
   }
   ASSERT_EQ(test_ado().register_it(), S_OK);
+}
+
+// The signatures are read while ADO's type library is missing; ADO itself is there when the parameter is made.
+TEST(WithoutAdo, ADirectionIsANumberAlthoughItsTypeCannotBeRead) {
+  ASSERT_EQ(test_ado().unregister_it(), S_OK);
+  const ParameterHost host;
+  host.use(2);
+  ASSERT_EQ(test_ado().register_it(), S_OK);
+  for (const Var& direction : {Var(3), Var(L"3"), Var(3.0), Var(3).as(VT_I2)}) {
+    const LateObject command(L"ADODB.Command");
+    EXPECT_EQ(host.append_late(command.get(), {.type = L"INT", .direction = direction}), "BOOL true");
+    EXPECT_EQ(described_parameter(command, 0), "@p: type 3, size 0, precision 10, scale 0, direction 3, I4 5");
+  }
+  const LateObject command(L"ADODB.Command");
+  const LateAnswer given = host.object().call(L"AgregarParametroADO", {command.get(), L"INT", L"@p"});
+  EXPECT_EQ(describe(given.value.raw()), "BOOL true");
+  EXPECT_EQ(described_parameter(command, 0), "@p: type 3, size 0, precision 10, scale 0, direction 1, Empty");
+  const LateAnswer text = host.object().call(L"AgregarParametroADO", {command.get(), L"INT", L"@p", 1, 0, L"a"});
+  EXPECT_EQ(text.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(text.wrong_argument, 0u);
 }
 
 TEST(AdoRefusals, ConnectionStringsThatCannotServe) {

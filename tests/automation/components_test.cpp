@@ -1,8 +1,11 @@
 // The application family's components take over from the built-in services where they are registered.
+#include <thread>
+
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/family_component.h"
+#include "automation/script_folder.h"
 #include "support/traced.h"
 
 namespace qvr::tests {
@@ -127,6 +130,66 @@ TEST(ErrorReportComponent, LeavesTheFailureToTheBoxWhenItFailsOrCannotBeCreated)
                               u"Informar: -2147467259 Call failed.",
                               u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
                               u"make_error_report: 429 ActiveX component can't create object"}));
+}
+
+LateAnswer taken(const std::wstring&, const std::vector<Var>&) {
+  LateAnswer answer;
+  answer.result = S_OK;
+  answer.value = Var(false);
+  return answer;
+}
+
+// Uses all three components, one after the other: they have one class. Only the library holds them afterwards.
+void use_components() {
+  {
+    FamilyComponent protection(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
+    save_and_load(L"thread", true);
+    EXPECT_EQ(protection.calls().size(), 20u);
+  }
+  {
+    FamilyComponent report(L"QVRServicios.InformeErrores", {L"Informar"}, taken);
+    const LateObject runner(L"QVRlib21.QVRScr");
+    runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3});
+    EXPECT_EQ(report.calls().size(), 1u);
+  }
+  FamilyComponent reader(L"QVRServicios.LectorScripts", {L"Leer"}, taken);
+  ScriptFolder folder(L"reader");
+  folder.write(L"GestionSQL1.cfc", "text");
+  const LateObject runner(L"QVRlib21.QVRScr");
+  runner.call(L"CargarDefinicion", {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"", L"", false});
+  EXPECT_EQ(reader.calls().size(), 1u);
+}
+
+TEST(Components, NoneIsLeftWhenAHundredThreadsHaveEnded) {
+  const long before = FamilyComponent::living();
+  for (int i = 0; i < 100; ++i) on_fresh_thread(use_components);
+  EXPECT_EQ(FamilyComponent::living(), before);
+}
+
+TEST(Components, AreKeptUntilTheApartmentEndsAndMadeAnewInTheNext) {
+  const long before = FamilyComponent::living();
+  on_fresh_thread([before] {
+    use_components();
+    EXPECT_EQ(FamilyComponent::living(), before + 3);
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    CoUninitialize();
+    EXPECT_EQ(FamilyComponent::living(), before + 3) << "the apartment has not ended";
+    CoUninitialize();
+    EXPECT_EQ(FamilyComponent::living(), before);
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    use_components();
+  });
+  EXPECT_EQ(FamilyComponent::living(), before);
+}
+
+// Nothing can be released any more when such a thread ends.
+TEST(Components, StayWhereAThreadEndsWithItsApartment) {
+  const long before = FamilyComponent::living();
+  std::thread([] {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    use_components();
+  }).join();
+  EXPECT_EQ(FamilyComponent::living(), before + 3);
 }
 
 }  // namespace

@@ -30,7 +30,10 @@ std::string described_call(const std::wstring& member, const std::vector<Var>& a
 class Component final : public IDispatch, public IClassFactory {
  public:
   Component(std::vector<std::wstring> members, FamilyComponent::Answer answer, std::vector<std::string>& calls)
-      : members_(std::move(members)), answer_(std::move(answer)), calls_(calls) {}
+      : members_(std::move(members)), answer_(std::move(answer)), calls_(calls) {
+    InterlockedIncrement(&living);
+  }
+  static inline volatile LONG living = 0;
 
   STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override {
     *found = id == IID_IUnknown || id == IID_IDispatch ? static_cast<IDispatch*>(this)
@@ -83,7 +86,7 @@ class Component final : public IDispatch, public IClassFactory {
   }
 
  private:
-  ~Component() = default;
+  ~Component() { InterlockedDecrement(&living); }
   std::vector<std::wstring> members_;
   FamilyComponent::Answer answer_;
   std::vector<std::string>& calls_;
@@ -110,6 +113,8 @@ void FamilyComponent::revoke() {
   if (cookie_ != 0) CoRevokeClassObject(cookie_);
   cookie_ = 0;
 }
+
+long FamilyComponent::living() { return Component::living; }
 
 FamilyComponent::~FamilyComponent() {
   revoke();

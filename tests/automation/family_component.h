@@ -21,6 +21,8 @@ class FamilyComponent {
 
   // Takes the class away but leaves the program id registered.
   void revoke();
+  // How many components that tests played have not been released.
+  static long living();
   const std::vector<std::string>& calls() const { return calls_; }
   void forget_calls() { calls_.clear(); }
 

@@ -98,23 +98,59 @@ TEST_P(ConvertedOutput, FitsAnArrayOfOneType) {
 
 INSTANTIATE_TEST_SUITE_P(, ConvertedOutput, testing::ValuesIn(kConversions), row_name);
 
-TEST_F(ProcedureOutputs, ThatAnArrayCannotHoldLeaveItsElement) {
+struct Refusal {
+  const char* name;
+  ado::Type type;
+  const wchar_t* expression;
+  VARTYPE array;
+  const wchar_t* error;
+};
+
+constexpr Refusal kRefusals[] = {
+    {"text into I4", ado::kVarWChar, L"'abc'", VT_I4, L"Error 13: Type mismatch"},
+    {"text into R8", ado::kVarWChar, L"'abc'", VT_R8, L"Error 13: Type mismatch"},
+    {"100000 into I2", ado::kInteger, L"100000", VT_I2, L"Error 6: Overflow"},
+    {"3000000000 into I4", ado::kDouble, L"'3000000000'", VT_I4, L"Error 6: Overflow"},
+    {"Null into I4", ado::kInteger, L"null", VT_I4, L"Error 94: Invalid use of Null"},
+    {"Null into R8", ado::kInteger, L"null", VT_R8, L"Error 94: Invalid use of Null"},
+    {"Null into BSTR", ado::kInteger, L"null", VT_BSTR, L"Error 94: Invalid use of Null"},
+};
+
+using RefusedOutput = Rows<ProcedureOutputs, Refusal>;
+
+// The first value fits and is not put either.
+TEST_P(RefusedOutput, IsReportedAndLeavesTheArray) {
+  const Refusal& row = GetParam();
+  const int size = row.type == ado::kVarWChar ? 20 : 0;
+  const std::wstring statement = std::wstring(L"select ") + row.expression;
+  database.define(L"Dos", {{L"@a", ado::kInteger, ado::kOutput}, {L"@b", row.type, ado::kOutput, size}},
+                  {{L"select 7", 1}, {statement.c_str(), 2}});
+  const Person person;
+  const Var before = array_of({1, 2}, 0, row.array);
+  expect_call(L"Dos", before, false, describe(before.raw()));
+  ASSERT_EQ(person.boxes().size(), 6u);
+  for (const Person::Box& box : person.boxes()) {
+    EXPECT_EQ(narrow(box.text), narrow(std::wstring(L"Error indeterminado\r\n\r\n") + row.error +
+                                       L" (QVRlib21)\r\n\r\nObjeto: Dos\r\nM\u00e9todo: EjecutarProc"));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(, RefusedOutput, testing::ValuesIn(kRefusals), row_name);
+
+TEST_F(ProcedureOutputs, OfSeveralTypesFitAnArrayOfTexts) {
   database.define(L"Mezcla",
                   {{L"@a", ado::kVarWChar, ado::kOutput, 20},
                    {L"@b", ado::kInteger, ado::kOutput},
-                   {L"@c", ado::kInteger, ado::kOutput},
-                   {L"@d", ado::kDouble, ado::kOutput}},
-                  {{L"select 'abc'", 1}, {L"select 7", 2}, {L"select null", 3}, {L"select '3000000000'", 4}});
-  expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_I4), true, "I4(0) {I4 1; I4 7; I4 3; I4 4}");
-  expect_call(L"Mezcla", array_of({1, 2, 3, 4}, 0, VT_BSTR), true,
-              "BSTR(0) {BSTR abc; BSTR 7; BSTR 3; BSTR 3000000000}");
+                   {L"@c", ado::kDouble, ado::kOutput}},
+                  {{L"select 'abc'", 1}, {L"select 7", 2}, {L"select '3000000000'", 3}});
+  expect_call(L"Mezcla", array_of({1, 2, 3}, 0, VT_BSTR), true, "BSTR(0) {BSTR abc; BSTR 7; BSTR 3000000000}");
 }
 
 TEST_F(ProcedureOutputs, AnArrayFromOneOnBeginsWithTheSecondParameter) {
   database.define(L"Dos", {{L"@a", ado::kInteger, ado::kInputOutput}, {L"@b", ado::kInteger, ado::kInputOutput}},
                   {{L"select @a + @b", 2}});
   expect_call(L"Dos", array_of({5, 6}), true, "VARIANT(0) {I4 5; I4 11}");
-  expect_call(L"Dos", array_of({6}, 1, VT_I4), true, "I4(1) {I4 6}");  // the first parameter is Null
+  expect_call(L"Dos", array_of({6}, 1), true, "VARIANT(1) {Null}");  // the first parameter is Null
   database.define(
       L"Tres",
       {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kInputOutput}, {L"@c", ado::kInteger, ado::kOutput}},

@@ -95,6 +95,29 @@ TEST_F(QVRScrTest, ASinkMayLeaveDuringTheRun) {
   EXPECT_EQ(staying.events().size(), 4u);
 }
 
+TEST_F(QVRScrTest, ASinkThatAnotherOneDisconnectsHearsNotEvenThatEvent) {
+  Connected first(late), second(late), third(late);
+  first.sink().reaction = [&](DISPID, VARIANT&) {
+    if (first.events().size() == 2) second.disconnect();
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  EXPECT_EQ(first.events().size(), 4u);
+  EXPECT_EQ(second.events().size(), 1u);
+  EXPECT_EQ(third.events(), first.events());
+}
+
+TEST_F(QVRScrTest, ASinkThatAnotherOneConnectsHearsTheNextEvent) {
+  Connected first(late);
+  std::unique_ptr<Connected> second;
+  first.sink().reaction = [&](DISPID, VARIANT&) {
+    if (!second) second = std::make_unique<Connected>(late);
+    return S_OK;
+  };
+  run_late(L"app", kTwoCommands);
+  EXPECT_EQ(second->events(), std::vector<std::string>(first.events().begin() + 1, first.events().end()));
+}
+
 TEST_F(QVRScrTest, ANestedRunOnTheSameObjectIsRefusedWithoutEvents) {
   Connected connected(late);
   std::vector<std::string> nested;
@@ -176,6 +199,51 @@ TEST_F(QVRScrTest, TheHostsMessagesAreProcessedBetweenCommands) {
   DestroyWindow(window);
   EXPECT_EQ(seen, (std::vector<std::string>{"Progreso", "Progreso", "message", "message", "Progreso", "message",
                                             "Terminado"}));
+}
+
+// Windows that always have a next message. Each ends after so many, so that a run that waits for that is noticed.
+constexpr int kForEver = 5000;
+int handled;
+
+LRESULT CALLBACK posts_to_itself(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == kHostsMessage && ++handled < kForEver) {
+    Sleep(1);
+    PostMessageW(window, kHostsMessage, 0, 0);
+  }
+  return DefWindowProcW(window, message, first, second);
+}
+
+LRESULT CALLBACK is_slower_than_its_timer(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_TIMER) {
+    handled += 100;
+    Sleep(40);
+    if (handled >= kForEver) KillTimer(window, first);
+  }
+  return DefWindowProcW(window, message, first, second);
+}
+
+LRESULT CALLBACK never_validates(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_PAINT && ++handled < kForEver) return 0;
+  if (message == WM_PAINT) ValidateRect(window, nullptr);
+  return DefWindowProcW(window, message, first, second);
+}
+
+TEST_F(QVRScrTest, ARunEndsAlthoughAWindowAlwaysHasANextMessage) {
+  for (const WNDPROC procedure : {posts_to_itself, is_slower_than_its_timer, never_validates}) {
+    const HWND window = CreateWindowExW(WS_EX_NOACTIVATE, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 20, 20, nullptr,
+                                        nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    handled = 0;
+    PostMessageW(window, kHostsMessage, 0, 0);
+    SetTimer(window, 1, 10, nullptr);
+    InvalidateRect(window, nullptr, FALSE);
+    Sleep(30);
+    EXPECT_EQ(describe(run_late(L"EvitarTransaccion", L"select 1\r\nGO\r\nselect 2\r\nGO\r\n").value.raw()),
+              "BOOL true");
+    EXPECT_GT(handled, 0);
+    EXPECT_LT(handled, kForEver);
+    DestroyWindow(window);
+  }
 }
 
 TEST_F(QVRScrTest, AQuitMessageIsLeftToTheHost) {

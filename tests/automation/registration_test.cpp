@@ -9,6 +9,7 @@ namespace qvr::tests {
 namespace {
 
 constexpr const wchar_t* kWidth = sizeof(void*) == 8 ? L"64 " : L"32 ";
+constexpr const wchar_t* kPlatform = sizeof(void*) == 8 ? L"\\win64" : L"\\win32";
 
 struct RegistrationTest : testing::Test {
   void SetUp() override {
@@ -89,7 +90,87 @@ TEST_F(RegistrationTest, WritesTheStandardKeys) {
     EXPECT_TRUE(has(written, key + L"\\ProgID :  = " + program_id));
     EXPECT_TRUE(has(written, machine + program_id + L"\\CLSID :  = " + id_text));
   }
-  EXPECT_TRUE(has(written, std::wstring(L"\\1.1\\0\\win") + (sizeof(void*) == 8 ? L"64" : L"32") + L" :  = " + file));
+  for (const wchar_t* locale : {L"409", L"0"}) {
+    EXPECT_TRUE(has(written, std::wstring(L"\\1.1\\") + locale + kPlatform + L" :  = " + file)) << narrow(locale);
+  }
+  EXPECT_TRUE(has(written, L"\\1.1 :  = QVRlib21: database services for desktop applications"));
+  EXPECT_TRUE(has(written, L"\\1.1\\FLAGS :  = 0"));
+  EXPECT_TRUE(has(written, L"\\1.1\\HELPDIR :  = " + file.substr(0, file.find_last_of(L'\\'))));
+  library().unregister_it();
+}
+
+// Spanish, French, a locale of no language that the library has, and none.
+TEST_F(RegistrationTest, HostsOfAllLanguagesFindTheTypeLibrary) {
+  ASSERT_EQ(library().register_it(), S_OK);
+  for (const LCID locale : {0x409u, 0xC0Au, 0x40Au, 0x40Cu, 0x411u, 0u}) {
+    ComPtr<ITypeLib> found;
+    EXPECT_EQ(LoadRegTypeLib(LIBID_QVRlib21, 1, 1, locale, &found), S_OK) << locale;
+  }
+  library().unregister_it();
+}
+
+// A key of the machine's classes.
+void write_key(const std::wstring& key, const wchar_t* text, DWORD options = REG_OPTION_NON_VOLATILE) {
+  HKEY made = nullptr;
+  ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), 0, nullptr, options,
+                            KEY_ALL_ACCESS, nullptr, &made, nullptr),
+            ERROR_SUCCESS);
+  const auto size = static_cast<DWORD>((wcslen(text) + 1) * sizeof(wchar_t));
+  RegSetValueExW(made, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size);
+  RegCloseKey(made);
+}
+
+std::wstring type_library_key() {
+  wchar_t id[40];
+  StringFromGUID2(LIBID_QVRlib21, id, 40);
+  return std::wstring(L"TypeLib\\") + id;
+}
+
+TEST_F(RegistrationTest, OtherVersionsOfTheTypeLibraryStay) {
+  const std::wstring key = type_library_key();
+  write_key(key + L"\\1.0\\0" + kPlatform, L"C:\\former.dll");
+  const RegistryLines with_former = own_registry_keys();
+  ASSERT_EQ(library().register_it(), S_OK);
+  ASSERT_EQ(library().unregister_it(), S_OK);
+  EXPECT_TRUE(own_registry_keys() == with_former);
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str());
+  expect_nothing_left();
+}
+
+// Below a volatile key no lasting one can be made, so that the last keys cannot be written.
+struct FailingRegistration : RegistrationTest {
+  void SetUp() override {
+    RegistrationTest::SetUp();
+    write_key(type_library_key(), L"", REG_OPTION_VOLATILE);
+    with_obstacle = own_registry_keys();
+  }
+  void TearDown() override {
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + type_library_key()).c_str());
+    RegistrationTest::TearDown();
+  }
+  RegistryLines with_obstacle;
+};
+
+TEST_F(FailingRegistration, LeavesNothingBehind) {
+  EXPECT_EQ(library().register_it(), SELFREG_E_CLASS);
+  EXPECT_TRUE(own_registry_keys() == with_obstacle);
+}
+
+TEST_F(FailingRegistration, LeavesAFormerOneAsItWas) {
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + type_library_key()).c_str());
+  ASSERT_EQ(library().register_it(), S_OK);
+  CLSID id;
+  wchar_t id_text[40];
+  ASSERT_EQ(CLSIDFromProgID(L"QVRlib21.QVRcfp", &id), S_OK);
+  StringFromGUID2(id, id_text, 40);
+  write_key(std::wstring(L"CLSID\\") + id_text + L"\\InprocServer32", L"C:\\former\\QVRlib21.dll");
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + type_library_key()).c_str());
+  write_key(type_library_key(), L"", REG_OPTION_VOLATILE);
+  const RegistryLines former = own_registry_keys();
+  EXPECT_EQ(library().register_it(), SELFREG_E_CLASS);
+  const RegistryLines after = own_registry_keys();
+  for (const auto& line : added(former, after)) ADD_FAILURE() << "left behind: " << narrow(line);
+  for (const auto& line : added(after, former)) ADD_FAILURE() << "taken away: " << narrow(line);
   library().unregister_it();
 }
 
@@ -130,7 +211,8 @@ TEST_F(RegistrationTest, KeysSharedWithTheOtherWidthStayWhileThatOneIsRegistered
   const RegistryLines left = added(before, registry_snapshot());
   EXPECT_TRUE(has(left, L"machine\\QVRlib21.QVRcfp\\CLSID"));
   EXPECT_TRUE(has(left, L"\\1.1\\FLAGS :  = 0"));
-  EXPECT_FALSE(has(left, sizeof(void*) == 8 ? L"\\1.1\\0\\win64" : L"\\1.1\\0\\win32"));
+  EXPECT_FALSE(has(left, std::wstring(L"\\1.1\\0") + kPlatform));
+  EXPECT_FALSE(has(left, std::wstring(L"\\1.1\\409") + kPlatform));
   RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\CLSID", 0, KEY_ALL_ACCESS | kOther, &key);
   RegDeleteTreeW(key, id_text);
   RegCloseKey(key);

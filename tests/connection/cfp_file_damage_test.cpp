@@ -17,7 +17,7 @@ using tests::PrintTo;
 
 const Text kNoLine = u"QVRcfp.Crear: 75 The file has fewer than ten lines",
            kNoEngine = u"QVRcfp.Crear: 13 The file's first line is no 32-bit number",
-           kNoProtectedText = trace_of(u"QVRcfp.Crear", 5),
+           kNoProtectedText = trace_of(u"QVRcfp.Crear", 5), kOverflow = trace_of(u"QVRcfp.Crear", 6),
            kOtherValues = u"QVRcfp.Crear: 5 The file's check line does not match its other lines";
 
 class CfpFileDamageTest : public ::testing::Test {
@@ -162,7 +162,7 @@ const FirstLineRow kFirstLines[] = {
     {"hexadecimal", u"&H2", &kNoEngine},
     {"no 32-bit number", u"99999999999", &kNoEngine},
     {"no 32-bit number either", u"-2147483649", &kNoEngine},
-    {"no number of any size", u"2e999", &kNoEngine},
+    {"no number of any size", u"2e999", &kOverflow},
     {"line feed", u"2\n", &kNoEngine},
 };
 

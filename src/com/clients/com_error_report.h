@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "com/clients/late_object.h"
+#include "com/clients/component.h"
 #include "services/error_report.h"
 
 namespace qvr::com {
@@ -13,17 +13,15 @@ class ComErrorReport final : public services::ErrorReport {
   static constexpr wchar_t kProgramId[] = L"QVRServicios.InformeErrores";
 
   // If the component fails, the other report shows the failure.
-  ComErrorReport(LateObject component, std::unique_ptr<services::ErrorReport> otherwise)
+  ComErrorReport(Component component, std::unique_ptr<services::ErrorReport> otherwise)
       : component_(std::move(component)), otherwise_(std::move(otherwise)) {}
-  // Runs at thread detach; see ComTextProtection.
-  ~ComErrorReport() override { component_.abandon(); }
 
   void Informar(const services::ErrorNotice& notice) override;
 
  private:
   void hand_over(const services::ErrorNotice& notice);
 
-  LateObject component_;
+  Component component_;
   std::unique_ptr<services::ErrorReport> otherwise_;
 };
 

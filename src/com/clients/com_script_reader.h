@@ -1,7 +1,7 @@
 // The application family's script-reading component.
 #pragma once
 
-#include "com/clients/late_object.h"
+#include "com/clients/component.h"
 #include "services/script_reader.h"
 
 namespace qvr::com {
@@ -10,14 +10,12 @@ class ComScriptReader final : public services::ScriptReader {
  public:
   static constexpr wchar_t kProgramId[] = L"QVRServicios.LectorScripts";
 
-  explicit ComScriptReader(LateObject component) : component_(std::move(component)) {}
-  // Runs at thread detach; see ComTextProtection.
-  ~ComScriptReader() override { component_.abandon(); }
+  explicit ComScriptReader(Component component) : component_(std::move(component)) {}
 
   std::optional<Text> Leer(TextView ID, TextView Ruta) override;
 
  private:
-  LateObject component_;
+  Component component_;
 };
 
 }  // namespace qvr::com

@@ -1,7 +1,7 @@
 // The application family's text-protection component.
 #pragma once
 
-#include "com/clients/late_object.h"
+#include "com/clients/component.h"
 #include "services/text_protection.h"
 
 namespace qvr::com {
@@ -10,16 +10,13 @@ class ComTextProtection final : public services::TextProtection {
  public:
   static constexpr wchar_t kProgramId[] = L"QVRServicios.ProteccionTexto";
 
-  explicit ComTextProtection(LateObject component) : component_(std::move(component)) {}
-  // Runs at thread detach, under the loader lock and maybe after CoUninitialize: no COM call is allowed, not even
-  // Release.
-  ~ComTextProtection() override { component_.abandon(); }
+  explicit ComTextProtection(Component component) : component_(std::move(component)) {}
 
   Text Cifrar(TextView Clave, TextView Texto) override;
   Text Descifrar(TextView Clave, TextView Texto) override;
 
  private:
-  LateObject component_;
+  Component component_;
 };
 
 }  // namespace qvr::com

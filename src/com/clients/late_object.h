@@ -29,8 +29,8 @@ class LateObject {
   LateObject get_object(const wchar_t* name) const;
 
   ObjectRef as_value() const { return std::make_shared<DispatchObject>(object_.Get()); }
-  // Leaks the reference on purpose: no Release.
-  void abandon() noexcept { static_cast<void>(object_.Detach()); }
+  // Leaks the reference on purpose: no Release. False where there is none.
+  bool abandon() noexcept { return object_.Detach() != nullptr; }
 
  private:
   Value invoke(const wchar_t* name, WORD flags, std::span<const Value> arguments) const;

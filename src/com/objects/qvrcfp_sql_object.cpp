@@ -96,9 +96,9 @@ HRESULT QVRcfpObject::EjecutarProcSQL7(Connection** Conexion, BSTR* NombreProc, 
   return answer_while_kept(Resultado, [&] {
     const auto connection = wrap_connection(object_of(Conexion));
     Value parameters = value_of(Parametros);
-    const bool done = core_.EjecutarProcSQL7(connection.get(), text_of(NombreProc), parameters);
-    if (done && Parametros != nullptr) put_elements(*Parametros, parameters);
-    return done;
+    return core_.EjecutarProcSQL7(connection.get(), text_of(NombreProc), parameters, [&](const Value& results) {
+      if (Parametros != nullptr) put_elements(*Parametros, results);
+    });
   });
 }
 HRESULT QVRcfpObject::AgregarParametroADO(Command** Comando, BSTR* TipoSQLServer, BSTR* Nombre, VARIANT* Valor,

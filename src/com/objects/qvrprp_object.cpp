@@ -16,19 +16,23 @@ struct ValueTraits {
   }
 };
 
+Value kept_value_of(const VARIANT* argument) {
+  return argument != nullptr ? travelling_value_from(*argument) : Value(Missing{});
+}
+
 }  // namespace
 
 HRESULT QVRprpObject::Borra() noexcept {
   return perform_while_kept([&] { core_.Borra(); });
 }
 HRESULT QVRprpObject::CreaPropiedad(BSTR* Tipo, BSTR* Nombre, VARIANT* Valor) noexcept {
-  return perform_while_kept([&] { core_.CreaPropiedad(text_of(Tipo), text_of(Nombre), value_of(Valor)); });
+  return perform_while_kept([&] { core_.CreaPropiedad(text_of(Tipo), text_of(Nombre), kept_value_of(Valor)); });
 }
 HRESULT QVRprpObject::get_Item(VARIANT* NombreOIndice, VARIANT* Resultado) noexcept {
   return answer_while_kept(Resultado, [&] { return core_.Item(value_of(NombreOIndice)); });
 }
 HRESULT QVRprpObject::put_Item(VARIANT* NombreOIndice, VARIANT Valor) noexcept {
-  return perform_while_kept([&] { core_.Item(value_of(NombreOIndice), value_of(&Valor)); });
+  return perform_while_kept([&] { core_.Item(value_of(NombreOIndice), kept_value_of(&Valor)); });
 }
 HRESULT QVRprpObject::get_NumPropiedades(LONG* Resultado) noexcept {
   return answer(Resultado, [&] { return core_.NumPropiedades(); });
@@ -39,6 +43,8 @@ HRESULT QVRprpObject::get_NombrePropiedad(LONG* Indice, BSTR* Resultado) noexcep
 
 HRESULT QVRprpObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments,
                              VARIANT* result, EXCEPINFO* exception, UINT* wrong_argument) noexcept {
+  // Set puts an object as any other value is put; the interface has one accessor for both.
+  if (id == DISPID_VALUE && (flags & DISPATCH_PROPERTYPUTREF)) flags |= DISPATCH_PROPERTYPUT;
   const bool reads = (flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) != 0;
   if (id != DISPID_NEWENUM || !reads) {
     return Dual<_QVRprp>::Invoke(id, reserved, locale, flags, arguments, result, exception, wrong_argument);

@@ -15,7 +15,7 @@ class QVRprpObject final : public Object<::QVRprp, Dual<_QVRprp>> {
   STDMETHODIMP get_NumPropiedades(LONG* Resultado) noexcept override;
   STDMETHODIMP get_NombrePropiedad(LONG* Indice, BSTR* Resultado) noexcept override;
 
-  // Adds DISPID_NEWENUM (For Each), which has no slot in the interface.
+  // Adds DISPID_NEWENUM (For Each) and DISPATCH_PROPERTYPUTREF (Set), which have no slots in the interface.
   STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                       EXCEPINFO* exception, UINT* wrong_argument) noexcept override;
 

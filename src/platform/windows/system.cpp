@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <vector>
 
 #include "base/date_text.h"
@@ -18,6 +19,63 @@ HMODULE module_of_this_code() {
   GetModuleHandleExW(kFlags, reinterpret_cast<LPCWSTR>(&module_of_this_code), &module);
   return module;
 }
+
+// Handles the messages of this thread that are pending when it is made. What comes later is left to the next call or to
+// the host's own loop: a window that posts to itself, a timer that is slower than its interval and a window that never
+// validates always have another one.
+class PendingMessages {
+ public:
+  void handle_all() {
+    if (handle(0)) return;
+    // A posted message of later hides the timers and paintings behind it.
+    handle(WM_TIMER);
+    handle(WM_PAINT);
+  }
+
+ private:
+  static constexpr DWORD kLongest = 1000;  // milliseconds; other threads may post faster than the host handles
+  static constexpr int kMost = 1000;  // a tick of the clock has room for many messages that a window posts to itself
+
+  // What the system generates anew as long as it is due: a timer or a window to be painted.
+  struct Due {
+    HWND window;
+    UINT message;
+    WPARAM timer;
+    bool operator==(const Due&) const = default;
+  };
+
+  // Of all kinds (0) or of one; true when none is left, or the application ends.
+  bool handle(UINT kind) {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, kind, kind, PM_NOREMOVE)) {
+      if (!was_pending(message)) return false;
+      if (!PeekMessageW(&message, nullptr, kind, kind, PM_REMOVE)) continue;
+      if (message.message == WM_QUIT) {
+        // Posted again for the host's own message loop; otherwise the application would not quit.
+        PostQuitMessage(static_cast<int>(message.wParam));
+        return true;
+      }
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    return true;
+  }
+
+  bool was_pending(const MSG& message) {
+    if (GetTickCount() - start_ > kLongest || ++handled_ > kMost) return false;
+    if (message.message != WM_TIMER && message.message != WM_PAINT) {
+      return static_cast<LONG>(message.time - start_) <= 0;
+    }
+    const Due due{message.hwnd, message.message, message.message == WM_TIMER ? message.wParam : 0};
+    if (std::ranges::find(handled_due_, due) != handled_due_.end()) return false;
+    handled_due_.push_back(due);
+    return true;
+  }
+
+  const DWORD start_ = GetTickCount();
+  int handled_ = 0;
+  std::vector<Due> handled_due_;
+};
 
 class WindowsSystem final : public System {
  public:
@@ -45,16 +103,7 @@ class WindowsSystem final : public System {
 
   void process_events() override {
     const HostFloatingPoint host;
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      if (message.message == WM_QUIT) {
-        // Posted again for the host's own message loop; otherwise the application would not quit.
-        PostQuitMessage(static_cast<int>(message.wParam));
-        return;
-      }
-      TranslateMessage(&message);
-      DispatchMessageW(&message);
-    }
+    PendingMessages().handle_all();
   }
 
   Text module_path() override {

@@ -134,6 +134,30 @@ int load_in_state() {
   return 2;
 }
 
+int load_with_slots() {
+  const std::size_t left = std::stoul(words()[2]);
+  const std::wstring path = beside_program(L"QVRlib21.dll");
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  tell_begun();
+  std::vector<DWORD> taken;
+  for (DWORD slot = TlsAlloc(); slot != TLS_OUT_OF_INDEXES; slot = TlsAlloc()) taken.push_back(slot);
+  if (taken.size() < left) return 1;
+  for (std::size_t i = 0; i < left; ++i) {
+    TlsFree(taken.back());
+    taken.pop_back();
+  }
+  const auto works = [&] {
+    const Server server(path);
+    if (!server.loaded()) return false;
+    const LateObject cfp = created_without_registration(server);
+    return describe(cfp.call(L"TextoAValor", {L"F", L"2011-01-05"}).value.raw()) == "DATE 40548.000000";
+  };
+  if (LoadLibraryW(path.c_str()) != nullptr) return works() ? 0 : 12;
+  if (loaded()) return 13;
+  for (const DWORD slot : taken) TlsFree(slot);
+  return works() ? 10 : 14;
+}
+
 }  // namespace
 
 Role child_role() {
@@ -143,6 +167,7 @@ Role child_role() {
   if (given[1] == kRegisters) return register_again_and_again;
   if (given[1] == kLoads) return load_again_and_again;
   if (given[1] == kLoadsInState) return load_in_state;
+  if (given[1] == kLoadsWithSlots) return load_with_slots;
   return nullptr;
 }
 

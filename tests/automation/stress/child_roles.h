@@ -15,6 +15,10 @@ inline constexpr wchar_t kLoads[] = L"--loads";
 // go. 0 when the state is there afterwards.
 inline constexpr wchar_t kLoadsInState[] = L"--loads-in-state";
 
+// Followed by the number of slots of thread-local storage that are left: loads the library. 0 when it loads and works,
+// 10 when it cannot be loaded and the process goes on, also after another attempt with all slots free.
+inline constexpr wchar_t kLoadsWithSlots[] = L"--loads-with-slots";
+
 // What the two files hold; the identification of both is "id", their name "ended".
 inline constexpr const wchar_t* kProviders[] = {L"first", L"second"};
 inline constexpr int kOptionsLengths[] = {10, 40000};

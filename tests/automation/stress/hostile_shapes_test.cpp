@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "QVRlib21.h"
 #include "automation/stress/hostile_caller.h"
 
 namespace qvr::tests {
@@ -118,7 +119,10 @@ TEST_P(HostileShapes, WrongKindsAndInterfaces) {
       SCOPED_TRACE(flags);
       HostileCall call = call_of(member, arguments);
       call.flags = static_cast<WORD>(flags);
-      if (!interface_under_attack().has(member.id, call.flags)) {
+      // The only property that takes Set.
+      const bool set = flags == DISPATCH_PROPERTYPUTREF && member.id == DISPID_VALUE &&
+                       interface_under_attack().id == __uuidof(_QVRprp);
+      if (!set && !interface_under_attack().has(member.id, call.flags)) {
         EXPECT_EQ(invoke(subject, call).result, DISP_E_MEMBERNOTFOUND);
       }
     }

@@ -66,7 +66,7 @@ TEST(Ended, WhileSavingLeavesTheOldOrTheNewFile) {
 struct EndedWhileRegistering : testing::TestWithParam<const wchar_t*> {
   void SetUp() override {
     ASSERT_EQ(library().unregister_it(), S_OK);
-    ASSERT_TRUE(own_registry_keys().empty());
+    expect_same({});
     ASSERT_EQ(library().install(TRUE, command()), S_OK);
     whole = own_registry_keys();
     ASSERT_GT(whole.size(), 100u);

@@ -15,6 +15,15 @@ TEST(Unloading, AThousandTimesAfterUseLeavesNothingBehind) { EXPECT_EQ(Child(kLo
 
 TEST(Unloading, AThousandTimesWithoutUseLeavesNothingBehind) { EXPECT_EQ(Child(kLoads, L"unused").answer(), 0); }
 
+class LoadingWithSlots : public testing::TestWithParam<int> {};
+
+TEST_P(LoadingWithSlots, IsRefusedWhereTheyDoNotSuffice) {
+  constexpr int kWorks = 0, kRefused = 10;
+  EXPECT_EQ(Child(kLoadsWithSlots, std::to_wstring(GetParam())).answer(), GetParam() < 4 ? kRefused : kWorks);
+}
+
+INSTANTIATE_TEST_SUITE_P(Slots, LoadingWithSlots, testing::Range(0, 6));
+
 class LoadingInState : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(LoadingInState, LeavesTheStateToTheHost) {
