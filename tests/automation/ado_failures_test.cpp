@@ -152,6 +152,7 @@ TEST(WithoutAdo, ADirectionIsANumberAlthoughItsTypeCannotBeRead) {
   const LateAnswer text = host.object().call(L"AgregarParametroADO", {command.get(), L"INT", L"@p", 1, 0, L"a"});
   EXPECT_EQ(text.result, DISP_E_TYPEMISMATCH);
   EXPECT_EQ(text.wrong_argument, 0u);
+  EXPECT_EQ(traced(), Traces{u"QVRcfp.AgregarParametroADO: -2147352571 The late-bound call was refused"});
 }
 
 TEST(AdoRefusals, ConnectionStringsThatCannotServe) {

@@ -65,6 +65,11 @@ TEST(TextProtectionComponent, DoesNotReplaceAFileByOneThatCannotBeRead) {
       EXPECT_EQ(describe(read.call(L"Crear", {L"id", work_folder(), L"kept"}).value.raw()), "BOOL true");
     });
   }
+  EXPECT_EQ(
+      traced(),
+      Traces(
+          5,
+          u"QVRcfp.Guardar: 5 The text protection wrote a line break, a comma, a double quote or a blank at an end"));
 }
 
 TEST(TextProtectionComponent, FailsTheMembersWhenItFails) {
@@ -144,7 +149,7 @@ void use_components() {
   {
     FamilyComponent protection(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
     save_and_load(L"thread", true);
-    EXPECT_EQ(protection.calls().size(), 20u);
+    EXPECT_EQ(protection.calls().size(), 30u);  // written, read back, and loaded
   }
   {
     FamilyComponent report(L"QVRServicios.InformeErrores", {L"Informar"}, taken);
@@ -158,6 +163,8 @@ void use_components() {
   const LateObject runner(L"QVRlib21.QVRScr");
   runner.call(L"CargarDefinicion", {L"app", 2, folder.path(), L"Gestion", L"BD", L"", L"", L"", L"", false});
   EXPECT_EQ(reader.calls().size(), 1u);
+  EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set",
+                              u"QVRScr.CargarDefinicion: 75 Path/File access error"}));
 }
 
 TEST(Components, NoneIsLeftWhenAHundredThreadsHaveEnded) {
@@ -190,6 +197,12 @@ TEST(Components, StayWhereAThreadEndsWithItsApartment) {
     use_components();
   }).join();
   EXPECT_EQ(FamilyComponent::living(), before + 3);
+  EXPECT_EQ(
+      traced(),
+      (Traces{
+          u"QVRServicios.LectorScripts.Release: 91 A thread ended without CoUninitialize and still holds the component",
+          u"QVRServicios.InformeErrores.Release: 91 A thread ended without CoUninitialize and still holds the component",
+          u"QVRServicios.ProteccionTexto.Release: 91 A thread ended without CoUninitialize and still holds the component"}));
 }
 
 }  // namespace

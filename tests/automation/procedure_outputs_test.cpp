@@ -1,6 +1,7 @@
 // The values that a stored procedure gives back, in every kind of array that a host may have for them.
 #include "automation/procedures.h"
 #include "support/rows.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -104,16 +105,17 @@ struct Refusal {
   const wchar_t* expression;
   VARTYPE array;
   const wchar_t* error;
+  const char16_t* trace;
 };
 
 constexpr Refusal kRefusals[] = {
-    {"text into I4", ado::kVarWChar, L"'abc'", VT_I4, L"Error 13: Type mismatch"},
-    {"text into R8", ado::kVarWChar, L"'abc'", VT_R8, L"Error 13: Type mismatch"},
-    {"100000 into I2", ado::kInteger, L"100000", VT_I2, L"Error 6: Overflow"},
-    {"3000000000 into I4", ado::kDouble, L"'3000000000'", VT_I4, L"Error 6: Overflow"},
-    {"Null into I4", ado::kInteger, L"null", VT_I4, L"Error 94: Invalid use of Null"},
-    {"Null into R8", ado::kInteger, L"null", VT_R8, L"Error 94: Invalid use of Null"},
-    {"Null into BSTR", ado::kInteger, L"null", VT_BSTR, L"Error 94: Invalid use of Null"},
+    {"text into I4", ado::kVarWChar, L"'abc'", VT_I4, L"Error 13: Type mismatch", u"13 Type mismatch"},
+    {"text into R8", ado::kVarWChar, L"'abc'", VT_R8, L"Error 13: Type mismatch", u"13 Type mismatch"},
+    {"100000 into I2", ado::kInteger, L"100000", VT_I2, L"Error 6: Overflow", u"6 Overflow"},
+    {"3000000000 into I4", ado::kDouble, L"'3000000000'", VT_I4, L"Error 6: Overflow", u"6 Overflow"},
+    {"Null into I4", ado::kInteger, L"null", VT_I4, L"Error 94: Invalid use of Null", u"94 Invalid use of Null"},
+    {"Null into R8", ado::kInteger, L"null", VT_R8, L"Error 94: Invalid use of Null", u"94 Invalid use of Null"},
+    {"Null into BSTR", ado::kInteger, L"null", VT_BSTR, L"Error 94: Invalid use of Null", u"94 Invalid use of Null"},
 };
 
 using RefusedOutput = Rows<ProcedureOutputs, Refusal>;
@@ -133,6 +135,7 @@ TEST_P(RefusedOutput, IsReportedAndLeavesTheArray) {
     EXPECT_EQ(narrow(box.text), narrow(std::wstring(L"Error indeterminado\r\n\r\n") + row.error +
                                        L" (QVRlib21)\r\n\r\nObjeto: Dos\r\nM\u00e9todo: EjecutarProc"));
   }
+  EXPECT_EQ(traced(), Traces(6, u"QVRcfp.EjecutarProcSQL7: " + Text(row.trace)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, RefusedOutput, testing::ValuesIn(kRefusals), row_name);

@@ -230,6 +230,9 @@ TEST_F(QVRcfpTest, AFileThatIsADeviceOrAPipeIsFalse) {
     expect_same(late.call(L"Guardar", {id.get(), folder, name}), saving, early_result(saved), "BOOL false");
     const HRESULT loading = early->Crear(&id, &in, &of, &loaded);
     expect_same(late.call(L"Crear", {id.get(), folder, name}), loading, early_result(loaded), "BOOL false");
+    const Text saving_refused = u"QVRcfp.Guardar: 75 Path/File access error",
+               loading_refused = u"QVRcfp.Crear: 75 Path/File access error";
+    EXPECT_EQ(traced(), (Traces{saving_refused, saving_refused, loading_refused, loading_refused}));
     assign_both();
   }
   EXPECT_TRUE(CloseHandle(pipe));

@@ -261,6 +261,7 @@ TEST_F(QVRprpTest, AnObjectIsPutByReferenceToo) {
   DISPID name = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{&object.raw(), &name, 1, 1};
   EXPECT_EQ(late.invoke(0x68030000 + 3, DISPATCH_PROPERTYPUTREF, parameters).result, DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(traced(), (Traces{u"QVRprp.dispatch id 1745027075: -2147352573 The late-bound call was refused"}));
 }
 
 TEST_F(QVRprpTest, ForEachWalksOverTheValues) {
