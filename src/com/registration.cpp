@@ -151,9 +151,10 @@ LSTATUS remove_rows(HKEY classes, const RegistryRows& rows, Scope scope) {
   return worst;
 }
 
-HRESULT result_from(LSTATUS status, HRESULT otherwise) {
+HRESULT result_from(LSTATUS status, const char* function) {
   if (status == ERROR_SUCCESS) return S_OK;
-  return status == ERROR_ACCESS_DENIED ? E_ACCESSDENIED : otherwise;
+  trace({{}, function, status, u"The registry refused a key", SourcePlace::here()});
+  return status == ERROR_ACCESS_DENIED ? E_ACCESSDENIED : SELFREG_E_CLASS;
 }
 
 }  // namespace
@@ -164,7 +165,7 @@ HRESULT register_library(Scope scope) noexcept {
     RegistryKey classes;
     LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE | DELETE, classes);
     if (status == ERROR_SUCCESS) status = write_rows(classes.get(), rows);
-    return result_from(status, SELFREG_E_CLASS);
+    return result_from(status, "register_library");
   });
 }
 
@@ -174,7 +175,7 @@ HRESULT unregister_library(Scope scope) noexcept {
     RegistryKey classes;
     LSTATUS status = open_classes(scope, KEY_READ | KEY_WRITE | DELETE, classes);
     if (status == ERROR_SUCCESS) status = remove_rows(classes.get(), rows, scope);
-    return result_from(status, SELFREG_E_CLASS);
+    return result_from(status, "unregister_library");
   });
 }
 

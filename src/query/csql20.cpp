@@ -13,8 +13,8 @@ namespace {
 
 // Traced only: this answer of `Crear` has no box.
 void trace_missing_columns() {
-  trace({cSQL20::kClass, "Crear", failure_number::kTypeMismatch, u"ColumnasSELECT is not an array",
-         SourcePlace::here()});
+  trace(
+      {cSQL20::kClass, "Crear", failure_number::kTypeMismatch, u"ColumnasSELECT is not an array", SourcePlace::here()});
 }
 
 }  // namespace

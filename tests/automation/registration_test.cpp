@@ -4,6 +4,7 @@
 #include "automation/both.h"
 #include "automation/library.h"
 #include "automation/registry_snapshot.h"
+#include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
@@ -151,9 +152,12 @@ struct FailingRegistration : RegistrationTest {
   RegistryLines with_obstacle;
 };
 
+const Text kRefusedKey = u"register_library: 1021 The registry refused a key";  // ERROR_CHILD_MUST_BE_VOLATILE
+
 TEST_F(FailingRegistration, LeavesNothingBehind) {
   EXPECT_EQ(library().register_it(), SELFREG_E_CLASS);
   EXPECT_TRUE(own_registry_keys() == with_obstacle);
+  EXPECT_EQ(traced(), Traces{kRefusedKey});
 }
 
 TEST_F(FailingRegistration, LeavesAFormerOneAsItWas) {
@@ -168,6 +172,7 @@ TEST_F(FailingRegistration, LeavesAFormerOneAsItWas) {
   write_key(type_library_key(), L"", REG_OPTION_VOLATILE);
   const RegistryLines former = own_registry_keys();
   EXPECT_EQ(library().register_it(), SELFREG_E_CLASS);
+  EXPECT_EQ(traced(), Traces{kRefusedKey});
   const RegistryLines after = own_registry_keys();
   for (const auto& line : added(former, after)) ADD_FAILURE() << "left behind: " << narrow(line);
   for (const auto& line : added(after, former)) ADD_FAILURE() << "taken away: " << narrow(line);
