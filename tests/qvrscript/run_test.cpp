@@ -78,6 +78,7 @@ TEST_F(Run, DoesNotWaitForAPipe) {
     EXPECT_EQ(answer.out, "");
     EXPECT_NE(answer.err.find("x.cfc"), std::string::npos) << answer.err;
   }
+  EXPECT_EQ(traced(), (Traces{trace_of(u"commands_in", 75), trace_of(u"names_in", 75)}));
 }
 
 TEST_F(Run, GoesOnWhereItIsTold) {
