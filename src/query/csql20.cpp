@@ -48,7 +48,7 @@ bool cSQL20::Crear(const QueryRequest& request) noexcept {
 }
 
 bool cSQL20::build_select(const Value& pairs) noexcept {
-  return or_shown(kClass, u"ConstruirSelect", [&] {
+  const auto build = [&] {
     fields_.columns = query::ColumnList::from_pairs(pairs);
     const Text limit = dialect::ClausulaTop(fields_.engine, fields_.top);
     fields_.select = join({u"SELECT ", fields_.distinct ? u"DISTINCT " : u"", limit});
@@ -57,7 +57,9 @@ bool cSQL20::build_select(const Value& pairs) noexcept {
     // Without columns this cuts the end of the opening: the contract's text, which every engine rejects.
     if (fields_.columns.size() == 0) fields_.select.resize(fields_.select.size() - 2);
     return true;
-  });
+  };
+  // The box names the step, the trace the member.
+  return or_shown(kClass, u"ConstruirSelect", build, SourcePlace::here(__builtin_FILE(), __builtin_LINE(), "Crear"));
 }
 
 void cSQL20::build_from_and_where(const QueryRequest& request) {

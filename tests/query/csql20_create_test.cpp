@@ -174,7 +174,7 @@ TEST_P(UnreadableColumns, AreTold) {
     EXPECT_FALSE(showing({failed(u"ConstruirSelect", row.number)}, create));
     EXPECT_FALSE(query.Creado());
   }
-  EXPECT_EQ(traced(), Traces(4, trace_of(u"cSQL20.build_select", row.number)));
+  EXPECT_EQ(traced(), Traces(4, trace_of(u"cSQL20.Crear", row.number)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, UnreadableColumns, ::testing::ValuesIn(kUnreadableColumnsRows), row_name);
@@ -236,7 +236,7 @@ TEST_F(Csql20CreateTest, TellsInTheLanguageOfTheThread) {
     wanted.Idioma = 2;  // of the object: the boxes are the thread's
     EXPECT_FALSE(showing({Text(row.box)}, [&] { return query.Crear(wanted); }));
   }
-  EXPECT_EQ(traced(), Traces(3, u"cSQL20.build_select: 9 Subscript out of range"));
+  EXPECT_EQ(traced(), Traces(3, u"cSQL20.Crear: 9 Subscript out of range"));
 }
 
 }  // namespace

@@ -88,9 +88,9 @@ TEST_F(Usql20Test, ARefusedMemberIsDropped) {
   EXPECT_FALSE(other.Crear(request(Engine::Jet, u"a")));
   EXPECT_FALSE(other.Creado());
   EXPECT_EQ(other.TOP(), 0);
-  EXPECT_EQ(traced(), (Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array",
-                              u"cSQL20.build_select: 9 Subscript out of range",
-                              u"cSQL20.Crear: 13 ColumnasSELECT is not an array"}));
+  EXPECT_EQ(traced(),
+            (Traces{u"cSQL20.Crear: 13 ColumnasSELECT is not an array", u"cSQL20.Crear: 9 Subscript out of range",
+                    u"cSQL20.Crear: 13 ColumnasSELECT is not an array"}));
 }
 
 TEST_F(Usql20Test, NarrowsTheLastMember) {
