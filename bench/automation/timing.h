@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qvr::bench {
@@ -18,17 +20,22 @@ class Times {
     asm volatile("fldcw %0" : : "m"(as_windows_starts));
   }
 
-  // The minimum over some rounds, as noise only adds time.
-  template <class Body>
-  void take(const std::string& what, const std::string& argument, Body&& body, int calls, int rounds = 15) {
-    for (int i = 0; i < calls / 10; ++i) body();
-    double best = 1e300;
+  // The library's work and the same done by hand, in turn, so that a busy moment meets both; of each the quickest round
+  // counts, as noise only adds time. A round is this many calls. Each body ends the program when its work fails.
+  template <class Library, class ByHand>
+  void beside(const std::string& what, Library&& library, ByHand&& by_hand, int calls, int rounds) {
+    double quickest = std::numeric_limits<double>::max(), quickest_by_hand = quickest;
     for (int round = 0; round < rounds; ++round) {
-      const double start = now();
-      for (int i = 0; i < calls; ++i) body();
-      best = std::min(best, (now() - start) / calls);
+      quickest_by_hand = std::min(quickest_by_hand, time_of(by_hand, calls));
+      quickest = std::min(quickest, time_of(library, calls));
     }
-    rows_.push_back("{\"name\": \"" + what + "/" + argument + "\", \"cpu_time\": " + std::to_string(best * 1e9) +
+    add(what, "library", quickest);
+    add(what, "by_hand", quickest_by_hand);
+  }
+
+  // A time in seconds that was measured elsewhere.
+  void add(const std::string& what, const std::string& whose, double seconds) {
+    rows_.push_back("{\"name\": \"" + what + "/" + whose + "\", \"cpu_time\": " + std::to_string(seconds * 1e9) +
                     ", \"time_unit\": \"ns\"}");
   }
 
@@ -47,6 +54,13 @@ class Times {
   }
 
  private:
+  template <class Body>
+  static double time_of(Body&& body, int calls) {
+    const double start = now();
+    for (int i = 0; i < calls; ++i) body();
+    return (now() - start) / calls;
+  }
+
   std::vector<std::string> rows_;
 };
 

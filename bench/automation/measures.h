@@ -1,0 +1,14 @@
+// What people wait for, one function each; host_bench.cpp calls them in turn.
+#pragma once
+
+#include "automation/timing.h"
+
+namespace qvr::bench {
+
+void measure_first_list(Times& times);
+void measure_connection_file(Times& times);
+void measure_inserts(Times& times);
+void measure_procedure_call(Times& times);
+void measure_installation(Times& times);
+
+}  // namespace qvr::bench
