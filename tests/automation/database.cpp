@@ -25,6 +25,14 @@ std::wstring unused_file(const wchar_t* extension) {
   return work_folder() + L"\\" + std::to_wstring(++number) + extension;
 }
 
+void watch_calls(const wchar_t* failures, const wchar_t* log) {
+  using WatchCalls = void (*)(const wchar_t*, const wchar_t*);
+  const auto watch = reinterpret_cast<WatchCalls>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"testado.dll"), "WatchCalls")));
+  ASSERT_NE(watch, nullptr);
+  watch(failures, log);
+}
+
 }  // namespace
 
 Database::Database()
@@ -61,14 +69,10 @@ std::string Database::ask(const wchar_t* query) const {
   return answer.substr(answer.find(' ') + 1);
 }
 
-FaultyAdo::FaultyAdo(const wchar_t* failures) : log_(unused_file(L".log")) {
-  SetEnvironmentVariableW(L"TESTADO_FAIL", failures);
-  SetEnvironmentVariableW(L"TESTADO_LOG", log_.c_str());
-}
+FaultyAdo::FaultyAdo(const wchar_t* failures) : log_(unused_file(L".log")) { watch_calls(failures, log_.c_str()); }
 
 FaultyAdo::~FaultyAdo() {
-  SetEnvironmentVariableW(L"TESTADO_FAIL", nullptr);
-  SetEnvironmentVariableW(L"TESTADO_LOG", nullptr);
+  watch_calls(nullptr, nullptr);
   DeleteFileW(log_.c_str());
 }
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <map>
 #include <mutex>
 #include <string>
@@ -12,49 +13,39 @@
 namespace qvr::tests::com {
 namespace {
 
-Text environment(const wchar_t* name) {
-  Text value(64, u'\0');
-  for (;;) {
-    const DWORD size = static_cast<DWORD>(value.size());
-    const DWORD needed = GetEnvironmentVariableW(name, reinterpret_cast<wchar_t*>(value.data()), size);
-    const bool complete = needed < size;
-    value.resize(needed);
-    if (complete) return value;
-  }
-}
-
-void append(const Text& path, const std::string& line) {
-  HANDLE file = CreateFileW(reinterpret_cast<const wchar_t*>(path.c_str()), FILE_APPEND_DATA,
-                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+void append(const std::wstring& path, const std::string& line) {
+  HANDLE file = CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
+                            FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return;  // the test misses the lines it expects
   DWORD written = 0;
   WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
   CloseHandle(file);
 }
 
-void log(TextView operation, TextView detail) {
-  const Text path = environment(L"TESTADO_LOG");
-  if (path.empty()) return;
-  const Text one_line = replace_all(detail, kLineBreak, u" | ");
-  append(path, to_utf8(join({operation, one_line.empty() ? u"" : u" ", one_line, u"\n"})));
-}
-
-// Counts the calls of each operation against the list that was in force.
-class FailurePlan {
+class Watch {
  public:
-  bool fails(TextView operation) {
+  void begin(const wchar_t* failures, const wchar_t* log) {
     const std::lock_guard guard(mutex_);
-    if (Text list = environment(L"TESTADO_FAIL"); list != list_) {
-      list_ = std::move(list);
-      calls_.clear();
-    }
+    failures_ = failures != nullptr ? Text(failures, failures + wcslen(failures)) : Text();
+    log_ = log != nullptr ? log : L"";
+    calls_.clear();
+    under_way_ = failures != nullptr || log != nullptr;
+  }
+
+  bool under_way() const { return under_way_; }
+
+  // True when the call is to fail.
+  bool note(TextView operation, TextView detail) {
+    const std::lock_guard guard(mutex_);
+    const Text one_line = replace_all(detail, kLineBreak, u" | ");
+    append(log_, to_utf8(join({operation, one_line.empty() ? u"" : u" ", one_line, u"\n"})));
     return asks_for(operation, ++calls_[Text(operation)]);
   }
 
  private:
   bool asks_for(TextView operation, int call) const {
     const Text numbered = join({operation, u":", decimal(call)});
-    TextView rest = list_;
+    TextView rest = failures_;
     while (!rest.empty()) {
       const TextView entry = rest.substr(0, rest.find(u','));
       if (entry == operation || entry == numbered) return true;
@@ -64,21 +55,26 @@ class FailurePlan {
   }
 
   std::mutex mutex_;
-  Text list_;
+  std::atomic<bool> under_way_ = false;
+  Text failures_;
+  std::wstring log_;
   std::map<Text, int> calls_;
 };
 
-FailurePlan& failure_plan() {
-  static FailurePlan plan;
-  return plan;
+Watch& watch() {
+  static Watch only;
+  return only;
 }
 
 }  // namespace
 
 void trace(TextView operation, TextView detail) {
-  log(operation, detail);
-  if (!failure_plan().fails(operation)) return;
+  if (!watch().under_way() || !watch().note(operation, detail)) return;
   throw RuntimeFailure(FailureDetail{hresult::kFail, join({u"injected failure: ", operation}), u"testado"});
 }
 
 }  // namespace qvr::tests::com
+
+extern "C" void WatchCalls(const wchar_t* failures, const wchar_t* log) {
+  qvr::tests::com::watch().begin(failures, log);
+}
