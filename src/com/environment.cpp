@@ -5,6 +5,7 @@
 #include "com/clients/com_error_report.h"
 #include "com/clients/com_script_reader.h"
 #include "com/clients/com_text_protection.h"
+#include "com/clients/late_class.h"
 #include "services/builtin_error_report.h"
 #include "services/builtin_script_reader.h"
 #include "services/builtin_text_protection.h"
@@ -17,19 +18,18 @@ using namespace com;
 
 std::unique_ptr<services::TextProtection> make_text_protection(const Platform& platform) {
   // No fallback for a registered component that cannot be created: the built-in one does not read its files.
-  if (const auto id = registered_class(ComTextProtection::kProgramId)) {
-    return std::make_unique<ComTextProtection>(Component::create(ComTextProtection::kProgramId, *id));
+  if (registered_class(ComTextProtection::kProgramId)) {
+    return std::make_unique<ComTextProtection>(Component::create(ComTextProtection::kProgramId));
   }
   return std::make_unique<services::BuiltinTextProtection>(platform.cryptography);
 }
 
 std::unique_ptr<services::ErrorReport> make_error_report(const Platform& platform) {
   auto builtin = std::make_unique<services::BuiltinErrorReport>(platform.message_boxes);
-  const auto id = registered_class(ComErrorReport::kProgramId);
-  if (!id) return builtin;
+  if (!registered_class(ComErrorReport::kProgramId)) return builtin;
   std::unique_ptr<services::ErrorReport> component = or_default(
       {}, std::unique_ptr<services::ErrorReport>(), [&]() -> std::unique_ptr<services::ErrorReport> {
-        auto created = Component::create(ComErrorReport::kProgramId, *id);
+        auto created = Component::create(ComErrorReport::kProgramId);
         return std::make_unique<ComErrorReport>(std::move(created), std::move(builtin));
       });
   return component ? std::move(component) : std::move(builtin);
@@ -39,8 +39,8 @@ std::unique_ptr<services::Ado> make_ado(const Platform&) { return std::make_uniq
 
 std::unique_ptr<services::ScriptReader> make_script_reader(const Platform& platform) {
   // As with text protection: the built-in reader cannot read protected scripts.
-  if (const auto id = registered_class(ComScriptReader::kProgramId)) {
-    return std::make_unique<ComScriptReader>(Component::create(ComScriptReader::kProgramId, *id));
+  if (registered_class(ComScriptReader::kProgramId)) {
+    return std::make_unique<ComScriptReader>(Component::create(ComScriptReader::kProgramId));
   }
   return std::make_unique<services::BuiltinScriptReader>(platform.files);
 }

@@ -63,7 +63,8 @@ bool unexpected_type(const ParameterRequest& request) {
 
 bool AgregarParametroADO(Engine engine, services::AdoCommand* Comando, const ParameterRequest& request) {
   if (request.Direction == kReturnValue && engine == Engine::Oracle) return true;
-  const auto parameter = thread_state().ado().new_parameter();
+  const auto ado = thread_state().new_ado();
+  const auto parameter = ado->new_parameter();
   if (engine == Engine::SqlServer || engine == Engine::Oracle) {
     const Setting* setting = setting_for(engine, request.TipoSQLServer);
     if (setting == nullptr) return unexpected_type(request);

@@ -28,7 +28,8 @@ bool is_zero(const Value& returned) { return !returned.is<Null>() && to_number(r
 bool EjecutarProcSQL7(Engine engine, services::AdoConnection* Conexion, TextView NombreProc, Value& Parametros,
                       const GiveBack& give_back) {
   if (engine != Engine::SqlServer) return refuse(u"The engine is not SQL Server");
-  const auto command = thread_state().ado().new_command();
+  const auto ado = thread_state().new_ado();
+  const auto command = ado->new_command();
   if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
   command->set_active_connection(*Conexion);
   command->set_command_text(NombreProc);

@@ -1,6 +1,7 @@
 #include "script/qvrscr.h"
 
 #include "base/failure.h"
+#include "script/one_command.h"
 #include "script/script_run.h"
 #include "session/failure_report.h"
 #include "session/global.h"
@@ -29,7 +30,7 @@ bool QVRScr::EjecutarComandos(Text& ID, Engine MotorBD, TextView TextosComandos,
         if (TextoMostrar.empty()) TextoMostrar = message(MsgComandosEjecutados) + u": ";
         const bool avoid = starts_with_no_case(ID, kAvoidTransaction);
         if (avoid) ID.erase(0, kAvoidTransaction.size());
-        return ScriptRun(*this, events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
+        return ScriptRun(events_, {MotorBD, TextosComandos, CadenaConexion, TextoMostrar, !avoid}).run();
       },
       [&](const FailureDetail& failure) { report_failure(failure, {u"EjecutarComandos"}, MotorBD, nullptr); });
   finish(success);
@@ -57,21 +58,7 @@ void QVRScr::end_unbegun() noexcept {
 }
 
 bool QVRScr::Ejecutar1Comando(services::AdoConnection* Conexion, TextView TextoComando, Engine MotorBD) noexcept {
-  return or_reported(
-      kClass, false,
-      [&] {
-        const auto command = thread_state().ado().new_command();
-        if (Conexion == nullptr) throw RuntimeFailure(failure_number::kObjectNotSet);
-        command->set_active_connection(*Conexion);
-        command->set_command_type(services::CommandType::Text);
-        command->set_command_text(TextoComando);
-        command->set_command_timeout(0);
-        command->execute();
-        return true;
-      },
-      [&](const FailureDetail& failure) {
-        report_failure(failure, {join({u"Ejecutar1Comando: ", TextoComando})}, MotorBD, Conexion);
-      });
+  return run_one_command({Conexion, TextoComando, MotorBD}, nullptr);
 }
 
 Text QVRScr::UsuarioSegunMotor(Engine MotorBD) const noexcept {

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "script/command_splitter.h"
+#include "script/one_command.h"
 #include "session/failure_report.h"
 #include "session/global.h"
 #include "session/thread_state.h"
@@ -36,7 +37,8 @@ bool ScriptRun::run() noexcept {
 }
 
 void ScriptRun::open() {
-  connection_ = thread_state().ado().new_connection();
+  ado_ = thread_state().new_ado();
+  connection_ = ado_->new_connection();
   connection_->set_connection_string(request_.connection_string);
   connection_->open();
   connection_open_ = true;
@@ -55,7 +57,7 @@ bool ScriptRun::run_commands() {
   CommandSplitter commands(request_.commands);
   while (const auto command = commands.next()) {
     events_.Progreso(join({request_.progress_text, decimal(done), u"/", total}));
-    if (runner_.Ejecutar1Comando(connection_.get(), *command, request_.motor)) {
+    if (run_one_command({connection_.get(), *command, request_.motor}, ado_.get())) {
       ++done;
     } else if (!user_says_yes(question)) {
       return false;

@@ -18,8 +18,7 @@ struct RunRequest {
 
 class ScriptRun {
  public:
-  ScriptRun(QVRScr& runner, ScriptEvents& events, const RunRequest& request)
-      : runner_(runner), events_(events), request_(request) {}
+  ScriptRun(ScriptEvents& events, const RunRequest& request) : events_(events), request_(request) {}
 
   // True when the list ran to its end and was committed. No transaction and no connection stays open, whatever fails.
   bool run() noexcept;
@@ -31,9 +30,9 @@ class ScriptRun {
   void abandon() noexcept;
   void report(const FailureDetail& failure);
 
-  QVRScr& runner_;
   ScriptEvents& events_;
   const RunRequest& request_;
+  std::unique_ptr<services::Ado> ado_;
   std::unique_ptr<services::AdoConnection> connection_;
   bool connection_open_ = false;
   bool transaction_open_ = false;

@@ -73,6 +73,7 @@ class AdoCommand {
   virtual void append_parameter(AdoParameter& parameter) = 0;
 };
 
+// Made for one run or one call, and outlives the objects that it makes.
 class Ado {
  public:
   virtual ~Ado() = default;

@@ -28,8 +28,6 @@ services::ErrorReport& ThreadState::error_report() {
   return made_once(error_report_, environment_.make_error_report, platform());
 }
 
-services::Ado& ThreadState::ado() { return made_once(ado_, environment_.make_ado, platform()); }
-
 services::ScriptReader& ThreadState::script_reader() {
   return made_once(script_reader_, environment_.make_script_reader, platform());
 }
@@ -38,7 +36,6 @@ services::ScriptReader& ThreadState::script_reader() {
 void ThreadState::let_services_go() noexcept {
   const auto text_protection = std::move(text_protection_);
   const auto error_report = std::move(error_report_);
-  const auto ado = std::move(ado_);
   const auto script_reader = std::move(script_reader_);
 }
 

@@ -15,7 +15,7 @@
 namespace qvr {
 
 // The platform and the factories of the services. Each program (the DLL, qvrscript, a test) defines `environment()`
-// once; services are created on first use, once per thread.
+// once; services are created on first use, once per thread, but ADO anew for each run.
 struct Environment {
   const Platform& platform;
   std::unique_ptr<services::TextProtection> (*make_text_protection)(const Platform&);
@@ -33,8 +33,9 @@ class ThreadState {
   const Platform& platform() const { return environment_.platform; }
   services::TextProtection& text_protection();
   services::ErrorReport& error_report();
-  services::Ado& ado();
   services::ScriptReader& script_reader();
+  // For one run or one call, which then sees the components that are registered now.
+  std::unique_ptr<services::Ado> new_ado() const { return environment_.make_ado(platform()); }
 
   // Destroys the services; they are made anew when next needed.
   void let_services_go() noexcept;
@@ -47,7 +48,6 @@ class ThreadState {
   const Environment environment_;
   std::unique_ptr<services::TextProtection> text_protection_;
   std::unique_ptr<services::ErrorReport> error_report_;
-  std::unique_ptr<services::Ado> ado_;
   std::unique_ptr<services::ScriptReader> script_reader_;
 };
 

@@ -15,7 +15,6 @@ TEST(ThreadState, MakesEachServiceOnce) {
   EXPECT_EQ(&thread_state().text_protection(), &first);
   EXPECT_EQ(thread.protections_made, 1);
   EXPECT_EQ(&thread_state().error_report(), &thread_state().error_report());
-  EXPECT_EQ(&thread_state().ado(), &thread_state().ado());
   thread.renew();
   thread_state().text_protection();
   EXPECT_EQ(thread.protections_made, 2);

@@ -34,7 +34,7 @@ class TestThread {
   RecordingAdo ado{log};
   RecordingErrorReport report{log};
 
-  // How the services are made, once per state; a test may put others here before the first use.
+  // How the services are made, once per state, and ADO; a test may put others here before the first use.
   std::function<std::unique_ptr<services::TextProtection>()> make_text_protection;
   std::function<std::unique_ptr<services::ErrorReport>()> make_error_report;
   std::function<std::unique_ptr<services::Ado>()> make_ado;

@@ -3,6 +3,7 @@
 #include "com/clients/com_error_report.h"
 #include "com/clients/com_script_reader.h"
 #include "com/clients/com_text_protection.h"
+#include "com/clients/late_class.h"
 #include "com/clients/late_object.h"
 #include "com/com.h"
 #include "com/text_bstr.h"
@@ -81,8 +82,8 @@ void look_at_ado(Facts& facts) {
   facts.ado = windows::component(L"ADODB.Connection");
   if (!facts.ado.usable) return;
   try {
-    const auto id = com::registered_class(L"ADODB.Connection");
-    facts.ado_version = to_text(com::LateObject::create(*id).get(L"Version"));
+    const com::LateObject connection(com::LateClass(L"ADODB.Connection").create());
+    facts.ado_version = to_text(connection.get(L"Version"));
   } catch (const std::exception&) {
     facts.ado_version = u"unknown";
   }

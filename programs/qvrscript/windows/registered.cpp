@@ -3,7 +3,7 @@
 #include <array>
 
 #include "QVRlib21.h"
-#include "com/clients/late_object.h"
+#include "com/clients/late_class.h"
 #include "platform/windows/wide_text.h"
 #include "qvrscript/windows/library_file.h"
 
@@ -152,11 +152,10 @@ Component provider(const wchar_t* program_id) {
 
 Component component(const wchar_t* program_id) {
   Component found{qvr::windows::text_from(program_id), false, false};
-  const auto id = com::registered_class(program_id);
-  if (!id) return found;
+  if (!com::registered_class(program_id)) return found;
   found.registered = true;
   try {
-    const auto object = com::LateObject::create(*id);
+    com::LateClass(program_id).create();
     found.usable = true;
   } catch (const std::exception&) {
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "com/clients/late_object.h"
 #include "session/value_convert.h"
 
 namespace qvr::com {
@@ -25,12 +24,12 @@ class ComConnection final : public services::AdoConnection {
  public:
   explicit ComConnection(LateObject object) : object_(std::move(object)) {}
 
-  void set_connection_string(TextView text) override { object_.put_secret(L"ConnectionString", text); }
-  void open() override { object_.call(L"Open", {Text(), Text(), Text(), kOptionsUnspecified}); }
-  void begin_trans() override { object_.call(L"BeginTrans", {}); }
-  void commit_trans() override { object_.call(L"CommitTrans", {}); }
-  void rollback_trans() override { object_.call(L"RollbackTrans", {}); }
-  void close() override { object_.call(L"Close", {}); }
+  void set_connection_string(TextView text) override { object_.put(L"ConnectionString", text); }
+  void open() override { object_.call(L"Open", TextView(), TextView(), TextView(), kOptionsUnspecified); }
+  void begin_trans() override { object_.call(L"BeginTrans"); }
+  void commit_trans() override { object_.call(L"CommitTrans"); }
+  void rollback_trans() override { object_.call(L"RollbackTrans"); }
+  void close() override { object_.call(L"Close"); }
 
   std::vector<services::AdoError> errors() override {
     std::vector<services::AdoError> found;
@@ -38,7 +37,7 @@ class ComConnection final : public services::AdoConnection {
     // A provider with a wrong count of errors must not block the report.
     constexpr std::int32_t kMost = 1000;
     const std::int32_t count = std::min(to_long(collection.get(L"Count")), kMost);
-    for (std::int32_t i = 0; i < count; ++i) found.push_back(error_from(object_in(collection.get(L"Item", {i}))));
+    for (std::int32_t i = 0; i < count; ++i) found.push_back(error_from(collection.get_object(L"Item", i)));
     return found;
   }
 
@@ -56,7 +55,7 @@ class ComParameter final : public services::AdoParameter {
   void set_size(std::int32_t characters) override { object_.put(L"Size", characters); }
   void set_precision(std::uint8_t digits) override { object_.put(L"Precision", digits); }
   void set_numeric_scale(std::uint8_t decimals) override { object_.put(L"NumericScale", decimals); }
-  void set_name(TextView name) override { object_.put(L"Name", Text(name)); }
+  void set_name(TextView name) override { object_.put(L"Name", name); }
   void set_direction(std::int32_t direction) override { object_.put(L"Direction", direction); }
   void set_value(const Value& value) override { object_.put(L"Value", value); }
 
@@ -71,47 +70,41 @@ class ComCommand final : public services::AdoCommand {
   explicit ComCommand(LateObject object) : object_(std::move(object)) {}
 
   void set_active_connection(services::AdoConnection& connection) override {
-    object_.put_object(L"ActiveConnection", dynamic_cast<ComConnection&>(connection).object());
+    object_.put(L"ActiveConnection", dynamic_cast<ComConnection&>(connection).object());
   }
   void set_command_type(services::CommandType type) override {
     object_.put(L"CommandType", static_cast<std::int32_t>(type));
   }
-  void set_command_text(TextView text) override { object_.put(L"CommandText", Text(text)); }
+  void set_command_text(TextView text) override { object_.put(L"CommandText", text); }
   void set_command_timeout(std::int32_t seconds) override { object_.put(L"CommandTimeout", seconds); }
-  void execute() override { object_.call(L"Execute", {Missing{}, Missing{}, kOptionsUnspecified}); }
+  void execute() override { object_.call(L"Execute", Missing{}, Missing{}, kOptionsUnspecified); }
 
-  void refresh_parameters() override { parameters().call(L"Refresh", {}); }
+  void refresh_parameters() override { parameters().call(L"Refresh"); }
   Value parameter_value(std::int32_t index) override { return parameter(index).get(L"Value"); }
   void set_parameter_value(std::int32_t index, const Value& value) override { parameter(index).put(L"Value", value); }
   void append_parameter(services::AdoParameter& added) override {
-    parameters().call(L"Append", {dynamic_cast<ComParameter&>(added).object().as_value()});
+    parameters().call(L"Append", dynamic_cast<ComParameter&>(added).object());
   }
 
  private:
   LateObject parameters() const { return object_.get_object(L"Parameters"); }
-  LateObject parameter(std::int32_t index) const { return object_in(parameters().get(L"Item", {index})); }
+  LateObject parameter(std::int32_t index) const { return parameters().get_object(L"Item", index); }
 
   LateObject object_;
 };
 
-LateObject create(const wchar_t* program_id) {
-  const auto id = registered_class(program_id);
-  if (!id) throw RuntimeFailure(failure_number::kCannotCreateObject);
-  return LateObject::create(*id);
-}
-
 }  // namespace
 
 std::unique_ptr<services::AdoConnection> ComAdo::new_connection() {
-  return std::make_unique<ComConnection>(create(L"ADODB.Connection"));
+  return std::make_unique<ComConnection>(LateObject(connections_.create(), ids_));
 }
 
 std::unique_ptr<services::AdoCommand> ComAdo::new_command() {
-  return std::make_unique<ComCommand>(create(L"ADODB.Command"));
+  return std::make_unique<ComCommand>(LateObject(commands_.create(), ids_));
 }
 
 std::unique_ptr<services::AdoParameter> ComAdo::new_parameter() {
-  return std::make_unique<ComParameter>(create(L"ADODB.Parameter"));
+  return std::make_unique<ComParameter>(LateObject(parameters_.create(), ids_));
 }
 
 std::unique_ptr<services::AdoCommand> wrap_command(IDispatch* command) {

@@ -16,8 +16,8 @@ void ComErrorReport::hand_over(const services::ErrorNotice& notice) {
   }
   // The component takes both in one argument.
   const Text label = notice.object.empty() ? notice.label : join({notice.label, u": ", notice.object});
-  component_->call(L"Informar", {notice.failure.number, notice.failure.description, notice.failure.source,
-                                 number_of(notice.motor), label, std::move(texts)});
+  component_->call(L"Informar", notice.failure.number, notice.failure.description, notice.failure.source,
+                   number_of(notice.motor), label, Value(std::move(texts)));
 }
 
 }  // namespace qvr::com

@@ -5,9 +5,9 @@
 namespace qvr::com {
 
 std::optional<Text> ComScriptReader::Leer(TextView ID, TextView Ruta) {
-  Text text;
-  const bool read = to_truth(component_->call(L"Leer", {Text(ID), Text(Ruta)}, text));
-  return read ? std::optional(std::move(text)) : std::nullopt;
+  OwnedBstr text{TextView()};
+  const bool read = to_truth(component_->result_of(L"Leer", ID, Ruta, ByReference{text}));
+  return read ? std::optional(text.text()) : std::nullopt;
 }
 
 }  // namespace qvr::com

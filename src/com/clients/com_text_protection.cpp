@@ -13,11 +13,11 @@ Text text_result(Value result) {
 }  // namespace
 
 Text ComTextProtection::Cifrar(TextView Clave, TextView Texto) {
-  return text_result(component_->call_with_secrets(L"Cifrar", {Clave, Texto}));
+  return text_result(component_->result_of(L"Cifrar", Clave, Texto));
 }
 
 Text ComTextProtection::Descifrar(TextView Clave, TextView Texto) {
-  return text_result(component_->call_with_secrets(L"Descifrar", {Clave, Texto}));
+  return text_result(component_->result_of(L"Descifrar", Clave, Texto));
 }
 
 }  // namespace qvr::com

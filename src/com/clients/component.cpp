@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "com/clients/late_class.h"
 #include "com/module.h"
 #include "platform/windows/floating_point.h"
 #include "platform/windows/thread_pointer.h"
@@ -47,8 +48,8 @@ ApartmentWatch apartment_watch;
 
 }  // namespace
 
-Component Component::create(const wchar_t* program_id, REFCLSID id) {
-  Component created(program_id, LateObject::create(id));
+Component Component::create(const wchar_t* program_id) {
+  Component created(program_id, LateObject(LateClass(program_id).create()));
   apartment_watch.watch_this_thread();
   return created;
 }

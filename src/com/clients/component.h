@@ -11,7 +11,7 @@ namespace qvr::com {
 class Component {
  public:
   // Throws failure 429 when the component cannot be created.
-  static Component create(const wchar_t* program_id, REFCLSID id);
+  static Component create(const wchar_t* program_id);
 
   Component(Component&&) noexcept = default;
   ~Component();
