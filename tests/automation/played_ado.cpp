@@ -388,6 +388,7 @@ std::vector<std::string> PlayedAdo::calls() const {
 void PlayedAdo::forget_calls() {
   const std::lock_guard held(lock_);
   calls_.clear();
+  made_.clear();
 }
 
 std::size_t PlayedAdo::classes_asked(Played kind) const {

@@ -46,6 +46,7 @@ class PlayedAdo {
 
   // In order, without those for class objects. Names asked for dispatch ids are no calls either.
   std::vector<std::string> calls() const;
+  // As if it were new; objects are counted from 1 again.
   void forget_calls();
   bool keeps_calls = true;
 
