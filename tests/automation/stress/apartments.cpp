@@ -3,23 +3,17 @@
 namespace qvr::tests {
 namespace {
 
-struct Handover {
+struct Visit {
   COINIT apartment;
-  IStream* stream;
-  const IID& id;
-  const std::function<void(IUnknown&)>& use;
+  const std::function<void()>& body;
   HRESULT result = E_FAIL;
 };
 
-DWORD WINAPI receive(void* parameter) {
-  Handover& handover = *static_cast<Handover*>(parameter);
-  handover.result = CoInitializeEx(nullptr, handover.apartment);
-  if (FAILED(handover.result)) return 0;
-  {
-    ComPtr<IUnknown> proxy;
-    handover.result = CoGetInterfaceAndReleaseStream(handover.stream, handover.id, reinterpret_cast<void**>(&proxy));
-    if (SUCCEEDED(handover.result)) handover.use(*proxy.Get());
-  }
+DWORD WINAPI visit(void* parameter) {
+  Visit& given = *static_cast<Visit*>(parameter);
+  given.result = CoInitializeEx(nullptr, given.apartment);
+  if (FAILED(given.result)) return 0;
+  given.body();
   CoUninitialize();
   return 0;
 }
@@ -34,15 +28,24 @@ void serve_until_end_of(HANDLE thread) {
 
 }  // namespace
 
-HRESULT hand_over(COINIT apartment, IUnknown& object, REFIID id, const std::function<void(IUnknown&)>& use) {
-  IStream* stream = nullptr;
-  const HRESULT given = CoMarshalInterThreadInterfaceInStream(id, &object, &stream);
-  if (FAILED(given)) return given;
-  Handover handover{apartment, stream, id, use};
-  const HANDLE thread = CreateThread(nullptr, 0, receive, &handover, 0, nullptr);
+HRESULT run_in(COINIT apartment, const std::function<void()>& body) {
+  Visit given{apartment, body};
+  const HANDLE thread = CreateThread(nullptr, 0, visit, &given, 0, nullptr);
   serve_until_end_of(thread);
   CloseHandle(thread);
-  return handover.result;
+  return given.result;
+}
+
+HRESULT hand_over(COINIT apartment, IUnknown& object, REFIID id, const std::function<void(IUnknown&)>& use) {
+  IStream* stream = nullptr;
+  HRESULT handed = CoMarshalInterThreadInterfaceInStream(id, &object, &stream);
+  if (FAILED(handed)) return handed;
+  const HRESULT visited = run_in(apartment, [&] {
+    ComPtr<IUnknown> proxy;
+    handed = CoGetInterfaceAndReleaseStream(stream, id, reinterpret_cast<void**>(&proxy));
+    if (SUCCEEDED(handed)) use(*proxy.Get());
+  });
+  return FAILED(visited) ? visited : handed;
 }
 
 }  // namespace qvr::tests

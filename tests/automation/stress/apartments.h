@@ -7,9 +7,12 @@
 
 namespace qvr::tests {
 
-// Gives the object through the standard marshaller to a new thread with an apartment of this kind, which uses it while
-// this thread serves the calls. The result is that of handing over and taking the interface; `use` runs on the other
-// thread and must make no assertions.
+// Runs the body on a new thread with an apartment of this kind, while this thread serves calls. The body must make no
+// assertions: the test framework keeps something for every thread that makes one.
+HRESULT run_in(COINIT apartment, const std::function<void()>& body);
+
+// Gives the object through the standard marshaller to a such a thread. The result is that of handing over and taking
+// the interface.
 HRESULT hand_over(COINIT apartment, IUnknown& object, REFIID id, const std::function<void(IUnknown&)>& use);
 
 template <class I>
