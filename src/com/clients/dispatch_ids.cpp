@@ -30,15 +30,17 @@ DISPID InterfaceIds::id_of(IDispatch& object, const wchar_t* name) {
   const auto kept = std::ranges::find(kept_, std::wstring_view(name), &decltype(kept_)::value_type::first);
   if (kept != kept_.end()) return kept->second;
   const DISPID id = dispatch_id(object, name);
-  if (vouches_for(name, id)) kept_.emplace_back(name, id);
+  if (believed_) keep(name, id);
   return id;
 }
 
-bool InterfaceIds::vouches_for(const wchar_t* name, DISPID id) const {
+void InterfaceIds::keep(const wchar_t* name, DISPID id) {
   MEMBERID told = MEMBERID_NIL;
   LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
-  const HRESULT asked = by_host([&] { return type_info_->GetIDsOfNames(names, 1, &told); });
-  return SUCCEEDED(asked) && told == id;
+  if (FAILED(by_host([&] { return type_info_->GetIDsOfNames(names, 1, &told); }))) return;
+  if (told == id) return void(kept_.emplace_back(name, id));
+  believed_ = false;
+  kept_.clear();
 }
 
 InterfaceIds* DispatchIds::of_interface(IDispatch& object) {
