@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <span>
 
 #include "automation/arrays.h"
 #include "automation/host.h"
@@ -24,5 +25,24 @@ inline void require_true(const tests::LateAnswer& answer) {
   require(answer);
   require(answer.value.raw().boolVal == VARIANT_TRUE, "a member answered False");
 }
+
+// Calls with the least that they need: the id of the member is asked for once, and nothing is allocated.
+
+DISPID id_of(const tests::LateObject& object, const wchar_t* member);
+void put(const tests::LateObject& object, DISPID member, VARIANT value, WORD kind = DISPATCH_PROPERTYPUT);
+// Arguments from the last to the first.
+void call(const tests::LateObject& object, DISPID member, std::span<VARIANT> arguments = {}, VARIANT* result = nullptr);
+tests::Var get(const tests::LateObject& object, DISPID member, std::span<VARIANT> arguments = {});
+tests::LateObject object_in(const tests::Var& value);
+
+// Handles the messages of this thread's windows, so that they stay alive in a long run.
+void look_for_messages();
+
+inline constexpr DISPID kProgreso = 1;
+
+// Executes the commands on a connection of their own, in one transaction, with one kept ADODB.Command. Looks for
+// messages after each, and tells each sink before it how far the run has come.
+void run_by_hand(const std::wstring& connection_string, std::span<const tests::Var> commands,
+                 std::span<IDispatch* const> sinks = {});
 
 }  // namespace qvr::bench
