@@ -13,7 +13,7 @@ rm -rf "$results"
 mkdir -p "$results"
 
 native() {
-  "$build/native/bin/$1_bench" --benchmark_format=json --benchmark_repetitions=10 \
+  "$build/native/bin/$1_bench" --benchmark_format=json --benchmark_repetitions=20 \
     --benchmark_enable_random_interleaving=true 2>"$results/$1.log" >"$results/$1.json"
 }
 

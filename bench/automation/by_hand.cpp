@@ -48,6 +48,11 @@ Var get(const LateObject& object, DISPID member, std::span<VARIANT> arguments) {
 
 LateObject object_in(const Var& value) { return LateObject(ComPtr<IDispatch>(value.raw().pdispVal)); }
 
+std::wstring connection_string(const Database& database) {
+  std::wstring text = database.connection_string();
+  return text.insert(text.rfind(L'"'), L"SyncPragma=OFF;");
+}
+
 void look_for_messages() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);

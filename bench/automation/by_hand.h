@@ -6,6 +6,7 @@
 #include <span>
 
 #include "automation/arrays.h"
+#include "automation/database.h"
 #include "automation/host.h"
 
 namespace qvr::bench {
@@ -34,6 +35,9 @@ void put(const tests::LateObject& object, DISPID member, VARIANT value, WORD kin
 void call(const tests::LateObject& object, DISPID member, std::span<VARIANT> arguments = {}, VARIANT* result = nullptr);
 tests::Var get(const tests::LateObject& object, DISPID member, std::span<VARIANT> arguments = {});
 tests::LateObject object_in(const tests::Var& value);
+
+// The database's connection string. Commits do not wait for the disk, which is the most unsteady part of both.
+std::wstring connection_string(const tests::Database& database);
 
 // Handles the messages of this thread's windows, so that they stay alive in a long run.
 void look_for_messages();

@@ -1,7 +1,6 @@
 // A run of 20,000 INSERTs that nobody, one and five sinks listen to.
 #include "QVRlib21.h"
 #include "automation/by_hand.h"
-#include "automation/database.h"
 #include "automation/measures.h"
 
 namespace qvr::bench {
@@ -64,13 +63,13 @@ void by_library(Place& place, const std::wstring& script) {
     DWORD cookie = 0;
     require(SUCCEEDED(point->Advise(&sink, &cookie)), "Advise");
   }
-  require_true(runner.call(L"EjecutarComandos", {L"bench", 2, script, place.database.connection_string()}));
+  require_true(runner.call(L"EjecutarComandos", {L"bench", 2, script, connection_string(place.database)}));
 }
 
 void by_hand(Place& place, const std::vector<Var>& commands) {
   std::vector<IDispatch*> sinks;
   for (CountingSink& sink : place.sinks) sinks.push_back(&sink);
-  run_by_hand(place.database.connection_string(), commands, sinks);
+  run_by_hand(connection_string(place.database), commands, sinks);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "automation/by_hand.h"
-#include "automation/database.h"
 #include "automation/measures.h"
 
 namespace qvr::bench {
@@ -45,7 +44,7 @@ struct Place {
 void by_library(Place& place) {
   const LateObject runner(L"QVRlib21.QVRScr");
   require_true(
-      runner.call(L"EjecutarComandos", {L"bench", kJet, definition(runner), place.database.connection_string()}));
+      runner.call(L"EjecutarComandos", {L"bench", kJet, definition(runner), connection_string(place.database)}));
 }
 
 }  // namespace
@@ -57,7 +56,7 @@ void measure_installation(Times& times) {
   require(lines > 0, "the definition has no lines of orders");
   times.beside_on(
       "Installation", [&] { return Place(lines); }, by_library,
-      [&](Place& place) { run_by_hand(place.database.connection_string(), ready); }, kRounds);
+      [&](Place& place) { run_by_hand(connection_string(place.database), ready); }, kRounds);
 }
 
 }  // namespace qvr::bench
