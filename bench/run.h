@@ -1,22 +1,28 @@
-// main() of the benchmarks: the first one is the baseline of the others.
+// main() of a benchmark: the library's work and the same done by hand, by the clock.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
-#include <vector>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
 
 namespace qvr::bench {
 
-inline benchmark::internal::Benchmark* registered(const char* name, void (*run)(benchmark::State&),
-                                                  const std::vector<std::int64_t>& arguments = {}) {
-  auto* const added = benchmark::RegisterBenchmark(name, run);
-  for (const std::int64_t each : arguments) added->Arg(each);
-  return added;
+// Ends the program when the work failed: its time would mean nothing.
+inline void require(bool succeeded, const char* what) {
+  if (succeeded) return;
+  std::fprintf(stderr, "the benchmark failed: %s\n", what);
+  std::exit(1);
 }
 
-inline void run_all(int count, char** arguments) {
+inline int beside(const std::string& what, void (*library)(benchmark::State&), void (*by_hand)(benchmark::State&),
+                  int count, char** arguments) {
+  benchmark::RegisterBenchmark((what + "/library").c_str(), library)->UseRealTime();
+  benchmark::RegisterBenchmark((what + "/by_hand").c_str(), by_hand)->UseRealTime();
   benchmark::Initialize(&count, arguments);
   benchmark::RunSpecifiedBenchmarks();
+  return 0;
 }
 
 }  // namespace qvr::bench

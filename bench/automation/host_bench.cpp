@@ -1,24 +1,42 @@
-// What people wait for, each beside the same done by hand over late binding, under Wine or on Windows. ADO is the one
-// of the tests, into SQLite files.
+// What people wait for, each beside the same done by hand over late binding, under Wine or on Windows: all of it, or
+// the subjects that the arguments name. ADO is the one of the tests, into SQLite files.
+#include <algorithm>
+#include <span>
+#include <string_view>
+
 #include "automation/boxes.h"
 #include "automation/host.h"
 #include "automation/library.h"
 #include "automation/measures.h"
 
-int main() {
-  using namespace qvr;
+namespace {
+
+using namespace qvr::bench;
+
+constexpr struct {
+  std::string_view name;
+  void (*measure)(Times&);
+} kSubjects[] = {
+    {"first_list", measure_first_list},     {"connection_file", measure_connection_file},
+    {"inserts", measure_inserts},           {"procedure_call", measure_procedure_call},
+    {"installation", measure_installation},
+};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  const std::span wanted(arguments + 1, static_cast<std::size_t>(count - 1));
   OleInitialize(nullptr);
-  const tests::Server library(tests::beside_program(L"QVRlib21.dll")), ado(tests::beside_program(L"testado.dll"));
+  using namespace qvr::tests;
+  const Server library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));
   library.register_it();
   ado.register_it();
-  bench::Times times;
+  Times times;
   {
-    const tests::Person person;
-    bench::measure_first_list(times);
-    bench::measure_connection_file(times);
-    bench::measure_inserts(times);
-    bench::measure_procedure_call(times);
-    bench::measure_installation(times);
+    const Person person;
+    for (const auto& [name, measure] : kSubjects) {
+      if (wanted.empty() || std::ranges::find(wanted, name) != wanted.end()) measure(times);
+    }
   }
   times.print();
   ado.unregister_it();

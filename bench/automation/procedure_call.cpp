@@ -1,9 +1,79 @@
 // One call of a stored procedure with eight parameters.
+#include <array>
+
 #include "automation/by_hand.h"
 #include "automation/measures.h"
+#include "automation/procedures.h"
 
 namespace qvr::bench {
+namespace {
 
-void measure_procedure_call(Times&) {}
+using namespace qvr::tests;
+
+constexpr const wchar_t* kProcedure = L"Pedido";
+constexpr int kParameters = 8, kStoredProcedure = 4, kCalls = 50, kRounds = 50;
+constexpr int kTotal = 7;  // the position of the output, from 0
+
+ProcedureDatabase& defined(ProcedureDatabase& database) {
+  database.define(kProcedure,
+                  {{L"@Cliente", ado::kInteger},
+                   {L"@Nombre", ado::kVarWChar, ado::kInput, 50},
+                   {L"@Fecha", ado::kDate},
+                   {L"@Urgente", ado::kBoolean},
+                   {L"@Portes", ado::kDouble},
+                   {L"@Numero", ado::kInteger, ado::kInputOutput},
+                   {L"@Nota", ado::kVarWChar, ado::kInputOutput, 50},
+                   {L"@Total", ado::kDouble, ado::kOutput}},
+                  {{L"select @Numero + 1", 6}, {L"select 'Para ' || @Nombre", 7}, {L"select @Portes * 2", 8}});
+  return database;
+}
+
+std::vector<Var> values() {
+  return {126, L"Ana L\u00f3pez", Var::date(45444), true, 9.25, 24001, L"Dejar en recepci\u00f3n", 0.0};
+}
+
+void check(const VARIANT& total) { require(total.vt == VT_R8 && total.dblVal == 18.5, "the procedure gave no total"); }
+
+void by_library(const LateObject& cfp, const LateObject& connection) {
+  Var list = array_of(values());
+  require_true(cfp.call(L"EjecutarProcSQL7", {connection.get(), kProcedure, Var::by_reference(list)}));
+  LONG position = kTotal;
+  Var total;
+  SafeArrayGetElement(list.raw().parray, &position, &total.raw());
+  check(total.raw());
+}
+
+void by_hand(const LateObject& connection) {
+  std::vector<Var> list = values();
+  const LateObject command(L"ADODB.Command");
+  put(command, id_of(command, L"ActiveConnection"), Var(connection.get()).raw(), DISPATCH_PROPERTYPUTREF);
+  put(command, id_of(command, L"CommandText"), Var(kProcedure).raw());
+  put(command, id_of(command, L"CommandType"), Var(kStoredProcedure).raw());
+  const LateObject parameters = object_in(get(command, id_of(command, L"Parameters")));
+  call(parameters, id_of(parameters, L"Refresh"));
+  const DISPID item = id_of(parameters, L"Item");
+  const auto parameter = [&](int position) {
+    VARIANT index = Var(position).raw();
+    return object_in(get(parameters, item, {&index, 1}));
+  };
+  const LateObject returned = parameter(0);
+  const DISPID value = id_of(returned, L"Value");
+  for (int i = 0; i < kParameters; ++i) put(parameter(i + 1), value, list[i].raw());
+  call(command, id_of(command, L"Execute"));
+  require(get(returned, value).raw().lVal == 0, "the procedure did not return 0");
+  for (int i = 0; i < kParameters; ++i) list[i] = get(parameter(i + 1), value);
+  check(list[kTotal].raw());
+}
+
+}  // namespace
+
+void measure_procedure_call(Times& times) {
+  ProcedureDatabase database;
+  const LateObject connection = defined(database).open(), cfp(L"QVRlib21.QVRcfp");
+  require_true(cfp.call(L"Asignar", {L"bench", 2, L"", L"", L"", L"", L"", L"", L"", L""}));
+  times.beside(
+      "ProcedureCall", [&] { by_library(cfp, connection); }, [&] { by_hand(connection); }, kCalls, kRounds);
+  require(connection.call(L"Close"));
+}
 
 }  // namespace qvr::bench
