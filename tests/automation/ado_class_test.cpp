@@ -132,8 +132,8 @@ Lines command(int number, int connection, const char* text) {
 
 TEST(CallsToAdo, OfARun) {
   PlayedAdo ado;
-  const LateObject runner(L"QVRlib21.QVRScr");
-  EXPECT_EQ(run(runner), "BOOL true");
+  const Host host;
+  EXPECT_EQ(host.run(), "BOOL true");
   EXPECT_EQ(ado.calls(), kThreeCommandsCalls);
 }
 
@@ -372,10 +372,12 @@ TEST_P(AdoDispatchIds, LeadEachCommandOfARunToItsOwnMembers) {
 TEST_P(AdoDispatchIds, LeadEachObjectOfAProcedureToItsOwnMembers) {
   const LateObject connection(L"ADODB.Connection"), cfp(L"QVRlib21.QVRcfp");
   cfp.call(L"Asignar", {L"id", 2, L"", L"", L"", L"", L"", L"", L"", L""});
+  const Host host;
   Var list = array_of({L"Ana", 5});
   const LateAnswer called = cfp.call(L"EjecutarProcSQL7", {connection.get(), L"Alta", Var::by_reference(list)});
   EXPECT_EQ(describe(called.value.raw()), "BOOL true");
   EXPECT_EQ(ado_.calls(), kProcedureCalls);
+  EXPECT_EQ(host.boxes(), Lines{});
 }
 
 using enum PlayedAdo::TypeInformation;
