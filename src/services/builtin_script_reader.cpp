@@ -8,14 +8,16 @@
 
 namespace qvr::services {
 
-// Read in chunks, as the size is unknown: a growing buffer would need up to three times the memory.
+// Read in chunks, as the size is unknown: a growing buffer would need up to three times the memory. The first ones are
+// small, as clearing a megabyte takes longer than reading a usual script.
 std::string script_bytes(Files& files, TextView Ruta) {
-  constexpr std::size_t kAtOnce = std::size_t{1} << 20, kMost = BuiltinScriptReader::kLargest + 1;
+  constexpr std::size_t kFirst = std::size_t{1} << 16, kAtOnce = std::size_t{1} << 20;
+  constexpr std::size_t kMost = BuiltinScriptReader::kLargest + 1;
   const auto file = files.open(Ruta);
   std::vector<std::string> pieces;
   std::size_t size = 0;
   for (bool whole = false; !whole;) {
-    std::string& piece = pieces.emplace_back(std::min(kAtOnce, kMost - size), '\0');
+    std::string& piece = pieces.emplace_back(std::min({std::max(kFirst, size), kAtOnce, kMost - size}), '\0');
     const std::size_t count = file->read(piece);
     whole = count < piece.size();
     piece.resize(count);
