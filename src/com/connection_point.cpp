@@ -28,12 +28,10 @@ HRESULT new_enumerator(std::vector<typename Traits::Stored> items, typename Trai
   return S_OK;
 }
 
-void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcept {
-  OwnedVariant copy;
-  if (FAILED(copy_content(*copy.get(), argument))) return;
+void invoke_sink(IDispatch& sink, DISPID event, OwnedVariant& argument) noexcept {
   VARIANT passed;
-  passed.vt = static_cast<VARTYPE>(VT_BYREF | copy->vt);
-  passed.byref = &copy->llVal;
+  passed.vt = static_cast<VARTYPE>(VT_BYREF | argument->vt);
+  passed.byref = &argument->llVal;
   DISPPARAMS arguments{&passed, nullptr, 1, 0};
   OwnedVariant result;
   EXCEPINFO exception{};
@@ -50,7 +48,7 @@ void invoke_sink(IDispatch& sink, DISPID event, const VARIANT& argument) noexcep
 
 // By ascending cookie and not over a copy of the list: a sink that is disconnected meanwhile hears nothing more, and
 // Terminado needs no memory to be fired.
-void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
+void ConnectionPoint::fire(DISPID event, const std::function<void(VARIANT&)>& put) noexcept {
   const DWORD end = next_cookie_;
   for (DWORD told = 0;;) {
     const auto next = std::ranges::find_if(sinks_,
@@ -58,6 +56,8 @@ void ConnectionPoint::fire(DISPID event, const VARIANT& argument) noexcept {
     if (next == sinks_.end()) return;
     told = next->cookie;
     const HostPtr<IDispatch> kept = next->dispatch;
+    OwnedVariant argument;
+    put(*argument.get());
     invoke_sink(*kept.Get(), event, argument);
   }
 }

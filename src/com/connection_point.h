@@ -1,6 +1,7 @@
 // Events: the connection point.
 #pragma once
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -22,8 +23,9 @@ class ConnectionPoint final : public IConnectionPoint {
 
   // Fires the event to every connected sink. Sinks may fail, unadvise and advise others meanwhile (re-entrance): one
   // that is disconnected before its turn hears nothing, one that is connected meanwhile hears the next event first. The
-  // argument goes by reference, a copy for each sink, so that no sink sees what another one wrote.
-  void fire(DISPID event, const VARIANT& argument) noexcept;
+  // argument goes by reference. It is put into an empty variant for each sink, so that no sink sees what another one
+  // wrote; `put` must not throw.
+  void fire(DISPID event, const std::function<void(VARIANT&)>& put) noexcept;
 
   STDMETHODIMP QueryInterface(REFIID id, void** found) noexcept override;
   STDMETHODIMP_(ULONG) AddRef() noexcept override { return container_.AddRef(); }

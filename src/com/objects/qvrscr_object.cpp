@@ -110,17 +110,17 @@ HRESULT QVRScrObject::FindConnectionPoint(REFIID id, IConnectionPoint** point) n
 }
 
 void QVRScrObject::Progreso(const Text& Mensaje) noexcept {
-  OwnedVariant argument;
-  argument->vt = VT_BSTR;
-  argument->bstrVal = new_bstr(Mensaje);
-  point_.fire(kProgreso, *argument);
+  point_.fire(kProgreso, [&](VARIANT& argument) {
+    argument.vt = VT_BSTR;
+    argument.bstrVal = new_bstr(Mensaje);
+  });
 }
 
 void QVRScrObject::Terminado(bool Exito) noexcept {
-  OwnedVariant argument;
-  argument->vt = VT_BOOL;
-  argument->boolVal = Exito ? VARIANT_TRUE : VARIANT_FALSE;
-  point_.fire(kTerminado, *argument);
+  point_.fire(kTerminado, [=](VARIANT& argument) {
+    argument.vt = VT_BOOL;
+    argument.boolVal = Exito ? VARIANT_TRUE : VARIANT_FALSE;
+  });
 }
 
 }  // namespace qvr::com
