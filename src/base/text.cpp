@@ -136,13 +136,15 @@ std::vector<TextView> split(TextView text, TextView separator) {
   return pieces;
 }
 
+// Not by way of the whole text in one line: it may be a command of millions of characters.
 Text abbreviate_for_display(TextView text) {
   constexpr std::size_t kLongest = 500, kPart = 250;
   if (text.size() <= kLongest) return Text(text);
-  const Text line = replace_all(text, kLineBreak, u" ");
-  const TextView view = line;
-  const std::size_t tail = std::min(kPart, view.size());
-  return join({view.substr(0, kPart), u"\r\n\r\n...\r\n\r\n", view.substr(view.size() - tail)});
+  // A line break of two units becomes one blank, and one is perhaps parted where the piece is cut off.
+  constexpr std::size_t kPiece = 2 * kPart + 1;
+  const Text head = replace_all(text.substr(0, kPiece), kLineBreak, u" "),
+             tail = replace_all(text.substr(text.size() - kPiece), kLineBreak, u" ");
+  return join({TextView(head).substr(0, kPart), u"\r\n\r\n...\r\n\r\n", TextView(tail).substr(tail.size() - kPart)});
 }
 
 void wipe(Text& text) noexcept {

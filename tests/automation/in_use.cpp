@@ -20,7 +20,7 @@ std::size_t left(Make&& make, Destroy&& destroy) {
   return all.size();
 }
 
-// As the system lists the handles of all processes. The headers do not declare it so that each has a whole process id.
+// Handles of all processes as the system lists them (SYSTEM_HANDLE_INFORMATION_EX), which no header declares.
 struct ListedHandle {
   void* object;
   ULONG_PTR process, value;

@@ -187,6 +187,21 @@ TEST(AbbreviateForDisplay, TakesWholeShortLineTwice) {
   EXPECT_EQ(abbreviate_for_display(text), Text(250, u' ') + u"\r\n\r\n...\r\n\r\n" + Text(249, u' ') + u"\n");
 }
 
+// Whatever is where the pieces are cut off: the same as of the whole text in one line.
+TEST(AbbreviateForDisplay, TakesThePiecesOfTheWholeLine) {
+  std::uint32_t random = 1;
+  const auto next = [&random](std::uint32_t count) {
+    return (random = random * 1664525 + 1013904223) >> 16 & (count - 1);
+  };
+  for (int i = 0; i < 2000; ++i) {
+    Text text;
+    while (text.size() <= 500) text += next(64) != 0 ? Text(kLineBreak) : Text(1, u"\r\n a"[next(4)]);
+    const Text line = replace_all(text, kLineBreak, u" ");
+    EXPECT_EQ(abbreviate_for_display(text),
+              line.substr(0, 250) + u"\r\n\r\n...\r\n\r\n" + line.substr(line.size() - 250));
+  }
+}
+
 TEST(Wipe, EmptiesAndOverwrites) {
   Text secret = u"a password longer than what a text keeps inside itself";
   const char16_t* units = secret.data();

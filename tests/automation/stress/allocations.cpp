@@ -12,28 +12,48 @@ namespace {
 
 using Allocate = void*(WINAPI*)(HANDLE, DWORD, SIZE_T);
 using Reallocate = void*(WINAPI*)(HANDLE, DWORD, void*, SIZE_T);
+using Free = BOOLEAN(WINAPI*)(HANDLE, DWORD, void*);
 using Address = std::uintptr_t;
 
 Address of_system(const char* name) {
   return reinterpret_cast<Address>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), name)));
 }
 
-const Address system_allocate = of_system("RtlAllocateHeap"), system_reallocate = of_system("RtlReAllocateHeap");
+const Address system_allocate = of_system("RtlAllocateHeap"), system_reallocate = of_system("RtlReAllocateHeap"),
+              system_free = of_system("RtlFreeHeap");
 DWORD counted_thread = 0;
-std::size_t counted = 0;
+std::size_t counted = 0, most = 0;
+std::ptrdiff_t held = 0;  // below 0 where blocks from before were given back
 
-void count_one() {
-  if (GetCurrentThreadId() == counted_thread) ++counted;
+bool counts() { return GetCurrentThreadId() == counted_thread; }
+
+std::ptrdiff_t if_large(SIZE_T size) {
+  constexpr SIZE_T kLarge = 1 << 20;
+  return size >= kLarge ? static_cast<std::ptrdiff_t>(size) : 0;
+}
+
+void take(SIZE_T size) {
+  ++counted;
+  held += if_large(size);
+  if (held > 0) most = std::max(most, static_cast<std::size_t>(held));
 }
 
 void* WINAPI allocate(HANDLE heap, DWORD flags, SIZE_T size) {
-  count_one();
+  if (counts()) take(size);
   return reinterpret_cast<Allocate>(system_allocate)(heap, flags, size);
 }
 
 void* WINAPI reallocate(HANDLE heap, DWORD flags, void* block, SIZE_T size) {
-  count_one();
+  if (counts()) {
+    take(size);
+    held -= if_large(HeapSize(heap, 0, block));
+  }
   return reinterpret_cast<Reallocate>(system_reallocate)(heap, flags, block, size);
+}
+
+BOOLEAN WINAPI give_back(HANDLE heap, DWORD flags, void* block) {
+  if (counts() && block != nullptr) held -= if_large(HeapSize(heap, 0, block));
+  return reinterpret_cast<Free>(system_free)(heap, flags, block);
 }
 
 void replace(Address& import, Address by) {
@@ -72,14 +92,19 @@ Allocations::Allocations() {
   counted_thread = GetCurrentThreadId();
   replace_everywhere(system_allocate, reinterpret_cast<Address>(allocate));
   replace_everywhere(system_reallocate, reinterpret_cast<Address>(reallocate));
-  counted = 0;
+  replace_everywhere(system_free, reinterpret_cast<Address>(give_back));
+  counted = most = 0;
+  held = 0;
 }
 
 Allocations::~Allocations() {
   replace_everywhere(reinterpret_cast<Address>(allocate), system_allocate);
   replace_everywhere(reinterpret_cast<Address>(reallocate), system_reallocate);
+  replace_everywhere(reinterpret_cast<Address>(give_back), system_free);
 }
 
 std::size_t Allocations::count() const { return counted; }
+
+std::size_t Allocations::most_held() const { return most; }
 
 }  // namespace qvr::tests
