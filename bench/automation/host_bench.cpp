@@ -5,8 +5,9 @@
 #include "automation/library.h"
 #include "automation/measures.h"
 
-int main() {
+int main(int count, char** arguments) {
   using namespace qvr;
+  if (count > 1) return bench::first_list_in_this_process(arguments[1]);
   OleInitialize(nullptr);
   const tests::Server library(tests::beside_program(L"QVRlib21.dll")), ado(tests::beside_program(L"testado.dll"));
   library.register_it();
