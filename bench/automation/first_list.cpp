@@ -1,5 +1,6 @@
 // The first list of a program: in a process of its own each time, as a library stays in the one that has loaded it.
-#include <memory>
+#include <algorithm>
+#include <vector>
 
 #include "automation/by_hand.h"
 #include "automation/library.h"
@@ -11,7 +12,7 @@ namespace {
 using namespace qvr::tests;
 
 constexpr wchar_t kByLibrary[] = L"first_list_by_library", kByHand[] = L"first_list_by_hand";
-constexpr int kProcesses = 15;
+constexpr int kProcesses = 25;
 
 struct Column {
   const wchar_t *expression, *descriptor, *alias;
@@ -70,6 +71,12 @@ double time_in_process(const wchar_t* whose) {
   return microseconds;
 }
 
+// Not the quickest: a process that shares its processor with the one that serves it takes half the time by chance.
+double median(std::vector<double> times) {
+  std::ranges::nth_element(times, times.begin() + kProcesses / 2);
+  return times[kProcesses / 2];
+}
+
 }  // namespace
 
 int first_list_in_this_process(const std::string& whose) {
@@ -84,14 +91,14 @@ int first_list_in_this_process(const std::string& whose) {
 void measure_first_list(Times& times) {
   const Server empty(beside_program(L"empty_class.dll"));
   empty.register_it();
-  double library = std::numeric_limits<double>::max(), hand = library;
+  std::vector<double> library, hand;
   for (int process = 0; process < kProcesses; ++process) {
-    hand = std::min(hand, time_in_process(kByHand));
-    library = std::min(library, time_in_process(kByLibrary));
+    hand.push_back(time_in_process(kByHand));
+    library.push_back(time_in_process(kByLibrary));
   }
-  times.add("FirstList", "library", library / 1e6);
-  times.add("FirstList", "by_hand", hand / 1e6);
-  times.beside("FirstListAgain", by_library, by_hand, 200, kProcesses);
+  times.add("FirstList", "library", median(library) / 1e6);
+  times.add("FirstList", "by_hand", median(hand) / 1e6);
+  times.beside("FirstListAgain", by_library, by_hand, 200, 15);
   empty.unregister_it();
 }
 
