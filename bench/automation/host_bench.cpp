@@ -26,6 +26,8 @@ constexpr struct {
 
 int main(int count, char** arguments) {
   const std::span wanted(arguments + 1, static_cast<std::size_t>(count - 1));
+  // Before anything is loaded.
+  if (count == 2 && starts_first_list(arguments[1])) return first_list_in_this_process(arguments[1]);
   OleInitialize(nullptr);
   using namespace qvr::tests;
   const Server library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));

@@ -46,6 +46,7 @@ Siv::Siv(Cryptography& cryptography, Bytes key)
   authentication_->encrypt(zero);
   subkey_whole_ = doubled(zero);
   subkey_partial_ = doubled(subkey_whole_);
+  of_zero_ = cmac(Block{});
 }
 
 // AES-CMAC of the message after xoring `into_last` over its last 16 bytes (xorend in RFC 5297, S2V).
@@ -74,7 +75,7 @@ Block Siv::cmac(Bytes message, const Block* into_last) {
 }
 
 Block Siv::s2v(std::initializer_list<Bytes> associated, Bytes plaintext) {
-  Block sum = cmac(Block{});
+  Block sum = of_zero_;
   for (Bytes part : associated) {
     sum = doubled(sum);
     xor_into(sum, cmac(part));

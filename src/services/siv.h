@@ -48,6 +48,7 @@ class Siv {
   std::unique_ptr<BlockCipher> encryption_;
   Block subkey_whole_{};    // K1 of CMAC: the last block is complete
   Block subkey_partial_{};  // K2 of CMAC: the last block is padded
+  Block of_zero_{};         // CMAC of a block of zeros, with which S2V begins
 };
 
 }  // namespace qvr::services

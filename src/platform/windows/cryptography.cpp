@@ -13,22 +13,68 @@ void require(NTSTATUS status) {
   }
 }
 
+// The system's own file, whatever lies beside the program.
+HMODULE system_library(const wchar_t* name) {
+  wchar_t folder[MAX_PATH];
+  const std::wstring path = std::wstring(folder, GetSystemDirectoryW(folder, MAX_PATH)) + L"\\" + name;
+  return LoadLibraryW(path.c_str());
+}
+
+// The functions of bcrypt.dll, which is loaded with the first key instead of being imported: loading it takes longer
+// than a program's first list. It stays loaded, as the handles of algorithms stay open.
+class Bcrypt {
+  struct Found {
+    FARPROC address;
+    template <class Function>
+    operator Function*() const {
+      return reinterpret_cast<Function*>(reinterpret_cast<void*>(address));
+    }
+  };
+
+  Found function(const char* name) const {
+    const FARPROC address = library_ == nullptr ? nullptr : GetProcAddress(library_, name);
+    if (address == nullptr) {
+      throw RuntimeFailure(failure_number::kFile, u"The system's cryptographic library cannot be loaded");
+    }
+    return {address};
+  }
+
+  const HMODULE library_ = system_library(L"bcrypt.dll");
+
+ public:
+  const decltype(&BCryptOpenAlgorithmProvider) open_algorithm_provider = function("BCryptOpenAlgorithmProvider");
+  const decltype(&BCryptSetProperty) set_property = function("BCryptSetProperty");
+  const decltype(&BCryptCreateHash) create_hash = function("BCryptCreateHash");
+  const decltype(&BCryptHashData) hash_data = function("BCryptHashData");
+  const decltype(&BCryptFinishHash) finish_hash = function("BCryptFinishHash");
+  const decltype(&BCryptDestroyHash) destroy_hash = function("BCryptDestroyHash");
+  const decltype(&BCryptGenerateSymmetricKey) generate_symmetric_key = function("BCryptGenerateSymmetricKey");
+  const decltype(&BCryptEncrypt) encrypt = function("BCryptEncrypt");
+  const decltype(&BCryptDestroyKey) destroy_key = function("BCryptDestroyKey");
+  const decltype(&BCryptDeriveKeyPBKDF2) derive_key = function("BCryptDeriveKeyPBKDF2");
+};
+
+const Bcrypt& bcrypt() {
+  static const Bcrypt loaded;
+  return loaded;
+}
+
 PUCHAR writable(Bytes bytes) { return const_cast<PUCHAR>(bytes.data()); }
 
 // Opened once per process and never closed: closing can unload the provider's DLL, and keys are destroyed at thread
 // detach, under the loader lock.
 BCRYPT_ALG_HANDLE open_algorithm(LPCWSTR name, ULONG flags) {
   BCRYPT_ALG_HANDLE handle = nullptr;
-  require(BCryptOpenAlgorithmProvider(&handle, name, nullptr, flags));
+  require(bcrypt().open_algorithm_provider(&handle, name, nullptr, flags));
   return handle;
 }
 
 BCRYPT_ALG_HANDLE aes_in_blocks() {
   static const BCRYPT_ALG_HANDLE handle = [] {
     const BCRYPT_ALG_HANDLE opened = open_algorithm(BCRYPT_AES_ALGORITHM, 0);
-    require(BCryptSetProperty(opened, BCRYPT_CHAINING_MODE,
-                              reinterpret_cast<PUCHAR>(const_cast<wchar_t*>(BCRYPT_CHAIN_MODE_ECB)),
-                              sizeof BCRYPT_CHAIN_MODE_ECB, 0));
+    require(bcrypt().set_property(opened, BCRYPT_CHAINING_MODE,
+                                  reinterpret_cast<PUCHAR>(const_cast<wchar_t*>(BCRYPT_CHAIN_MODE_ECB)),
+                                  sizeof BCRYPT_CHAIN_MODE_ECB, 0));
     return opened;
   }();
   return handle;
@@ -53,10 +99,10 @@ class HmacKey {
     constexpr std::size_t kBlock = 64;
     if (password.size() <= kBlock) return;
     BCRYPT_HASH_HANDLE hash = nullptr;
-    require(BCryptCreateHash(sha256(), &hash, nullptr, 0, nullptr, 0, 0));
-    const std::unique_ptr<void, decltype(&BCryptDestroyHash)> destroy(hash, &BCryptDestroyHash);
-    require(BCryptHashData(hash, writable(password), static_cast<ULONG>(password.size()), 0));
-    require(BCryptFinishHash(hash, hashed_.data(), static_cast<ULONG>(hashed_.size()), 0));
+    require(bcrypt().create_hash(sha256(), &hash, nullptr, 0, nullptr, 0, 0));
+    const std::unique_ptr<void, decltype(&BCryptDestroyHash)> destroy(hash, bcrypt().destroy_hash);
+    require(bcrypt().hash_data(hash, writable(password), static_cast<ULONG>(password.size()), 0));
+    require(bcrypt().finish_hash(hash, hashed_.data(), static_cast<ULONG>(hashed_.size()), 0));
     key_ = hashed_;
   }
   ~HmacKey() { SecureZeroMemory(hashed_.data(), hashed_.size()); }
@@ -72,17 +118,17 @@ class HmacKey {
 class CngAes : public BlockCipher {
  public:
   explicit CngAes(Bytes key) {
-    require(BCryptGenerateSymmetricKey(aes_in_blocks(), &key_, nullptr, 0, writable(key),
-                                       static_cast<ULONG>(key.size()), 0));
+    require(bcrypt().generate_symmetric_key(aes_in_blocks(), &key_, nullptr, 0, writable(key),
+                                            static_cast<ULONG>(key.size()), 0));
   }
-  ~CngAes() override { BCryptDestroyKey(key_); }
+  ~CngAes() override { bcrypt().destroy_key(key_); }
   CngAes(const CngAes&) = delete;
   CngAes& operator=(const CngAes&) = delete;
 
   void encrypt(MutableBytes blocks) override {
     ULONG written = 0;
     const auto size = static_cast<ULONG>(blocks.size());
-    require(BCryptEncrypt(key_, blocks.data(), size, nullptr, nullptr, 0, blocks.data(), size, &written, 0));
+    require(bcrypt().encrypt(key_, blocks.data(), size, nullptr, nullptr, 0, blocks.data(), size, &written, 0));
   }
 
  private:
@@ -95,9 +141,9 @@ class Cng final : public Cryptography {
 
   void pbkdf2_hmac_sha256(Bytes password, Bytes salt, std::uint32_t rounds, MutableBytes derived) override {
     const HmacKey key(password);
-    require(BCryptDeriveKeyPBKDF2(hmac_sha256(), writable(key.bytes()), static_cast<ULONG>(key.bytes().size()),
-                                  writable(salt), static_cast<ULONG>(salt.size()), rounds, derived.data(),
-                                  static_cast<ULONG>(derived.size()), 0));
+    require(bcrypt().derive_key(hmac_sha256(), writable(key.bytes()), static_cast<ULONG>(key.bytes().size()),
+                                writable(salt), static_cast<ULONG>(salt.size()), rounds, derived.data(),
+                                static_cast<ULONG>(derived.size()), 0));
   }
 
   void wipe(MutableBytes secret) override { SecureZeroMemory(secret.data(), secret.size()); }

@@ -320,12 +320,13 @@ class SystemFiles final : public Files {
 
   Text from_system_page(std::string_view bytes) override {
     if (bytes.empty()) return {};
-    const auto convert = [&](wchar_t* to, int room) {
-      return MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()), to, room);
-    };
-    std::wstring text(static_cast<std::size_t>(convert(nullptr, 0)), L'\0');
-    if (text.empty() || convert(text.data(), static_cast<int>(text.size())) == 0) refuse();
-    return text_from(text);
+    // No code page makes more units of a text than it has bytes.
+    Text text(bytes.size(), u'\0');
+    const auto size = static_cast<int>(bytes.size());
+    const int units = MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, reinterpret_cast<wchar_t*>(text.data()), size);
+    if (units == 0) refuse();
+    text.resize(static_cast<std::size_t>(units));
+    return text;
   }
 };
 
