@@ -20,7 +20,6 @@ InUse in_use();
 struct SystemObjects {
   std::size_t gdi_objects, user_objects, thread_local_slots;  // left
   std::size_t modules;                                        // loaded
-  bool operator==(const SystemObjects&) const = default;
 };
 
 SystemObjects system_objects();
