@@ -9,7 +9,8 @@ namespace qvr::tests::com {
 
 struct Class {
   GUID id;
-  TextView name;  // after "ADODB."
+  TextView name;      // after "ADODB."
+  TextView creation;  // as the operation is called in the log
   Ref<DispatchObject> (*create)();
 };
 

@@ -44,7 +44,7 @@ class Factory : public IClassFactory {
     *object = nullptr;
     if (outer != nullptr) return CLASS_E_NOAGGREGATION;
     try {
-      trace(join({u"Create", made_.name}));
+      trace(made_.creation);
       return made_.create()->QueryInterface(id, object);
     } catch (const RuntimeFailure& failure) {
       return failure.detail().number;
@@ -70,10 +70,10 @@ Ref<DispatchObject> create() {
 }
 
 const std::array kClasses = {
-    Class{kConnectionClass, u"Connection", create<Connection>},
-    Class{kCommandClass, u"Command", create<Command>},
-    Class{kParameterClass, u"Parameter", create<Parameter>},
-    Class{kRecordsetClass, u"Recordset", create<Recordset>},
+    Class{kConnectionClass, u"Connection", u"CreateConnection", create<Connection>},
+    Class{kCommandClass, u"Command", u"CreateCommand", create<Command>},
+    Class{kParameterClass, u"Parameter", u"CreateParameter", create<Parameter>},
+    Class{kRecordsetClass, u"Recordset", u"CreateRecordset", create<Recordset>},
 };
 
 }  // namespace
