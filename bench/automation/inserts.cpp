@@ -8,7 +8,7 @@ namespace {
 
 using namespace qvr::tests;
 
-constexpr int kInserts = 20000, kRounds = 10;
+constexpr int kInserts = 20000, kRounds = 4;
 
 // The run owns no reference that outlives it, so that a sink need not count them.
 class CountingSink final : public IDispatch {

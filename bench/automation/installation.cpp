@@ -9,7 +9,7 @@ namespace {
 
 using namespace qvr::tests;
 
-constexpr int kJet = 1, kRounds = 100;
+constexpr int kJet = 1, kRounds = 40;
 constexpr const wchar_t* kInsertLine = L"INSERT INTO [L\u00edneas]";
 
 std::wstring definition(const LateObject& runner) {

@@ -11,7 +11,7 @@ namespace {
 using namespace qvr::tests;
 
 constexpr const wchar_t* kProcedure = L"Pedido";
-constexpr int kParameters = 8, kStoredProcedure = 4, kCalls = 50, kRounds = 50;
+constexpr int kParameters = 8, kStoredProcedure = 4, kCalls = 50, kRounds = 30;
 constexpr int kTotal = 7;  // the position of the output, from 0
 
 ProcedureDatabase& defined(ProcedureDatabase& database) {
