@@ -38,13 +38,15 @@ std::optional<Lead> read_lead(unsigned char byte) {
   return std::nullopt;
 }
 
-void append_units(Text& text, char32_t c) {
+// Behind the last one written.
+char16_t* put_units(char16_t* at, char32_t c) {
   if (c < 0x10000) {
-    text.push_back(static_cast<char16_t>(c));
+    *at++ = static_cast<char16_t>(c);
   } else {
-    text.push_back(static_cast<char16_t>(0xD7C0 + (c >> 10)));
-    text.push_back(static_cast<char16_t>(0xDC00 | (c & 0x3FF)));
+    *at++ = static_cast<char16_t>(0xD7C0 + (c >> 10));
+    *at++ = static_cast<char16_t>(0xDC00 | (c & 0x3FF));
   }
+  return at;
 }
 
 }  // namespace
@@ -71,8 +73,8 @@ std::optional<Text> from_utf8(std::string_view bytes) {
     const auto byte = static_cast<unsigned char>(each);
     units += (byte & 0xC0) == 0x80 ? 0u : byte < 0xF0 ? 1u : 2u;
   }
-  Text text;
-  text.reserve(units);
+  Text text(units, u'\0');
+  char16_t* end = text.data();
   for (std::size_t i = 0; i < bytes.size();) {
     const auto lead = read_lead(static_cast<unsigned char>(bytes[i++]));
     if (!lead) return std::nullopt;
@@ -83,8 +85,8 @@ std::optional<Text> from_utf8(std::string_view bytes) {
     }
     if (c < lead->least || c > 0x10FFFF) return std::nullopt;
     // A surrogate pair as two sequences of three bytes (CESU-8) would be a second spelling of a four-byte character.
-    if (is_low(c) && !text.empty() && is_high(text.back()) && lead->following == 2) return std::nullopt;
-    append_units(text, c);
+    if (is_low(c) && end != text.data() && is_high(end[-1]) && lead->following == 2) return std::nullopt;
+    end = put_units(end, c);
   }
   return text;
 }
