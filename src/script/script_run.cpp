@@ -52,11 +52,13 @@ bool ScriptRun::run_commands() {
   ThreadState& state = thread_state();
   events_.Progreso(message(MsgContandoComandos));
   const Text question = message(MsgEjecutarRestantes);
-  const Text total = decimal(count_separators(request_.commands));
+  const Text of_total = u"/" + decimal(count_separators(request_.commands));
+  Text progress(request_.progress_text);
   std::int32_t done = 0;
   CommandSplitter commands(request_.commands);
   while (const auto command = commands.next()) {
-    events_.Progreso(join({request_.progress_text, decimal(done), u"/", total}));
+    progress.resize(request_.progress_text.size());
+    events_.Progreso(progress.append(decimal(done)).append(of_total));
     if (run_one_command({connection_.get(), *command, request_.motor}, ado_.get())) {
       ++done;
     } else if (!user_says_yes(question)) {

@@ -110,6 +110,7 @@ void follow(const VARIANT& from, OwnedVariant& to) {
 }
 
 void convert(const VARIANT& from, VARTYPE type, OwnedVariant& to) {
+  if (from.vt == type) return follow(from, to);
   OwnedVariant direct;
   follow(from, direct);
   require(VariantChangeType(&to, &direct, 0, type));
