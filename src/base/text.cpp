@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <iterator>
 
@@ -8,14 +9,22 @@
 
 namespace qvr {
 
-char16_t fold(char16_t unit) {
-  if (unit < 0x80) return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
+namespace {
+
+char16_t fold_beyond_ascii(char16_t unit) {
   const auto* run = std::upper_bound(std::begin(kFoldRuns), std::end(kFoldRuns), unit,
                                      [](char16_t value, const FoldRun& r) { return value < r.first; });
   if (run == std::begin(kFoldRuns)) return unit;
   --run;
   if (unit > run->last || (unit - run->first) % run->stride != 0) return unit;
   return static_cast<char16_t>(unit + run->shift);
+}
+
+}  // namespace
+
+char16_t fold(char16_t unit) {
+  if (unit >= 0x80) return fold_beyond_ascii(unit);
+  return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
 }
 
 bool equal_no_case(TextView a, TextView b) {
@@ -53,6 +62,35 @@ Text replaced(TextView text, TextView what, TextView by, std::size_t* position, 
   return result;
 }
 
+// Boyer-Moore-Horspool: most of a script is skipped.
+class FoldedSearch {
+ public:
+  explicit FoldedSearch(TextView what) : what_(what) {
+    const std::size_t seen = std::min<std::size_t>(what.size(), UINT8_MAX);
+    strides_.fill(static_cast<std::uint8_t>(seen));
+    for (std::size_t left = seen; left > 1; --left) {
+      strides_[fold(what[what.size() - left]) & 0xFF] = static_cast<std::uint8_t>(left - 1);
+    }
+  }
+
+  std::size_t find(TextView text, std::size_t from) const {
+    const std::size_t size = what_.size();
+    if (size == 0) return TextView::npos;
+    const char16_t last = fold(what_.back());
+    for (std::size_t end = from + size; end <= text.size();) {
+      const char16_t unit = fold(text[end - 1]);
+      if (unit == last && equal_no_case(text.substr(end - size, size), what_)) return end - size;
+      end += strides_[unit & 0xFF];
+    }
+    return TextView::npos;
+  }
+
+ private:
+  TextView what_;
+  // How far the end of the window moves when its last unit has this low byte.
+  std::array<std::uint8_t, 256> strides_;
+};
+
 }  // namespace
 
 Text replace_all(TextView text, TextView what, TextView by, std::size_t* position) {
@@ -61,21 +99,11 @@ Text replace_all(TextView text, TextView what, TextView by, std::size_t* positio
 }
 
 Text replace_all_no_case(TextView text, TextView what, TextView by, std::size_t* position) {
-  return replaced(text, what, by, position, [&](std::size_t from) { return find_no_case(text, what, from); });
+  const FoldedSearch search(what);
+  return replaced(text, what, by, position, [&](std::size_t from) { return search.find(text, from); });
 }
 
-std::size_t find_no_case(TextView text, TextView what, std::size_t from) {
-  if (what.empty()) return TextView::npos;
-  const char16_t first = fold(what[0]);
-  const bool one_case = first < 0x80 && !(first >= u'A' && first <= u'Z');
-  for (std::size_t at = from; at + what.size() <= text.size(); ++at) {
-    // A unit without case is searched by the standard library, which is faster.
-    if (one_case) at = text.find(first, at);
-    if (at == TextView::npos || at + what.size() > text.size()) return TextView::npos;
-    if (fold(text[at]) == first && equal_no_case(text.substr(at, what.size()), what)) return at;
-  }
-  return TextView::npos;
-}
+std::size_t find_no_case(TextView text, TextView what, std::size_t from) { return FoldedSearch(what).find(text, from); }
 
 TextView trimmed(TextView text, TextView blanks) {
   const std::size_t first = text.find_first_not_of(blanks);

@@ -23,7 +23,7 @@ void append_bytes(std::string& bytes, char32_t c) {
   put(0x80 | (c & 0x3F));
 }
 
-// How many bytes follow a first byte, and the least code point that needs that many.
+// How many bytes follow a first byte that is not ASCII, and the least code point that needs that many.
 struct Lead {
   int following;
   char32_t bits;
@@ -31,7 +31,6 @@ struct Lead {
 };
 
 std::optional<Lead> read_lead(unsigned char byte) {
-  if (byte < 0x80) return Lead{0, byte, 0};
   if (byte >= 0xC2 && byte < 0xE0) return Lead{1, byte & 0x1Fu, 0x80};
   if (byte >= 0xE0 && byte < 0xF0) return Lead{2, byte & 0x0Fu, 0x800};
   if (byte >= 0xF0 && byte < 0xF5) return Lead{3, byte & 0x07u, 0x10000};
@@ -76,7 +75,12 @@ std::optional<Text> from_utf8(std::string_view bytes) {
   Text text(units, u'\0');
   char16_t* end = text.data();
   for (std::size_t i = 0; i < bytes.size();) {
-    const auto lead = read_lead(static_cast<unsigned char>(bytes[i++]));
+    const auto first = static_cast<unsigned char>(bytes[i++]);
+    if (first < 0x80) {
+      *end++ = first;
+      continue;
+    }
+    const auto lead = read_lead(first);
     if (!lead) return std::nullopt;
     char32_t c = lead->bits;
     for (int k = 0; k < lead->following; ++k) {
