@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
 #include <iterator>
 
 #include "base/fold_table.h"
@@ -177,9 +178,14 @@ Text abbreviate_for_display(TextView text) {
 
 void wipe(Text& text) noexcept {
   text.resize(text.capacity());
-  volatile char16_t* unit = text.data();
-  for (std::size_t left = text.size(); left != 0; --left) *unit++ = 0;
+  wipe_memory(text.data(), text.size() * sizeof(char16_t));
   text.clear();
+}
+
+// The assembly reads the zeros as far as the compiler knows, which would leave out stores to memory that is freed.
+void wipe_memory(void* memory, std::size_t bytes) noexcept {
+  if (bytes != 0) std::memset(memory, 0, bytes);
+  asm volatile("" : : "r"(memory) : "memory");
 }
 
 }  // namespace qvr

@@ -71,5 +71,6 @@ Text abbreviate_for_display(TextView text);
 
 // Overwrites the text's whole capacity and clears it; for keys and passwords.
 void wipe(Text& text) noexcept;
+void wipe_memory(void* memory, std::size_t bytes) noexcept;
 
 }  // namespace qvr

@@ -15,7 +15,7 @@ BSTR new_bstr(TextView text) noexcept {
 }
 
 void free_wiped(BSTR string) noexcept {
-  if (string != nullptr) SecureZeroMemory(string, SysStringByteLen(string));
+  if (string != nullptr) wipe_memory(string, SysStringByteLen(string));
   SysFreeString(string);
 }
 
