@@ -68,6 +68,18 @@ TEST(FindNoCase, FindsAnEmptyTextNowhere) {
   EXPECT_EQ(find_no_case(u"ab", u""), TextView::npos);
 }
 
+// Longer than the strides of the search can be: conditions of whole queries are searched.
+TEST(FindNoCase, FindsAWordOfAnyLength) {
+  for (const std::size_t length : {254u, 255u, 256u, 257u, 600u}) {
+    const Text word = u"b" + Text(length - 2, u'\u00f1') + u"c";
+    for (const std::size_t before : {0u, 1u, 253u, 254u, 255u, 256u, 700u}) {
+      const Text text = Text(before, u'\u00d1') + in_capitals(word) + Text(300, u'b');
+      EXPECT_EQ(find_no_case(text, word), before) << length;
+      EXPECT_EQ(find_no_case(text, word, before + 1), TextView::npos) << length;
+    }
+  }
+}
+
 // Texts of the words' own units, among them letters that fold to a plain one (\u017f to S, \u0131 to I) and others.
 TEST(FindNoCase, FindsWhatAPlainSearchInCapitalsFinds) {
   constexpr TextView kWords[] = {
