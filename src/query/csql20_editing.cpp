@@ -4,7 +4,7 @@
 #include "base/failure.h"
 #include "dialect/clauses.h"
 #include "query/csql20.h"
-#include "query/search_text.h"
+#include "query/search/search.h"
 #include "session/global.h"
 #include "session/message_box.h"
 

@@ -1,7 +1,7 @@
 // Whole queries of a small business: what the engine makes of them while a user narrows, sorts and limits them.
 #include "engines/checked_script.h"
 #include "query/csql20.h"
-#include "query/search_fixture.h"
+#include "query/search/search_fixture.h"
 #include "query/usql20.h"
 
 namespace qvr::tests {

@@ -5,8 +5,8 @@
 #include "base/number_text.h"
 #include "dialect/literals.h"
 #include "engines/checked_script.h"
-#include "query/random_searches.h"
-#include "query/search_fixture.h"
+#include "query/search/random_searches.h"
+#include "query/search/search_fixture.h"
 
 namespace qvr::tests {
 namespace {

@@ -5,9 +5,9 @@
 #include "dialect/sql_tokens.h"
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
-#include "query/condition_evaluator.h"
-#include "query/search_input.h"
-#include "query/search_text.h"
+#include "query/search/condition_evaluator.h"
+#include "query/search/operand.h"
+#include "query/search/search.h"
 
 namespace qvr::tests {
 namespace {

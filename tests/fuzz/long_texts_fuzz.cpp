@@ -13,7 +13,7 @@
 #include "query/csql20.h"
 #include "query/definition_text.h"
 #include "query/joins.h"
-#include "query/search_text.h"
+#include "query/search/search.h"
 #include "query/usql20.h"
 #include "script/command_splitter.h"
 #include "script/script_preparation.h"

@@ -1,9 +1,9 @@
 // Whatever is typed, a condition is nothing but tests of its column, and what is shown can be typed again.
-#include "query/search_text.h"
+#include "query/search/search.h"
 
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
-#include "query/condition_evaluator.h"
+#include "query/search/condition_evaluator.h"
 
 namespace qvr::tests {
 namespace {

@@ -13,7 +13,7 @@
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 #include "query/csql20.h"
-#include "query/search_text.h"
+#include "query/search/search.h"
 
 namespace qvr::tests {
 namespace {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "dialect/dialect_fixture.h"
-#include "query/search_fixture.h"
+#include "query/search/search_fixture.h"
 #include "support/traced.h"
 
 namespace qvr::tests {

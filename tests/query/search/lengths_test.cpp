@@ -1,0 +1,111 @@
+// Limits of the length of searches, and linear run time.
+#include "base/utf8.h"
+#include "query/search/search_fixture.h"
+#include "support/rows.h"
+
+namespace qvr::tests {
+namespace {
+
+using tests::PrintTo;
+
+class SearchLengths : public SpanishSearch {
+ protected:
+  static void expect_none(const query::SearchColumn& column, TextView typed) {
+    EXPECT_EQ(interpreted(column, Engine::Jet, typed), u"no search");
+  }
+  // A search, which is the same when it is typed as it is shown.
+  static void expect_search(TextView typed) {
+    const auto found = query::interpret_search(Engine::Jet, kNombre, typed, u"X");
+    ASSERT_TRUE(found) << to_utf8(typed);
+    const auto again = query::interpret_search(Engine::Jet, kNombre, TextView(found->criterion).substr(2), u"X");
+    ASSERT_TRUE(again) << to_utf8(found->criterion);
+    EXPECT_EQ(again->condition, found->condition);
+  }
+
+  const Text longest_ = Text(1000, u'a'), longer_ = Text(1001, u'a');
+};
+
+struct PlaceRow {
+  const char* name;
+  TextView before, behind;
+};
+constexpr PlaceRow kPlaces[] = {
+    {"alone", u"", u""},
+    {"between asterisks", u"*", u"*"},
+    {"negated", u"!", u""},
+    {"behind equals", u"=", u""},
+    {"behind not equals, before an asterisk", u"<>", u"*"},
+    {"behind LIKE", u"LIKE ", u""},
+    {"behind a negated LIKE", u"<> LIKE ", u""},
+    {"behind less", u"< ", u""},
+    {"behind at most, before an asterisk", u"<=", u"*"},
+    {"behind LIKE, between quoted asterisks", u"LIKE '*", u"*'"},
+    {"behind LIKE in words, in quotes", u"es como '", u"'"},
+    {"behind LIKE, in quotes before an asterisk", u"LIKE \"", u"\"*"},
+    {"behind equals, in quotes", u"=\"", u"\""},
+    {"last end of a range", u"a..", u""},
+    {"first end of a range", u"", u"..b"},
+    {"first end of a range in quotes", u"'", u"'..b"},
+    {"last end of a range in quotes", u"0..\"", u"\""},
+};
+
+using OperandPlace = Rows<SearchLengths, PlaceRow>;
+
+TEST_P(OperandPlace, HoldsNoMoreThanPeopleType) {
+  const auto& [name, before, behind] = GetParam();
+  expect_search(join({before, longest_, behind}));
+  expect_none(kNombre, join({before, longer_, behind}));
+}
+
+INSTANTIATE_TEST_SUITE_P(, OperandPlace, ::testing::ValuesIn(kPlaces), row_name);
+
+TEST_F(SearchLengths, AFileIsNoOperand) { expect_none(kNombre, Text(4 << 20, u'a')); }
+
+TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
+  expect_none(kPrecio, Text(29, u'1'));
+  const Text blanks(1000, u' '), fewer(900, u' ');
+  expect(kPrecio, Engine::Jet,
+         {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
+          {join({u"1", blanks, u"2..15"}), u""}});
+  expect(kAlta, Engine::Jet,
+         {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
+           u"Alta >= 04/01/2011 y <= 05/01/2011"},
+          {join({u"hoy", blanks, u"-1..hoy"}), u""}});
+}
+
+// Quotes that a value needs where it is shown leave it as long as it is.
+TEST_F(SearchLengths, ShownQuotesDoNotCount) {
+  for (const TextView begin : {u"&", u"a  <", u"a' b"}) {
+    const Text value = join({begin, TextView(longest_).substr(begin.size())});
+    expect_search(join({u"=", value}));
+    expect_search(join({u"LIKE ", value}));
+  }
+}
+
+// Each end may be as long as one, and a quote of a value is two where it is shown.
+TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
+  expect_search(join({longest_, u"..", Text(1000, u'b')}));
+  const Text quotes(999, u'"');  // never closed: they are text
+  for (const TextView before : {u"", u"!", u"=", u"<>", u"LIKE ", u"<> LIKE ", u"<="}) {
+    expect_search(join({before, quotes}));
+  }
+  expect_search(join({u"=\"", quotes, quotes, u"\"\"\""}));
+  expect_none(kNombre, join({u"=\"", quotes, quotes, u"\"\"\"\"\""}));
+}
+
+// With quadratic run time for blanks or for the search for ";" these would not terminate in time.
+TEST_F(SearchLengths, TextsOfMillionsOfCharactersAreRead) {
+  constexpr TextView kEither = u"C.Nombre LIKE '%a%' Or C.Nombre LIKE '%b%'";
+  const Text blanks(std::size_t{1} << 21, u' ');
+  expect(kNombre, Engine::Jet,
+         {{join({u"a;", blanks, u"b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+          {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
+          {join({u"a", blanks, u"b"}), u""}});
+  expect(kPrecio, Engine::Jet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
+  Text likes;
+  for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";
+  expect(kNombre, Engine::Jet, {{likes, u""}});
+}
+
+}  // namespace
+}  // namespace qvr::tests

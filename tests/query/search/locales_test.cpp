@@ -1,0 +1,85 @@
+// Numbers and dates as users of seven locales type them and see them again.
+#include "query/search/search_fixture.h"
+#include "support/rows.h"
+
+namespace qvr::tests {
+namespace {
+
+using tests::PrintTo;
+struct Home {
+  const char* name;
+  char16_t decimal, thousands, date_separator;
+  bool day_first;
+  TextView currency;
+};
+constexpr Home kHomes[] = {
+    {"es-ES", u',', u'.', u'/', true, u"\u20ac"},      {"es-MX", u'.', u',', u'/', true, u"$"},
+    {"en-US", u'.', u',', u'/', false, u"$"},          {"en-GB", u'.', u',', u'/', true, u"\u00a3"},
+    {"fr-FR", u',', u'\u202f', u'/', true, u"\u20ac"}, {"fr-CH", u'.', u'\'', u'.', true, u"CHF"},
+    {"de-CH", u'.', u'\u2019', u'.', true, u"CHF"},
+};
+
+class SearchLocales : public ::testing::TestWithParam<Home> {
+ protected:
+  SearchLocales() {
+    thread.load_language(u"0");
+    const Home& home = GetParam();
+    thread.locale.decimal = home.decimal;
+    thread.locale.thousands = home.thousands;
+    thread.locale.date_separator = home.date_separator;
+    thread.locale.day_first = home.day_first;
+    thread.locale.currency = home.currency;
+  }
+  // With "." as the decimal separator and "," as the thousands separator.
+  Text at_home(TextView number) const {
+    Text text(number);
+    for (char16_t& unit : text) unit = unit == u'.' ? GetParam().decimal : unit == u',' ? GetParam().thousands : unit;
+    return text;
+  }
+  TestThread thread;
+};
+
+TEST_P(SearchLocales, ReadTheirOwnNumbers) {
+  struct {
+    TextView typed, literal;
+  } const kNumbers[] = {{u"1234.5", u" 1234.5"},
+                        {u"1,234.5", u" 1234.5"},
+                        {u"1,234,567", u" 1234567"},
+                        {u"-0.25", u"-0.25"},
+                        {u"12,345,678.9", u" 12345678.9"}};
+  for (const auto& number : kNumbers) {
+    const Text typed = at_home(number.typed);
+    const auto found = query::interpret_search(Engine::SqlServer, kPrecio, typed, u"Precio");
+    ASSERT_TRUE(found) << ::testing::PrintToString(typed);
+    EXPECT_EQ(found->condition, join({u"P.Precio=", number.literal}));
+    const auto again = query::interpret_search(Engine::SqlServer, kPrecio, TextView(found->criterion).substr(7),
+                                               u"Precio");
+    ASSERT_TRUE(again) << ::testing::PrintToString(found->criterion);
+    EXPECT_EQ(again->condition, found->condition);
+  }
+  EXPECT_EQ(interpreted(kPrecio, Engine::Jet, join({GetParam().currency, u" ", at_home(u"9.5")})),
+            join({u"P.Precio= 9.5 | Precio = ", at_home(u"9.5")}));
+}
+
+// A misplaced thousands separator counts as the decimal separator and is never dropped.
+TEST_P(SearchLocales, NeverReadANumberTenTimesTooLarge) {
+  for (const TextView typed : {u"1.5", u"1,5"}) {
+    const Text found = interpreted(kPrecio, Engine::Jet, typed);
+    EXPECT_EQ(found, join({u"P.Precio= 1.5 | Precio = ", at_home(u"1.5")}));
+  }
+}
+
+TEST_P(SearchLocales, ReadTheirOwnDates) {
+  const Home& home = GetParam();
+  const Text mark(1, home.date_separator);
+  const Text typed = home.day_first ? join({u"13", mark, u"02", mark, u"2011"})
+                                    : join({u"02", mark, u"13", mark, u"2011"});
+  const Text condition = u"C.Alta>=#2011-02-13# And C.Alta<#2011-02-14# | Alta = ";
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, typed), condition + typed);
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"2011-02-13"), condition + typed);
+}
+
+INSTANTIATE_TEST_SUITE_P(, SearchLocales, ::testing::ValuesIn(kHomes), row_name);
+
+}  // namespace
+}  // namespace qvr::tests

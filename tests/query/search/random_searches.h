@@ -1,0 +1,64 @@
+// Random searches with their meaning: what a user types is written from the meaning, not read back from the text.
+#pragma once
+
+#include <functional>
+#include <random>
+#include <vector>
+
+#include "query/search/condition_evaluator.h"
+#include "support/fake_locale.h"
+
+namespace qvr::tests {
+
+struct MeantSearch {
+  Text typed;
+  std::function<bool(const Cell&)> meant;
+};
+
+// The same searches from the same seed. Numbers and dates are typed as the locale writes them; `letter` is the
+// column's type: T, M, N, F or L. On 5 January 2011.
+class RandomSearches {
+ public:
+  RandomSearches(std::uint64_t seed, const FakeLocale& locale, Engine engine)
+      : random_(seed), locale_(locale), engine_(engine) {}
+
+  MeantSearch next(char16_t letter);
+
+  // Rows that tell searches for such a column apart, null among them.
+  static std::vector<Cell> rows(char16_t letter);
+
+ private:
+  MeantSearch atom(char16_t letter);
+  MeantSearch text_atom(bool memo);
+  MeantSearch ordered_text_atom();
+  MeantSearch text_range(TextView a, TextView b);
+  MeantSearch number_atom();
+  MeantSearch date_atom();
+  MeantSearch date_range();
+  MeantSearch truth_atom();
+  MeantSearch null_atom();
+  MeantSearch negated(MeantSearch search);
+
+  struct Span {  // from `first` to before `end`
+    Text typed;
+    std::int64_t first, end;
+  };
+  Span span();
+  static std::vector<Cell> date_rows();
+  static std::vector<Cell> text_rows(bool memo);
+  Text range_text(TextView first, TextView last);
+  Text number_text(double number) const;
+  Text day_text(int month, int day) const;
+
+  std::size_t below(std::size_t limit) { return static_cast<std::size_t>(random_() % limit); }
+  template <class Item, std::size_t size>
+  const Item& one_of(const Item (&items)[size]) {
+    return items[below(size)];
+  }
+
+  std::mt19937_64 random_;
+  const FakeLocale& locale_;
+  Engine engine_;
+};
+
+}  // namespace qvr::tests
