@@ -19,6 +19,7 @@ class FakeLocale final : public Locale {
   Text currency = u"\u20ac";
   char16_t date_separator = u'/';
   bool day_first = true;
+  std::optional<Date> every_text;  // the date that any text is read as
 };
 
 }  // namespace qvr::tests
