@@ -35,10 +35,11 @@ std::wstring in_figures(sys_days day) {
 }
 
 std::vector<Words> words_of(sys_days today) {
-  using namespace std::chrono_literals;
-  return {{L"ayer..hoy", today - days(1), today},
-          {L"01/2024..03/2024", 2024y / 1 / 1, 2024y / 3 / 31},
-          {L"hoy-6..hoy", today - days(6), today}};
+  using namespace std::chrono;
+  const year_month_day date(today);
+  return {{L"este mes", date.year() / date.month() / 1, date.year() / date.month() / last},
+          {L"enero 2024..marzo 2024", 2024y / January / 1, 2024y / March / last},
+          {L"últimos 7 días", today - days(6), today}};
 }
 
 void take_order(const Database& database, int number, int client, sys_days day) {
