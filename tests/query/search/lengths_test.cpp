@@ -157,11 +157,11 @@ TEST_F(ConditionSize, IsAtMostThirtyThousandCharacters) {
     ASSERT_TRUE(shorter);
     Text typed = search_of(1);
     std::size_t missing = kMostCharacters - shorter->condition.size();
-    for (; missing > 900; missing -= 900) {
+    for (; missing > 450; missing -= 450) {
       const auto longer = query::interpret_search(engine, kNombre, typed + u";" + Text(100, u'c'), u"X");
       ASSERT_TRUE(longer);
       const std::size_t one_more = longer->condition.size() - (kMostCharacters - missing) - 100;
-      typed += u";" + Text(900 - one_more, u'c');
+      typed += u";" + Text(450 - one_more, u'c');
     }
     typed += Text(missing, u'd');
     const auto longest = query::interpret_search(engine, kNombre, typed, u"X");

@@ -94,13 +94,15 @@ Text RandomSearches::range_text(TextView first, TextView last) {
                 {u"since ", u" until "},
                 {u"depuis ", u" jusqu'\u00e0 "}};
   const auto& form = one_of(kForms);
-  return join({form.before, first, form.between, last});
+  // Three points are none of a range.
+  const bool point = first.ends_with(u'.') && form.between == u"..";
+  return join({form.before, first, point ? u" .." : form.between, last});
 }
 
 Text RandomSearches::open_range(TextView end, bool is_first) {
   constexpr TextView kFrom[] = {u"desde ", u"A partir de ", u"from ", u"since ", u"depuis ", u"\u00e0 partir de "};
   constexpr TextView kUpTo[] = {u"hasta ", u"until ", u"Up  to ", u"jusqu'\u00e0 ", u"jusqu\u2019a "};
-  if (below(3) == 0) return is_first ? join({end, u".."}) : join({u"..", end});
+  if (below(3) == 0) return is_first ? join({end, end.ends_with(u'.') ? u" .." : u".."}) : join({u"..", end});
   return join({is_first ? one_of(kFrom) : one_of(kUpTo), end});
 }
 

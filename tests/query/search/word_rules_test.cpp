@@ -142,13 +142,12 @@ TEST_F(SearchWords, OfPunctuationAreDroppedAtEitherEndOfAText) {
     expect_same(column, u"Marks & Spencer &", u"Marks & Spencer");
     expect_same(column, u"& Marks | Spencer", u"Marks; Spencer");
     expect_same(column, u"Marks - Spencer", u"Marks Spencer");
-    expect_same(column, u"ana; & Marks", u"ana; Marks");
   }
   expect(kNombre, Engine::Jet,
          {{u"Marks &", u"C.Nombre LIKE '%Marks%'", u"Nombre es como '*Marks*'"},
           {u"& Marks", u"C.Nombre LIKE '%Marks%'", u"Nombre es como '*Marks*'"},
           {u"\"&\" Marks", u"C.Nombre LIKE '%&%' And C.Nombre LIKE '%Marks%'",
-           u"Nombre es como '*\"&\"*' y es como '*Marks*'"}});
+           u"Nombre es como '*&*' y es como '*Marks*'"}});
 }
 
 // Nothing is shown that the condition does not say, nor the other way about.
@@ -228,8 +227,7 @@ TEST_F(SearchWords, ThatAreSearchedKeepCaseAndAccents) {
   expect(kNombre, Engine::Jet,
          {{u"P\u00e9rez", u"C.Nombre LIKE '%P\u00e9rez%'", u"Nombre es como '*P\u00e9rez*'"},
           {u"pe\u0301rez", u"C.Nombre LIKE '%pe\u0301rez%'", u"Nombre es como '*pe\u0301rez*'"},
-          {u"=Se\u00f1or  \u00d1\u00fa", u"C.Nombre='Se\u00f1or  \u00d1\u00fa'",
-           u"Nombre = \"Se\u00f1or  \u00d1\u00fa\""},
+          {u"=Se\u00f1or  \u00d1\u00fa", u"C.Nombre='Se\u00f1or  \u00d1\u00fa'", u"Nombre = Se\u00f1or  \u00d1\u00fa"},
           {u"es como '\u00c1\u00c9*'", u"C.Nombre LIKE '\u00c1\u00c9%'", u"Nombre es como '\u00c1\u00c9*'"},
           {u"NOT LIKE \u00f1*", u"(C.Nombre NOT LIKE '\u00f1%' Or C.Nombre Is Null)", u"Nombre <> es como '\u00f1*'"},
           {u"ma\u00f1ana", u"C.Nombre LIKE '%ma\u00f1ana%'", u"Nombre es como '*ma\u00f1ana*'"},
