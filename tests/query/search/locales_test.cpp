@@ -91,9 +91,8 @@ TEST_P(SearchLocales, ReadTheirOwnTimes) {
 }
 
 TEST_P(SearchLocales, ReadDaysWithPointsInTheirOwnOrder) {
-  const Text found = interpreted(kAlta, Engine::Jet, u"5.1.2011").substr(0, 45);
-  EXPECT_EQ(found, GetParam().day_first ? u"C.Alta>=#2011-01-05# And C.Alta<#2011-01-06#"
-                                        : u"C.Alta>=#2011-05-01# And C.Alta<#2011-05-02#");
+  const TextView day = GetParam().day_first ? u"2011-01-05" : u"2011-05-01";
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"5.1.2011"), interpreted(kAlta, Engine::Jet, day));
 }
 
 INSTANTIATE_TEST_SUITE_P(, SearchLocales, ::testing::ValuesIn(kHomes), row_name);
