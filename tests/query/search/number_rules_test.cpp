@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(, SearchedNumber, ::testing::ValuesIn(kNumberRows), row
 std::optional<std::string> written(const std::string& text) {
   static const std::regex kUnclear(
       "[., ].*|.*[., ]|.*(  |\\.\\.).*|\\d{4,}([. ]\\d{3})+(,\\d+)?|"
-      "(?=.*\\.)(?=.* )\\d{1,3}([. ]\\d{3})+(,\\d+)?|0+\\d.*|0 .*");
+      "(?=.*\\.)(?=.* )\\d{1,3}([. ]\\d{3})+(,\\d+)?|\\d{1,3}( \\d{3})+\\.\\d+|0+\\d.*|0 .*");
   static const std::regex kPlain("\\d+(,\\d+)?"), kGroups("[1-9]\\d{0,2}((\\.\\d{3})+|( \\d{3})+)(,\\d+)?");
   static const std::regex kPoint("0\\.\\d+|\\d+\\.(\\d{1,2}|\\d{4,})");
   std::string digits;
