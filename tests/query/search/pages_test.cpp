@@ -68,8 +68,7 @@ TEST_P(SearchPages, ShowWhatIsShown) {
     for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
       const Text typed = from_utf8(row.typed).value(), name = from_utf8(label).value();
       const auto found = query::interpret_search(engine, {u"X", type}, typed, name);
-      ASSERT_TRUE(found) << row.typed;
-      EXPECT_EQ(to_utf8(found->criterion), row.shown) << row.typed;
+      EXPECT_EQ(found ? to_utf8(found->criterion) : "no search", row.shown) << row.typed;
     }
   }
 }
