@@ -16,7 +16,7 @@ struct Page {
 };
 constexpr Page kPages[] = {{"es", kSpanish, "Nombre", "Precio", "Alta", "Activo"},
                            {"en", kEnglish, "Name", "Price", "Joined", "Active"},
-                           {"fr", kFrench, "Nom", "Prix", "Depuis", "Actif"}};
+                           {"fr", kFrench, "Nom", "Prix", "Inscription", "Actif"}};
 
 struct PageRow {
   std::string typed, shown;
