@@ -255,7 +255,6 @@ std::optional<std::int32_t> same_day(std::int32_t day, std::int64_t months_on) {
 
 // So many units up to and with today, or from today on.
 Found counted_units(Unit unit, std::int64_t count, bool future, std::int32_t today) {
-  if (count == 0) return std::nullopt;
   if (unit == Unit::Day || unit == Unit::Week) {
     const std::int64_t length = count * (unit == Unit::Week ? 7 : 1);
     return future ? days(today, today + length) : days(today + 1 - length, today + 1);
