@@ -16,6 +16,10 @@ SCALE = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 ROWS = [
     ("first list of a process, beside creating an empty class", "FirstList", 2),
     ("the next lists", "FirstListAgain", 2),
+    ("search for a text, beside adding its condition", "SearchText", 10),
+    ("search for a number", "SearchNumber", 10),
+    ("search for a date in figures", "SearchDateInFigures", 20),
+    ("search for a date in words", "SearchDateInWords", 20),
     ("opening a connection file the first time, beside its key derivation", "ConnectionFileFirst", 1.05),
     ("opening it again, beside reading the file", "ConnectionFileAgain", 1.2),
     ("20,000 INSERTs, nobody listens", "Inserts0", 1.2),

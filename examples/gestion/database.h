@@ -15,6 +15,7 @@ class Database {
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
+  void execute(const std::wstring& command) const { connection_.call(L"Execute", {command}); }
   // The first column of the first row.
   Value first_value(const std::wstring& query) const;
   // Hands over each row as its columns' texts; an empty text stands for Null.

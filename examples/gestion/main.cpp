@@ -59,6 +59,8 @@ void show_steps(const Setting& setting) {
   show_rows(script, connection_string);
   heading(L"A list of orders");
   show_query(setting, connection_string);
+  heading(L"Dates in words");
+  show_dates_in_words(connection_string);
 }
 
 void show_all(const Setting& setting) {

@@ -9,14 +9,16 @@ namespace {
 constexpr long kShown = 4;
 constexpr std::size_t kWidths[] = {8, 26, 20, 12, 8};
 
-Object created_query() {
+Object created_query(Dates dates) {
+  const bool as_dates = dates == Dates::AsDates;
   const Object query = Object::create(L"QVRlib21.cSQL20");
-  const Value columns{L"P.[Número]",  L"N>Número", L"C.Nombre", L"T+",       L"C.[Población]",
-                      L"T>Población", L"P.Fecha",  L"T+",       L"P.Portes", L"N+"};
+  const Value columns{L"P.[Número]",    L"N>Número",    L"C.Nombre", L"T+",
+                      L"C.[Población]", L"T>Población", L"P.Fecha",  as_dates ? L"F+" : L"T+",
+                      L"P.Portes",      L"N+"};
   const Value relations{L"P.Cliente", L"C.[Código]", L"I"};
   const bool created = query
-                           .call(L"iSQL20_Crear", {kJet, L"Pedidos", false, columns, L"Pedidos P, Clientes C",
-                                                   relations, L"", 0, L"", L"P.[Número]"})
+                           .call(L"iSQL20_Crear", {as_dates ? kSqlServer : kJet, L"Pedidos", false, columns,
+                                                   L"Pedidos P, Clientes C", relations, L"", 0, L"", L"P.[Número]"})
                            .truth();
   expect(created, L"The query could not be created");
   return query;
@@ -24,7 +26,8 @@ Object created_query() {
 
 }  // namespace
 
-OrderList::OrderList(const std::wstring& connection_string) : query_(created_query()), database_(connection_string) {}
+OrderList::OrderList(const std::wstring& connection_string, Dates dates)
+    : query_(created_query(dates)), database_(connection_string) {}
 
 bool OrderList::has(const std::wstring& column) const {
   return query_.call(L"iSQL20_NumColumna", {column}).number() > 0;

@@ -7,9 +7,13 @@
 
 namespace gestion {
 
+// What the dates of the orders are to a search. In this database they are texts; a list that is searched by dates goes
+// under SQL Server's number, which writes dates as every ODBC driver takes them, but texts as this one does not.
+enum class Dates { AsTexts, AsDates };
+
 class OrderList {
  public:
-  explicit OrderList(const std::wstring& connection_string);
+  explicit OrderList(const std::wstring& connection_string, Dates dates = Dates::AsTexts);
 
   const Object& query() const { return query_; }
   std::wstring statement() const { return query_.call(L"iSQL20_SQL").text(); }

@@ -30,6 +30,7 @@ struct Setting {
 inline constexpr const wchar_t* kIdentification = L"Gestión 1.0";
 inline constexpr const wchar_t* kParameterFile = L"gestion";
 inline constexpr long kJet = 1;  // an embedded database goes under the number of the embedded engine
+inline constexpr long kSqlServer = 2;
 
 // Reads the arguments of the command line; throws with the usage when they make no sense.
 Setting read_setting(int count, wchar_t** arguments);

@@ -27,6 +27,9 @@ void show_failures(const Setting& setting, BusinessScript& script, const std::ws
 // A list of the orders: narrowed, sorted, restored, kept and taken up again.
 void show_query(const Setting& setting, const std::wstring& connection_string);
 
+// Orders of these days come in; dates in words find those that the same dates in figures find.
+void show_dates_in_words(const std::wstring& connection_string);
+
 void show_rows(const BusinessScript& script, const std::wstring& connection_string);
 
 }  // namespace gestion

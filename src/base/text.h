@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qvr {
@@ -61,6 +62,18 @@ Text hexadecimal(std::uint32_t number, std::size_t width, TextView digits = u"01
 // Concatenates the pieces in one allocation.
 Text join(std::initializer_list<TextView> pieces);
 Text join(std::span<const Text> pieces, TextView between);
+
+// What `write` gives for each of the items, one behind the other.
+template <class Items, class Write>
+Text joined(const Items& items, TextView between, Write write) {
+  Text text;
+  bool first = true;
+  for (const auto& item : items) {
+    if (!std::exchange(first, false)) text += between;
+    text += write(item);
+  }
+  return text;
+}
 
 // Splits at the separator; empty pieces are kept.
 std::vector<TextView> split(TextView text, TextView separator);

@@ -108,6 +108,8 @@ Text ComillasSQL(TextView Cadena) {
 
 Text ExpSQL(Engine engine, const Value& Valor) { return std::visit(Literal{engine}, Valor.storage()); }
 
+Date first_date(Engine engine) { return date_from({engine == Engine::SqlServer ? 1753 : 100, 1, 1}).value(); }
+
 Text LiteralFechaMotor(Engine engine, const Value& Fecha, TextView client_mask, TextView oracle_mask) {
   return date_literal(engine, {kDate.opener, client_mask, oracle_mask}, Fecha);
 }

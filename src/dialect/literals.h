@@ -18,6 +18,9 @@ Text HoraSQL(Engine engine, const Value& Fecha);
 Text FechaHoraSQL(Engine engine, const Value& Fecha);  // also the texts "Ahora" and "AhoraSQL"
 Text FechaSQLv(Engine engine, const Value& Fecha);     // date, time or both, by what the value has
 
+// The first day that a date literal of the engine can hold.
+Date first_date(Engine engine);
+
 // The date formatted by the mask, between the engine's date delimiters.
 Text LiteralFechaMotor(Engine engine, const Value& Fecha, TextView client_mask, TextView oracle_mask);
 

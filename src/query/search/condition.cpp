@@ -1,8 +1,10 @@
 #include "query/search/condition.h"
 
+#include <span>
+
 #include "dialect/like_pattern.h"
 #include "dialect/literals.h"
-#include "query/search/periods.h"
+#include "query/search/dates.h"
 
 namespace qvr::query {
 namespace {
@@ -63,62 +65,88 @@ class ConditionWriter {
         upper_(type == SearchType::Text ? engine != Engine::Jet : type == SearchType::Memo && engine == Engine::Oracle),
         like_only_(type == SearchType::Memo && engine != Engine::Jet) {}
 
-  Text operator()(const IsNull& atom) const { return in_not(atom.negated, is_null()); }
-
-  // Oracle stores the empty text as null.
-  Text operator()(const IsEmpty& atom) const {
-    if (engine_ == Engine::Oracle) return in_not(atom.negated, is_null());
-    const Text empty = join({expression_, like_only_ ? u" LIKE " : u"=", literal(u"")});
-    return in_not(atom.negated, join({empty, u" Or ", is_null()}));
+  Text atom(const Atom& atom) const {
+    if (!atom.negated) return joined(atom.tests, u" And ", [this](const Test& test) { return positive(test); });
+    const Test& first = atom.tests.front();
+    if (std::holds_alternative<IsNull>(first)) return join({u"Not (", is_null(), u")"});
+    if (std::holds_alternative<IsEmpty>(first)) return join({u"Not (", empty_or_null(), u")"});
+    return or_null(joined(atom.tests, u" Or ", [this](const Test& test) { return negative(test); }));
   }
 
-  Text operator()(const CompareText& atom) const {
-    const bool different = atom.comparison == Comparison::Different;
-    if (like_only_) return (*this)(Like{different, Operand::literal(atom.operand.text())});
-    const Text compared = join({subject(), sign_of(atom.comparison), in_upper(literal(atom.operand.text()))});
-    if (different) return or_null(compared);
-    if (!atom.and_what_begins_so) return compared;
-    Operand begins = Operand::literal(atom.operand.text());
+  // "(... Or X Is Null)"
+  Text or_null(TextView condition) const { return join({u"(", condition, u" Or ", is_null(), u")"}); }
+
+ private:
+  Text positive(const Test& test) const {
+    return std::visit([this](const auto& held) { return written(held); }, test);
+  }
+  // The opposite, which does not select null.
+  Text negative(const Test& test) const {
+    return std::visit([this](const auto& held) { return opposite_of(held); }, test);
+  }
+
+  Text written(const IsNull&) const { return join({u"(", is_null(), u")"}); }
+  Text opposite_of(const IsNull&) const { return join({u"Not (", is_null(), u")"}); }
+
+  Text written(const IsEmpty&) const { return join({u"(", empty_or_null(), u")"}); }
+  Text opposite_of(const IsEmpty&) const { return join({u"Not (", empty_or_null(), u")"}); }
+
+  Text written(const IsTrue& test) const {
+    return test.truth ? dialect::sqlEsTrue(expression_) : dialect::sqlEsFalse(expression_);
+  }
+  Text opposite_of(const IsTrue& test) const { return written(IsTrue{!test.truth}); }
+
+  Text written(const Like& test) const { return like(test.pattern, u" LIKE "); }
+  Text opposite_of(const Like& test) const { return like(test.pattern, u" NOT LIKE "); }
+
+  Text written(const CompareText& test) const {
+    if (like_only_) return like(Operand::literal(test.operand.text()), u" LIKE ");
+    const Text compared = compared_text(test.comparison, test);
+    if (!test.with_all_that_begins) return compared;
+    Operand begins = Operand::literal(test.operand.text());
     begins.append_wildcard(u'*');
-    return join({u"(", compared, u" Or ", like(begins, false), u")"});
+    return test.comparison == Comparison::LessOrEqual ? join({u"(", compared, u" Or ", like(begins, u" LIKE "), u")"})
+                                                      : join({compared, u" And ", like(begins, u" NOT LIKE ")});
+  }
+  Text opposite_of(const CompareText& test) const {
+    if (like_only_) return like(Operand::literal(test.operand.text()), u" NOT LIKE ");
+    if (test.comparison == Comparison::Equal) return compared_text(Comparison::Different, test);
+    return written(CompareText{opposite(test.comparison), test.operand, test.with_all_that_begins});
+  }
+  Text compared_text(Comparison comparison, const CompareText& test) const {
+    return join({subject(), sign_of(comparison), in_upper(literal(test.operand.text()))});
   }
 
-  Text operator()(const Like& atom) const {
-    return atom.negated ? or_null(like(atom.pattern, true)) : like(atom.pattern, false);
+  Text written(const CompareNumber& test) const { return compared_number(test.comparison, test.digits); }
+  Text opposite_of(const CompareNumber& test) const { return compared_number(opposite(test.comparison), test.digits); }
+  Text compared_number(Comparison comparison, TextView digits) const {
+    return join({expression_, sign_of(comparison), digits.starts_with(u'-') ? u"" : u" ", digits});
   }
 
-  Text operator()(const CompareNumber& atom) const {
-    const TextView blank = atom.digits.starts_with(u'-') ? u"" : u" ";
-    const Text compared = join({expression_, sign_of(atom.comparison), blank, atom.digits});
-    return atom.comparison == Comparison::Different ? or_null(compared) : compared;
-  }
-
-  Text operator()(const CompareDate& atom) const {
+  Text written(const CompareDate& test) const { return compared_period(test.comparison, test.period); }
+  Text opposite_of(const CompareDate& test) const { return compared_period(opposite(test.comparison), test.period); }
+  Text compared_period(Comparison comparison, const Period& period) const {
     const auto beside = [&](TextView sign, const Moment& moment) {
       const Date date = date_of(moment);
-      const Text written = atom.whole_day ? dialect::FechaSQL(engine_, date) : dialect::FechaHoraSQL(engine_, date);
-      return join({expression_, sign, written});
+      return join({expression_, sign,
+                   period.whole_days ? dialect::FechaSQL(engine_, date) : dialect::FechaHoraSQL(engine_, date)});
     };
-    switch (atom.comparison) {
-      case Comparison::Equal: return join({beside(u">=", atom.from), u" And ", beside(u"<", atom.to)});
-      case Comparison::Different: return or_null(join({beside(u"<", atom.from), u" Or ", beside(u">=", atom.to)}));
-      case Comparison::Less: return beside(u"<", atom.from);
-      case Comparison::LessOrEqual: return beside(u"<", atom.to);
-      case Comparison::Greater: return beside(u">=", atom.to);
-      default: return beside(u">=", atom.from);
+    switch (comparison) {
+      case Comparison::Equal: return join({beside(u">=", period.from), u" And ", beside(u"<", period.to)});
+      case Comparison::Different: return join({beside(u"<", period.from), u" Or ", beside(u">=", period.to)});
+      case Comparison::Less: return beside(u"<", period.from);
+      case Comparison::LessOrEqual: return beside(u"<", period.to);
+      case Comparison::Greater: return beside(u">=", period.to);
+      default: return beside(u">=", period.from);
     }
   }
 
-  Text operator()(const CompareTruth& atom) const {
-    const bool truth = atom.truth != atom.negated;
-    const Text tested = truth ? dialect::sqlEsTrue(expression_) : dialect::sqlEsFalse(expression_);
-    return atom.negated ? or_null(tested) : tested;
-  }
-
- private:
   Text is_null() const { return join({expression_, u" Is Null"}); }
-  Text or_null(TextView condition) const { return join({u"(", condition, u" Or ", expression_, u" Is Null)"}); }
-  static Text in_not(bool negated, TextView condition) { return join({negated ? u"Not (" : u"(", condition, u")"}); }
+  // Oracle stores the empty text as null.
+  Text empty_or_null() const {
+    if (engine_ == Engine::Oracle) return is_null();
+    return join({expression_, like_only_ ? u" LIKE " : u"=", literal(u""), u" Or ", is_null()});
+  }
 
   Text literal(TextView text) const {
     return join({engine_ == Engine::SqlServer ? u"N" : u"", dialect::ComillasSQL(text)});
@@ -126,9 +154,9 @@ class ConditionWriter {
   Text subject() const { return upper_ ? join({u" UPPER(", expression_, u")"}) : Text(expression_); }
   Text in_upper(Text operand) const { return upper_ ? join({u"UPPER(", operand, u")"}) : std::move(operand); }
 
-  Text like(const Operand& pattern, bool negated) const {
+  Text like(const Operand& pattern, TextView sign) const {
     const PatternText written = pattern_text(engine_, pattern);
-    return join({subject(), negated ? u" NOT LIKE " : u" LIKE ", in_upper(written.literal), written.escape});
+    return join({subject(), sign, in_upper(written.literal), written.escape});
   }
 
   Engine engine_;
@@ -136,27 +164,59 @@ class ConditionWriter {
   bool upper_, like_only_;
 };
 
+const Test* only_test(const Alternative& alternative) {
+  const bool one = alternative.size() == 1 && !alternative.front().negated && alternative.front().tests.size() == 1;
+  return one ? &alternative.front().tests.front() : nullptr;
+}
+
+// "< a; > b; Is Null": what lies outside a range is written as the negation of the range is, in one pair of
+// parentheses.
+bool is_outside(std::span<const Alternative> search) {
+  if (search.size() < 3) return false;
+  const Test *below = only_test(search[0]), *above = only_test(search[1]), *null = only_test(search[2]);
+  return below != nullptr && above != nullptr && null != nullptr && order_in(*below) == Comparison::Less &&
+         order_in(*above) == Comparison::Greater && std::holds_alternative<IsNull>(*null);
+}
+
 // "<=C; C*" in parentheses would read like the inclusive upper bound "C*" inside a longer condition.
 bool reads_as_bound(TextView condition, const ConditionWriter& writer, const Alternatives& search) {
-  const auto* first = std::get_if<CompareText>(&search.front().front());
-  if (search.size() != 2 || first == nullptr || first->comparison != Comparison::LessOrEqual) return false;
-  return equal_no_case(join({u"(", condition, u")"}), writer(CompareText{first->comparison, first->operand, true}));
+  const Test* first = only_test(search.front());
+  const auto* bound = first != nullptr ? std::get_if<CompareText>(first) : nullptr;
+  if (search.size() != 2 || bound == nullptr || bound->comparison != Comparison::LessOrEqual) return false;
+  const Atom inclusive{{CompareText{bound->comparison, bound->operand, true}}};
+  return equal_no_case(join({u"(", condition, u")"}), writer.atom(inclusive));
+}
+
+// The engines limit both.
+bool is_too_long(TextView condition) {
+  constexpr std::size_t kLongestCondition = 30'000;
+  std::size_t connectors = 0;
+  bool quoted = false;
+  for (std::size_t i = 0; i < condition.size(); ++i) {
+    if (condition[i] == u'\'') quoted = !quoted;
+    const TextView rest = condition.substr(i);
+    if (!quoted && (rest.starts_with(u" And ") || rest.starts_with(u" Or "))) ++connectors;
+  }
+  return condition.size() > kLongestCondition || connectors > kMostConnectors;
 }
 
 }  // namespace
 
-Text search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search) {
+std::optional<Text> search_condition(Engine engine, SearchType type, TextView expression, const Alternatives& search) {
   const ConditionWriter writer(engine, type, expression);
+  const auto alternative = [&](const Alternative& atoms) {
+    return joined(atoms, u" And ", [&](const Atom& atom) { return writer.atom(atom); });
+  };
   Text condition;
-  for (const Alternative& alternative : search) {
-    if (&alternative != search.data()) condition += u" Or ";
-    for (const Atom& atom : alternative) {
-      if (&atom != alternative.data()) condition += u" And ";
-      condition += std::visit(writer, atom);
-    }
+  for (std::span rest(search); !rest.empty();) {
+    const bool outside = is_outside(rest);
+    if (!condition.empty()) condition += u" Or ";
+    condition += outside ? writer.or_null(join({alternative(rest[0]), u" Or ", alternative(rest[1])}))
+                         : alternative(rest[0]);
+    rest = rest.subspan(outside ? 3 : 1);
   }
-  if (reads_as_bound(condition, writer, search)) return join({u"(", condition, u")"});
-  return condition;
+  if (reads_as_bound(condition, writer, search)) condition = join({u"(", condition, u")"});
+  return is_too_long(condition) ? std::nullopt : std::optional(std::move(condition));
 }
 
 }  // namespace qvr::query

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "query/search/periods.h"
+#include "query/search/dates.h"
+#include "query/search/numbers.h"
 #include "query/search/tokens.h"
 #include "session/global.h"
 
@@ -21,13 +22,8 @@ Text in_quotes(TextView text) {
 bool holds_any(TextView text, bool (*test)(char16_t)) { return std::ranges::any_of(text, test); }
 
 bool holds_word_that_connects(TextView text) {
-  for (const auto words : {or_words(), and_words()}) {
-    for (const TextView word : words) {
-      for (std::size_t at = 0; at < text.size();
-           at = text.find(u' ', at) == TextView::npos ? text.size() : text.find(u' ', at) + 1) {
-        if (word_at(text, at, word)) return true;
-      }
-    }
+  for (std::size_t at = 0; at != TextView::npos; at = text.find_first_not_of(u' ', text.find(u' ', at))) {
+    if (or_word(text.substr(at)) > 0 || and_word(text.substr(at)) > 0) return true;
   }
   return false;
 }
@@ -43,8 +39,8 @@ bool needs_quotes_in_pattern(TextView part) {
 bool needs_quotes_as_value(TextView value) {
   const bool blank = value.find(u' ') != TextView::npos;
   if (value.empty() || value.front() == u' ' || value.back() == u' ' || is_single_quote(value.front())) return true;
-  if (null_phrase(value) > 0 || like_operand(value) || starts_with_no_case(value, u"LIKE")) return true;
-  if (operator_length(value) > 0 || TextView(u"!&|").find(value.front()) != TextView::npos) return true;
+  if (null_phrase(value).length > 0 || like_phrase(value).length > 0 || comparison_in(value).length > 0) return true;
+  if (TextView(u"!&|").find(value.front()) != TextView::npos) return true;
   if (needs_quotes_in_pattern(value)) return true;
   return blank && (value.find_first_of(u"<>=!") != TextView::npos || holds_word_that_connects(value));
 }
@@ -69,41 +65,67 @@ Text shown_pattern(const Operand& pattern) {
 }
 
 struct CriterionWriter {
-  Text operator()(const IsNull& atom) const { return join({atom.negated ? u"<> " : u"", message(MsgEsNulo)}); }
-  Text operator()(const IsEmpty& atom) const { return atom.negated ? u"<> ''" : u"= ''"; }
-  Text operator()(const Like& atom) const {
-    return join({atom.negated ? u"<> " : u"", message(MsgEsComo), u" '", shown_pattern(atom.pattern), u"'"});
+  Text operator()(const IsNull&) const { return Text(message(MsgEsNulo)); }
+  Text operator()(const IsEmpty&) const { return u"''"; }
+  Text operator()(const IsTrue& test) const { return Text(truth_word(test.truth)); }
+  Text operator()(const Like& test) const {
+    return join({message(MsgEsComo), u" '", shown_pattern(test.pattern), u"'"});
   }
-  Text operator()(const CompareText& atom) const {
-    const Text& value = atom.operand.text();
-    const Text shown = needs_quotes_as_value(value) ? in_quotes(value) : value;
-    return join({sign_of(atom.comparison), u" ", shown, atom.and_what_begins_so ? u"*" : u""});
+  Text operator()(const CompareText& test) const {
+    const Text& value = test.operand.text();
+    return join({needs_quotes_as_value(value) ? in_quotes(value) : value, test.with_all_that_begins ? u"*" : u""});
   }
-  Text operator()(const CompareNumber& atom) const {
-    return join({sign_of(atom.comparison), u" ", shown_number(atom.digits)});
-  }
-  Text operator()(const CompareDate& atom) const {
-    return join({sign_of(atom.comparison), u" ", shown_moment(atom.from, atom.whole_day, atom.with_seconds)});
-  }
-  Text operator()(const CompareTruth& atom) const {
-    return join({atom.negated ? u"<> " : u"= ", truth_word(atom.truth)});
-  }
+  Text operator()(const CompareNumber& test) const { return shown_number(test.digits); }
+  Text operator()(const CompareDate& test) const { return shown_unit(test.period); }
 };
+
+Text shown_value(const Test& test) { return std::visit(CriterionWriter(), test); }
+
+// A null test and a pattern need no "=".
+bool is_told_without_sign(const Test& test) {
+  return std::holds_alternative<IsNull>(test) || std::holds_alternative<Like>(test);
+}
+
+Text shown_test(const Test& test) {
+  if (is_told_without_sign(test)) return shown_value(test);
+  return join({sign_of(order_in(test).value_or(Comparison::Equal)), u" ", shown_value(test)});
+}
+
+// What stands between the stars of a pattern that finds a word.
+Text shown_word(const Test& test) {
+  const Text& pattern = std::get<Like>(test).pattern.text();
+  return in_quotes(TextView(pattern).substr(1, pattern.size() - 2));
+}
+
+Text shown_range(const Atom& range) {
+  const Test &first = range.tests.front(), &last = range.tests.back();
+  if (const auto* text = std::get_if<CompareText>(&first)) {
+    return join({u"! ", in_quotes(text->operand.text()), u"..", in_quotes(std::get<CompareText>(last).operand.text())});
+  }
+  return join({u"<> ", shown_value(first), u"..", shown_value(last)});
+}
+
+Text shown_negation(const Atom& atom) {
+  const Test& first = atom.tests.front();
+  const bool ordered = order_in(first).has_value();
+  if (atom.tests.size() > 1) {
+    return ordered ? shown_range(atom) : u"! " + joined(atom.tests, u" ", shown_word);
+  }
+  return ordered ? u"! " + shown_test(first) : u"<> " + shown_value(first);
+}
+
+Text shown_atom(const Atom& atom, TextView both) {
+  return atom.negated ? shown_negation(atom) : joined(atom.tests, both, shown_test);
+}
 
 }  // namespace
 
 Text search_criterion(TextView label, const Alternatives& search) {
-  const CriterionWriter writer;
   const Text both = join({u" ", message(MsgY), u" "});
-  Text criterion = join({label, u" "});
-  for (const Alternative& alternative : search) {
-    if (&alternative != search.data()) criterion += u"; ";
-    for (const Atom& atom : alternative) {
-      if (&atom != alternative.data()) criterion += both;
-      criterion += std::visit(writer, atom);
-    }
-  }
-  return criterion;
+  const auto shown = [&](const Alternative& alternative) {
+    return joined(alternative, both, [&](const Atom& atom) { return shown_atom(atom, both); });
+  };
+  return join({label, u" ", joined(search, u"; ", shown)});
 }
 
 }  // namespace qvr::query

@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "query/search/periods.h"
+#include "query/search/dates.h"
 
 namespace qvr::query {
 

@@ -1,4 +1,4 @@
-// The words that a search understands, in all languages at once.
+// The words and signs that a search understands, in all languages at once.
 #pragma once
 
 #include <optional>
@@ -13,34 +13,48 @@ enum class SearchType { Text, Memo, Number, Date, Logical };
 std::optional<SearchType> search_type(char16_t letter);
 inline bool is_textual(SearchType type) { return type == SearchType::Text || type == SearchType::Memo; }
 
-std::span<const TextView> or_words();
-std::span<const TextView> and_words();
-std::span<const TextView> not_words();
-std::span<const TextView> between_words();  // "between": begins a range whose ends are joined by "and"
+bool is_double_quote(char16_t unit);  // also the curly ones
+bool is_single_quote(char16_t unit);
 
-// "from a to b": the word before the first end and those before the second.
-struct RangeWords {
-  TextView from;
-  std::span<const TextView> to;
+enum class Comparison { Equal, Different, Less, LessOrEqual, Greater, GreaterOrEqual };
+TextView sign_of(Comparison comparison);
+
+// The lengths below are those of what begins the text, 0 for none. Words count only as whole words.
+
+struct FoundComparison {
+  std::size_t length;
+  Comparison comparison;
 };
-std::span<const RangeWords> range_words();
+FoundComparison comparison_in(TextView text);
 
-// The length of the null or LIKE phrase at the beginning of the text, whole words only; 0 for none. The word LIKE
-// itself is not among the LIKE phrases.
-std::size_t null_phrase(TextView text);
-std::size_t like_phrase(TextView text);
+std::size_t or_word(TextView text);
+std::size_t and_word(TextView text);
+std::size_t not_word(TextView text);
+
+// A phrase that tests or searches, and whether it negates: "is null", "is not null".
+struct FoundPhrase {
+  std::size_t length = 0;
+  bool negated = false;
+};
+FoundPhrase null_phrase(TextView text);
+FoundPhrase like_phrase(TextView text);  // also the word LIKE itself
 
 bool is_null_word(TextView text);  // "nulo", "empty"...: not for text columns, where the word itself may be searched
 std::optional<bool> truth_in(TextView text);
+TextView truth_word(bool truth);  // in the thread's language, for criteria
 
-// Days from today ("hoy" 0, "yesterday" -1), and the length of the word.
-struct DayWord {
-  std::size_t length;
-  int days;
+// "from a to b": the word before the first end and those before the last one. An open range may do without a last end.
+struct RangeWords {
+  TextView from;
+  bool open;
+  std::span<const TextView> to;
 };
-std::optional<DayWord> day_word(TextView text);
-
-// The words for true and false in the thread's language, for criteria.
-TextView truth_word(bool truth);
+struct FoundRange {
+  std::size_t length = 0;
+  const RangeWords* words = nullptr;
+};
+FoundRange range_word(TextView text);
+std::size_t last_end_word(TextView text, const RangeWords& words);
+std::size_t up_to_word(TextView text);  // "up to b", which has no first end
 
 }  // namespace qvr::query

@@ -5,53 +5,14 @@
 namespace qvr::query {
 namespace {
 
-bool is_blank_like(char16_t unit) {
-  return unit < 0x20 || unit == 0x7F || unit == u'\u00a0' || unit == u'\u202f' || unit == u'\u2007' ||
-         unit == u'\u2060' || unit == u'\ufeff' || (unit >= 0x80 && unit < 0xA0);
-}
-
-bool is_word_unit(char16_t unit) { return unit != u' ' && unit != u';' && unit != u'&' && unit != u'|'; }
-
 // Punctuation, which alone is not a word; wildcards excluded.
 bool is_punctuation(char16_t unit) {
-  return (unit > 0x20 && unit < 0x7F && !is_digit(unit) && fold(unit) == unit && !(unit >= u'A' && unit <= u'Z')) ||
-         (unit >= 0x2010 && unit <= 0x2027);
-}
-
-bool single_quoted_whole(TextView typed) {
-  return typed.size() >= 2 && is_single_quote(typed.front()) && is_single_quote(typed.back());
+  const bool ascii = unit > u' ' && unit < 0x7F && unit != u'*' && unit != u'?';
+  const bool letter = fold(unit) != unit || (unit >= u'A' && unit <= u'Z');
+  return (ascii && !letter && !is_digit(unit)) || (unit >= 0x2010 && unit <= 0x2027);
 }
 
 }  // namespace
-
-Text normalised_search(TextView typed) {
-  Text text(typed);
-  std::ranges::replace_if(text, is_blank_like, u' ');
-  return Text(trimmed(text));
-}
-
-bool is_double_quote(char16_t unit) { return unit == u'"' || unit == u'\u201c' || unit == u'\u201d'; }
-bool is_single_quote(char16_t unit) { return unit == u'\'' || unit == u'\u2018' || unit == u'\u2019'; }
-
-std::size_t end_of_double_quoted(TextView text, std::size_t at) {
-  for (std::size_t i = at + 1; i < text.size(); ++i) {
-    if (!is_double_quote(text[i])) continue;
-    if (i + 1 == text.size() || !is_double_quote(text[i + 1])) return i + 1;
-    ++i;
-  }
-  return TextView::npos;
-}
-
-bool word_at(TextView text, std::size_t at, TextView word) {
-  if (!starts_with_no_case(text.substr(at), word)) return false;
-  const std::size_t end = at + word.size();
-  return (at == 0 || !is_word_unit(text[at - 1])) && (end == text.size() || !is_word_unit(text[end]));
-}
-
-void Operand::add(char16_t unit, bool quoted) {
-  text_.push_back(unit);
-  quoted_.push_back(quoted);
-}
 
 Operand Operand::literal(TextView text) {
   Operand operand;
@@ -59,32 +20,16 @@ Operand Operand::literal(TextView text) {
   return operand;
 }
 
-Operand Operand::read(TextView typed, bool single_quoted) {
-  const bool whole = single_quoted_whole(typed);
-  if (whole) typed = typed.substr(1, typed.size() - 2);
-  if (whole && !single_quoted) {
-    Operand all = literal(typed);
-    all.quoted_nothing_ = typed.empty();
-    return all;
+void Operand::add(char16_t unit, bool quoted) {
+  text_.push_back(unit);
+  quoted_.push_back(quoted);
+}
+
+void Operand::trim() {
+  while (!text_.empty() && text_.back() == u' ' && !quoted_.back()) {
+    text_.pop_back();
+    quoted_.pop_back();
   }
-  Operand operand;
-  operand.quoted_nothing_ = whole && typed.empty();
-  bool closed = true;  // once one quote is unclosed, so are all later ones; avoids quadratic searching
-  for (std::size_t i = 0; i < typed.size();) {
-    const std::size_t end = closed && is_double_quote(typed[i]) ? end_of_double_quoted(typed, i) : TextView::npos;
-    if (end == TextView::npos) {
-      closed = closed && !is_double_quote(typed[i]);
-      operand.add(typed[i++], false);
-      continue;
-    }
-    operand.quoted_nothing_ = operand.quoted_nothing_ || end == i + 2;
-    for (++i; i < end - 1; ++i) {
-      operand.add(typed[i], true);
-      if (is_double_quote(typed[i])) ++i;  // skips the second of a doubled quote
-    }
-    i = end;
-  }
-  return operand;
 }
 
 bool Operand::has_wildcard() const {
@@ -143,6 +88,12 @@ bool Operand::drop_last_star() {
   text_.pop_back();
   quoted_.pop_back();
   return true;
+}
+
+bool Operand::is_range_end() const {
+  Operand end = *this;
+  end.drop_last_star();
+  return !end.empty() && !end.has_wildcard();
 }
 
 }  // namespace qvr::query

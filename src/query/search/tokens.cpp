@@ -3,200 +3,253 @@
 #include <algorithm>
 #include <utility>
 
-#include "query/search/operand.h"
-
 namespace qvr::query {
 namespace {
 
-// Limits the look-ahead for a wildcard, which each word repeats (quadratic otherwise); longer operands are refused
-// anyway.
-constexpr std::size_t kFarthest = kLongestOperand + 10;
+// Limits look-ahead, which is repeated for each word (quadratic otherwise); longer operands are refused anyway.
+constexpr std::size_t kFarthest = 2 * kLongestOperand + 20;
 
-struct Connector {
-  std::size_t length;
-  bool is_or;
-  bool is_word = false;
-};
-
-TextView without_leading_blanks(TextView text) {
-  return text.substr(std::min(text.find_first_not_of(u' '), text.size()));
+bool is_blank_like(char16_t unit) {
+  return unit < 0x20 || unit == 0x7F || unit == u'\u00a0' || unit == u'\u202f' || unit == u'\u2007' ||
+         unit == u'\u2060' || unit == u'\ufeff' || (unit >= 0x80 && unit < 0xA0);
 }
 
-bool begins_atom(TextView text) {
-  text = without_leading_blanks(text);
-  return operator_length(text) > 0 || null_phrase(text) > 0 || like_operand(text).has_value();
+// The position behind the closing quote of the quoted part that begins at `at`; npos when it is unclosed. A doubled
+// quote inside is an escaped one.
+std::size_t end_of_double_quoted(TextView text, std::size_t at) {
+  for (std::size_t i = at + 1; i < text.size(); ++i) {
+    if (!is_double_quote(text[i])) continue;
+    if (i + 1 == text.size() || !is_double_quote(text[i + 1])) return i + 1;
+    ++i;
+  }
+  return TextView::npos;
 }
 
-class Splitter {
+// Whether an operator, a null phrase or LIKE begins here: before these a word connects texts, too.
+bool begins_test(TextView text) {
+  text = text.substr(std::min(text.find_first_not_of(u' '), text.size()));
+  const FoundPhrase null = null_phrase(text);
+  return comparison_in(text).length > 0 || (null.length > 0 && !null.negated) || like_operator(text).length > 0;
+}
+
+class Lexer {
  public:
-  Splitter(TextView search, SearchType type) : search_(search), type_(type) {}
+  Lexer(TextView search, SearchType type) : search_(search), type_(type) {}
 
-  std::vector<SearchPiece> pieces() {
-    bool starts = true;
-    begin_piece(0);
-    for (at_ = 0; at_ < search_.size();) {
-      if (const std::size_t end = quoted_end()) {
-        at_ = end;
-        continue;
-      }
-      if (dots_at(at_)) {
-        begin_last_end();
-        continue;
-      }
-      const auto connector = connector_at(at_);
-      if (!connector || skips_range_and(*connector)) {
-        at_ += connector ? connector->length : 1;
-        continue;
-      }
-      add(starts);
-      starts = connector->is_or;
-      begin_piece(at_ + connector->length);
-      at_ = begin_;
+  std::vector<Token> tokens() {
+    read_term();
+    while (at_ < search_.size()) {
+      const Connector connector = connector_at(at_);
+      add({connector.is_or ? TokenKind::Or : TokenKind::And}, connector.length);
+      read_term();
     }
-    add(starts);
-    return std::move(pieces_);
+    return std::move(tokens_);
   }
 
  private:
-  void begin_piece(std::size_t at) {
-    begin_ = at;
-    text_ = behind_blanks(at);
-    const std::size_t atom = behind_blanks(text_ + negation_length(search_.substr(text_), type_));
-    operand_ = operand_of(atom);
-    dots_ahead_ = operand_ == atom;
-    range_and_ahead_ = starts_with_between(search_.substr(atom));
+  struct Connector {
+    std::size_t length = 0;
+    bool is_or = false;
+  };
+
+  // What stands between two connectors.
+  void read_term() {
+    skip_blanks();
+    term_ = at_;
+    range_ = nullptr;
+    dots_ahead_ = true;
+    read_negation();
+    const Token* comparison = read_comparison();
+    pattern_ = is_textual(type_) && (comparison == nullptr || comparison->comparison == Comparison::Different) &&
+               read_like();
+    if (is_textual(type_)) dots_ahead_ = comparison == nullptr && !pattern_;
+    if (comparison == nullptr && (type_ == SearchType::Number || type_ == SearchType::Date)) read_range_word();
+    read_range_or_operand();
   }
 
-  // Skips "..", but not the first two of "...".
-  void begin_last_end() {
+  void read_negation() {
+    if (rest().starts_with(u'!')) {
+      if (!rest().starts_with(u"!=")) add({TokenKind::Not}, 1);
+    } else if (!is_textual(type_)) {
+      const std::size_t length = not_word(rest()), next = behind_blanks(at_ + length);
+      const bool alone = next == search_.size() || connector_at(next).length > 0;  // a word for false
+      if (length > 0 && !alone) add({TokenKind::Not}, length);
+    }
+  }
+
+  const Token* read_comparison() {
+    const auto [length, comparison] = comparison_in(rest());
+    if (length == 0) return nullptr;
+    add({.kind = TokenKind::Comparison, .comparison = comparison}, length);
+    return &tokens_.back();
+  }
+
+  bool read_like() {
+    const auto [length, negated] = like_operator(rest());
+    if (length > 0) add({.kind = TokenKind::Like, .negated = negated}, length);
+    return length > 0;
+  }
+
+  void read_range_word() {
+    if (const std::size_t length = up_to_word(rest())) {
+      add({TokenKind::Dots}, length);
+      dots_ahead_ = false;
+    } else if (const FoundRange found = range_word(rest()); found.words != nullptr) {
+      add({.kind = TokenKind::From, .open = found.words->open}, found.length);
+      range_ = found.words;
+    }
+  }
+
+  void read_range_or_operand() {
+    const std::size_t start = at_, before = tokens_.size();
+    read_operand();
+    const std::size_t length = dots_at(at_);
+    if (length == 0) return;
+    add({TokenKind::Dots}, length);
+    range_ = nullptr;
     dots_ahead_ = false;
-    at_ += 2;
-    if (at_ == search_.size() || search_[at_] != u'.') operand_ = behind_blanks(at_);
+    read_operand();
+    if (!is_textual(type_) || has_two_ends(before)) return;
+    tokens_.erase(tokens_.begin() + static_cast<std::ptrdiff_t>(before), tokens_.end());
+    at_ = start;
+    read_operand();
   }
 
-  bool dots_at(std::size_t at) const { return dots_ahead_ && search_.substr(at).starts_with(u".."); }
-
-  void add(bool starts_alternative) {
-    pieces_.push_back({trimmed(search_.substr(begin_, at_ - begin_)), starts_alternative});
+  // Texts need both ends, and no wildcards but a star behind.
+  bool has_two_ends(std::size_t first) const {
+    return tokens_.size() == first + 3 && tokens_[first].operand.is_range_end() &&
+           tokens_.back().operand.is_range_end();
   }
 
-  std::size_t behind_blanks(std::size_t at) const {
-    return std::min(search_.find_first_not_of(u' ', at), search_.size());
+  void read_operand() {
+    const std::size_t start = at_;
+    Operand operand;
+    if (const std::size_t end = end_of_single_quoted()) {
+      ++at_;
+      // Only wildcards and double quotes keep their meaning, and these only in a pattern.
+      while (at_ < end - 1) pattern_ ? read_into(operand) : operand.add(search_[at_++], true);
+      at_ = end;
+    } else {
+      while (!ends_operand()) read_into(operand);
+      operand.trim();
+    }
+    const TextView text = trimmed(search_.substr(start, at_ - start));
+    skip_blanks();
+    if (!text.empty()) tokens_.push_back({.kind = TokenKind::Operand, .text = text, .operand = std::move(operand)});
   }
 
-  // Skips an operator or LIKE.
-  std::size_t operand_of(std::size_t atom) const {
-    const std::size_t at = behind_blanks(atom + operator_length(search_.substr(atom)));
-    const auto operand = like_operand(search_.substr(at));
-    return operand ? static_cast<std::size_t>(operand->data() - search_.data()) : at;
+  // A quoted part or one character.
+  void read_into(Operand& operand) {
+    if (rest().starts_with(u"...")) dots_ahead_ = false;
+    const std::size_t end = end_of_double_quoted();
+    if (end == 0) return operand.add(search_[at_++], false);
+    for (++at_; at_ < end - 1; ++at_) {
+      operand.add(search_[at_], true);
+      if (is_double_quote(search_[at_])) ++at_;  // skips the second of a doubled quote
+    }
+    at_ = end;
   }
 
-  bool starts_with_between(TextView text) const {
-    if (is_textual(type_) || type_ == SearchType::Logical) return false;
-    return std::ranges::any_of(between_words(), [&](TextView word) { return word_at(text, 0, word); });
-  }
-
-  bool skips_range_and(const Connector& connector) {
-    return connector.is_word && !connector.is_or && std::exchange(range_and_ahead_, false);
-  }
+  bool ends_operand() const { return at_ == search_.size() || dots_at(at_) > 0 || connector_at(at_).length > 0; }
 
   // The end of the quoted part that begins here; 0 for none.
-  std::size_t quoted_end() {
-    const char16_t unit = search_[at_];
-    if (is_double_quote(unit) && !open_ended_) {
-      const std::size_t end = end_of_double_quoted(search_, at_);
-      open_ended_ = end == TextView::npos;
-      return open_ended_ ? 0 : end;
-    }
-    return is_single_quote(unit) && at_ == operand_ ? end_of_single_quoted() : 0;
+  std::size_t end_of_double_quoted() {
+    if (open_ended_ || !is_double_quote(search_[at_])) return 0;
+    const std::size_t end = query::end_of_double_quoted(search_, at_);
+    open_ended_ = end == TextView::npos;
+    return open_ended_ ? 0 : end;
   }
 
-  // A closing single quote is one before a connector, before the ".." of a range or at the end: apostrophes inside are
-  // allowed.
-  std::size_t end_of_single_quoted() {
-    const TextView near = search_.substr(0, at_ + kLongestPiece);  // longer pieces are refused
+  // The same for an operand in single quotes. A closing one is one before a connector, before the ".." of a range or at
+  // the end: apostrophes inside are allowed.
+  std::size_t end_of_single_quoted() const {
+    if (at_ == search_.size() || !is_single_quote(search_[at_])) return 0;
+    const TextView near = search_.substr(0, at_ + kFarthest);
     for (std::size_t i = at_ + 1; i < near.size(); ++i) {
       if (is_double_quote(near[i])) {
-        const std::size_t end = end_of_double_quoted(near, i);
+        const std::size_t end = query::end_of_double_quoted(near, i);
         if (end != TextView::npos) i = end - 1;
       } else if (is_single_quote(near[i])) {
         const std::size_t next = behind_blanks(i + 1);
-        if (next == search_.size() || connector_at(next) || dots_at(next)) return i + 1;
+        if (next == search_.size() || dots_at(next) > 0 || connector_at(next).length > 0) return i + 1;
       }
     }
     return 0;
   }
 
-  std::optional<Connector> connector_at(std::size_t at) const {
-    const char16_t unit = search_[at];
-    if (unit == u';') return Connector{1, true};
-    if (unit == u'|' || unit == u'&') {
-      const bool apart = !is_textual(type_) ||
-                         (blank_before(at) && (blank_at(at + 1) || begins_atom(search_.substr(at + 1))));
-      return apart ? std::optional(Connector{1, unit == u'|'}) : std::nullopt;
+  // The length of the two points, or of the word in their place; 0 for none. Three points are text.
+  std::size_t dots_at(std::size_t at) const {
+    const TextView text = search_.substr(at);
+    if (range_ != nullptr && blank_before(at)) {
+      if (const std::size_t length = last_end_word(text, *range_)) return length;
     }
-    if (!blank_before(at) || at <= text_) return std::nullopt;
-    for (const auto& [words, is_or] : {std::pair(or_words(), true), std::pair(and_words(), false)}) {
-      for (const TextView word : words) {
-        if (!word_at(search_, at, word)) continue;
-        const TextView rest = search_.substr(at + word.size());
-        if (is_blank(rest) || (is_textual(type_) && !begins_atom(rest))) return std::nullopt;
-        return Connector{word.size(), is_or, true};
-      }
-    }
-    return std::nullopt;
+    return dots_ahead_ && text.starts_with(u"..") && !text.starts_with(u"...") ? 2 : 0;
   }
 
-  bool blank_at(std::size_t at) const { return at >= search_.size() || search_[at] == u' '; }
+  Connector connector_at(std::size_t at) const {
+    const char16_t unit = search_[at];
+    if (unit == u';') return {1, true};
+    if (unit == u'|' || unit == u'&') {
+      return !is_textual(type_) || sign_connects_texts(at) ? Connector{1, unit == u'|'} : Connector();
+    }
+    if (!blank_before(at) || at <= term_) return {};
+    const TextView text = search_.substr(at);
+    const std::size_t either = or_word(text), length = either > 0 ? either : and_word(text);
+    if (length == 0 || is_blank(text.substr(length))) return {};
+    return !is_textual(type_) || begins_test(text.substr(length)) ? Connector{length, either > 0} : Connector();
+  }
+
+  // Not at the end of a text, where it is punctuation.
+  bool sign_connects_texts(std::size_t at) const {
+    if (!blank_before(at)) return false;
+    const std::size_t next = behind_blanks(at + 1);
+    if (next == search_.size() || TextView(u";&|").find(search_[next]) != TextView::npos) return false;
+    return next > at + 1 || begins_test(search_.substr(next));
+  }
+
   bool blank_before(std::size_t at) const { return at > 0 && search_[at - 1] == u' '; }
+  TextView rest() const { return search_.substr(at_); }
+  void skip_blanks() { at_ = behind_blanks(at_); }
+  std::size_t behind_blanks(std::size_t at) const {
+    return std::min(search_.find_first_not_of(u' ', at), search_.size());
+  }
+  void add(Token token, std::size_t length) {
+    tokens_.push_back(std::move(token));
+    at_ = behind_blanks(at_ + length);
+  }
 
   TextView search_;
   SearchType type_;
-  std::vector<SearchPiece> pieces_;
-  std::size_t at_ = 0, begin_ = 0, operand_ = 0;
-  std::size_t text_ = 0;          // start of the piece, without leading blanks
-  bool open_ended_ = false;       // there was an unclosed double quote
-  bool range_and_ahead_ = false;  // the next "and" belongs to a range
-  bool dots_ahead_ = false;       // and so does the next ".."
+  std::vector<Token> tokens_;
+  std::size_t at_ = 0;
+  std::size_t term_ = 0;               // where the term began
+  const RangeWords* range_ = nullptr;  // whose last end is still to come
+  bool dots_ahead_ = false;            // two points here would join the ends of a range
+  bool pattern_ = false;               // the operand is one of LIKE
+  bool open_ended_ = false;            // there was an unclosed double quote
 };
 
 }  // namespace
 
-std::vector<SearchPiece> split_search(TextView search, SearchType type) { return Splitter(search, type).pieces(); }
-
-std::size_t operator_length(TextView text) {
-  for (const TextView two : {u">=", u"<=", u"<>", u"!="}) {
-    if (text.starts_with(two)) return 2;
-  }
-  return text.starts_with(u'=') || text.starts_with(u'>') || text.starts_with(u'<') ? 1 : 0;
+Text normalised_search(TextView typed) {
+  Text text(typed);
+  std::ranges::replace_if(text, is_blank_like, u' ');
+  return Text(trimmed(text));
 }
 
-std::size_t negation_length(TextView text, SearchType type) {
-  if (text.starts_with(u'!')) return operator_length(text) == 0 ? 1 : 0;
-  if (is_textual(type)) return 0;
-  for (const TextView word : not_words()) {
-    if (word_at(text, 0, word) && text.size() > word.size() && text[word.size()] == u' ') return word.size();
-  }
-  return 0;
-}
+std::vector<Token> tokens_of(TextView search, SearchType type) { return Lexer(search, type).tokens(); }
 
-std::optional<TextView> like_operand(TextView text) {
-  constexpr TextView kLike = u"LIKE";
-  std::size_t length = like_phrase(text);
-  const bool capitals = text.starts_with(kLike);
-  if (length == 0 && starts_with_no_case(text, kLike)) {
-    const bool ends = text.size() == kLike.size() || text[kLike.size()] == u' ' ||
-                      is_single_quote(text[kLike.size()]) || is_double_quote(text[kLike.size()]);
-    length = ends ? kLike.size() : 0;
-  }
-  if (length == 0) return std::nullopt;
-  const TextView operand = without_leading_blanks(text.substr(length));
-  if (operand.empty() || operand[0] == u';') return std::nullopt;
-  if (capitals) return operand;
-  const bool quoted = is_single_quote(operand[0]) || is_double_quote(operand[0]);
-  const TextView near = operand.substr(0, kFarthest);
+FoundPhrase like_operator(TextView text) {
+  const FoundPhrase phrase = like_phrase(text);
+  if (phrase.length == 0) return {};
+  const std::size_t operand = text.find_first_not_of(u' ', phrase.length);
+  if (operand == TextView::npos || text[operand] == u';') return {};
+  const TextView typed = text.substr(0, phrase.length);
+  if (typed == u"LIKE" || (typed.starts_with(u"NOT ") && typed.ends_with(u" LIKE"))) return phrase;
+  const bool quoted = is_single_quote(text[operand]) || is_double_quote(text[operand]);
+  const TextView near = text.substr(operand, kFarthest);
   const bool wild = near.substr(0, near.find(u';')).find_first_of(u"*?") != TextView::npos;
-  return quoted || wild ? std::optional(operand) : std::nullopt;
+  return quoted || wild ? phrase : FoundPhrase();
 }
 
 }  // namespace qvr::query

@@ -1,30 +1,36 @@
-// Splits a search at its connectors.
+// Takes a search apart: connectors, negations, operators, ranges and the values between them.
 #pragma once
 
 #include <vector>
 
 #include "query/search/keywords.h"
+#include "query/search/operand.h"
 
 namespace qvr::query {
 
-// The trimmed text between two connectors; `starts_alternative` for the first piece and behind an "or".
-struct SearchPiece {
-  TextView text;
-  bool starts_alternative;
+enum class TokenKind { Or, And, Not, Comparison, Like, From, Dots, Operand };
+
+// Between two connectors at most one of each other kind but Operand, in the order of the kinds; an operand may stand
+// on both sides of Dots.
+struct Token {
+  TokenKind kind;
+  Comparison comparison = {};  // of Comparison
+  bool negated = false;        // Like: "not like"
+  bool open = false;           // From: the range may do without a last end
+  TextView text = {};          // Operand: as typed, without blanks around it; never empty
+  Operand operand = {};        // Operand: the text without its quotes
 };
 
-// Quoted parts are never split. In text columns a word is a connector only before an operator, and "&" and "|" need
-// blanks around them.
-std::vector<SearchPiece> split_search(TextView search, SearchType type);
+// Replaces control characters and no-break spaces by blanks, and trims.
+Text normalised_search(TextView typed);
 
-// The length of the comparison operator at the beginning of the text; 0 for none.
-std::size_t operator_length(TextView text);
+// Of a normalised search, which the tokens refer to. Quoted parts are never taken apart. In text columns a word
+// connects only before an operator, "&" and "|" need blanks around them, and two points join only what can be the ends
+// of a range.
+std::vector<Token> tokens_of(TextView search, SearchType type);
 
-// The length of the negation ("!", or a word where words are operators) at the beginning of the text; 0 for none.
-std::size_t negation_length(TextView text, SearchType type);
-
-// The operand of the LIKE at the beginning of the text; nothing when there is none. "LIKE" in capitals always counts,
-// in lower case and as a phrase only before a quote or a wildcard.
-std::optional<TextView> like_operand(TextView text);
+// The operator LIKE, as a word or phrase, at the beginning of the text, with the blanks behind it. "LIKE" in capitals
+// always counts, all others only before a quote or a wildcard.
+FoundPhrase like_operator(TextView text);
 
 }  // namespace qvr::query

@@ -65,8 +65,8 @@ TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
   expect_none(kPrecio, Text(29, u'1'));
   const Text blanks(1000, u' '), fewer(900, u' ');
   expect(kPrecio, Engine::Jet,
-         {{join({u"1", fewer, u"2..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
-          {join({u"1", blanks, u"2..15"}), u""}});
+         {{join({u"-", fewer, u"2..15"}), u"P.Precio>=-2 And P.Precio<= 15", u"Precio >= -2 y <= 15"},
+          {join({u"-", blanks, u"2..15"}), u""}});
   expect(kAlta, Engine::Jet,
          {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
            u"Alta >= 04/01/2011 y <= 05/01/2011"},

@@ -1,0 +1,172 @@
+#include "query/search/dates.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+#include "base/date_text.h"
+#include "dialect/literals.h"
+#include "query/search/date_words.h"
+#include "session/thread_state.h"
+
+namespace qvr::query {
+namespace {
+
+constexpr std::int32_t kSecondsPerDay = 86400;
+constexpr Moment kCalendarEnd{2958466, 0};  // the first day behind 31 December 9999
+
+Locale& locale() { return thread_state().platform().locale; }
+
+int number_in(TextView digits) {
+  int number = 0;
+  for (const char16_t unit : digits) number = number * 10 + (unit - u'0');
+  return number;
+}
+
+// The first day of a month; month 13 is the next year's first one.
+std::optional<Moment> start_of(int year, int month) {
+  if (month == 13) return start_of(year + 1, 1);
+  if (year == 10000 && month == 1) return kCalendarEnd;
+  const auto date = date_from({year, month, 1});
+  return date ? std::optional(Moment{static_cast<std::int32_t>(date->days), 0}) : std::nullopt;
+}
+
+std::optional<Period> months(int year, int first, int last) {
+  const auto from = start_of(year, first), to = start_of(year, last + 1);
+  return from && to ? std::optional(Period{*from, *to, true}) : std::nullopt;
+}
+
+bool is_date_mark(char16_t unit) { return unit == u'/' || unit == u'-' || unit == u'.'; }
+
+// "2011", "02/2011", "2011-02".
+std::optional<Period> year_or_month(TextView typed) {
+  if (typed.size() == 4 && all_digits(typed)) return months(number_in(typed), 1, 12);
+  const auto mark = std::ranges::find_if(typed, is_date_mark);
+  if (mark == typed.end()) return std::nullopt;
+  const auto at = static_cast<std::size_t>(mark - typed.begin());
+  TextView first = typed.substr(0, at), second = typed.substr(at + 1);
+  if (first.size() == 4) std::swap(first, second);
+  if (!all_digits(first) || !all_digits(second) || first.size() > 2 || second.size() != 4) return std::nullopt;
+  const int month = number_in(first);
+  return month >= 1 && month <= 12 ? months(number_in(second), month, month) : std::nullopt;
+}
+
+// ISO 8601, in every locale.
+std::optional<Date> iso_date(TextView typed) {
+  if (typed.size() != 10 || typed[4] != u'-' || typed[7] != u'-') return std::nullopt;
+  const TextView year = typed.substr(0, 4), month = typed.substr(5, 2), day = typed.substr(8);
+  if (!all_digits(year) || !all_digits(month) || !all_digits(day)) return std::nullopt;
+  return date_from({number_in(year), number_in(month), number_in(day)});
+}
+
+// "5.1.2011", which some locales would take for a time of day.
+bool is_day_with_points(TextView typed) {
+  const auto parts = split(typed, u".");
+  return parts.size() == 3 && std::ranges::all_of(parts, all_digits) && parts[2].size() == 4;
+}
+
+// A date without a time; nothing for what the locale reads as a time of day, whose day is 30/12/1899.
+std::optional<std::int32_t> day_in(TextView typed) {
+  if (typed.find(u':') != TextView::npos) return std::nullopt;
+  auto date = iso_date(typed);
+  if (!date) date = locale().parse_date(is_day_with_points(typed) ? replace_all(typed, u".", u"/") : Text(typed));
+  if (!date || !has_calendar_time(*date) || date->days != std::trunc(date->days)) return std::nullopt;
+  if (date->days == 0 && typed.find(u"1899") == TextView::npos) return std::nullopt;
+  return static_cast<std::int32_t>(date->days);
+}
+
+std::optional<Period> whole_day(TextView typed, std::int32_t today) {
+  if (is_form_in_words(typed)) return period_in_words(typed, today);
+  const auto day = day_in(typed);
+  return day ? std::optional(Period{{*day, 0}, {*day + 1, 0}, true}) : std::nullopt;
+}
+
+struct TimeOfDay {
+  std::int32_t second, length;
+};
+
+// "14:07", "14:07:09".
+std::optional<std::int32_t> second_in(std::span<const TextView> parts) {
+  const bool digits = std::ranges::all_of(parts, [](TextView part) { return all_digits(part) && part.size() <= 2; });
+  if (!digits || parts.size() > 3) return std::nullopt;
+  const int hour = number_in(parts[0]), minute = number_in(parts[1]),
+            second = parts.size() == 3 ? number_in(parts[2]) : 0;
+  if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
+  return hour * 3600 + minute * 60 + second;
+}
+
+// Also as the locale writes it: "2:07 PM".
+std::optional<TimeOfDay> time_in(TextView typed) {
+  const auto parts = split(typed, u":");
+  if (parts.size() < 2) return std::nullopt;
+  const std::int32_t length = parts.size() == 3 ? 1 : 60;
+  if (const auto second = second_in(parts)) return TimeOfDay{*second, length};
+  const auto time = locale().parse_date(typed);
+  if (!time || time->days < 0 || time->days >= 1) return std::nullopt;
+  return TimeOfDay{static_cast<std::int32_t>(std::lround(time->days * kSecondsPerDay)), length};
+}
+
+Moment after(Moment moment, std::int32_t seconds) {
+  const std::int32_t end = moment.second + seconds;
+  return end < kSecondsPerDay ? Moment{moment.day, end} : Moment{moment.day + 1, end - kSecondsPerDay};
+}
+
+// A day, and a time behind it.
+std::optional<Period> time_of_day(TextView typed, std::int32_t today) {
+  const std::size_t gap = typed.find_last_of(u" T", typed.find(u':'));
+  if (gap == TextView::npos) return std::nullopt;
+  const auto time = time_in(trimmed(typed.substr(gap + 1)));
+  const auto day = time ? whole_day(trimmed(typed.substr(0, gap)), today) : std::nullopt;
+  if (!day || !is_one_unit(*day)) return std::nullopt;
+  const Moment from{day->from.day, time->second};
+  return Period{from, after(from, time->length), false, time->length == 1};
+}
+
+bool is_in_calendar(const Period& period) {
+  return has_calendar_time(date_of(period.from)) && period.to <= kCalendarEnd;
+}
+
+}  // namespace
+
+std::optional<Period> period_in(TextView typed, std::int32_t today) {
+  auto period = year_or_month(typed);
+  if (!period) period = typed.find(u':') == TextView::npos ? whole_day(typed, today) : time_of_day(typed, today);
+  return period && is_in_calendar(*period) ? period : std::nullopt;
+}
+
+Moment first_moment(Engine engine) { return {static_cast<std::int32_t>(dialect::first_date(engine).days), 0}; }
+
+Period within(Engine engine, const Period& period) {
+  const Moment first = first_moment(engine);
+  if (period.to <= first) return {first, first, true};
+  return {std::max(period.from, first), period.to, period.whole_days, period.with_seconds};
+}
+
+bool is_empty(const Period& period) { return period.from == period.to; }
+bool is_endless(const Period& period) { return period.to == kCalendarEnd; }
+bool is_one_unit(const Period& period) { return !period.whole_days || period.to.day == period.from.day + 1; }
+
+Period first_unit(const Period& period) {
+  return period.whole_days ? Period{period.from, {period.from.day + 1, 0}, true} : period;
+}
+
+Period last_unit(const Period& period) {
+  return period.whole_days ? Period{{period.to.day - 1, 0}, period.to, true} : period;
+}
+
+// The locale's short date, unless reading it back gives another day (two-digit years).
+Text shown_unit(const Period& unit) {
+  const Date day{static_cast<double>(unit.from.day)};
+  Text text = locale().date_text(day);
+  const auto read = day_in(text);
+  if (!read || *read != unit.from.day || year_or_month(text)) text = formatted_date(day, u"yyyy-mm-dd");
+  if (unit.whole_days) return text;
+  return join({text, u" ", formatted_date(date_of(unit.from), unit.with_seconds ? u"hh:nn:ss" : u"hh:nn")});
+}
+
+Date date_of(const Moment& moment) {
+  const double fraction = static_cast<double>(moment.second) / kSecondsPerDay;
+  return Date{moment.day < 0 ? moment.day - fraction : moment.day + fraction};
+}
+
+}  // namespace qvr::query

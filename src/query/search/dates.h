@@ -1,0 +1,42 @@
+// Dates as users type them, by the locale: a year, a month, a day or a time of a day is a period.
+#pragma once
+
+#include <optional>
+
+#include "base/engine.h"
+#include "base/value.h"
+
+namespace qvr::query {
+
+// A point in time to the second; days as in Date.
+struct Moment {
+  std::int32_t day = 0, second = 0;
+  auto operator<=>(const Moment&) const = default;
+};
+
+// A year, a month, a day, a minute or a second: the half-open interval from `from` to `to`.
+struct Period {
+  Moment from, to;
+  bool whole_days;
+  bool with_seconds = false;
+};
+
+// In words or figures; nothing for what is no period. `today` counts days as Date does. The last periods of the
+// calendar end on the first day behind it.
+std::optional<Period> period_in(TextView typed, std::int32_t today);
+
+// The part of the period that literals of the engine can hold.
+Period within(Engine engine, const Period& period);
+Moment first_moment(Engine engine);  // that literals of the engine can hold
+bool is_empty(const Period& period);
+bool is_endless(const Period& period);   // it has no end within the calendar
+bool is_one_unit(const Period& period);  // a day, a minute or a second
+Period first_unit(const Period& period);
+Period last_unit(const Period& period);
+
+// The beginning of a unit, so that it can be typed again.
+Text shown_unit(const Period& unit);
+
+Date date_of(const Moment& moment);
+
+}  // namespace qvr::query
