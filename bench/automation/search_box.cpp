@@ -9,7 +9,7 @@ namespace {
 
 using namespace qvr::tests;
 
-constexpr const wchar_t* kDateInWords = L"hoy";
+constexpr const wchar_t* kDateInWords = L"este mes";
 constexpr int kCalls = 1000, kRounds = 15;
 
 struct Search {

@@ -30,6 +30,12 @@ std::optional<std::vector<int>> numbers(TextView text, char16_t separator, std::
 }  // namespace
 
 std::optional<Date> FakeLocale::parse_date(TextView text) {
+  const bool afternoon = text.ends_with(u" PM");
+  if (twelve_hours && (afternoon || text.ends_with(u" AM"))) {
+    const auto clock = numbers(text.substr(0, text.size() - 3), u':', 2);
+    if (!clock || (*clock)[0] < 1 || (*clock)[0] > 12) return std::nullopt;
+    return date_from({1899, 12, 30, (*clock)[0] % 12 + (afternoon ? 12 : 0), (*clock)[1], 0});
+  }
   const std::size_t blank = text.find(u' ');
   Text day(text.substr(0, blank));
   std::ranges::replace(day, date_separator, u'/');

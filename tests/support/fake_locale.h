@@ -7,7 +7,8 @@ namespace qvr::tests {
 
 class FakeLocale final : public Locale {
  public:
-  // Three numbers in this locale's order, "/" or its own separator between them, and perhaps "hh:mm:ss" behind a blank.
+  // Three numbers in this locale's order, "/" or its own separator between them, and perhaps "hh:mm:ss" behind a blank;
+  // with twelve hours also "h:mm PM" alone.
   std::optional<Date> parse_date(TextView text) override;
   std::optional<double> parse_number(TextView text) override;  // the whole text, without thousands separators
   Text date_text(Date date) override;
@@ -19,6 +20,7 @@ class FakeLocale final : public Locale {
   Text currency = u"\u20ac";
   char16_t date_separator = u'/';
   bool day_first = true;
+  bool twelve_hours = false;
 };
 
 }  // namespace qvr::tests

@@ -66,72 +66,61 @@ class ConditionWriter {
         like_only_(type == SearchType::Memo && engine != Engine::Jet) {}
 
   Text atom(const Atom& atom) const {
-    if (!atom.negated) return joined(atom.tests, u" And ", [this](const Test& test) { return positive(test); });
+    const auto written = [&](const Test& test) {
+      return std::visit([&](const auto& held) { return this->written(held, atom.negated); }, test);
+    };
+    if (!atom.negated) return joined(atom.tests, u" And ", written);
     const Test& first = atom.tests.front();
-    if (std::holds_alternative<IsNull>(first)) return join({u"Not (", is_null(), u")"});
-    if (std::holds_alternative<IsEmpty>(first)) return join({u"Not (", empty_or_null(), u")"});
-    return or_null(joined(atom.tests, u" Or ", [this](const Test& test) { return negative(test); }));
+    const bool of_null = std::holds_alternative<IsNull>(first) || std::holds_alternative<IsEmpty>(first);
+    return of_null ? written(first) : or_null(joined(atom.tests, u" Or ", written));
   }
 
   // "(... Or X Is Null)"
   Text or_null(TextView condition) const { return join({u"(", condition, u" Or ", is_null(), u")"}); }
 
  private:
-  Text positive(const Test& test) const {
-    return std::visit([this](const auto& held) { return written(held); }, test);
+  // Each test or its opposite, which does not select null.
+
+  Text written(const IsNull&, bool negated) const { return in_not(negated, is_null()); }
+
+  // Oracle stores the empty text as null.
+  Text written(const IsEmpty&, bool negated) const {
+    if (engine_ == Engine::Oracle) return in_not(negated, is_null());
+    const Text empty = join({expression_, like_only_ ? u" LIKE " : u"=", literal(u"")});
+    return in_not(negated, join({empty, u" Or ", is_null()}));
   }
-  // The opposite, which does not select null.
-  Text negative(const Test& test) const {
-    return std::visit([this](const auto& held) { return opposite_of(held); }, test);
+
+  Text written(const IsTrue& test, bool negated) const {
+    return test.truth != negated ? dialect::sqlEsTrue(expression_) : dialect::sqlEsFalse(expression_);
   }
 
-  Text written(const IsNull&) const { return join({u"(", is_null(), u")"}); }
-  Text opposite_of(const IsNull&) const { return join({u"Not (", is_null(), u")"}); }
+  Text written(const Like& test, bool negated) const { return like(test.pattern, negated); }
 
-  Text written(const IsEmpty&) const { return join({u"(", empty_or_null(), u")"}); }
-  Text opposite_of(const IsEmpty&) const { return join({u"Not (", empty_or_null(), u")"}); }
-
-  Text written(const IsTrue& test) const {
-    return test.truth ? dialect::sqlEsTrue(expression_) : dialect::sqlEsFalse(expression_);
-  }
-  Text opposite_of(const IsTrue& test) const { return written(IsTrue{!test.truth}); }
-
-  Text written(const Like& test) const { return like(test.pattern, u" LIKE "); }
-  Text opposite_of(const Like& test) const { return like(test.pattern, u" NOT LIKE "); }
-
-  Text written(const CompareText& test) const {
-    if (like_only_) return like(Operand::literal(test.operand.text()), u" LIKE ");
-    const Text compared = compared_text(test.comparison, test);
+  Text written(const CompareText& test, bool negated) const {
+    const TextView value = test.operand.text();
+    if (like_only_) return like(Operand::literal(value), negated);
+    const Comparison comparison = negated ? opposite(test.comparison) : test.comparison;
+    const Text compared = join({subject(), sign_of(comparison), in_upper(literal(value))});
     if (!test.with_all_that_begins) return compared;
-    Operand begins = Operand::literal(test.operand.text());
+    Operand begins = Operand::literal(value);
     begins.append_wildcard(u'*');
-    return test.comparison == Comparison::LessOrEqual ? join({u"(", compared, u" Or ", like(begins, u" LIKE "), u")"})
-                                                      : join({compared, u" And ", like(begins, u" NOT LIKE ")});
-  }
-  Text opposite_of(const CompareText& test) const {
-    if (like_only_) return like(Operand::literal(test.operand.text()), u" NOT LIKE ");
-    if (test.comparison == Comparison::Equal) return compared_text(Comparison::Different, test);
-    return written(CompareText{opposite(test.comparison), test.operand, test.with_all_that_begins});
-  }
-  Text compared_text(Comparison comparison, const CompareText& test) const {
-    return join({subject(), sign_of(comparison), in_upper(literal(test.operand.text()))});
+    return comparison == Comparison::LessOrEqual ? join({u"(", compared, u" Or ", like(begins, false), u")"})
+                                                 : join({compared, u" And ", like(begins, true)});
   }
 
-  Text written(const CompareNumber& test) const { return compared_number(test.comparison, test.digits); }
-  Text opposite_of(const CompareNumber& test) const { return compared_number(opposite(test.comparison), test.digits); }
-  Text compared_number(Comparison comparison, TextView digits) const {
-    return join({expression_, sign_of(comparison), digits.starts_with(u'-') ? u"" : u" ", digits});
+  Text written(const CompareNumber& test, bool negated) const {
+    const TextView blank = test.digits.starts_with(u'-') ? u"" : u" ";
+    return join({expression_, sign_of(negated ? opposite(test.comparison) : test.comparison), blank, test.digits});
   }
 
-  Text written(const CompareDate& test) const { return compared_period(test.comparison, test.period); }
-  Text opposite_of(const CompareDate& test) const { return compared_period(opposite(test.comparison), test.period); }
-  Text compared_period(Comparison comparison, const Period& period) const {
+  Text written(const CompareDate& test, bool negated) const {
+    const Period& period = test.period;
     const auto beside = [&](TextView sign, const Moment& moment) {
       const Date date = date_of(moment);
       return join({expression_, sign,
                    period.whole_days ? dialect::FechaSQL(engine_, date) : dialect::FechaHoraSQL(engine_, date)});
     };
-    switch (comparison) {
+    switch (negated ? opposite(test.comparison) : test.comparison) {
       case Comparison::Equal: return join({beside(u">=", period.from), u" And ", beside(u"<", period.to)});
       case Comparison::Different: return join({beside(u"<", period.from), u" Or ", beside(u">=", period.to)});
       case Comparison::Less: return beside(u"<", period.from);
@@ -142,11 +131,7 @@ class ConditionWriter {
   }
 
   Text is_null() const { return join({expression_, u" Is Null"}); }
-  // Oracle stores the empty text as null.
-  Text empty_or_null() const {
-    if (engine_ == Engine::Oracle) return is_null();
-    return join({expression_, like_only_ ? u" LIKE " : u"=", literal(u""), u" Or ", is_null()});
-  }
+  static Text in_not(bool negated, TextView condition) { return join({negated ? u"Not (" : u"(", condition, u")"}); }
 
   Text literal(TextView text) const {
     return join({engine_ == Engine::SqlServer ? u"N" : u"", dialect::ComillasSQL(text)});
@@ -154,9 +139,9 @@ class ConditionWriter {
   Text subject() const { return upper_ ? join({u" UPPER(", expression_, u")"}) : Text(expression_); }
   Text in_upper(Text operand) const { return upper_ ? join({u"UPPER(", operand, u")"}) : std::move(operand); }
 
-  Text like(const Operand& pattern, TextView sign) const {
+  Text like(const Operand& pattern, bool negated) const {
     const PatternText written = pattern_text(engine_, pattern);
-    return join({subject(), sign, in_upper(written.literal), written.escape});
+    return join({subject(), negated ? u" NOT LIKE " : u" LIKE ", in_upper(written.literal), written.escape});
   }
 
   Engine engine_;

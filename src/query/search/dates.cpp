@@ -67,7 +67,7 @@ bool is_day_with_points(TextView typed) {
 
 // A date without a time; nothing for what the locale reads as a time of day, whose day is 30/12/1899.
 std::optional<std::int32_t> day_in(TextView typed) {
-  if (typed.find(u':') != TextView::npos) return std::nullopt;
+  if (typed.find(u':') != TextView::npos || all_digits(typed)) return std::nullopt;
   auto date = iso_date(typed);
   if (!date) date = locale().parse_date(is_day_with_points(typed) ? replace_all(typed, u".", u"/") : Text(typed));
   if (!date || !has_calendar_time(*date) || date->days != std::trunc(date->days)) return std::nullopt;

@@ -79,6 +79,22 @@ TEST_P(SearchLocales, ReadTheirOwnDates) {
   EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"2011-02-13"), condition + typed);
 }
 
+// Only where the locale has the two halves of a day.
+TEST_P(SearchLocales, ReadTheirOwnTimes) {
+  const auto found = [] { return interpreted(kAlta, Engine::Jet, u"2011-02-13 2:07 PM").substr(0, 62); };
+  EXPECT_EQ(found(), u"no search");
+  thread.locale.twelve_hours = true;
+  EXPECT_EQ(found(), u"C.Alta>=#2011-02-13 14:07:00# And C.Alta<#2011-02-13 14:08:00#");
+  for (const TextView alone : {u"2:07 PM", u"12:00 AM", u"14:07"}) {
+    EXPECT_EQ(interpreted(kAlta, Engine::Jet, alone), u"no search");
+  }
+}
+
+TEST_P(SearchLocales, ReadDaysWithPointsInTheirOwnOrder) {
+  const TextView day = GetParam().day_first ? u"2011-01-05" : u"2011-05-01";
+  EXPECT_EQ(interpreted(kAlta, Engine::Jet, u"5.1.2011"), interpreted(kAlta, Engine::Jet, day));
+}
+
 INSTANTIATE_TEST_SUITE_P(, SearchLocales, ::testing::ValuesIn(kHomes), row_name);
 
 }  // namespace
