@@ -33,6 +33,8 @@ void fuzz(FuzzInput& input) {
   require(fuzz_thread().take_boxes().empty(), "nothing is shown", {typed});
   if (!found) return;
   require(is_condition(engine, found->condition), "tests of the column only", {typed, found->condition});
+  require(joints(engine, found->condition) <= kMostJoints && found->condition.size() <= kMostCharacters,
+          "engines take it", {typed, found->condition});
   for (const Cell& cell : cells_for(type, typed)) {
     require(selects(engine, found->condition, cell).has_value(), "it can be run", {typed, found->condition});
   }

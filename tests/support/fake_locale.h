@@ -21,6 +21,7 @@ class FakeLocale final : public Locale {
   char16_t date_separator = u'/';
   bool day_first = true;
   bool twelve_hours = false;
+  std::optional<Date> every_text;  // the date that any text is read as
 };
 
 }  // namespace qvr::tests

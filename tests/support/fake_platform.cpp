@@ -25,6 +25,13 @@ std::uint16_t FakeSystem::user_language() {
   return language;
 }
 
+Date FakeSystem::now() {
+  ++clock_readings;
+  const Date told = moment;
+  moment.days += days_per_reading;
+  return told;
+}
+
 FakeMessageBoxes::~FakeMessageBoxes() { EXPECT_TRUE(answers_.empty()) << answers_.size() << " boxes did not appear"; }
 
 BoxAnswer FakeMessageBoxes::show(TextView text, BoxButtons buttons) {

@@ -40,7 +40,7 @@ class FakeSystem final : public System {
   explicit FakeSystem(CallLog& log) : log_(log) {}
   Text setting(TextView application, TextView section, TextView key, TextView fallback) override;
   std::uint16_t user_language() override;
-  Date now() override { return moment; }
+  Date now() override;
   void process_events() override;
   Text module_path() override { return u"C:\\Library\\QVRlib21.dll"; }
 
@@ -55,7 +55,9 @@ class FakeSystem final : public System {
   int language_reads = 0;
   bool language_fails = false;
 
-  Date moment{40548.5};  // noon of 5 January 2011
+  Date moment{40548.5};         // noon of 5 January 2011
+  double days_per_reading = 0;  // a clock that goes on while it is looked at
+  int clock_readings = 0;
 
   std::function<void()> on_events;
 

@@ -1,5 +1,6 @@
 #include "query/search/condition_evaluator.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 
@@ -174,5 +175,12 @@ std::optional<bool> selects(Engine engine, TextView condition, const Cell& cell)
 }
 
 bool is_condition(Engine engine, TextView condition) { return selects(engine, condition, Cell()).has_value(); }
+
+std::size_t joints(Engine engine, TextView condition) {
+  const Tokens tokens = tokens_of(engine, condition);
+  return static_cast<std::size_t>(std::ranges::count_if(tokens, [](const Token& token) {
+    return token.kind == TokenKind::Word && (token.content == u"And" || token.content == u"Or");
+  }));
+}
 
 }  // namespace qvr::tests

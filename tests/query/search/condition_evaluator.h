@@ -24,4 +24,8 @@ std::optional<bool> selects(Engine engine, TextView condition, const Cell& cell)
 // Whether it is nothing but tests of X against literals, joined and parenthesised.
 bool is_condition(Engine engine, TextView condition);
 
+// How many And and Or join its tests, and the most that an engine is sure to take; likewise its characters.
+std::size_t joints(Engine engine, TextView condition);
+inline constexpr std::size_t kMostJoints = 90, kMostCharacters = 30000;
+
 }  // namespace qvr::tests

@@ -1,5 +1,6 @@
 // Limits of the length of searches, and linear run time.
 #include "base/utf8.h"
+#include "query/search/condition_evaluator.h"
 #include "query/search/search_fixture.h"
 #include "support/rows.h"
 
@@ -65,8 +66,8 @@ TEST_F(SearchLengths, NumbersAndDatesAreNoLongerEither) {
   expect_none(kPrecio, Text(29, u'1'));
   const Text blanks(1000, u' '), fewer(900, u' ');
   expect(kPrecio, Engine::Jet,
-         {{join({u"-", fewer, u"2..15"}), u"P.Precio>=-2 And P.Precio<= 15", u"Precio >= -2 y <= 15"},
-          {join({u"-", blanks, u"2..15"}), u""}});
+         {{join({u"\u20ac", fewer, u"12..15"}), u"P.Precio>= 12 And P.Precio<= 15", u"Precio >= 12 y <= 15"},
+          {join({u"\u20ac", blanks, u"12..15"}), u""}});
   expect(kAlta, Engine::Jet,
          {{join({u"hoy", fewer, u"-1..hoy"}), u"C.Alta>=#2011-01-04# And C.Alta<#2011-01-06#",
            u"Alta >= 04/01/2011 y <= 05/01/2011"},
@@ -91,6 +92,83 @@ TEST_F(SearchLengths, PiecesMayHoldTwoOperandsOrDoubledQuotes) {
   }
   expect_search(join({u"=\"", quotes, quotes, u"\"\"\""}));
   expect_none(kNombre, join({u"=\"", quotes, quotes, u"\"\"\"\"\""}));
+}
+
+// What engines are sure to take, counted to the last.
+class ConditionSize : public SearchLengths {
+ protected:
+  // So many pieces, "#" in each of them standing for its number.
+  static Text pieces(TextView piece, TextView joint, int count) {
+    Text all;
+    for (int i = 1; i <= count; ++i) all += join({i == 1 ? TextView() : joint, replace_all(piece, u"#", decimal(i))});
+    return all;
+  }
+  static void expect_at_most(int count, const query::SearchColumn& column, TextView piece, TextView joint) {
+    for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+      const Text most = pieces(piece, joint, count), more = pieces(piece, joint, count + 1);
+      const auto found = query::interpret_search(engine, column, most, u"X");
+      ASSERT_TRUE(found) << to_utf8(most);
+      EXPECT_LE(joints(engine, found->condition), kMostJoints);
+      const auto again = query::interpret_search(engine, column, TextView(found->criterion).substr(2), u"X");
+      ASSERT_TRUE(again) << to_utf8(found->criterion);
+      EXPECT_EQ(again->condition, found->condition);
+      EXPECT_EQ(interpreted(column, engine, more), u"no search") << to_utf8(more);
+    }
+  }
+};
+
+TEST_F(ConditionSize, IsAtMostNinetyJoints) {
+  expect_at_most(91, kPrecio, u">=#", u"; ");
+  expect_at_most(91, kPrecio, u">=#", u" y ");
+  expect_at_most(45, kPrecio, u"<>#", u" y ");     // each with "Or ... Is Null"
+  expect_at_most(45, kPrecio, u"#..1000", u"; ");  // each with two ends
+  expect_at_most(45, kPrecio, u"<>#", u" o ");
+  expect_at_most(30, kPrecio, u"no entre # y 1000", u" y ");  // each with two ends and null
+  expect_at_most(30, kAlta, u"<> hoy-#..hoy", u" & ");
+  expect_at_most(30, kAlta, u"no hoy-#", u" o ");
+  expect_at_most(45, kAlta, u"hoy+#", u"; ");
+  expect_at_most(91, kNombre, u"a#", u" ");
+  expect_at_most(91, kNombre, u"a#", u"; ");
+  expect_at_most(45, kNombre, u"<>a#", u" & ");
+  expect_at_most(45, kNombre, u"!a#", u"; ");
+}
+
+TEST_F(ConditionSize, HoldsNinetyOneNumbers) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+    const auto found = query::interpret_search(engine, kPrecio, pieces(u"#", u"; ", 91), u"X");
+    ASSERT_TRUE(found);
+    EXPECT_LE(joints(engine, found->condition), kMostJoints);
+  }
+}
+
+// Of each part of what is joined, not of what may be there by another name.
+TEST_F(ConditionSize, DoesNotCountWordsThatAreSearched) {
+  EXPECT_NE(interpreted(kNombre, Engine::Jet, join({u"\"", pieces(u"And Or", u" ", 100), u"\""})), u"no search");
+}
+
+TEST_F(ConditionSize, IsAtMostThirtyThousandCharacters) {
+  for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
+    const auto search_of = [](std::size_t last) {  // alternatives of 900 characters, and one of so many
+      Text all;
+      for (int i = 0; i < 29; ++i) all += Text(900, u'a') + u";";
+      return all + Text(last, u'b');
+    };
+    const auto shorter = query::interpret_search(engine, kNombre, search_of(1), u"X");
+    ASSERT_TRUE(shorter);
+    Text typed = search_of(1);
+    std::size_t missing = kMostCharacters - shorter->condition.size();
+    for (; missing > 450; missing -= 450) {
+      const auto longer = query::interpret_search(engine, kNombre, typed + u";" + Text(100, u'c'), u"X");
+      ASSERT_TRUE(longer);
+      const std::size_t one_more = longer->condition.size() - (kMostCharacters - missing) - 100;
+      typed += u";" + Text(450 - one_more, u'c');
+    }
+    typed += Text(missing, u'd');
+    const auto longest = query::interpret_search(engine, kNombre, typed, u"X");
+    ASSERT_TRUE(longest);
+    EXPECT_EQ(longest->condition.size(), kMostCharacters);
+    EXPECT_EQ(interpreted(kNombre, engine, typed + u"d"), u"no search");
+  }
 }
 
 // With quadratic run time for blanks or for the search for ";" these would not terminate in time.

@@ -6,29 +6,11 @@ namespace qvr::tests {
 namespace {
 
 using tests::PrintTo;
-struct Home {
-  const char* name;
-  char16_t decimal, thousands, date_separator;
-  bool day_first;
-  TextView currency;
-};
-constexpr Home kHomes[] = {
-    {"es-ES", u',', u'.', u'/', true, u"\u20ac"},      {"es-MX", u'.', u',', u'/', true, u"$"},
-    {"en-US", u'.', u',', u'/', false, u"$"},          {"en-GB", u'.', u',', u'/', true, u"\u00a3"},
-    {"fr-FR", u',', u'\u202f', u'/', true, u"\u20ac"}, {"fr-CH", u'.', u'\'', u'.', true, u"CHF"},
-    {"de-CH", u'.', u'\u2019', u'.', true, u"CHF"},
-};
-
 class SearchLocales : public ::testing::TestWithParam<Home> {
  protected:
   SearchLocales() {
     thread.load_language(u"0");
-    const Home& home = GetParam();
-    thread.locale.decimal = home.decimal;
-    thread.locale.thousands = home.thousands;
-    thread.locale.date_separator = home.date_separator;
-    thread.locale.day_first = home.day_first;
-    thread.locale.currency = home.currency;
+    live_in(thread, GetParam());
   }
   // With "." as the decimal separator and "," as the thousands separator.
   Text at_home(TextView number) const {

@@ -1,6 +1,7 @@
 // Random searches with their meaning: what a user types is written from the meaning, not read back from the text.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <random>
 #include <vector>
@@ -16,16 +17,23 @@ struct MeantSearch {
 };
 
 // The same searches from the same seed. Numbers and dates are typed as the locale writes them; `letter` is the
-// column's type: T, M, N, F or L. On 5 January 2011.
+// column's type: T, M, N, F or L.
 class RandomSearches {
  public:
   RandomSearches(std::uint64_t seed, const FakeLocale& locale, Engine engine)
       : random_(seed), locale_(locale), engine_(engine) {}
 
+  // Days around which months, quarters and years end and begin; the first is that of a fixture.
+  static constexpr std::chrono::sys_days kTodays[] = {std::chrono::year(2011) / 1 / 5, std::chrono::year(2012) / 2 / 29,
+                                                      std::chrono::year(2011) / 3 / 31,
+                                                      std::chrono::year(2011) / 12 / 31,
+                                                      std::chrono::year(2012) / 1 / 1};
+  void today_is(std::chrono::sys_days today) { today_ = today; }
+
   MeantSearch next(char16_t letter);
 
-  // Rows that tell searches for such a column apart, null among them.
-  static std::vector<Cell> rows(char16_t letter);
+  // Rows that tell searches for such a column apart, null among them; only what the engine's types hold.
+  static std::vector<Cell> rows(char16_t letter, Engine engine);
 
  private:
   MeantSearch atom(char16_t letter);
@@ -34,19 +42,25 @@ class RandomSearches {
   MeantSearch text_range(TextView a, TextView b);
   MeantSearch number_atom();
   MeantSearch date_atom();
-  MeantSearch date_range();
+  MeantSearch date_range(bool with_points = false);
   MeantSearch truth_atom();
-  MeantSearch null_atom();
+  MeantSearch null_atom(bool words);
   MeantSearch negated(MeantSearch search);
+  MeantSearch unequal(MeantSearch range);
 
   struct Span {  // from `first` to before `end`
     Text typed;
     std::int64_t first, end;
   };
   Span span();
-  static std::vector<Cell> date_rows();
+  Span edge_span();
+  Span words_span();
+  Span named_span();
+  bool is_before_all(const Span& a) const;
+  static std::vector<Cell> date_rows(Engine engine);
   static std::vector<Cell> text_rows(bool memo);
   Text range_text(TextView first, TextView last);
+  Text open_range(TextView end, bool is_first);
   Text number_text(double number) const;
   Text day_text(int month, int day) const;
 
@@ -59,6 +73,7 @@ class RandomSearches {
   std::mt19937_64 random_;
   const FakeLocale& locale_;
   Engine engine_;
+  std::chrono::sys_days today_ = kTodays[0];
 };
 
 }  // namespace qvr::tests

@@ -46,7 +46,7 @@ MeantSearch RandomSearches::text_atom(bool memo) {
     };
   };
   const auto empty = [](const Cell& cell) { return is_null(cell) || std::get<Text>(cell).empty(); };
-  switch (below(memo ? 14 : 18)) {
+  switch (below(memo ? 17 : 22)) {
     case 0: return {word, contains};
     case 1: {
       const Text other = word_of(), other_capitals = in_capitals(other);
@@ -73,6 +73,19 @@ MeantSearch RandomSearches::text_atom(bool memo) {
       if (below(4) == 0) return {join({u"!'", dotted, u"'"}), not_so(there)};
       const TextView quote = below(2) == 0 ? u"'" : u"\"";
       return {join({quote, dotted, quote}), there};
+    }
+    case 14: return {join({below(2) == 0 ? u"NOT LIKE '" : u"not  like '", word, u"*'"}), not_so(begins)};
+    case 15: {
+      const Text other = word_of(), other_capitals = in_capitals(other);
+      const auto both = text_test(oracle, [=](const Text& t) {
+        return t.find(capitals) != Text::npos && t.find(other_capitals) != Text::npos;
+      });
+      return {join({u"!", word, u" ", other}), not_so(both)};
+    }
+    case 16: return {below(2) == 0 ? u"- " + word : word + u" ,", contains};
+    case 17: {
+      MeantSearch ordered = ordered_text_atom();
+      return {u"! " + ordered.typed, not_so(ordered.meant)};
     }
     default: return ordered_text_atom();
   }

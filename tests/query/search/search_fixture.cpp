@@ -17,6 +17,14 @@ void speak(TestThread& thread, UserLanguage language) {
   thread.locale.day_first = language != kEnglish;
 }
 
+void live_in(TestThread& thread, const Home& home) {
+  thread.locale.decimal = home.decimal;
+  thread.locale.thousands = home.thousands;
+  thread.locale.date_separator = home.date_separator;
+  thread.locale.day_first = home.day_first;
+  thread.locale.currency = home.currency;
+}
+
 Text interpreted(const query::SearchColumn& column, Engine engine, TextView search) {
   const auto found = query::interpret_search(engine, column, search, label_of(column));
   return found ? join({found->condition, u" | ", found->criterion}) : Text(u"no search");

@@ -25,6 +25,21 @@ TextView label_of(const query::SearchColumn& column);
 // The language with the numbers and dates of its home.
 void speak(TestThread& thread, UserLanguage language);
 
+// Where users live, with the numbers and dates of that place.
+struct Home {
+  const char* name;
+  char16_t decimal, thousands, date_separator;
+  bool day_first;
+  TextView currency;
+};
+inline constexpr Home kHomes[] = {
+    {"es-ES", u',', u'.', u'/', true, u"\u20ac"},      {"es-MX", u'.', u',', u'/', true, u"$"},
+    {"en-US", u'.', u',', u'/', false, u"$"},          {"en-GB", u'.', u',', u'/', true, u"\u00a3"},
+    {"fr-FR", u',', u'\u202f', u'/', true, u"\u20ac"}, {"fr-CH", u'.', u'\'', u'.', true, u"CHF"},
+    {"de-CH", u'.', u'\u2019', u'.', true, u"CHF"},
+};
+void live_in(TestThread& thread, const Home& home);
+
 // "condition | criterion", or "no search".
 Text interpreted(const query::SearchColumn& column, Engine engine, TextView search);
 
