@@ -20,8 +20,8 @@ class FakeLocale final : public Locale {
   Text currency = u"\u20ac";
   char16_t date_separator = u'/';
   bool day_first = true;
-  std::optional<Date> every_text;  // the date that any text is read as
   bool twelve_hours = false;
+  std::optional<Date> every_text;  // the date that any text is read as
 };
 
 }  // namespace qvr::tests

@@ -123,10 +123,10 @@ constexpr NamedPeriod kNamed[] = {
     {Language::Spanish, Unit::Month, 10, {u"octubre", u"oct"}},
     {Language::Spanish, Unit::Month, 11, {u"noviembre", u"nov"}},
     {Language::Spanish, Unit::Month, 12, {u"diciembre", u"dic"}},
-    {Language::Spanish, Unit::Quarter, 1, {u"primer trimestre", u"1er trimestre", u"T1", u"1T"}},
-    {Language::Spanish, Unit::Quarter, 2, {u"segundo trimestre", u"2\u00ba trimestre", u"T2", u"2T"}},
-    {Language::Spanish, Unit::Quarter, 3, {u"tercer trimestre", u"3er trimestre", u"T3", u"3T"}},
-    {Language::Spanish, Unit::Quarter, 4, {u"cuarto trimestre", u"4\u00ba trimestre", u"T4", u"4T"}},
+    {Language::Spanish, Unit::Quarter, 1, {u"T1", u"1T", u"primer trimestre", u"1er trimestre"}},
+    {Language::Spanish, Unit::Quarter, 2, {u"T2", u"2T", u"segundo trimestre", u"2\u00ba trimestre"}},
+    {Language::Spanish, Unit::Quarter, 3, {u"T3", u"3T", u"tercer trimestre", u"3er trimestre"}},
+    {Language::Spanish, Unit::Quarter, 4, {u"T4", u"4T", u"cuarto trimestre", u"4\u00ba trimestre"}},
     {Language::English, Unit::Month, 1, {u"January", u"Jan"}},
     {Language::English, Unit::Month, 2, {u"February", u"Feb"}},
     {Language::English, Unit::Month, 3, {u"March", u"Mar"}},
@@ -139,10 +139,10 @@ constexpr NamedPeriod kNamed[] = {
     {Language::English, Unit::Month, 10, {u"October", u"Oct"}},
     {Language::English, Unit::Month, 11, {u"November", u"Nov"}},
     {Language::English, Unit::Month, 12, {u"December", u"Dec"}},
-    {Language::English, Unit::Quarter, 1, {u"first quarter", u"1st quarter", u"Q1"}},
-    {Language::English, Unit::Quarter, 2, {u"second quarter", u"2nd quarter", u"Q2"}},
-    {Language::English, Unit::Quarter, 3, {u"third quarter", u"3rd quarter", u"Q3"}},
-    {Language::English, Unit::Quarter, 4, {u"fourth quarter", u"4th quarter", u"Q4"}},
+    {Language::English, Unit::Quarter, 1, {u"Q1", u"first quarter", u"1st quarter"}},
+    {Language::English, Unit::Quarter, 2, {u"Q2", u"second quarter", u"2nd quarter"}},
+    {Language::English, Unit::Quarter, 3, {u"Q3", u"third quarter", u"3rd quarter"}},
+    {Language::English, Unit::Quarter, 4, {u"Q4", u"fourth quarter", u"4th quarter"}},
     {Language::French, Unit::Month, 1, {u"janvier", u"janv", u"jan"}},
     {Language::French, Unit::Month, 2, {u"f\u00e9vrier", u"f\u00e9vr", u"f\u00e9v"}},
     {Language::French, Unit::Month, 3, {u"mars", u"mar"}},
@@ -155,10 +155,10 @@ constexpr NamedPeriod kNamed[] = {
     {Language::French, Unit::Month, 10, {u"octobre", u"oct"}},
     {Language::French, Unit::Month, 11, {u"novembre", u"nov"}},
     {Language::French, Unit::Month, 12, {u"d\u00e9cembre", u"d\u00e9c"}},
-    {Language::French, Unit::Quarter, 1, {u"premier trimestre", u"1er trimestre", u"T1"}},
-    {Language::French, Unit::Quarter, 2, {u"deuxi\u00e8me trimestre", u"2e trimestre", u"2\u00e8me trimestre", u"T2"}},
-    {Language::French, Unit::Quarter, 3, {u"troisi\u00e8me trimestre", u"3e trimestre", u"3\u00e8me trimestre", u"T3"}},
-    {Language::French, Unit::Quarter, 4, {u"quatri\u00e8me trimestre", u"4e trimestre", u"4\u00e8me trimestre", u"T4"}},
+    {Language::French, Unit::Quarter, 1, {u"T1", u"premier trimestre", u"1er trimestre"}},
+    {Language::French, Unit::Quarter, 2, {u"T2", u"deuxi\u00e8me trimestre", u"2e trimestre", u"2\u00e8me trimestre"}},
+    {Language::French, Unit::Quarter, 3, {u"T3", u"troisi\u00e8me trimestre", u"3e trimestre", u"3\u00e8me trimestre"}},
+    {Language::French, Unit::Quarter, 4, {u"T4", u"quatri\u00e8me trimestre", u"4e trimestre", u"4\u00e8me trimestre"}},
 };
 
 constexpr NameWords kNameWords[] = {
@@ -255,7 +255,6 @@ std::optional<std::int32_t> same_day(std::int32_t day, std::int64_t months_on) {
 
 // So many units up to and with today, or from today on.
 Found counted_units(Unit unit, std::int64_t count, bool future, std::int32_t today) {
-  if (count == 0) return std::nullopt;
   if (unit == Unit::Day || unit == Unit::Week) {
     const std::int64_t length = count * (unit == Unit::Week ? 7 : 1);
     return future ? days(today, today + length) : days(today + 1 - length, today + 1);

@@ -30,7 +30,7 @@ struct PeriodBeside {
 };
 std::span<const PeriodBeside> periods_beside();
 
-// The months and quarters of a year, from 1; the first name is the whole one.
+// The months and quarters of a year, from 1.
 struct NamedPeriod {
   Language language;
   Unit unit;
@@ -50,7 +50,7 @@ struct NameWords {
 };
 std::span<const NameWords> name_words();
 
-// "los \u00faltimos 7 d\u00edas": the words that tell to which side of today the units are counted.
+// "the last 7 days": the words that tell to which side of today the units are counted.
 struct CountWord {
   Language language;
   bool future;

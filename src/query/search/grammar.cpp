@@ -40,7 +40,7 @@ Term term_of(std::span<const Token> tokens) {
   return term;
 }
 
-// Equality of a value that is given without an operator.
+// Also for a value without an operator.
 bool is_equality(const Term& term) {
   return !term.comparison || *term.comparison == Comparison::Equal || *term.comparison == Comparison::Different;
 }
@@ -71,7 +71,7 @@ class Grammar {
     return found;
   }
 
-  // The engine's dates begin here.
+  // Before the first date that the engine can hold.
   bool selects_nothing(const Test& test) const {
     const auto* date = std::get_if<CompareDate>(&test);
     return date != nullptr && date->comparison == Comparison::Less && date->period.from <= first_moment(engine_);

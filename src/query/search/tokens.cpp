@@ -59,11 +59,10 @@ class Lexer {
     range_ = nullptr;
     dots_ahead_ = true;
     read_negation();
-    const Token* comparison = read_comparison();
-    pattern_ = is_textual(type_) && (comparison == nullptr || comparison->comparison == Comparison::Different) &&
-               read_like();
-    if (is_textual(type_)) dots_ahead_ = comparison == nullptr && !pattern_;
-    if (comparison == nullptr && (type_ == SearchType::Number || type_ == SearchType::Date)) read_range_word();
+    const auto comparison = read_comparison();
+    pattern_ = is_textual(type_) && comparison.value_or(Comparison::Different) == Comparison::Different && read_like();
+    if (is_textual(type_)) dots_ahead_ = !comparison && !pattern_;
+    if (!comparison && (type_ == SearchType::Number || type_ == SearchType::Date)) read_range_word();
     read_range_or_operand();
   }
 
@@ -77,11 +76,11 @@ class Lexer {
     }
   }
 
-  const Token* read_comparison() {
+  std::optional<Comparison> read_comparison() {
     const auto [length, comparison] = comparison_in(rest());
-    if (length == 0) return nullptr;
+    if (length == 0) return std::nullopt;
     add({.kind = TokenKind::Comparison, .comparison = comparison}, length);
-    return &tokens_.back();
+    return comparison;
   }
 
   bool read_like() {

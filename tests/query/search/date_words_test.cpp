@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "base/date_text.h"
 #include "base/utf8.h"
 #include "support/rows.h"
@@ -186,6 +189,7 @@ const Row kNames[] = {
     {"de enero", u"de enero", u""},
     {"comma behind", u"enero,", u""},
     {"glued", u"enero2011", u""},
+    {"day glued to its month", u"5enero", u""},
     {"two months", u"enero febrero", u""},
     {"two years", u"enero 2011 2012", u""},
     {"spanish day behind its month", u"enero 5", u""},
@@ -235,6 +239,7 @@ const Row kCounts[] = {
     {"without a unit", u"\u00faltimos 7", u""},
     {"without a word", u"7 d\u00edas", u""},
     {"two numbers", u"7 last 7 days", u""},
+    {"number glued to its unit", u"last 7days", u""},
     {"negative", u"last -7 days", u""},
     {"no days", u"last 0 days", u""},
     {"no months", u"\u00faltimos 0 meses", u""},
@@ -248,6 +253,99 @@ INSTANTIATE_TEST_SUITE_P(OfDays, DateWords, ::testing::ValuesIn(kDays), row_name
 INSTANTIATE_TEST_SUITE_P(OfUnits, DateWords, ::testing::ValuesIn(kUnits), row_name);
 INSTANTIATE_TEST_SUITE_P(OfNames, DateWords, ::testing::ValuesIn(kNames), row_name);
 INSTANTIATE_TEST_SUITE_P(OfCounts, DateWords, ::testing::ValuesIn(kCounts), row_name);
+
+// Every phrase and name of the tables, by its period.
+struct Same {
+  Text expected;
+  std::vector<TextView> phrases;
+};
+const Same kSame[] = {
+    {u"05/01/2011..05/01/2011", {u"hoy", u"today", u"aujourd'hui"}},
+    {u"04/01/2011..04/01/2011", {u"ayer", u"yesterday", u"hier"}},
+    {u"03/01/2011..03/01/2011",
+     {u"anteayer", u"antes de ayer", u"antier", u"day before yesterday", u"avant-hier", u"avant hier"}},
+    {u"06/01/2011..06/01/2011", {u"ma\u00f1ana", u"tomorrow", u"demain"}},
+    {u"07/01/2011..07/01/2011",
+     {u"pasado ma\u00f1ana", u"day after tomorrow", u"apr\u00e8s-demain", u"apr\u00e8s demain"}},
+    {u"03/01/2011..09/01/2011",
+     {u"esta semana", u"semana actual", u"semana en curso", u"this week", u"current week", u"cette semaine",
+      u"semaine en cours"}},
+    {u"27/12/2010..02/01/2011",
+     {u"semana pasada", u"semana anterior", u"last week", u"previous week", u"semaine derni\u00e8re",
+      u"semaine pass\u00e9e", u"semaine pr\u00e9c\u00e9dente"}},
+    {u"10/01/2011..16/01/2011",
+     {u"pr\u00f3xima semana", u"semana pr\u00f3xima", u"semana que viene", u"next week", u"semaine prochaine"}},
+    {u"01/01/2011..31/01/2011",
+     {u"este mes", u"mes actual", u"mes en curso", u"this month", u"current month", u"ce mois", u"ce mois-ci",
+      u"mois en cours", u"enero", u"ene", u"January", u"Jan", u"janvier", u"janv", u"jan"}},
+    {u"01/12/2010..31/12/2010",
+     {u"mes pasado", u"mes anterior", u"last month", u"previous month", u"mois dernier", u"mois pass\u00e9",
+      u"mois pr\u00e9c\u00e9dent"}},
+    {u"01/02/2011..28/02/2011",
+     {u"pr\u00f3ximo mes", u"mes pr\u00f3ximo", u"mes que viene", u"next month", u"mois prochain", u"febrero", u"feb",
+      u"February", u"Feb", u"f\u00e9vrier", u"f\u00e9vr", u"f\u00e9v"}},
+    {u"01/01/2011..31/03/2011",
+     {u"este trimestre", u"trimestre actual", u"trimestre en curso", u"this quarter", u"current quarter",
+      u"ce trimestre", u"trimestre en cours", u"T1", u"1T", u"primer trimestre", u"1er trimestre", u"Q1",
+      u"first quarter", u"1st quarter", u"T1", u"premier trimestre", u"1er trimestre"}},
+    {u"01/10/2010..31/12/2010",
+     {u"trimestre pasado", u"trimestre anterior", u"last quarter", u"previous quarter", u"trimestre dernier",
+      u"trimestre pass\u00e9", u"trimestre pr\u00e9c\u00e9dent"}},
+    {u"01/04/2011..30/06/2011",
+     {u"pr\u00f3ximo trimestre", u"trimestre pr\u00f3ximo", u"trimestre que viene", u"next quarter",
+      u"trimestre prochain", u"T2", u"2T", u"segundo trimestre", u"2\u00ba trimestre", u"Q2", u"second quarter",
+      u"2nd quarter", u"T2", u"deuxi\u00e8me trimestre", u"2e trimestre", u"2\u00e8me trimestre"}},
+    {u"01/07/2011..30/09/2011",
+     {u"T3", u"3T", u"tercer trimestre", u"3er trimestre", u"Q3", u"third quarter", u"3rd quarter", u"T3",
+      u"troisi\u00e8me trimestre", u"3e trimestre", u"3\u00e8me trimestre"}},
+    {u"01/10/2011..31/12/2011",
+     {u"T4", u"4T", u"cuarto trimestre", u"4\u00ba trimestre", u"Q4", u"fourth quarter", u"4th quarter", u"T4",
+      u"quatri\u00e8me trimestre", u"4e trimestre", u"4\u00e8me trimestre"}},
+    {u"01/01/2011..31/12/2011",
+     {u"este a\u00f1o", u"a\u00f1o actual", u"a\u00f1o en curso", u"this year", u"current year", u"cette ann\u00e9e",
+      u"ann\u00e9e en cours"}},
+    {u"01/01/2010..31/12/2010",
+     {u"a\u00f1o pasado", u"a\u00f1o anterior", u"last year", u"previous year", u"ann\u00e9e derni\u00e8re",
+      u"ann\u00e9e pass\u00e9e", u"ann\u00e9e pr\u00e9c\u00e9dente", u"an dernier", u"an pass\u00e9"}},
+    {u"01/01/2012..31/12/2012",
+     {u"pr\u00f3ximo a\u00f1o", u"a\u00f1o pr\u00f3ximo", u"a\u00f1o que viene", u"next year", u"ann\u00e9e prochaine",
+      u"an prochain"}},
+    {u"01/03/2011..31/03/2011", {u"marzo", u"mar", u"March", u"Mar", u"mars", u"mar"}},
+    {u"01/04/2011..30/04/2011", {u"abril", u"abr", u"April", u"Apr", u"avril", u"avr"}},
+    {u"01/05/2011..31/05/2011", {u"mayo", u"may", u"May", u"mai"}},
+    {u"01/06/2011..30/06/2011", {u"junio", u"jun", u"June", u"Jun", u"juin"}},
+    {u"01/07/2011..31/07/2011", {u"julio", u"jul", u"July", u"Jul", u"juillet", u"juil"}},
+    {u"01/08/2011..31/08/2011", {u"agosto", u"ago", u"August", u"Aug", u"ao\u00fbt"}},
+    {u"01/09/2011..30/09/2011",
+     {u"septiembre", u"setiembre", u"sept", u"sep", u"set", u"September", u"Sept", u"Sep", u"septembre", u"sept",
+      u"sep"}},
+    {u"01/10/2011..31/10/2011", {u"octubre", u"oct", u"October", u"Oct", u"octobre", u"oct"}},
+    {u"01/11/2011..30/11/2011", {u"noviembre", u"nov", u"November", u"Nov", u"novembre", u"nov"}},
+    {u"01/12/2011..31/12/2011", {u"diciembre", u"dic", u"December", u"Dec", u"d\u00e9cembre", u"d\u00e9c"}},
+};
+constexpr std::int32_t kToday = 40548;  // 5 January 2011
+
+TEST(DateWordsForms, AreThePhrasesThatPeopleUse) {
+  std::size_t phrases = 0, rows = query::periods_beside().size();
+  for (const Same& same : kSame) {
+    for (const TextView phrase : same.phrases) {
+      EXPECT_EQ(shown(query::period_in_words(phrase, kToday)), same.expected) << to_utf8(phrase);
+      ++phrases;
+    }
+  }
+  for (const auto& row : query::named_periods()) {
+    rows += row.names.size() - static_cast<std::size_t>(std::ranges::count(row.names, u""));
+  }
+  EXPECT_EQ(phrases, rows) << "A phrase is not tried here";
+}
+
+TEST(DateWordsForms, HaveArticles) {
+  for (const query::PeriodBeside& row : query::periods_beside()) {
+    const Text whole = join({row.article, row.phrase});
+    EXPECT_EQ(shown(query::period_in_words(whole, kToday)), shown(query::period_in_words(row.phrase, kToday)))
+        << to_utf8(whole);
+  }
+}
 
 TEST(DateWordsForms, MayEndBehindTheLastDay) {
   for (const TextView typed : {u"diciembre 9999", u"Q4 9999", u"31 diciembre 9999"}) {

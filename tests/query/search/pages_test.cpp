@@ -16,7 +16,7 @@ struct Page {
 };
 constexpr Page kPages[] = {{"es", kSpanish, "Nombre", "Precio", "Alta", "Activo"},
                            {"en", kEnglish, "Name", "Price", "Joined", "Active"},
-                           {"fr", kFrench, "Nom", "Prix", "Depuis", "Actif"}};
+                           {"fr", kFrench, "Nom", "Prix", "Inscription", "Actif"}};
 
 struct PageRow {
   std::string typed, shown;
@@ -68,8 +68,7 @@ TEST_P(SearchPages, ShowWhatIsShown) {
     for (const Engine engine : {Engine::Jet, Engine::SqlServer, Engine::Oracle}) {
       const Text typed = from_utf8(row.typed).value(), name = from_utf8(label).value();
       const auto found = query::interpret_search(engine, {u"X", type}, typed, name);
-      ASSERT_TRUE(found) << row.typed;
-      EXPECT_EQ(to_utf8(found->criterion), row.shown) << row.typed;
+      EXPECT_EQ(found ? to_utf8(found->criterion) : "no search", row.shown) << row.typed;
     }
   }
 }
