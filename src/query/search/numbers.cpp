@@ -66,8 +66,8 @@ std::optional<Text> whole_digits(TextView text) {
   if (all_digits(text) || text.empty()) return Text(text);
   const auto mark = std::ranges::find_if_not(text, is_digit);
   const auto first = static_cast<std::size_t>(mark - text.begin());
-  if (first == 0 || first > 3 || !separates_thousands(*mark)) return std::nullopt;
   Text digits(text.substr(0, first));
+  if (only_zeros(digits) || first > 3 || !separates_thousands(*mark)) return std::nullopt;
   for (text.remove_prefix(first); !text.empty(); text.remove_prefix(4)) {
     if (text.size() < 4 || text[0] != *mark || !all_digits(text.substr(1, 3))) return std::nullopt;
     digits += text.substr(1, 3);

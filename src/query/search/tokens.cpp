@@ -25,9 +25,18 @@ std::size_t end_of_double_quoted(TextView text, std::size_t at) {
   return TextView::npos;
 }
 
-// Whether an operator, a null phrase or LIKE begins here: before these a word connects texts, too.
+TextView without_leading_blanks(TextView text) {
+  return text.substr(std::min(text.find_first_not_of(u' '), text.size()));
+}
+
+// Whether an operator, a null phrase or LIKE begins here: before these a word connects texts, too. "!" is one before
+// another or a quote, as criteria show it.
 bool begins_test(TextView text) {
-  text = text.substr(std::min(text.find_first_not_of(u' '), text.size()));
+  text = without_leading_blanks(text);
+  if (text.starts_with(u'!')) {
+    const TextView negated = without_leading_blanks(text.substr(1));
+    return comparison_in(text).length > 0 || comparison_in(negated).length > 0 || negated.starts_with(u'"');
+  }
   const FoundPhrase null = null_phrase(text);
   return comparison_in(text).length > 0 || (null.length > 0 && !null.negated) || like_operator(text).length > 0;
 }
@@ -179,9 +188,7 @@ class Lexer {
   // The length of the two points, or of the word in their place; 0 for none. Three points are text.
   std::size_t dots_at(std::size_t at) const {
     const TextView text = search_.substr(at);
-    if (range_ != nullptr && blank_before(at)) {
-      if (const std::size_t length = last_end_word(text, *range_)) return length;
-    }
+    if (range_ != nullptr) return blank_before(at) ? last_end_word(text, *range_) : 0;
     return dots_ahead_ && text.starts_with(u"..") && !text.starts_with(u"...") ? 2 : 0;
   }
 

@@ -79,7 +79,7 @@ const NamedSearch kNegatedRangeRows[] = {
     {"as shown with equal ends", kPrecio, Engine::Jet, u"< 10; > 10; Es Nulo",
      u"(P.Precio< 10 Or P.Precio> 10 Or P.Precio Is Null)", u"Precio < 10; > 10; Es Nulo"},
     {"as shown but the ends about", kPrecio, Engine::Jet, u"< 20; > 10; Es Nulo",
-     u"P.Precio< 20 Or P.Precio> 10 Or (P.Precio Is Null)", u"Precio < 20; > 10; Es Nulo"},
+     u"(P.Precio< 20 Or P.Precio> 10 Or P.Precio Is Null)", u"Precio < 20; > 10; Es Nulo"},
     {"as shown but in another order", kPrecio, Engine::Jet, u"> 20; < 10; Es Nulo",
      u"P.Precio> 20 Or P.Precio< 10 Or (P.Precio Is Null)", u"Precio > 20; < 10; Es Nulo"},
     {"as shown but parted", kPrecio, Engine::Jet, u"< 10; > 20; = 15; Es Nulo",
