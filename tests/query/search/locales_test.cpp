@@ -51,6 +51,27 @@ TEST_P(SearchLocales, NeverReadANumberTenTimesTooLarge) {
   }
 }
 
+// Not as other numbers either, which a mark or a blank in a wrong place may have been meant for.
+TEST_P(SearchLocales, ReadNoNumbersWithMarksInWrongPlaces) {
+  for (const TextView number :
+       {u"1,23,456", u"12.5,000", u"1,2345,678", u"1.234.567", u"12,34.5", u"1,234,56", u"1.2.3", u"1,234.5,678",
+        u"1,234,5", u"10 20", u"100 200 30", u"1.5 000", u"5. 6", u"1, 000"}) {
+    for (const TextView before : {u"", u">= ", u"<>", u"7..", u"hasta "}) {
+      const Text typed = join({before, at_home(number)});
+      EXPECT_EQ(interpreted(kPrecio, Engine::Jet, typed), u"no search") << ::testing::PrintToString(typed);
+    }
+  }
+}
+
+TEST_P(SearchLocales, ReadBlanksBeforeThreeDigitsAndOneCurrency) {
+  for (const TextView typed : {u"1 234 567", u"1 234 567 EUR", u"\u20ac 1 234 567"}) {
+    EXPECT_EQ(interpreted(kPrecio, Engine::Jet, typed), u"P.Precio= 1234567 | Precio = 1234567");
+  }
+  EXPECT_EQ(interpreted(kPrecio, Engine::Jet, join({at_home(u"1,234.5"), u" ", GetParam().currency})),
+            join({u"P.Precio= 1234.5 | Precio = ", at_home(u"1234.5")}));
+  EXPECT_EQ(interpreted(kPrecio, Engine::Jet, join({GetParam().currency, u"5", GetParam().currency})), u"no search");
+}
+
 TEST_P(SearchLocales, ReadTheirOwnDates) {
   const Home& home = GetParam();
   const Text mark(1, home.date_separator);

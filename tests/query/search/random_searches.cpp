@@ -120,10 +120,16 @@ MeantSearch RandomSearches::negated(MeantSearch search) {
           [meant = search.meant](const Cell& cell) { return is_null(cell) || !meant(cell); }};
 }
 
-Text RandomSearches::number_text(double number) const {
-  Text text = number == 1234.5 ? join({u"1", TextView(&locale_.thousands, 1), u"234.5"}) : shortest_number(number);
+// With or without marks or blanks between thousands, and with a currency here and there.
+Text RandomSearches::number_text(double number) {
+  const TextView marks[] = {TextView(&locale_.thousands, 1), u" ", u""};
+  Text text = number == 1234.5 ? join({u"1", one_of(marks), u"234.5"}) : shortest_number(number);
   if (const std::size_t point = text.rfind(u'.'); point != Text::npos) text[point] = locale_.decimal;
-  return text;
+  switch (below(12)) {
+    case 0: return text + u" \u20ac";
+    case 1: return u"EUR " + text;
+    default: return text;
+  }
 }
 
 MeantSearch RandomSearches::number_atom() {

@@ -61,7 +61,7 @@ class RandomSearches {
   static std::vector<Cell> text_rows(bool memo);
   Text range_text(TextView first, TextView last);
   Text open_range(TextView end, bool is_first);
-  Text number_text(double number) const;
+  Text number_text(double number);
   Text day_text(int month, int day) const;
 
   std::size_t below(std::size_t limit) { return static_cast<std::size_t>(random_() % limit); }
