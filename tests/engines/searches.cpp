@@ -1,4 +1,5 @@
 // What users type into search boxes: the rows that the engine selects are those that were meant.
+#include <cmath>
 #include <random>
 #include <string>
 
@@ -53,10 +54,12 @@ struct Literal {
   Text operator()(std::monostate) const { return u"Null"; }
   Text operator()(const Text& text) const { return dialect::ComillasSQL(text); }
   Text operator()(double number) const { return shortest_number(number); }
+  // The time of day lies behind its day in a Date, on either side of the first one.
   Text operator()(Moment moment) const {
-    constexpr std::int64_t kDay = 86400, kFirstOf1970 = 25569;  // as a Date
-    const double day = static_cast<double>(moment.second / kDay + kFirstOf1970);
-    return dialect::FechaHoraSQL(engine, Date{day + static_cast<double>(moment.second % kDay) / kDay});
+    constexpr double kFirstOf1970 = 25569, kSeconds = 86400;
+    const double days = std::floor(static_cast<double>(moment.second) / kSeconds);
+    const double time = static_cast<double>(moment.second) / kSeconds - days, day = kFirstOf1970 + days;
+    return dialect::FechaHoraSQL(engine, Date{day < 0 ? day - time : day + time});
   }
 };
 
