@@ -204,32 +204,11 @@ constexpr UnitName kUnitNames[] = {
 
 using Found = std::optional<Period>;
 
-constexpr std::int32_t kFirstDay = -657434, kBehindLastDay = 2958466;  // 1 January 100, and what follows 31/12/9999
-constexpr int kMonthsBehindLast = 10000 * 12;
-
-Found days(std::int64_t from, std::int64_t to) {
-  if (from < kFirstDay || from >= to || to > kBehindLastDay) return std::nullopt;
-  return Period{{static_cast<std::int32_t>(from), 0}, {static_cast<std::int32_t>(to), 0}, true};
-}
-
 CalendarTime calendar_day(std::int32_t day) { return calendar_time(Date{static_cast<double>(day)}); }
 
-// Counted from January of the year 0.
 std::int64_t month_of(std::int32_t day) {
   const CalendarTime time = calendar_day(day);
-  return time.year * 12 + time.month - 1;
-}
-
-std::optional<std::int32_t> day_of(std::int64_t month, int day) {
-  if (month == kMonthsBehindLast && day == 1) return kBehindLastDay;
-  if (month < 0 || month >= kMonthsBehindLast) return std::nullopt;
-  const auto date = date_from({static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, day});
-  return date ? std::optional(static_cast<std::int32_t>(date->days)) : std::nullopt;
-}
-
-Found months(std::int64_t first, std::int64_t count) {
-  const auto from = day_of(first, 1), to = day_of(first + count, 1);
-  return from && to ? days(*from, *to) : std::nullopt;
+  return month_number(time.year, time.month);
 }
 
 int months_in(Unit unit) { return unit == Unit::Year ? 12 : unit == Unit::Quarter ? 3 : 1; }
@@ -362,7 +341,7 @@ std::optional<Told> told_beside(TextView name, TextView typed, const NameWords& 
 
 Found named_period(const NamedPeriod& named, const Told& told, std::int32_t today) {
   const std::int64_t year = told.year.value_or(calendar_day(today).year);
-  const std::int64_t length = months_in(named.unit), first = year * 12 + (named.number - 1) * length;
+  const std::int64_t length = months_in(named.unit), first = month_number(year, 1) + (named.number - 1) * length;
   if (!told.day) return months(first, length);
   const auto day = day_of(first, *told.day);
   return day ? days(*day, *day + 1) : std::nullopt;
@@ -401,7 +380,9 @@ Read counted(TextView typed, std::int32_t today) {
   return std::nullopt;
 }
 
+// All forms have a letter.
 Read form_in(TextView typed, std::int32_t today) {
+  if (typed.find_first_not_of(u"0123456789/-.: ") == TextView::npos) return std::nullopt;
   for (const auto read : {beside_today, named, counted}) {
     if (const Read form = read(trimmed(typed), today)) return form;
   }

@@ -13,7 +13,8 @@ namespace qvr::query {
 namespace {
 
 constexpr std::int32_t kSecondsPerDay = 86400;
-constexpr Moment kCalendarEnd{2958466, 0};  // the first day behind 31 December 9999
+constexpr std::int32_t kFirstDay = -657434, kBehindLastDay = 2958466;  // 1 January 100, and what follows 31/12/9999
+constexpr std::int64_t kMonthBehindLast = month_number(10000, 1);
 
 Locale& locale() { return thread_state().platform().locale; }
 
@@ -23,24 +24,11 @@ int number_in(TextView digits) {
   return number;
 }
 
-// The first day of a month; month 13 is the next year's first one.
-std::optional<Moment> start_of(int year, int month) {
-  if (month == 13) return start_of(year + 1, 1);
-  if (year == 10000 && month == 1) return kCalendarEnd;
-  const auto date = date_from({year, month, 1});
-  return date ? std::optional(Moment{static_cast<std::int32_t>(date->days), 0}) : std::nullopt;
-}
-
-std::optional<Period> months(int year, int first, int last) {
-  const auto from = start_of(year, first), to = start_of(year, last + 1);
-  return from && to ? std::optional(Period{*from, *to, true}) : std::nullopt;
-}
-
 bool is_date_mark(char16_t unit) { return unit == u'/' || unit == u'-' || unit == u'.'; }
 
 // "2011", "02/2011", "2011-02".
 std::optional<Period> year_or_month(TextView typed) {
-  if (typed.size() == 4 && all_digits(typed)) return months(number_in(typed), 1, 12);
+  if (typed.size() == 4 && all_digits(typed)) return months(month_number(number_in(typed), 1), 12);
   const auto mark = std::ranges::find_if(typed, is_date_mark);
   if (mark == typed.end()) return std::nullopt;
   const auto at = static_cast<std::size_t>(mark - typed.begin());
@@ -48,7 +36,7 @@ std::optional<Period> year_or_month(TextView typed) {
   if (first.size() == 4) std::swap(first, second);
   if (!all_digits(first) || !all_digits(second) || first.size() > 2 || second.size() != 4) return std::nullopt;
   const int month = number_in(first);
-  return month >= 1 && month <= 12 ? months(number_in(second), month, month) : std::nullopt;
+  return month >= 1 && month <= 12 ? months(month_number(number_in(second), month), 1) : std::nullopt;
 }
 
 // ISO 8601, in every locale.
@@ -76,9 +64,10 @@ std::optional<std::int32_t> day_in(TextView typed) {
 }
 
 std::optional<Period> whole_day(TextView typed, std::int32_t today) {
-  if (is_form_in_words(typed)) return period_in_words(typed, today);
+  if (const auto told = period_in_words(typed, today)) return told;
+  if (is_form_in_words(typed)) return std::nullopt;
   const auto day = day_in(typed);
-  return day ? std::optional(Period{{*day, 0}, {*day + 1, 0}, true}) : std::nullopt;
+  return day ? days(*day, *day + 1) : std::nullopt;
 }
 
 struct TimeOfDay {
@@ -122,16 +111,28 @@ std::optional<Period> time_of_day(TextView typed, std::int32_t today) {
   return Period{from, after(from, time->length), false, time->length == 1};
 }
 
-bool is_in_calendar(const Period& period) {
-  return has_calendar_time(date_of(period.from)) && period.to <= kCalendarEnd;
-}
-
 }  // namespace
 
+std::optional<std::int32_t> day_of(std::int64_t month, int day) {
+  if (month == kMonthBehindLast && day == 1) return kBehindLastDay;
+  if (month < 0 || month >= kMonthBehindLast) return std::nullopt;
+  const auto date = date_from({static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, day});
+  return date ? std::optional(static_cast<std::int32_t>(date->days)) : std::nullopt;
+}
+
+std::optional<Period> days(std::int64_t from, std::int64_t to) {
+  if (from < kFirstDay || from >= to || to > kBehindLastDay) return std::nullopt;
+  return Period{{static_cast<std::int32_t>(from), 0}, {static_cast<std::int32_t>(to), 0}, true};
+}
+
+std::optional<Period> months(std::int64_t first, std::int64_t count) {
+  const auto from = day_of(first, 1), to = day_of(first + count, 1);
+  return from && to ? days(*from, *to) : std::nullopt;
+}
+
 std::optional<Period> period_in(TextView typed, std::int32_t today) {
-  auto period = year_or_month(typed);
-  if (!period) period = typed.find(u':') == TextView::npos ? whole_day(typed, today) : time_of_day(typed, today);
-  return period && is_in_calendar(*period) ? period : std::nullopt;
+  if (const auto period = year_or_month(typed)) return period;
+  return typed.find(u':') == TextView::npos ? whole_day(typed, today) : time_of_day(typed, today);
 }
 
 Moment first_moment(Engine engine) { return {static_cast<std::int32_t>(dialect::first_date(engine).days), 0}; }
@@ -143,7 +144,7 @@ Period within(Engine engine, const Period& period) {
 }
 
 bool is_empty(const Period& period) { return period.from == period.to; }
-bool is_endless(const Period& period) { return period.to == kCalendarEnd; }
+bool is_endless(const Period& period) { return period.to.day == kBehindLastDay; }
 bool is_one_unit(const Period& period) { return !period.whole_days || period.to.day == period.from.day + 1; }
 
 Period first_unit(const Period& period) {

@@ -21,8 +21,14 @@ struct Period {
   bool with_seconds = false;
 };
 
-// In words or figures; nothing for what is no period. `today` counts days as Date does. The last periods of the
-// calendar end on the first day behind it.
+// Months are counted from January of the year 0. Nothing for a day or a period that the calendar, which ends with
+// 31/12/9999, does not have; the first day behind it is the end of the last periods.
+constexpr std::int64_t month_number(std::int64_t year, int month) { return year * 12 + month - 1; }
+std::optional<std::int32_t> day_of(std::int64_t month, int day);
+std::optional<Period> days(std::int64_t from, std::int64_t to);  // to before `to`
+std::optional<Period> months(std::int64_t first, std::int64_t count);
+
+// In words or figures; nothing for what is no period. `today` counts days as Date does.
 std::optional<Period> period_in(TextView typed, std::int32_t today);
 
 // The part of the period that literals of the engine can hold.
