@@ -148,7 +148,8 @@ class Lexer {
 
   // A quoted part or one character.
   void read_into(Operand& operand) {
-    if (rest().starts_with(u"...")) dots_ahead_ = false;
+    // "ene...mar." is a range of two names with points.
+    if (type_ != SearchType::Date && rest().starts_with(u"...")) dots_ahead_ = false;
     const std::size_t end = end_of_double_quoted();
     if (end == 0) return operand.add(search_[at_++], false);
     for (++at_; at_ < end - 1; ++at_) {
@@ -205,9 +206,10 @@ class Lexer {
     return !is_textual(type_) || begins_test(text.substr(length)) ? Connector{length, either > 0} : Connector();
   }
 
-  // Not at the end of a text, where it is punctuation.
+  // Not at either end of a text, where it is punctuation.
   bool sign_connects_texts(std::size_t at) const {
-    if (!blank_before(at)) return false;
+    const bool first = search_.substr(term_, at - term_).find_first_not_of(u" &|") == TextView::npos;
+    if (first || !blank_before(at)) return false;
     const std::size_t next = behind_blanks(at + 1);
     if (next == search_.size() || TextView(u";&|").find(search_[next]) != TextView::npos) return false;
     return next > at + 1 || begins_test(search_.substr(next));

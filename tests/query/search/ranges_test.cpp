@@ -23,6 +23,8 @@ const NamedSearch kRangeOfPeriodsRows[] = {
      u"Alta >= 01/01/2011 y <= 15/02/2011"},
     {"a day to a year, negated", kAlta, Engine::Jet, u"!15/02/2011..2011",
      u"(C.Alta<#2011-02-15# Or C.Alta>=#2012-01-01# Or C.Alta Is Null)", u"Alta < 15/02/2011; > 31/12/2011; Es Nulo"},
+    {"names of months with points", kAlta, Engine::Jet, u"ene...mar.", u"C.Alta>=#2011-01-01# And C.Alta<#2011-04-01#",
+     u"Alta >= 01/01/2011 y <= 31/03/2011"},
     {"a minute to a day", kAlta, Engine::Jet, u"05/01/2011 14:07..05/01/2011",
      u"C.Alta>=#2011-01-05 14:07:00# And C.Alta<#2011-01-06#", u"Alta >= 05/01/2011 14:07 y <= 05/01/2011"},
 };

@@ -136,11 +136,12 @@ TEST_F(SearchWords, OfPunctuationAreDroppedAtEitherEndOfAText) {
   for (const query::SearchColumn& column : {kNombre, kNotas}) {
     for (const TextView typed :
          {u"& Marks", u"Marks &", u"| Marks", u"Marks |", u"- Marks", u"Marks -", u"Marks ,", u"... Marks", u"Marks .",
-          u"& - Marks", u"Marks - &", u"& Marks &", u"  &  Marks  & "}) {
+          u"& - Marks", u"Marks - &", u"& Marks &", u"  &  Marks  & ", u"& & Marks", u"| | Marks", u"| & Marks"}) {
       expect_same(column, typed, u"Marks");
     }
     expect_same(column, u"Marks & Spencer &", u"Marks & Spencer");
     expect_same(column, u"& Marks | Spencer", u"Marks; Spencer");
+    expect_same(column, u"Spencer; & Marks", u"Spencer; Marks");
     expect_same(column, u"Marks - Spencer", u"Marks Spencer");
   }
   expect(kNombre, Engine::Jet,
