@@ -7,7 +7,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace qvr {
@@ -66,11 +65,12 @@ Text join(std::span<const Text> pieces, TextView between);
 // What `write` gives for each of the items, one behind the other.
 template <class Items, class Write>
 Text joined(const Items& items, TextView between, Write write) {
-  Text text;
-  bool first = true;
-  for (const auto& item : items) {
-    if (!std::exchange(first, false)) text += between;
-    text += write(item);
+  auto item = std::begin(items);
+  if (item == std::end(items)) return {};
+  Text text = write(*item);
+  while (++item != std::end(items)) {
+    text += between;
+    text += write(*item);
   }
   return text;
 }

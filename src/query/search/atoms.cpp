@@ -36,15 +36,23 @@ Comparison opposite(Comparison comparison) {
 std::optional<Comparison> order_in(const Test& test) { return std::visit(OrderOf(), test); }
 
 Alternatives expanded(Atom atom) {
-  if (!atom.negated) return {{std::move(atom)}};
   Alternatives all;
+  const auto add = [&all](Test test, bool negated) {
+    Atom& single = all.emplace_back().emplace_back();
+    single.tests.push_back(std::move(test));
+    single.negated = negated;
+  };
+  if (!atom.negated) {
+    all.emplace_back().push_back(std::move(atom));
+    return all;
+  }
   bool null_too = false;
   for (Test& test : atom.tests) {
     const bool ordered = order_in(test).has_value();
     null_too = null_too || ordered;
-    all.push_back({ordered ? Atom{{std::visit(InOppositeOrder(), std::move(test))}} : Atom{{std::move(test)}, true}});
+    ordered ? add(std::visit(InOppositeOrder(), std::move(test)), false) : add(std::move(test), true);
   }
-  if (null_too) all.push_back({Atom{{IsNull()}}});
+  if (null_too) add(IsNull(), false);
   return all;
 }
 

@@ -177,9 +177,9 @@ bool is_too_long(TextView condition) {
   constexpr std::size_t kLongestCondition = 30'000;
   std::size_t connectors = 0;
   bool quoted = false;
-  for (std::size_t i = 0; i < condition.size(); ++i) {
-    if (condition[i] == u'\'') quoted = !quoted;
+  for (std::size_t i = condition.find_first_of(u"' "); i != TextView::npos; i = condition.find_first_of(u"' ", i + 1)) {
     const TextView rest = condition.substr(i);
+    if (rest[0] == u'\'') quoted = !quoted;
     if (!quoted && (rest.starts_with(u" And ") || rest.starts_with(u" Or "))) ++connectors;
   }
   return condition.size() > kLongestCondition || connectors > kMostConnectors;

@@ -292,11 +292,7 @@ class Words {
   TextView rest_, marks_;
 };
 
-// A form that was read is no more another one, whether there is such a period or not.
-struct Form {
-  Found period;
-};
-using Read = std::optional<Form>;
+using Read = std::optional<FormInWords>;
 
 // "+7" and "- 7" behind a day.
 std::optional<std::int64_t> signed_days(TextView typed) {
@@ -315,7 +311,8 @@ Read beside_today(TextView typed, std::int32_t today) {
     if (length == 0) continue;
     const TextView behind = trimmed(bare.substr(length));
     const auto more = signed_days(behind);
-    if (more && (behind.empty() || row.unit == Unit::Day)) return Form{beside(row.unit, row.steps + *more, today)};
+    if (more && (behind.empty() || row.unit == Unit::Day))
+      return FormInWords{beside(row.unit, row.steps + *more, today)};
   }
   return std::nullopt;
 }
@@ -352,7 +349,7 @@ Read named(TextView typed, std::int32_t today) {
     const NameWords& language = *std::ranges::find(kNameWords, row.language, &NameWords::language);
     for (const TextView name : row.names) {
       const auto told = told_beside(name, typed, language, row.unit == Unit::Month);
-      if (told) return Form{named_period(row, *told, today)};
+      if (told) return FormInWords{named_period(row, *told, today)};
     }
   }
   return std::nullopt;
@@ -373,30 +370,21 @@ Read counted(TextView typed, std::int32_t today) {
     for (const UnitName& unit : kUnitNames) {
       if (unit.language != word.language) continue;
       if (const auto count = count_in(typed, word, unit)) {
-        return Form{counted_units(unit.unit, *count, word.future, today)};
+        return FormInWords{counted_units(unit.unit, *count, word.future, today)};
       }
     }
   }
   return std::nullopt;
 }
 
-// All forms have a letter.
-Read form_in(TextView typed, std::int32_t today) {
-  if (typed.find_first_not_of(u"0123456789/-.: ") == TextView::npos) return std::nullopt;
+}  // namespace
+
+std::optional<FormInWords> form_in_words(TextView typed, std::int32_t today) {
   for (const auto read : {beside_today, named, counted}) {
     if (const Read form = read(trimmed(typed), today)) return form;
   }
   return std::nullopt;
 }
-
-}  // namespace
-
-std::optional<Period> period_in_words(TextView typed, std::int32_t today) {
-  const Read form = form_in(typed, today);
-  return form ? form->period : std::nullopt;
-}
-
-bool is_form_in_words(TextView typed) { return form_in(typed, 0).has_value(); }
 
 std::span<const PeriodBeside> periods_beside() { return kBeside; }
 std::span<const NamedPeriod> named_periods() { return kNamed; }

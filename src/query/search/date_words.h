@@ -9,12 +9,14 @@
 
 namespace qvr::query {
 
-// Nothing for what is no such form, is in no single language, or lies outside the calendar. `today` counts days as Date
-// does. A period may end at the day behind the last one of the calendar.
-std::optional<Period> period_in_words(TextView typed, std::int32_t today);
+// A form that was read is no text for the locale to guess at, though it may be of no period: "31 de febrero".
+struct FormInWords {
+  std::optional<Period> period;
+};
 
-// Whether this is such a form, though it may be of no period: "31 de febrero" is no text for the locale to guess at.
-bool is_form_in_words(TextView typed);
+// Nothing for what is no such form, or in no single language. `today` counts days as Date does. A period may end at the
+// day behind the last one of the calendar.
+std::optional<FormInWords> form_in_words(TextView typed, std::int32_t today);
 
 // The words, as people write them.
 

@@ -49,6 +49,7 @@ std::optional<Date> iso_date(TextView typed) {
 
 // "5.1.2011", which some locales would take for a time of day.
 bool is_day_with_points(TextView typed) {
+  if (typed.find(u'.') == TextView::npos) return false;
   const auto parts = split(typed, u".");
   return parts.size() == 3 && std::ranges::all_of(parts, all_digits) && parts[2].size() == 4;
 }
@@ -57,15 +58,18 @@ bool is_day_with_points(TextView typed) {
 std::optional<std::int32_t> day_in(TextView typed) {
   if (typed.find(u':') != TextView::npos || all_digits(typed)) return std::nullopt;
   auto date = iso_date(typed);
-  if (!date) date = locale().parse_date(is_day_with_points(typed) ? replace_all(typed, u".", u"/") : Text(typed));
+  if (!date) {
+    date = is_day_with_points(typed) ? locale().parse_date(replace_all(typed, u".", u"/")) : locale().parse_date(typed);
+  }
   if (!date || !has_calendar_time(*date) || date->days != std::trunc(date->days)) return std::nullopt;
   if (date->days == 0 && typed.find(u"1899") == TextView::npos) return std::nullopt;
   return static_cast<std::int32_t>(date->days);
 }
 
-std::optional<Period> whole_day(TextView typed, std::int32_t today) {
-  if (const auto told = period_in_words(typed, today)) return told;
-  if (is_form_in_words(typed)) return std::nullopt;
+std::optional<Period> whole_day(TextView typed, Today& today) {
+  const bool figures = typed.find_first_not_of(u"0123456789/-.") == TextView::npos;
+  const auto form = figures ? std::nullopt : form_in_words(typed, today.day());
+  if (form) return form->period;
   const auto day = day_in(typed);
   return day ? days(*day, *day + 1) : std::nullopt;
 }
@@ -101,7 +105,7 @@ Moment after(Moment moment, std::int32_t seconds) {
 }
 
 // A day, and a time behind it.
-std::optional<Period> time_of_day(TextView typed, std::int32_t today) {
+std::optional<Period> time_of_day(TextView typed, Today& today) {
   const std::size_t gap = typed.find_last_of(u" T", typed.find(u':'));
   if (gap == TextView::npos) return std::nullopt;
   const auto time = time_in(trimmed(typed.substr(gap + 1)));
@@ -130,7 +134,12 @@ std::optional<Period> months(std::int64_t first, std::int64_t count) {
   return from && to ? days(*from, *to) : std::nullopt;
 }
 
-std::optional<Period> period_in(TextView typed, std::int32_t today) {
+std::int32_t Today::day() {
+  if (!day_) day_ = static_cast<std::int32_t>(std::trunc(thread_state().platform().system.now().days));
+  return *day_;
+}
+
+std::optional<Period> period_in(TextView typed, Today& today) {
   if (const auto period = year_or_month(typed)) return period;
   return typed.find(u':') == TextView::npos ? whole_day(typed, today) : time_of_day(typed, today);
 }

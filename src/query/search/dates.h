@@ -28,8 +28,17 @@ std::optional<std::int32_t> day_of(std::int64_t month, int day);
 std::optional<Period> days(std::int64_t from, std::int64_t to);  // to before `to`
 std::optional<Period> months(std::int64_t first, std::int64_t count);
 
-// In words or figures; nothing for what is no period. `today` counts days as Date does.
-std::optional<Period> period_in(TextView typed, std::int32_t today);
+// The day of the platform's clock, which is asked once, and only by what needs it: one search is of one day.
+class Today {
+ public:
+  std::int32_t day();
+
+ private:
+  std::optional<std::int32_t> day_;
+};
+
+// In words or figures; nothing for what is no period.
+std::optional<Period> period_in(TextView typed, Today& today);
 
 // The part of the period that literals of the engine can hold.
 Period within(Engine engine, const Period& period);

@@ -61,9 +61,9 @@ Atom range_of(Test first, Test last) {
 
 class Grammar {
  public:
-  Grammar(SearchType type, Engine engine, std::int32_t today) : type_(type), engine_(engine), today_(today) {}
+  Grammar(SearchType type, Engine engine) : type_(type), engine_(engine) {}
 
-  Found atom(std::span<const Token> tokens) const {
+  Found atom(std::span<const Token> tokens) {
     const Term term = term_of(tokens);
     Found found = positive(term);
     if (found && term.negated) found->negated = !found->negated;
@@ -78,7 +78,7 @@ class Grammar {
   }
 
  private:
-  Found positive(const Term& term) const {
+  Found positive(const Term& term) {
     if (Found found = nothing_or_something(term)) return found;
     const bool simple = term.first != nullptr && !term.is_range();
     if (is_textual(type_)) return text(term);
@@ -168,7 +168,7 @@ class Grammar {
     return truth && is_equality(term) ? Found(single(IsTrue{*truth}, is_different(term))) : std::nullopt;
   }
 
-  Found range(const Term& term) const {
+  Found range(const Term& term) {
     const Token *first = term.first, *last = term.last;
     const bool whole = first != nullptr && last != nullptr;
     // In words a range has both ends, or is open on purpose.
@@ -183,7 +183,7 @@ class Grammar {
 
   static bool is_too_long(const Token& token) { return token.text.size() > kLongestOperand; }
 
-  Found compared(Comparison comparison, const Token& value) const {
+  Found compared(Comparison comparison, const Token& value) {
     if (is_too_long(value)) return std::nullopt;
     if (type_ == SearchType::Date) return compared_date(comparison, value);
     auto digits = number_digits(value.text);
@@ -192,7 +192,7 @@ class Grammar {
     return single(CompareNumber{different ? Comparison::Equal : comparison, std::move(*digits)}, different);
   }
 
-  Found between(const Token& first, const Token& last) const {
+  Found between(const Token& first, const Token& last) {
     if (is_too_long(first) || is_too_long(last)) return std::nullopt;
     if (type_ == SearchType::Date) return between_dates(first, last);
     auto lower = number_digits(first.text), upper = number_digits(last.text);
@@ -202,7 +202,7 @@ class Grammar {
                     CompareNumber{Comparison::LessOrEqual, std::move(*upper)});
   }
 
-  Found compared_date(Comparison comparison, const Token& value) const {
+  Found compared_date(Comparison comparison, const Token& value) {
     const auto typed = period_in(value.text, today_);
     if (!typed) return std::nullopt;
     const Period period = within(engine_, *typed);
@@ -240,7 +240,7 @@ class Grammar {
   // Selects nothing.
   static Atom before_all(const Period& empty) { return single(CompareDate{Comparison::Less, first_unit(empty)}); }
 
-  Found between_dates(const Token& first, const Token& last) const {
+  Found between_dates(const Token& first, const Token& last) {
     const auto a = period_in(first.text, today_), b = period_in(last.text, today_);
     if (!a || !b) return std::nullopt;
     // A day and its year overlap and are not reversed: the bounds are swapped only when the range would be empty.
@@ -250,7 +250,7 @@ class Grammar {
 
   SearchType type_;
   Engine engine_;
-  std::int32_t today_;
+  Today today_;
 };
 
 // The tokens between two of a kind.
@@ -266,7 +266,7 @@ bool for_each_part(std::span<const Token> tokens, TokenKind separator, Use use) 
 
 // What one alternative of the search gives. Nothing is multiplied out: a negation among other conditions stays one
 // atom.
-std::optional<Alternatives> parse_alternative(std::span<const Token> tokens, const Grammar& grammar) {
+std::optional<Alternatives> parse_alternative(std::span<const Token> tokens, Grammar& grammar) {
   Alternative all;
   const bool valid = for_each_part(tokens, TokenKind::And, [&](std::span<const Token> term) {
     Found atom = grammar.atom(term);
@@ -274,7 +274,7 @@ std::optional<Alternatives> parse_alternative(std::span<const Token> tokens, con
     return atom && all.size() <= kMostConnectors + 1;
   });
   if (!valid) return std::nullopt;
-  if (all.size() > 1) return Alternatives{std::move(all)};
+  if (all.size() > 1) return Alternatives(1, std::move(all));
   Alternatives alone = expanded(std::move(all.front()));
   std::erase_if(alone, [&](const Alternative& one) {
     return !one.front().negated && grammar.selects_nothing(one.front().tests.front());
@@ -284,9 +284,8 @@ std::optional<Alternatives> parse_alternative(std::span<const Token> tokens, con
 
 }  // namespace
 
-std::optional<Alternatives> parse_search(std::span<const Token> tokens, SearchType type, Engine engine,
-                                         std::int32_t today) {
-  const Grammar grammar(type, engine, today);
+std::optional<Alternatives> parse_search(std::span<const Token> tokens, SearchType type, Engine engine) {
+  Grammar grammar(type, engine);
   Alternatives found;
   const bool valid = for_each_part(tokens, TokenKind::Or, [&](std::span<const Token> alternative) {
     if (alternative.empty()) return true;  // nothing behind the last ";" or between two

@@ -10,9 +10,7 @@
 
 namespace qvr::query {
 
-// Nothing for tokens that are not a valid search for this column type, and for one that could select nothing. `today`
-// counts days as Date does; only dates need it.
-std::optional<Alternatives> parse_search(std::span<const Token> tokens, SearchType type, Engine engine,
-                                         std::int32_t today);
+// Nothing for tokens that are not a valid search for this column type, and for one that could select nothing.
+std::optional<Alternatives> parse_search(std::span<const Token> tokens, SearchType type, Engine engine);
 
 }  // namespace qvr::query

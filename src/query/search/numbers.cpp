@@ -29,15 +29,17 @@ bool drop_currency(TextView& text, TextView currency) {
 }
 
 bool drop_currency(TextView& text) {
+  if (!text.empty() && is_digit(text.front()) && is_digit(text.back())) return false;
   return drop_currency(text, locale().currency_symbol()) ||
          std::ranges::any_of(kCurrencies, [&](TextView currency) { return drop_currency(text, currency); });
 }
 
-// Removes a sign; whether it was a minus.
-bool drop_sign(TextView& text) {
-  const bool negative = text.starts_with(u'-');
-  if (negative || text.starts_with(u'+')) text = trimmed(text.substr(1));
-  return negative;
+// Removes the sign; 0 when there is none.
+char16_t drop_sign(TextView& text) {
+  if (!text.starts_with(u'-') && !text.starts_with(u'+')) return 0;
+  const char16_t sign = text[0];
+  text = trimmed(text.substr(1));
+  return sign;
 }
 
 bool is_apostrophe(char16_t unit) { return unit == u'\'' || unit == u'\u2019'; }
@@ -79,8 +81,9 @@ std::optional<Text> whole_digits(TextView text) {
 
 std::optional<Text> number_digits(TextView typed) {
   TextView text = trimmed(typed);
-  const bool currency = drop_currency(text), negative = drop_sign(text);
-  if (!currency) drop_currency(text);
+  char16_t sign = drop_sign(text);
+  if (drop_currency(text) && sign == 0) sign = drop_sign(text);
+  const bool negative = sign == u'-';
   const std::size_t mark = decimal_separator(text);
   auto whole = whole_digits(text.substr(0, mark));
   Text decimals(text.substr(std::min(mark + 1, text.size())));

@@ -1,6 +1,7 @@
 #include "query/search/operand.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qvr::query {
 namespace {
@@ -57,23 +58,18 @@ bool Operand::too_long() const {
 }
 
 std::vector<Operand> Operand::words() const {
-  std::vector<Operand> words, all;
-  Operand word;
-  const auto finish = [&] {
-    if (word.empty()) return;
-    all.push_back(word);
-    if (word.any_quoted() || !std::ranges::all_of(word.text_, is_punctuation)) words.push_back(word);
-    word = {};
-  };
+  std::vector<Operand> words;
+  bool within = false;
   for (std::size_t i = 0; i < text_.size(); ++i) {
-    if (text_[i] == u' ' && !quoted_[i]) {
-      finish();
-    } else {
-      word.add(text_[i], quoted_[i]);
-    }
+    const bool was_within = std::exchange(within, text_[i] != u' ' || quoted_[i]);
+    if (within && !was_within) words.emplace_back();
+    if (within) words.back().add(text_[i], quoted_[i]);
   }
-  finish();
-  return words.empty() ? all : words;
+  const auto lone = [](const Operand& word) {
+    return !word.any_quoted() && std::ranges::all_of(word.text_, is_punctuation);
+  };
+  if (!std::ranges::all_of(words, lone)) std::erase_if(words, lone);
+  return words;
 }
 
 void Operand::append_wildcard(char16_t wildcard) { add(wildcard, false); }

@@ -1,26 +1,17 @@
 #include "query/search/search.h"
 
-#include <cmath>
-
 #include "query/search/condition.h"
 #include "query/search/criterion.h"
 #include "query/search/grammar.h"
-#include "session/thread_state.h"
 
 namespace qvr::query {
-namespace {
-
-// Asked once for a search, which may name several days.
-std::int32_t today() { return static_cast<std::int32_t>(std::trunc(thread_state().platform().system.now().days)); }
-
-}  // namespace
 
 std::optional<Interpretation> interpret_search(Engine engine, const SearchColumn& column, TextView search,
                                                TextView label) {
   const auto type = search_type(column.type);
   if (!type || !pick(engine, {})) return std::nullopt;
   const Text typed = normalised_search(search);
-  const auto understood = parse_search(tokens_of(typed, *type), *type, engine, *type == SearchType::Date ? today() : 0);
+  const auto understood = parse_search(tokens_of(typed, *type), *type, engine);
   if (!understood) return std::nullopt;
   auto condition = search_condition(engine, *type, column.expression, *understood);
   if (!condition) return std::nullopt;

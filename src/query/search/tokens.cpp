@@ -43,7 +43,7 @@ bool begins_test(TextView text) {
 
 class Lexer {
  public:
-  Lexer(TextView search, SearchType type) : search_(search), type_(type) {}
+  Lexer(TextView search, SearchType type) : search_(search), type_(type) { tokens_.reserve(8); }
 
   std::vector<Token> tokens() {
     read_term();
@@ -135,7 +135,7 @@ class Lexer {
     if (const std::size_t end = end_of_single_quoted()) {
       ++at_;
       // Only wildcards and double quotes keep their meaning, and these only in a pattern.
-      while (at_ < end - 1) pattern_ ? read_into(operand) : operand.add(search_[at_++], true);
+      while (at_ < end - 1) pattern_ ? read_into(operand) : keep(operand, search_[at_++], true);
       at_ = end;
     } else {
       while (!ends_operand()) read_into(operand);
@@ -151,12 +151,17 @@ class Lexer {
     // "ene...mar." is a range of two names with points.
     if (type_ != SearchType::Date && rest().starts_with(u"...")) dots_ahead_ = false;
     const std::size_t end = end_of_double_quoted();
-    if (end == 0) return operand.add(search_[at_++], false);
+    if (end == 0) return keep(operand, search_[at_++], false);
     for (++at_; at_ < end - 1; ++at_) {
-      operand.add(search_[at_], true);
+      keep(operand, search_[at_], true);
       if (is_double_quote(search_[at_])) ++at_;  // skips the second of a doubled quote
     }
     at_ = end;
+  }
+
+  // Only texts need more than what was typed.
+  void keep(Operand& operand, char16_t unit, bool quoted) const {
+    if (is_textual(type_)) operand.add(unit, quoted);
   }
 
   bool ends_operand() const { return at_ == search_.size() || dots_at(at_) > 0 || connector_at(at_).length > 0; }
@@ -242,7 +247,8 @@ class Lexer {
 Text normalised_search(TextView typed) {
   Text text(typed);
   std::ranges::replace_if(text, is_blank_like, u' ');
-  return Text(trimmed(text));
+  text.erase(text.find_last_not_of(u' ') + 1);
+  return text.erase(0, text.find_first_not_of(u' '));
 }
 
 std::vector<Token> tokens_of(TextView search, SearchType type) { return Lexer(search, type).tokens(); }

@@ -18,7 +18,7 @@ struct Token {
   bool negated = false;        // Like: "not like"
   bool open = false;           // From: the range may do without a last end
   TextView text = {};          // Operand: as typed, without blanks around it; never empty
-  Operand operand = {};        // Operand: the text without its quotes
+  Operand operand = {};        // Operand of a text column: the text without its quotes
 };
 
 // Replaces control characters and no-break spaces by blanks, and trims.
