@@ -285,6 +285,7 @@ std::optional<Alternatives> parse_alternative(std::span<const Token> tokens, Gra
 }  // namespace
 
 std::optional<Alternatives> parse_search(std::span<const Token> tokens, SearchType type, Engine engine) {
+  if (tokens.size() > kMostTokens) return std::nullopt;
   Grammar grammar(type, engine);
   Alternatives found;
   const bool valid = for_each_part(tokens, TokenKind::Or, [&](std::span<const Token> alternative) {

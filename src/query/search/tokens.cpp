@@ -47,8 +47,10 @@ class Lexer {
 
   std::vector<Token> tokens() {
     read_term();
-    while (at_ < search_.size()) {
+    while (at_ < search_.size() && tokens_.size() <= kMostTokens) {
       const Connector connector = connector_at(at_);
+      const bool nothing_between = connector.is_or && !tokens_.empty() && tokens_.back().kind == TokenKind::Or;
+      if (nothing_between) tokens_.pop_back();
       add({connector.is_or ? TokenKind::Or : TokenKind::And}, connector.length);
       read_term();
     }
@@ -65,6 +67,7 @@ class Lexer {
   void read_term() {
     skip_blanks();
     term_ = at_;
+    content_ = search_.find_first_not_of(u" &|", at_);
     range_ = nullptr;
     dots_ahead_ = true;
     read_negation();
@@ -213,8 +216,7 @@ class Lexer {
 
   // Not at either end of a text, where it is punctuation.
   bool sign_connects_texts(std::size_t at) const {
-    const bool first = search_.substr(term_, at - term_).find_first_not_of(u" &|") == TextView::npos;
-    if (first || !blank_before(at)) return false;
+    if (at < content_ || !blank_before(at)) return false;
     const std::size_t next = behind_blanks(at + 1);
     if (next == search_.size() || TextView(u";&|").find(search_[next]) != TextView::npos) return false;
     return next > at + 1 || begins_test(search_.substr(next));
@@ -236,6 +238,7 @@ class Lexer {
   std::vector<Token> tokens_;
   std::size_t at_ = 0;
   std::size_t term_ = 0;               // where the term began
+  std::size_t content_ = 0;            // and what is no mere connecting sign in it
   const RangeWords* range_ = nullptr;  // whose last end is still to come
   bool dots_ahead_ = false;            // two points here would join the ends of a range
   bool pattern_ = false;               // the operand is one of LIKE

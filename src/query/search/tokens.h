@@ -24,6 +24,9 @@ struct Token {
 // Replaces control characters and no-break spaces by blanks, and trims.
 Text normalised_search(TextView typed);
 
+// More than a condition can hold; what stands behind so many is not read.
+inline constexpr std::size_t kMostTokens = 1000;
+
 // Of a normalised search, which the tokens refer to. Quoted parts are never taken apart. In text columns a word
 // connects only before an operator, "&" and "|" need blanks around them, and two points join only what can be the ends
 // of a range.

@@ -180,6 +180,14 @@ TEST_F(SearchLengths, TextsOfMillionsOfCharactersAreRead) {
           {join({u"a", blanks, u";b"}), kEither, u"Nombre es como '*a*'; es como '*b*'"},
           {join({u"a", blanks, u"b"}), u""}});
   expect(kPrecio, Engine::Jet, {{join({u"1 o ", blanks, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
+  Text signs;
+  for (int i = 0; i < 1 << 18; ++i) signs += u"& ";
+  expect(kNombre, Engine::Jet, {{join({signs, u"a"}), u""}, {join({u"a ", signs, u"; b"}), u""}});
+  Text semicolons(1 << 20, u';');
+  expect(kPrecio, Engine::Jet, {{join({u"1", semicolons, u"2"}), u"P.Precio= 1 Or P.Precio= 2", u"Precio = 1; = 2"}});
+  Text numbers;
+  for (int i = 0; i < 1 << 20; ++i) numbers += u"1;";
+  expect(kPrecio, Engine::Jet, {{numbers, u""}});
   Text likes;
   for (int i = 0; i < 1 << 18; ++i) likes += u"like a o ";
   expect(kNombre, Engine::Jet, {{likes, u""}});
