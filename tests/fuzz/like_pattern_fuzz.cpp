@@ -6,8 +6,8 @@
 #include "fuzz/fuzz_input.h"
 #include "fuzz/fuzz_thread.h"
 #include "query/search/condition_evaluator.h"
-#include "query/search/operand.h"
 #include "query/search/search.h"
+#include "query/search/tokens.h"
 
 namespace qvr::tests {
 namespace {
