@@ -40,6 +40,7 @@ constexpr RangeWords kRanges[] = {{u"entre", false, kAnd},
                                   {u"desde", true, kSpanishEnds},
                                   {u"a partir de", true, kUpTo},
                                   {u"a partir del", true, kSpanishEnds},
+                                  {u"\u00e0 partir d'", true, kFrenchEnds},
                                   {u"from", true, kEnglishEnds},
                                   {u"since", true, kEnglishEnds},
                                   {u"du", false, kFrenchEnds},
@@ -54,9 +55,10 @@ bool ends_word(TextView text, std::size_t at) {
   return at == text.size() || TextView(u" ;&|").find(text[at]) != TextView::npos;
 }
 
+// French words may end in an apostrophe, the next one without a blank behind it.
 std::size_t word_length(TextView text, TextView word) {
   const std::size_t length = phrase_length(text, word);
-  return ends_word(text, length) ? length : 0;
+  return word.ends_with(u'\'') || ends_word(text, length) ? length : 0;
 }
 
 std::size_t any_word(Words words, TextView text) {

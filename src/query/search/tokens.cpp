@@ -29,6 +29,21 @@ TextView without_leading_blanks(TextView text) {
   return text.substr(std::min(text.find_first_not_of(u' '), text.size()));
 }
 
+// The operator LIKE, as a word or phrase, at the beginning of the text. "LIKE" in capitals always counts, all others
+// only before a quote or a wildcard.
+FoundPhrase like_operator(TextView text) {
+  const FoundPhrase phrase = like_phrase(text);
+  if (phrase.length == 0) return {};
+  const std::size_t operand = text.find_first_not_of(u' ', phrase.length);
+  if (operand == TextView::npos || text[operand] == u';') return {};
+  const TextView typed = text.substr(0, phrase.length);
+  if (typed == u"LIKE" || (typed.starts_with(u"NOT ") && typed.ends_with(u" LIKE"))) return phrase;
+  const bool quoted = is_single_quote(text[operand]) || is_double_quote(text[operand]);
+  const TextView near = text.substr(operand, kFarthest);
+  const bool wild = near.substr(0, near.find(u';')).find_first_of(u"*?") != TextView::npos;
+  return quoted || wild ? phrase : FoundPhrase();
+}
+
 // Whether an operator, a null phrase or LIKE begins here: before these a word connects texts, too. "!" is one before
 // another or a quote, as criteria show it.
 bool begins_test(TextView text) {
@@ -255,18 +270,5 @@ Text normalised_search(TextView typed) {
 }
 
 std::vector<Token> tokens_of(TextView search, SearchType type) { return Lexer(search, type).tokens(); }
-
-FoundPhrase like_operator(TextView text) {
-  const FoundPhrase phrase = like_phrase(text);
-  if (phrase.length == 0) return {};
-  const std::size_t operand = text.find_first_not_of(u' ', phrase.length);
-  if (operand == TextView::npos || text[operand] == u';') return {};
-  const TextView typed = text.substr(0, phrase.length);
-  if (typed == u"LIKE" || (typed.starts_with(u"NOT ") && typed.ends_with(u" LIKE"))) return phrase;
-  const bool quoted = is_single_quote(text[operand]) || is_double_quote(text[operand]);
-  const TextView near = text.substr(operand, kFarthest);
-  const bool wild = near.substr(0, near.find(u';')).find_first_of(u"*?") != TextView::npos;
-  return quoted || wild ? phrase : FoundPhrase();
-}
 
 }  // namespace qvr::query

@@ -32,8 +32,4 @@ inline constexpr std::size_t kMostTokens = 1000;
 // of a range.
 std::vector<Token> tokens_of(TextView search, SearchType type);
 
-// The operator LIKE, as a word or phrase, at the beginning of the text, with the blanks behind it. "LIKE" in capitals
-// always counts, all others only before a quote or a wildcard.
-FoundPhrase like_operator(TextView text);
-
 }  // namespace qvr::query
