@@ -202,6 +202,15 @@ TEST(AbbreviateForDisplay, TakesThePiecesOfTheWholeLine) {
   }
 }
 
+TEST(Joined, WritesEachItemOnceInOrder) {
+  const auto written = [](std::initializer_list<int> items) {
+    return joined(items, u", ", [](int item) { return decimal(item); });
+  };
+  EXPECT_EQ(written({}), u"");
+  EXPECT_EQ(written({7}), u"7");
+  EXPECT_EQ(written({7, 0, -1}), u"7, 0, -1");
+}
+
 TEST(Wipe, EmptiesAndOverwrites) {
   Text secret = u"a password longer than what a text keeps inside itself";
   const char16_t* units = secret.data();

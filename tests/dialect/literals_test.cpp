@@ -136,6 +136,13 @@ TEST_F(LiteralsTest, AhoraSQLAndSqlFechaSistemaAskTheServersClock) {
               dialect::sqlFechaSistema);
 }
 
+TEST_F(LiteralsTest, FirstDateIsTheEngines) {
+  EXPECT_EQ(dialect::FechaSQL(Engine::Jet, dialect::first_date(Engine::Jet)), u"#0100-01-01#");
+  EXPECT_EQ(dialect::FechaSQL(Engine::SqlServer, dialect::first_date(Engine::SqlServer)), u"{ d '1753-01-01'}");
+  EXPECT_EQ(dialect::FechaSQL(Engine::Oracle, dialect::first_date(Engine::Oracle)),
+            u" TO_DATE('0100-01-01','YYYY-MM-DD') ");
+}
+
 TEST_F(LiteralsTest, ConditionsOnALogicalFieldAreThoseOfEveryEngine) {
   EXPECT_EQ(dialect::sqlEsTrue(u"Activo"), u" Activo<>0 ");
   EXPECT_EQ(dialect::sqlEsFalse(u"Activo"), u" Activo=0 ");
