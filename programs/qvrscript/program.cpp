@@ -5,10 +5,10 @@
 
 #include "base/trace.h"
 #include "base/utf8.h"
-#include "qvrscript/check.h"
-#include "qvrscript/doctor.h"
-#include "qvrscript/help.h"
-#include "qvrscript/list.h"
+#include "qvrscript/check/check.h"
+#include "qvrscript/command_line/help.h"
+#include "qvrscript/doctor/doctor.h"
+#include "qvrscript/run/list.h"
 #include "session/ov.h"
 
 namespace qvr::script_tool {

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "qvrscript/run.h"
+#include "qvrscript/run/run.h"
 
 namespace qvr::script_tool {
 

@@ -4,8 +4,8 @@
 
 #include <sstream>
 
-#include "qvrscript/check.h"
-#include "qvrscript/help.h"
+#include "qvrscript/check/check.h"
+#include "qvrscript/command_line/help.h"
 #include "qvrscript/program.h"
 
 namespace qvr::tests {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "qvrscript/check/finding.h"
 #include "qvrscript/engines.h"
-#include "qvrscript/finding.h"
-#include "qvrscript/run.h"
+#include "qvrscript/run/run.h"
 
 namespace qvr::tests {
 

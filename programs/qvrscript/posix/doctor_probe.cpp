@@ -2,7 +2,7 @@
 #include <sys/utsname.h>
 
 #include "base/utf8.h"
-#include "qvrscript/doctor_facts.h"
+#include "qvrscript/doctor/doctor_facts.h"
 #include "session/ov.h"
 
 namespace qvr::script_tool {

@@ -10,7 +10,7 @@
 #include "platform/platform.h"
 #include "platform/windows/message_boxes.h"
 #include "platform/windows/wide_text.h"
-#include "qvrscript/doctor_facts.h"
+#include "qvrscript/doctor/doctor_facts.h"
 #include "qvrscript/windows/library_file.h"
 #include "qvrscript/windows/registered.h"
 #include "session/global.h"

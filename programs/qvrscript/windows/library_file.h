@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "qvrscript/doctor_facts.h"
+#include "qvrscript/doctor/doctor_facts.h"
 
 namespace qvr::script_tool::windows {
 

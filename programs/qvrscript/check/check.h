@@ -1,0 +1,16 @@
+// The command `check`: finds what the runner would do with script files against their author's intention.
+#pragma once
+
+#include "base/engine.h"
+#include "qvrscript/check/finding.h"
+#include "qvrscript/command_line/arguments.h"
+#include "qvrscript/output/report.h"
+
+namespace qvr::script_tool {
+
+int check(const Arguments& arguments, const Console& console);
+
+// The findings of all rules in one script, by line.
+std::vector<Finding> findings_in(TextView path, std::string bytes, Engine engine);
+
+}  // namespace qvr::script_tool

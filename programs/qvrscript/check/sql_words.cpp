@@ -1,0 +1,67 @@
+#include "qvrscript/check/sql_words.h"
+
+#include <algorithm>
+
+namespace qvr::script_tool {
+namespace {
+
+constexpr TextView kModules[] = {u"PROC", u"PROCEDURE", u"VIEW", u"FUNCTION", u"TRIGGER"};
+
+// The kind of object that the command creates or alters; empty for other commands.
+TextView made(const std::vector<Word>& words) {
+  const bool create_or_alter = words_are(words, 0, {u"CREATE", u"OR"});
+  const bool makes = words_are(words, 0, {u"CREATE"}) || words_are(words, 0, {u"ALTER"});
+  const std::size_t at = create_or_alter ? 3 : 1;
+  return makes && at < words.size() ? words[at].text : TextView();
+}
+
+}  // namespace
+
+bool in_word(char16_t unit) {
+  return unit == u'_' || unit == u'@' || unit == u'#' || unit == u'$' || unit >= 0x80 || is_digit(unit) ||
+         is_ascii_letter(unit);
+}
+
+std::vector<Word> words_in(const Script& script, const ScriptCommand& piece) {
+  std::vector<Word> words;
+  const std::size_t end = piece.begin + piece.text.size();
+  for (std::size_t at = piece.begin; at < end;) {
+    if (const Region* region = region_at(script.regions(), at)) {
+      at = region->end;
+      continue;
+    }
+    const std::size_t begin = at;
+    while (at < end && in_word(script.text()[at])) ++at;
+    if (at > begin) words.push_back({script.text().substr(begin, at - begin), begin});
+    if (at == begin) ++at;
+  }
+  return words;
+}
+
+bool holds_code(const Script& script, const ScriptCommand& piece) {
+  const std::size_t end = piece.begin + piece.text.size();
+  for (std::size_t at = piece.begin; at < end;) {
+    const Region* region = region_at(script.regions(), at);
+    const bool comment = region != nullptr &&
+                         (region->kind == RegionKind::LineComment || region->kind == RegionKind::BlockComment);
+    if (!comment && kWhiteSpace.find(script.text()[at]) == TextView::npos) return true;
+    at = comment ? region->end : at + 1;
+  }
+  return false;
+}
+
+bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted) {
+  for (const TextView word : wanted) {
+    if (at >= words.size() || !equal_no_case(words[at++].text, word)) return false;
+  }
+  return true;
+}
+
+bool is_module(const std::vector<Word>& words) {
+  const TextView kind = made(words);
+  return std::ranges::any_of(kModules, [&](TextView each) { return equal_no_case(each, kind); });
+}
+
+bool is_trigger(const std::vector<Word>& words) { return equal_no_case(made(words), u"TRIGGER"); }
+
+}  // namespace qvr::script_tool

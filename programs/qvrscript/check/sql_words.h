@@ -1,0 +1,30 @@
+// The words of a piece of a script outside comments, strings and quoted names.
+#pragma once
+
+#include <vector>
+
+#include "qvrscript/check/script.h"
+
+namespace qvr::script_tool {
+
+struct Word {
+  TextView text;
+  std::size_t begin;  // in the script's text
+};
+
+// Whether this unit can be part of a word.
+bool in_word(char16_t unit);
+
+std::vector<Word> words_in(const Script& script, const ScriptCommand& piece);
+
+// Whether there is anything but white space and comments.
+bool holds_code(const Script& script, const ScriptCommand& piece);
+
+// Whether these words follow at this position, without regard to case.
+bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted);
+
+// Whether the command creates or alters a procedure, view, function or trigger, whose statements run later.
+bool is_module(const std::vector<Word>& words);
+bool is_trigger(const std::vector<Word>& words);
+
+}  // namespace qvr::script_tool
