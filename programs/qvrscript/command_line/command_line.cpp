@@ -120,8 +120,6 @@ struct CommandLine::Description {
   CfpCheckRequest cfp_check;
   CfpRekeyRequest cfp_rekey;
   CfpTestRequest cfp_test;
-  std::vector<std::string> help_of;
-  std::string shell;
 
   Description();
   CLI::App& add_command(CLI::App& parent, const char* name, const char* what, const char* examples);
@@ -134,7 +132,6 @@ struct CommandLine::Description {
   void add_check();
   void add_cfp_commands();
   void add_others();
-  std::string help() const;
 };
 
 CommandLine::Description::Description() {
@@ -353,8 +350,7 @@ void CommandLine::Description::add_check() {
           },
           "Leaves this rule out; may be given several times")
       ->option_text("RULE")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+      ->allow_extra_args(false);
   command.add_flag_callback(
       "--no-encryption", [this] { check.encryption = false; }, "Leaves out the rules of encryption");
   auto* const lock = add_text(command, "--lock", "FILE", "Scripts that this file names must be as they were",
@@ -436,19 +432,6 @@ void CommandLine::Description::add_others() {
     request.what = DoctorRequest{};
     request.command = u"doctor";
   });
-  CLI::App& help_command = add_command(app, "help", "The help of a command", "");
-  help_command.add_option("COMMAND", help_of);
-  help_command.final_callback([this] { request.what = TextRequest{help()}; });
-}
-
-std::string CommandLine::Description::help() const {
-  const CLI::App* topic = &app;
-  for (const std::string& word : help_of) {
-    const auto commands = topic->get_subcommands([&](const CLI::App* each) { return each->get_name() == word; });
-    if (commands.empty()) throw UsageFailure({u"no such command: ", text_of(word)});
-    topic = commands.front();
-  }
-  return topic->help();
 }
 
 CommandLine::CommandLine() : description_(std::make_unique<Description>()) {}
@@ -456,11 +439,16 @@ CommandLine::~CommandLine() = default;
 
 const CLI::App& CommandLine::app() const { return description_->app; }
 
-Request CommandLine::parse(const std::vector<std::string>& words) {
+Request CommandLine::parse(std::vector<std::string> words) {
   CLI::App& app = description_->app;
+  if (!words.empty() && words.front() == "help") {
+    words.erase(words.begin());
+    words.emplace_back("--help");
+  }
   require_commands(app, words, 0);
+  std::ranges::reverse(words);
   try {
-    app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    app.parse(std::move(words));
   } catch (const CLI::CallForHelp&) {
     description_->request.what = TextRequest{app.help()};
   } catch (const CLI::Success&) {  // the version

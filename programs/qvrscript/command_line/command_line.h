@@ -21,7 +21,7 @@ class CommandLine {
   CommandLine& operator=(const CommandLine&) = delete;
 
   // The words in UTF-8, without the program's name. Throws UsageFailure. Once for each object.
-  Request parse(const std::vector<std::string>& words);
+  Request parse(std::vector<std::string> words);
 
   const CLI::App& app() const;
 

@@ -283,7 +283,7 @@ TEST_P(RefusedCommandLine, IsToldAndNothingIsDone) {
 
 TEST(CommandLine, RefusedIsToldAsJsonToo) {
   for (const Text format : {u"--json", u"--format=json"}) {
-    const ToolAnswer answer = run_tool({u"check", format, u"--colour"});
+    const ToolAnswer answer = run_tool({u"check", u"x", format, u"--colour"});
     EXPECT_EQ(answer.code, 2);
     EXPECT_EQ(answer.out,
               "{\"command\":null,\"error\":\"The following argument was not expected: --colour\",\"exitCode\":2}\n");
