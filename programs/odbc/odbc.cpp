@@ -59,6 +59,21 @@ Statement::Statement(const Handle& connection, std::int32_t limit)
   api().SQLSetStmtAttrW(handle.get(), SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(limit)), 0);
 }
 
+void UnderWay::begin(const Statement& statement) {
+  const std::lock_guard lock(mutex_);
+  statement_ = &statement;
+}
+
+void UnderWay::end() noexcept {
+  const std::lock_guard lock(mutex_);
+  statement_ = nullptr;
+}
+
+void UnderWay::cancel() noexcept {
+  const std::lock_guard lock(mutex_);
+  if (statement_ != nullptr) api().SQLCancel(statement_->handle.get());
+}
+
 namespace {
 
 // SQL_ATTR_ODBC_VERSION must be set before a connection handle is allocated.

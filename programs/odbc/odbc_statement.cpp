@@ -119,14 +119,20 @@ void run_to_the_end(const Handle& statement) {
   } while (more != SQL_NO_DATA);
 }
 
-}  // namespace
+// Tells which statement is executed while it lives.
+class Execution {
+ public:
+  Execution(UnderWay& under_way, const Statement& statement) : under_way_(under_way) { under_way_.begin(statement); }
+  ~Execution() { under_way_.end(); }
+  Execution(const Execution&) = delete;
+  Execution& operator=(const Execution&) = delete;
 
-ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
-  std::unique_ptr<Statement> used = connection.statement(timeout);
-  const Handle& statement = used->handle;
-  const std::list<BoundValue> bound = bind(statement, parameters);
+ private:
+  UnderWay& under_way_;
+};
+
+ResultSet executed(const Handle& statement, TextView text) {
   statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
-
   ResultSet result;
   SQLSMALLINT columns = 0;
   statement.check(api().SQLNumResultCols(statement.get(), &columns));
@@ -139,8 +145,28 @@ ResultSet execute(Connection& connection, TextView text, const std::vector<Value
     result.affected = affected;
   }
   run_to_the_end(statement);
+  return result;
+}
+
+}  // namespace
+
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
+                  UnderWay& under_way) {
+  std::unique_ptr<Statement> used = connection.statement(timeout);
+  const Handle& statement = used->handle;
+  const std::list<BoundValue> bound = bind(statement, parameters);
+  ResultSet result;
+  {
+    const Execution execution(under_way, *used);
+    result = executed(statement, text);
+  }
   if (parameters.empty()) connection.keep(std::move(used));
   return result;
+}
+
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
+  UnderWay nobody_cancels;
+  return execute(connection, text, parameters, timeout, nobody_cancels);
 }
 
 }  // namespace qvr::odbc
