@@ -4,6 +4,7 @@
 
 #include "base/failure.h"
 #include "base/wildcards.h"
+#include "qvrscript/check/ignore_comments.h"
 #include "qvrscript/check/rules.h"
 #include "qvrscript/check/version_rules.h"
 #include "qvrscript/engines.h"
@@ -16,11 +17,12 @@ namespace qvr::script_tool {
 namespace {
 
 constexpr void (*kTextRules[])(const Script&, Findings&) = {
-    check_line_ends, check_separators, check_commands, check_placeholders, check_encryption, check_transaction,
+    check_line_ends,   check_separators, check_commands, check_placeholders, check_encryption,
+    check_transaction, check_sql_server, check_oracle,   check_jet,
 };
 
 struct Outcome {
-  std::vector<Finding> findings;
+  std::vector<NameFinding> findings;
   std::vector<Text> unreadable;
   std::vector<Text> empty;  // folders without scripts
   std::size_t files = 0;
@@ -46,7 +48,7 @@ class Checker {
     std::vector<Text> scripts = names;
     std::erase_if(scripts, [](const Text& name) { return !matches_wildcards(name, u"*.cfc"); });
     if (scripts.empty()) outcome.empty.emplace_back(folder);
-    check_names(folder, scripts, outcome.findings);
+    std::ranges::move(check_names(folder, scripts), std::back_inserter(outcome.findings));
     for (const Text& name : scripts) take_file(join({folder, u"/", name}));
   }
 
@@ -55,7 +57,7 @@ class Checker {
     try {
       const Engine engine = engine_.value_or(engine_of_file(file_name(path)));
       auto found = findings_in(path, services::script_bytes(thread_state().platform().files, path), engine);
-      std::ranges::move(found, std::back_inserter(outcome.findings));
+      for (Finding& each : found) outcome.findings.push_back({Text(path), std::move(each)});
     } catch (const std::exception&) {
       outcome.unreadable.emplace_back(path);
     }
@@ -67,17 +69,17 @@ class Checker {
 Text rule_text(const Finding& finding) { return Text(finding.rule.begin(), finding.rule.end()); }
 
 void write_lines(const Outcome& outcome, const Console& console) {
-  for (const Finding& finding : outcome.findings) {
+  for (const auto& [path, finding] : outcome.findings) {
     const Text line = finding.line == 0 ? Text() : join({u":", json_number(finding.line)});
-    say(console.out, {finding.file, line, u": ", finding.message, u" [", rule_text(finding), u"]"});
+    say(console.out, {path, line, u": ", finding.message, u" [", rule_text(finding), u"]"});
   }
 }
 
 void write_json(const Outcome& outcome, const Console& console) {
   std::vector<Text> findings, unreadable;
-  for (const Finding& finding : outcome.findings) {
+  for (const auto& [path, finding] : outcome.findings) {
     findings.push_back(json_object(
-        {json_member(u"file", json_text(finding.file)), json_member(u"line", json_number(finding.line)),
+        {json_member(u"file", json_text(path)), json_member(u"line", json_number(finding.line)),
          json_member(u"rule", json_text(rule_text(finding))), json_member(u"message", json_text(finding.message))}));
   }
   for (const Text& path : outcome.unreadable) unreadable.push_back(json_text(path));
@@ -89,15 +91,22 @@ void write_json(const Outcome& outcome, const Console& console) {
 
 }  // namespace
 
-std::vector<Finding> findings_in(TextView path, std::string bytes, Engine engine) {
-  const Script script(std::move(bytes), engine, thread_state().platform().files);
-  std::vector<Finding> found;
-  Findings findings(path, found);
+Findings findings_in(const Script& script) {
+  Findings findings;
+  if (!script.has_text()) {
+    check_encoding(script, findings);
+    return findings;
+  }
+  IgnoreComments comments(script, findings);
+  findings.silence_by(comments);
   check_encoding(script, findings);
-  if (!script.has_text()) return found;
   for (const auto rule : kTextRules) rule(script, findings);
-  std::ranges::stable_sort(found, {}, &Finding::line);
-  return found;
+  comments.tell_unused(findings);
+  return findings;
+}
+
+std::vector<Finding> findings_in(TextView, std::string bytes, Engine engine) {
+  return findings_in(Script(std::move(bytes), engine, thread_state().platform().files)).listed();
 }
 
 int check(const Arguments& arguments, const Console& console) {
