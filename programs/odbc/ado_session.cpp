@@ -118,7 +118,7 @@ ResultSet AdoSession::execute(TextView text, const std::vector<Value>& parameter
   require_open();
   if (text.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");
   return provider_call(hresult::kErrorsInCommand,
-                       [&] { return odbc::execute(*connection_, text, parameters, timeout); });
+                       [&] { return odbc::execute(*connection_, text, parameters, timeout, under_way_); });
 }
 
 }  // namespace qvr::odbc

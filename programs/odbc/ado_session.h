@@ -37,6 +37,8 @@ class AdoSession {
   void rollback_trans() { end_trans(false); }
 
   ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
+  // By any thread: the command that is executed fails. Harmless where none is.
+  void cancel() noexcept { under_way_.cancel(); }
 
   // The errors of the last failure of the provider; successful calls do not clear them, as in ADO.
   const std::vector<services::AdoError>& errors() const { return errors_; }
@@ -57,6 +59,7 @@ class AdoSession {
   std::int32_t connection_timeout_ = 15;
   std::int32_t command_timeout_ = 30;
   std::unique_ptr<Connection> connection_;
+  UnderWay under_way_;
   std::uint32_t openings_ = 0;
   bool in_transaction_ = false;
   std::vector<services::AdoError> errors_;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -46,6 +47,20 @@ struct Statement {
 
   Handle handle;
   const std::int32_t timeout;
+};
+
+// The statement that one thread executes, for others that want its end.
+class UnderWay {
+ public:
+  // Told by the executing thread; a statement lives until `end` has returned.
+  void begin(const Statement& statement);
+  void end() noexcept;
+  // By any thread: the driver is asked to end the statement, which then fails. Nothing happens where none is executed.
+  void cancel() noexcept;
+
+ private:
+  std::mutex mutex_;
+  const Statement* statement_ = nullptr;
 };
 
 class Connection {

@@ -11,6 +11,8 @@ namespace {
 
 class NativeConnection : public services::AdoConnection {
  public:
+  explicit NativeConnection(std::int32_t connect_timeout) { session_->set_connection_timeout(connect_timeout); }
+
   void set_connection_string(TextView text) override { session_->set_connection_string(text); }
   void open() override { session_->open(); }
   void begin_trans() override { session_->begin_trans(); }
@@ -50,17 +52,31 @@ class NativeCommand : public services::AdoCommand {
   AdoCommandState state_;
 };
 
-class OdbcAdo : public services::Ado {
- public:
-  std::unique_ptr<services::AdoConnection> new_connection() override { return std::make_unique<NativeConnection>(); }
-  std::unique_ptr<services::AdoCommand> new_command() override { return std::make_unique<NativeCommand>(); }
-  std::unique_ptr<services::AdoParameter> new_parameter() override {
-    fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Parameter");
-  }
-};
-
 }  // namespace
 
-std::unique_ptr<services::Ado> make_odbc_ado() { return std::make_unique<OdbcAdo>(); }
+std::unique_ptr<services::AdoConnection> OdbcAdo::new_connection() {
+  auto made = std::make_unique<NativeConnection>(connect_timeout_);
+  const std::lock_guard lock(mutex_);
+  std::erase_if(sessions_, [](const auto& each) { return each.expired(); });
+  sessions_.push_back(made->session());
+  return made;
+}
+
+std::unique_ptr<services::AdoCommand> OdbcAdo::new_command() { return std::make_unique<NativeCommand>(); }
+
+std::unique_ptr<services::AdoParameter> OdbcAdo::new_parameter() {
+  fail_ado(ado_number::kFeatureNotAvailable, u"ADODB.Parameter");
+}
+
+void OdbcAdo::cancel() noexcept {
+  const std::lock_guard lock(mutex_);
+  for (const auto& each : sessions_) {
+    if (const auto session = each.lock()) session->cancel();
+  }
+}
+
+std::unique_ptr<OdbcAdo> make_odbc_ado(std::int32_t connect_timeout) {
+  return std::make_unique<OdbcAdo>(connect_timeout);
+}
 
 }  // namespace qvr::odbc

@@ -1,4 +1,5 @@
-// The ODBC headers of either platform and the casts they need; included by the wrapper's sources only.
+// The ODBC headers of either platform, the functions and the casts that they need; included by the wrapper's sources
+// only.
 #pragma once
 
 #ifdef _WIN32
@@ -17,6 +18,33 @@
 #include "base/text.h"
 
 namespace qvr::odbc {
+
+// The functions of the driver manager that are used. A program that links none starts where there is no ODBC.
+struct Api {
+  decltype(&::SQLAllocHandle) SQLAllocHandle;
+  decltype(&::SQLBindParameter) SQLBindParameter;
+  decltype(&::SQLCancel) SQLCancel;
+  decltype(&::SQLDescribeColW) SQLDescribeColW;
+  decltype(&::SQLDisconnect) SQLDisconnect;
+  decltype(&::SQLDriverConnectW) SQLDriverConnectW;
+  decltype(&::SQLEndTran) SQLEndTran;
+  decltype(&::SQLExecDirectW) SQLExecDirectW;
+  decltype(&::SQLFetch) SQLFetch;
+  decltype(&::SQLFreeHandle) SQLFreeHandle;
+  decltype(&::SQLFreeStmt) SQLFreeStmt;
+  decltype(&::SQLGetData) SQLGetData;
+  decltype(&::SQLGetDiagRecW) SQLGetDiagRecW;
+  decltype(&::SQLGetInfoW) SQLGetInfoW;
+  decltype(&::SQLMoreResults) SQLMoreResults;
+  decltype(&::SQLNumResultCols) SQLNumResultCols;
+  decltype(&::SQLRowCount) SQLRowCount;
+  decltype(&::SQLSetConnectAttrW) SQLSetConnectAttrW;
+  decltype(&::SQLSetEnvAttr) SQLSetEnvAttr;
+  decltype(&::SQLSetStmtAttrW) SQLSetStmtAttrW;
+};
+
+// Throws RuntimeFailure where the system has no driver manager.
+const Api& api();
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t), "the wide functions take UTF-16");
 

@@ -75,9 +75,9 @@ std::list<BoundValue> bind(const Handle& statement, const std::vector<Value>& va
   for (const Value& each : values) {
     BoundValue& last = bound.emplace_back(bound_value(each));
     const SQLPOINTER data = last.bytes.empty() ? nullptr : last.bytes.data();
-    statement.check(SQLBindParameter(statement.get(), ++position, SQL_PARAM_INPUT, last.c_type, last.sql_type,
-                                     last.column_size, last.decimal_digits, data,
-                                     static_cast<SQLLEN>(last.bytes.size()), &last.indicator));
+    statement.check(api().SQLBindParameter(statement.get(), ++position, SQL_PARAM_INPUT, last.c_type, last.sql_type,
+                                           last.column_size, last.decimal_digits, data,
+                                           static_cast<SQLLEN>(last.bytes.size()), &last.indicator));
   }
   return bound;
 }

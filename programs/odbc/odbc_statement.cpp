@@ -17,7 +17,7 @@ using ReadColumn = Value (*)(const Handle& statement, SQLUSMALLINT column);
 template <class T>
 bool read_fixed(const Handle& statement, SQLUSMALLINT column, SQLSMALLINT c_type, T& into) {
   SQLLEN indicator = 0;
-  statement.check(SQLGetData(statement.get(), column, c_type, &into, sizeof(into), &indicator));
+  statement.check(api().SQLGetData(statement.get(), column, c_type, &into, sizeof(into), &indicator));
   return indicator != SQL_NULL_DATA;
 }
 
@@ -53,7 +53,7 @@ Value read_text(const Handle& statement, SQLUSMALLINT column) {
   std::array<char16_t, 2048> piece{};
   for (;;) {
     SQLLEN rest = 0;
-    const SQLRETURN result = SQLGetData(statement.get(), column, SQL_C_WCHAR, piece.data(), sizeof(piece), &rest);
+    const SQLRETURN result = api().SQLGetData(statement.get(), column, SQL_C_WCHAR, piece.data(), sizeof(piece), &rest);
     statement.check(result);
     if (result == SQL_NO_DATA) return text;
     if (rest == SQL_NULL_DATA) return Null{};
@@ -87,8 +87,8 @@ ReadColumn describe(const Handle& statement, SQLUSMALLINT column, Text& name) {
   std::array<char16_t, 256> buffer{};
   SQLSMALLINT length = 0, sql_type = 0, digits = 0, nullable = 0;
   SQLULEN size = 0;
-  statement.check(SQLDescribeColW(statement.get(), column, wide(buffer.data()), short_units(buffer.size()), &length,
-                                  &sql_type, &size, &digits, &nullable));
+  statement.check(api().SQLDescribeColW(statement.get(), column, wide(buffer.data()), short_units(buffer.size()),
+                                        &length, &sql_type, &size, &digits, &nullable));
   name = buffer.data();
   return reader_for(sql_type);
 }
@@ -99,7 +99,7 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
     readers.push_back(describe(statement, column, result.columns.emplace_back()));
   }
   for (;;) {
-    const SQLRETURN fetched = SQLFetch(statement.get());
+    const SQLRETURN fetched = api().SQLFetch(statement.get());
     statement.check(fetched);
     if (fetched == SQL_NO_DATA) return;
     std::vector<Value>& row = result.rows.emplace_back();
@@ -114,33 +114,59 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
 void run_to_the_end(const Handle& statement) {
   SQLRETURN more = SQL_SUCCESS;
   do {
-    more = SQLMoreResults(statement.get());
+    more = api().SQLMoreResults(statement.get());
     statement.check(more);
   } while (more != SQL_NO_DATA);
 }
 
-}  // namespace
+// Tells which statement is executed while it lives.
+class Execution {
+ public:
+  Execution(UnderWay& under_way, const Statement& statement) : under_way_(under_way) { under_way_.begin(statement); }
+  ~Execution() { under_way_.end(); }
+  Execution(const Execution&) = delete;
+  Execution& operator=(const Execution&) = delete;
 
-ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
-  std::unique_ptr<Statement> used = connection.statement(timeout);
-  const Handle& statement = used->handle;
-  const std::list<BoundValue> bound = bind(statement, parameters);
-  statement.check(SQLExecDirectW(statement.get(), wide(text), units(text)));
+ private:
+  UnderWay& under_way_;
+};
 
+ResultSet executed(const Handle& statement, TextView text) {
+  statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
   ResultSet result;
   SQLSMALLINT columns = 0;
-  statement.check(SQLNumResultCols(statement.get(), &columns));
+  statement.check(api().SQLNumResultCols(statement.get(), &columns));
   result.has_rows = columns > 0;
   if (result.has_rows) {
     read_rows(statement, static_cast<SQLUSMALLINT>(columns), result);
   } else {
     SQLLEN affected = -1;
-    statement.check(SQLRowCount(statement.get(), &affected));
+    statement.check(api().SQLRowCount(statement.get(), &affected));
     result.affected = affected;
   }
   run_to_the_end(statement);
+  return result;
+}
+
+}  // namespace
+
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
+                  UnderWay& under_way) {
+  std::unique_ptr<Statement> used = connection.statement(timeout);
+  const Handle& statement = used->handle;
+  const std::list<BoundValue> bound = bind(statement, parameters);
+  ResultSet result;
+  {
+    const Execution execution(under_way, *used);
+    result = executed(statement, text);
+  }
   if (parameters.empty()) connection.keep(std::move(used));
   return result;
+}
+
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
+  UnderWay nobody_cancels;
+  return execute(connection, text, parameters, timeout, nobody_cancels);
 }
 
 }  // namespace qvr::odbc

@@ -18,7 +18,9 @@ struct ResultSet {
 };
 
 // `parameters` are bound to the `?` of the text, in order, input only. `timeout` in seconds, 0: no limit. Results and
-// diagnostics of a command never affect the next one.
+// diagnostics of a command never affect the next one. Meanwhile other threads may cancel it through `under_way`.
+ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
+                  UnderWay& under_way);
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
 
 }  // namespace qvr::odbc

@@ -1,13 +1,15 @@
 // The program without main, for tests.
 #pragma once
 
-#include <span>
+#include <string>
+#include <vector>
 
-#include "qvrscript/run/run.h"
+#include "qvrscript/output/console.h"
+#include "qvrscript/surroundings.h"
 
 namespace qvr::script_tool {
 
-// Runs the program with these arguments; returns the exit code.
-int run_program(std::span<const Text> words, const Console& console, MakeAdo make_ado);
+// Runs the program with these arguments in UTF-8; returns the exit code.
+int run_program(const std::vector<std::string>& words, const Streams& streams, const Surroundings& surroundings);
 
 }  // namespace qvr::script_tool

@@ -112,13 +112,13 @@ TEST_F(OdbcStatement, IsKeptWithoutTheCursorThatItHad) {
   open_with_table(connection);
   std::unique_ptr<odbc::Statement> used = connection.statement(0);
   const TextView rows = u"select N from A", none = u"delete from A where N = 1";
-  used->handle.check(SQLExecDirectW(used->handle.get(), odbc::wide(rows), odbc::units(rows)));
-  used->handle.check(SQLFetch(used->handle.get()));
+  used->handle.check(odbc::api().SQLExecDirectW(used->handle.get(), odbc::wide(rows), odbc::units(rows)));
+  used->handle.check(odbc::api().SQLFetch(used->handle.get()));
   connection.keep(std::move(used));
   used = connection.statement(0);
-  used->handle.check(SQLExecDirectW(used->handle.get(), odbc::wide(none), odbc::units(none)));
+  used->handle.check(odbc::api().SQLExecDirectW(used->handle.get(), odbc::wide(none), odbc::units(none)));
   SQLSMALLINT columns = -1;
-  used->handle.check(SQLNumResultCols(used->handle.get(), &columns));
+  used->handle.check(odbc::api().SQLNumResultCols(used->handle.get(), &columns));
   EXPECT_EQ(columns, 0);
 }
 

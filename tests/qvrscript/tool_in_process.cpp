@@ -4,15 +4,19 @@
 
 #include <sstream>
 
+#include "base/utf8.h"
 #include "qvrscript/check/check.h"
-#include "qvrscript/command_line/help.h"
+#include "qvrscript/check/rule.h"
 #include "qvrscript/program.h"
 
 namespace qvr::tests {
 
-ToolAnswer run_tool(std::vector<Text> words, bool terminal, script_tool::MakeAdo make_ado) {
+ToolAnswer run_tool(const std::vector<Text>& words, const ToolCall& call) {
   std::ostringstream out, err;
-  const int code = script_tool::run_program(words, {out, err, terminal}, make_ado);
+  std::vector<std::string> bytes;
+  for (const Text& word : words) bytes.push_back(to_utf8(word));
+  const int code = script_tool::run_program(bytes, {out, err, call.terminal, call.colours, call.colours},
+                                            call.surroundings);
   return {code, out.str(), err.str()};
 }
 
@@ -20,7 +24,7 @@ std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findi
   std::vector<std::string> rules;
   for (const auto& finding : findings) {
     EXPECT_FALSE(finding.message.empty()) << finding.rule;
-    EXPECT_NE(script_tool::rule_named(finding.rule), nullptr) << finding.rule;
+    EXPECT_NE(script_tool::rule_named(finding.rule), nullptr) << finding.rule << " is not among the rules";
     rules.push_back(std::to_string(finding.line) + " " + std::string(finding.rule));
   }
   return rules;

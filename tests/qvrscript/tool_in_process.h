@@ -6,7 +6,7 @@
 
 #include "qvrscript/check/finding.h"
 #include "qvrscript/engines.h"
-#include "qvrscript/run/run.h"
+#include "qvrscript/surroundings.h"
 
 namespace qvr::tests {
 
@@ -15,9 +15,13 @@ struct ToolAnswer {
   std::string out, err;
 };
 
-// No database is behind it unless one is given.
-ToolAnswer run_tool(std::vector<Text> words, bool terminal = false,
-                    script_tool::MakeAdo make_ado = environment().make_ado);
+struct ToolCall {
+  bool terminal = false;
+  bool colours = false;
+  script_tool::Surroundings surroundings = {};
+};
+
+ToolAnswer run_tool(const std::vector<Text>& words, const ToolCall& call = {});
 
 // What is found in a script, as "line rule", in order.
 std::vector<std::string> rules_in(std::string_view bytes, Engine engine = Engine::SqlServer);

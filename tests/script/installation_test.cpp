@@ -29,7 +29,9 @@ struct Events final : ScriptEvents {
 
 class InstallationTest : public testing::Test {
  protected:
-  InstallationTest() { thread.make_ado = odbc::make_odbc_ado; }
+  InstallationTest() {
+    thread.make_ado = [] { return odbc::make_odbc_ado(); };
+  }
 
   Text scripts(TextView below = {}) const { return join({*from_utf8(QVR_TESTS_SCRIPTS), below}); }
   Text definition(Engine engine, TextView from, bool encrypt = false) {

@@ -23,7 +23,7 @@ struct Events final : ScriptEvents {
 class RunIntoDatabase : public testing::Test {
  protected:
   RunIntoDatabase() {
-    thread.make_ado = odbc::make_odbc_ado;
+    thread.make_ado = [] { return odbc::make_odbc_ado(); };
     thread.make_error_report = [this] { return std::make_unique<services::BuiltinErrorReport>(thread.boxes); };
   }
 

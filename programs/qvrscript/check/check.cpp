@@ -68,25 +68,24 @@ class Checker {
 
 Text rule_text(const Finding& finding) { return Text(finding.rule.begin(), finding.rule.end()); }
 
-void write_lines(const Outcome& outcome, const Console& console) {
+void write_lines(const Outcome& outcome, Console& console) {
   for (const auto& [path, finding] : outcome.findings) {
-    const Text line = finding.line == 0 ? Text() : join({u":", json_number(finding.line)});
-    say(console.out, {path, line, u": ", finding.message, u" [", rule_text(finding), u"]"});
+    const Text line = finding.line == 0 ? Text() : join({u":", decimal(static_cast<std::int64_t>(finding.line))});
+    console.say({path, line, u": ", finding.message, u" [", rule_text(finding), u"]"});
   }
 }
 
-void write_json(const Outcome& outcome, const Console& console) {
-  std::vector<Text> findings, unreadable;
+void write_document(const Outcome& outcome, Console& console) {
+  Json findings = Json::array(), unreadable = Json::array();
   for (const auto& [path, finding] : outcome.findings) {
-    findings.push_back(json_object(
-        {json_member(u"file", json_text(path)), json_member(u"line", json_number(finding.line)),
-         json_member(u"rule", json_text(rule_text(finding))), json_member(u"message", json_text(finding.message))}));
+    findings.push_back({{"file", json_of(path)},
+                        {"line", finding.line},
+                        {"rule", finding.rule},
+                        {"message", json_of(finding.message)}});
   }
-  for (const Text& path : outcome.unreadable) unreadable.push_back(json_text(path));
-  say(console.out,
-      {json_object({json_member(u"command", json_text(u"check")), json_member(u"files", json_number(outcome.files)),
-                    json_member(u"findings", json_array(findings)),
-                    json_member(u"unreadable", json_array(unreadable))})});
+  for (const Text& path : outcome.unreadable) unreadable.push_back(json_of(path));
+  write_json({{"command", "check"}, {"files", outcome.files}, {"findings", findings}, {"unreadable", unreadable}},
+             console);
 }
 
 }  // namespace
@@ -109,15 +108,15 @@ std::vector<Finding> findings_in(TextView, std::string bytes, Engine engine) {
   return findings_in(Script(std::move(bytes), engine, thread_state().platform().files)).listed();
 }
 
-int check(const Arguments& arguments, const Console& console) {
-  Checker checker(arguments.engine);
-  for (const Text& path : arguments.operands) checker.take(path);
+int check(const CheckRequest& check, const Request& request, Console& console) {
+  Checker checker(check.engine);
+  for (const Text& path : check.paths) checker.take(path);
   const Outcome& outcome = checker.outcome;
-  for (const Text& path : outcome.unreadable) complain(console, {path, u" cannot be read"});
-  for (const Text& folder : outcome.empty) complain(console, {folder, u" holds no script (*.cfc)"});
-  (arguments.json ? write_json : write_lines)(outcome, console);
-  if (!outcome.unreadable.empty() || !outcome.empty.empty()) return exit_code::kRefused;
-  return outcome.findings.empty() ? exit_code::kDone : exit_code::kFailed;
+  for (const Text& path : outcome.unreadable) console.complain({path, u" cannot be read"});
+  for (const Text& folder : outcome.empty) console.complain({folder, u" holds no script (*.cfc)"});
+  (request.format == Format::Json ? write_document : write_lines)(outcome, console);
+  const bool sound = outcome.unreadable.empty() && outcome.empty.empty() && outcome.findings.empty();
+  return sound ? exit_code::kDone : exit_code::kFailed;
 }
 
 }  // namespace qvr::script_tool

@@ -3,12 +3,12 @@
 
 #include "base/engine.h"
 #include "qvrscript/check/finding.h"
-#include "qvrscript/command_line/arguments.h"
-#include "qvrscript/output/report.h"
+#include "qvrscript/command_line/requests.h"
+#include "qvrscript/output/console.h"
 
 namespace qvr::script_tool {
 
-int check(const Arguments& arguments, const Console& console);
+int check(const CheckRequest& check, const Request& request, Console& console);
 
 // The findings of all rules in one script, by line.
 std::vector<Finding> findings_in(TextView path, std::string bytes, Engine engine);

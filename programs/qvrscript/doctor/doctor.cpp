@@ -35,26 +35,30 @@ Text padded_to(TextView text, std::size_t width) {
 
 Text subject_text(const Diagnosis& each) { return Text(each.subject.begin(), each.subject.end()); }
 
-void write_lines(const std::vector<Diagnosis>& found, std::size_t errors, const Console& console) {
+void write_lines(const std::vector<Diagnosis>& found, std::size_t errors, bool quiet, Console& console) {
+  constexpr std::size_t kLevelWidth = 7, kSubjectWidth = 15;
   for (const Diagnosis& each : found) {
-    say(console.out, {padded_to(level_word(each.level), 7), padded_to(subject_text(each), 15), each.message});
-    if (!each.advice.empty()) say(console.out, {Text(22, u' '), u"-> ", each.advice});
+    if (quiet && each.level != Level::Error) continue;
+    const Colour colour = each.level == Level::Error ? Colour::Red : Colour::None;
+    console.say({padded_to(level_word(each.level), kLevelWidth), padded_to(subject_text(each), kSubjectWidth),
+                 each.message},
+                colour);
+    if (!each.advice.empty()) console.say({Text(kLevelWidth + kSubjectWidth, u' '), u"-> ", each.advice});
   }
-  const Text count = json_number(errors);
-  say(console.out, {errors == 0 ? TextView(u"no") : TextView(count), errors == 1 ? u" error" : u" errors"});
+  if (quiet) return;
+  const Text count = errors == 0 ? Text(u"no") : decimal(static_cast<std::int64_t>(errors));
+  console.say({count, errors == 1 ? u" error" : u" errors"});
 }
 
-void write_json(const std::vector<Diagnosis>& found, std::size_t errors, const Console& console) {
-  std::vector<Text> findings;
+void write_document(const std::vector<Diagnosis>& found, std::size_t errors, Console& console) {
+  Json findings = Json::array();
   for (const Diagnosis& each : found) {
-    findings.push_back(json_object({json_member(u"level", json_text(level_word(each.level))),
-                                    json_member(u"subject", json_text(subject_text(each))),
-                                    json_member(u"message", json_text(each.message)),
-                                    json_member(u"advice", json_text(each.advice))}));
+    findings.push_back({{"level", json_of(level_word(each.level))},
+                        {"subject", each.subject},
+                        {"message", json_of(each.message)},
+                        {"advice", json_of(each.advice)}});
   }
-  say(console.out,
-      {json_object({json_member(u"command", json_text(u"doctor")), json_member(u"errors", json_number(errors)),
-                    json_member(u"findings", json_array(findings))})});
+  write_json({{"command", "doctor"}, {"errors", errors}, {"findings", findings}}, console);
 }
 
 }  // namespace
@@ -82,10 +86,14 @@ std::vector<Diagnosis> diagnose(const Facts& facts) {
   return diagnoses;
 }
 
-int doctor(const Arguments& arguments, const Console& console) {
+int doctor(const Request& request, Console& console) {
   const std::vector<Diagnosis> found = diagnose(facts_of_this_machine());
   const auto errors = static_cast<std::size_t>(std::ranges::count(found, Level::Error, &Diagnosis::level));
-  (arguments.json ? write_json : write_lines)(found, errors, console);
+  if (request.format == Format::Json) {
+    write_document(found, errors, console);
+  } else {
+    write_lines(found, errors, request.quiet, console);
+  }
   return errors == 0 ? exit_code::kDone : exit_code::kFailed;
 }
 

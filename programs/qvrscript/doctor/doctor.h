@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "qvrscript/command_line/arguments.h"
+#include "qvrscript/command_line/requests.h"
 #include "qvrscript/doctor/doctor_facts.h"
-#include "qvrscript/output/report.h"
+#include "qvrscript/output/console.h"
 
 namespace qvr::script_tool {
 
@@ -24,6 +24,6 @@ struct Diagnosis {
 std::vector<Diagnosis> diagnose(const Facts& facts);
 
 // Checks this machine; fails when there is an error among the findings.
-int doctor(const Arguments& arguments, const Console& console);
+int doctor(const Request& request, Console& console);
 
 }  // namespace qvr::script_tool

@@ -20,8 +20,9 @@ inline constexpr int kInterrupted = 130;  // as of a program that SIGINT ends
 struct Streams {
   std::ostream& out;
   std::ostream& err;
-  bool out_is_terminal = false;
   bool err_is_terminal = false;
+  bool out_colours = false;
+  bool err_colours = false;
 };
 
 enum class Colour { None, Red, Yellow, Green };
@@ -47,10 +48,10 @@ class Console {
   void complain_more(std::initializer_list<TextView> line, Colour colour = Colour::None);
   // A document for machines on the output, as it stands; its writer leaves the secrets out.
   void document(std::string_view utf8);
-  // What stands in the terminal's last line until the next call or line; on a terminal only.
+  // What stands in the last line of the error output's terminal until the next call or line; nothing elsewhere.
   void status(std::string_view utf8);
+  bool shows_status() const { return streams_.err_is_terminal; }
 
-  bool out_is_terminal() const { return streams_.out_is_terminal; }
   // Whether something could not be written to the output.
   bool broken() const { return !streams_.out; }
 
@@ -58,11 +59,11 @@ class Console {
   std::function<void(std::string_view line)> listener;
 
  private:
-  void write(std::ostream& stream, bool terminal, TextView prefix, std::initializer_list<TextView> line, Colour colour);
+  void write(std::ostream& stream, bool colours, TextView prefix, std::initializer_list<TextView> line, Colour colour);
   void clear_status();
 
   Streams streams_;
-  bool status_open_ = false;
+  std::size_t status_width_ = 0;
 };
 
 }  // namespace qvr::script_tool

@@ -1,18 +1,19 @@
-// Writing JSON.
+// JSON documents.
 #pragma once
 
+#include <nlohmann/json.hpp>
+
 #include "base/text.h"
+#include "qvrscript/output/console.h"
 
 namespace qvr::script_tool {
 
-// A JSON string with its quotes. Lone surrogates are written as escapes.
-Text json_text(TextView text);
-Text json_number(std::size_t number);
-TextView json_truth(bool truth);
+// Members stay in the order in which they were set.
+using Json = nlohmann::ordered_json;
 
-// "name": value
-Text json_member(TextView name, TextView value);
-Text json_object(std::initializer_list<Text> members);
-Text json_array(const std::vector<Text>& values);
+Json json_of(TextView text);
+
+// One line on the output; the secrets are left out of every text.
+void write_json(const Json& document, Console& console);
 
 }  // namespace qvr::script_tool

@@ -1,21 +1,28 @@
 #include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <iostream>
+#include <string_view>
 
-#include "base/utf8.h"
 #include "qvrscript/program.h"
 
+namespace {
+
+bool has_colours(int descriptor) {
+  const char* const no_colour = std::getenv("NO_COLOR");
+  const char* const terminal = std::getenv("TERM");
+  const bool refused = no_colour != nullptr && *no_colour != '\0';
+  return isatty(descriptor) != 0 && !refused && terminal != nullptr && terminal != std::string_view("dumb");
+}
+
+}  // namespace
+
 int main(int count, char** words) {
-  using namespace qvr;
-  const script_tool::Console console{std::cout, std::cerr, isatty(STDOUT_FILENO) != 0};
-  std::vector<Text> texts;
-  for (int i = 1; i < count; ++i) {
-    auto text = from_utf8(words[i]);
-    if (!text) {
-      script_tool::complain(console, {u"an argument is no UTF-8"});
-      return script_tool::exit_code::kRefused;
-    }
-    texts.push_back(std::move(*text));
-  }
-  return script_tool::run_program(texts, console, environment().make_ado);
+  using namespace qvr::script_tool;
+  // A reader that is gone is told as a failed write, after the run has ended as it should.
+  std::signal(SIGPIPE, SIG_IGN);
+  const Streams streams{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, has_colours(STDOUT_FILENO),
+                        has_colours(STDERR_FILENO)};
+  return run_program({words + 1, words + count}, streams, {});
 }

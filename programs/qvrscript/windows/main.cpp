@@ -5,6 +5,7 @@
 
 #include <iostream>
 
+#include "base/utf8.h"
 #include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
 
@@ -37,6 +38,15 @@ class Utf8Output {
   UINT former_;
 };
 
+// Turns the console's colours on where it has them.
+bool has_colours(DWORD which) {
+  const HANDLE console = GetStdHandle(which);
+  DWORD mode = 0;
+  if (!GetConsoleMode(console, &mode) || GetEnvironmentVariableW(L"NO_COLOR", nullptr, 0) > 1) return false;
+  constexpr DWORD kObeysCodes = 0x0004;  // ENABLE_VIRTUAL_TERMINAL_PROCESSING
+  return SetConsoleMode(console, mode | kObeysCodes) != 0;
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** words) {
@@ -44,11 +54,12 @@ int wmain(int count, wchar_t** words) {
   set_trace_sink(windows::trace_to_debugger);
   const Utf8Output output;
   const Apartment apartment;
-  const script_tool::Console console{std::cout, std::cerr, _isatty(_fileno(stdout)) != 0};
-  std::vector<Text> texts;
+  const script_tool::Streams streams{std::cout, std::cerr, _isatty(_fileno(stderr)) != 0,
+                                     has_colours(STD_OUTPUT_HANDLE), has_colours(STD_ERROR_HANDLE)};
+  std::vector<std::string> texts;
   for (int i = 1; i < count; ++i) {
     const std::wstring_view word = words[i];
-    texts.emplace_back(word.begin(), word.end());
+    texts.push_back(to_utf8(Text(word.begin(), word.end())));
   }
-  return script_tool::run_program(texts, console, environment().make_ado);
+  return script_tool::run_program(texts, streams, {});
 }

@@ -4,13 +4,15 @@
 #include <sstream>
 
 #include "base/utf8.h"
-#include "output/json_reader.h"
+#include "qvrscript/output/json.h"
 #include "support/temporary_folder.h"
 #include "support/traced.h"
 #include "tool_in_process.h"
 
 namespace qvr::tests {
 namespace {
+
+using script_tool::Json;
 
 class Check : public testing::Test {
  protected:
@@ -56,7 +58,7 @@ TEST_F(Check, LooksAtTheScriptsOfAFolderAndTheirNames) {
 TEST_F(Check, WantsScriptsInAFolder) {
   folder.write(u"notes.txt", "select 1\r\nGO\r\n");
   const ToolAnswer answer = run_tool({u"check", folder.text()});
-  EXPECT_EQ(answer.code, 2);
+  EXPECT_EQ(answer.code, 1);
   EXPECT_EQ(answer.out, "");
   EXPECT_EQ(answer.err, "qvrscript: " + to_utf8(folder.text()) + " holds no script (*.cfc)\n");
 }
@@ -74,7 +76,7 @@ TEST_F(Check, TellsTheEngineByTheNameUnlessItIsGiven) {
 TEST_F(Check, GoesOnBehindAFileThatCannotBeRead) {
   folder.write(u"GestionSQL1.cfc", "select 1\r\n");
   const ToolAnswer answer = run_tool({u"check", path(u"none.cfc"), path(u"GestionSQL1.cfc")});
-  EXPECT_EQ(answer.code, 2);
+  EXPECT_EQ(answer.code, 1);
   EXPECT_EQ(answer.err, "qvrscript: " + shown(u"none.cfc") + " cannot be read\n");
   EXPECT_EQ(answer.out, shown(u"GestionSQL1.cfc") + ":1: the file has no GO line: nothing of it is run [no-go]\n");
   EXPECT_EQ(traced(), Traces(2, u"names_in: 75 Path/File access error"));
@@ -83,19 +85,19 @@ TEST_F(Check, GoesOnBehindAFileThatCannotBeRead) {
 TEST_F(Check, WritesOneJsonDocument) {
   folder.write(u"Art\u00edculosSQL1.cfc", "select 1\r\nGO;\r\n");
   const ToolAnswer answer = run_tool({u"check", u"--json", folder.text(), path(u"none.cfc")});
-  EXPECT_EQ(answer.code, 2);
-  const Json json = read_json(answer.out);
-  EXPECT_EQ(json["command"].text(), "check");
-  EXPECT_EQ(json["files"].number(), 2);
+  EXPECT_EQ(answer.code, 1);
+  const Json json = Json::parse(answer.out);
+  EXPECT_EQ(json["command"], "check");
+  EXPECT_EQ(json["files"], 2);
   ASSERT_EQ(json["findings"].size(), 2u);
-  EXPECT_EQ(json["findings"][0]["rule"].text(), "no-go");
-  const Json& second = json["findings"][1];
-  EXPECT_EQ(second["file"].text(), shown(u"Art\u00edculosSQL1.cfc"));
-  EXPECT_EQ(second["line"].number(), 2);
-  EXPECT_EQ(second["rule"].text(), "go-semicolon");
-  EXPECT_EQ(second["message"].text(), "\"GO;\" separates nothing: the line must hold only GO");
+  EXPECT_EQ(json["findings"][0]["rule"], "no-go");
+  const auto& second = json["findings"][1];
+  EXPECT_EQ(second["file"], shown(u"Art\u00edculosSQL1.cfc"));
+  EXPECT_EQ(second["line"], 2);
+  EXPECT_EQ(second["rule"], "go-semicolon");
+  EXPECT_EQ(second["message"], "\"GO;\" separates nothing: the line must hold only GO");
   ASSERT_EQ(json["unreadable"].size(), 1u);
-  EXPECT_EQ(json["unreadable"][0].text(), shown(u"none.cfc"));
+  EXPECT_EQ(json["unreadable"][0], shown(u"none.cfc"));
   EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
@@ -103,7 +105,7 @@ TEST_F(Check, WritesJsonWhereThereIsNothing) {
   folder.write(u"GestionSQL1.cfc", "select 1\r\nGO\r\n");
   const ToolAnswer answer = run_tool({u"check", u"--json", folder.text()});
   EXPECT_EQ(answer.code, 0);
-  EXPECT_EQ(read_json(answer.out)["findings"].size(), 0u);
+  EXPECT_EQ(Json::parse(answer.out)["findings"].size(), 0u);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include "base/utf8.h"
 #include "odbc/odbc_ado.h"
 #include "odbc/odbc_statement.h"
-#include "output/json_reader.h"
+#include "qvrscript/output/json.h"
 #include "session/value_convert.h"
 #include "support/temporary_folder.h"
 #include "support/traced.h"
@@ -13,6 +13,8 @@
 
 namespace qvr::tests {
 namespace {
+
+using script_tool::Json;
 
 class Run : public testing::Test {
  protected:
@@ -130,15 +132,15 @@ TEST_F(Run, FailsWhereTheDatabaseCannotBeOpened) {
 TEST_F(Run, WritesOneJsonDocument) {
   run(kMakeTable);
   const ToolAnswer answer = run(kHalfFails, {u"--json", u"--continue"});
-  const Json json = read_json(answer.out);
-  EXPECT_EQ(json["command"].text(), "run");
-  EXPECT_EQ(json["file"].text(), to_utf8(folder.file_text(u"x.cfc")));
-  EXPECT_TRUE(json["success"].truth());
-  EXPECT_TRUE(json["transaction"].truth());
-  EXPECT_EQ(json["executed"].number(), 2);
-  EXPECT_EQ(json["total"].number(), 3);
+  const Json json = Json::parse(answer.out);
+  EXPECT_EQ(json["command"], "run");
+  EXPECT_EQ(json["file"], to_utf8(folder.file_text(u"x.cfc")));
+  EXPECT_TRUE(json["success"].get<bool>());
+  EXPECT_TRUE(json["transaction"].get<bool>());
+  EXPECT_EQ(json["executed"], 2);
+  EXPECT_EQ(json["total"], 3);
   ASSERT_EQ(json["failures"].size(), 1u);
-  EXPECT_NE(json["failures"][0].text().find("nonsense"), std::string::npos);
+  EXPECT_NE(json["failures"][0].find("nonsense"), std::string::npos);
   EXPECT_EQ(traced(), Traces{u"QVRScr.Ejecutar1Comando: -2147217900 told by another component"});
 }
 
