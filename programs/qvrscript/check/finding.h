@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "base/text.h"
-#include "qvrscript/check/rule.h"
 
 namespace qvr::script_tool {
 

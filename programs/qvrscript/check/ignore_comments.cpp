@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/utf8.h"
+#include "qvrscript/check/rule.h"
 #include "qvrscript/check/sql_words.h"
 
 namespace qvr::script_tool {
