@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "qvrscript/program.h"
+#include "qvrscript/run_ado.h"
+#include "qvrscript/system.h"
 
 namespace {
 
@@ -24,5 +26,6 @@ int main(int count, char** words) {
   std::signal(SIGPIPE, SIG_IGN);
   const Streams streams{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, has_colours(STDOUT_FILENO),
                         has_colours(STDERR_FILENO)};
-  return run_program({words + 1, words + count}, streams, {});
+  const Surroundings surroundings{make_run_ado, open_database, environment_variable, ask_secret, standard_input_line};
+  return run_program({words + 1, words + count}, streams, surroundings);
 }

@@ -8,6 +8,8 @@
 #include "base/utf8.h"
 #include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
+#include "qvrscript/run_ado.h"
+#include "qvrscript/system.h"
 
 namespace {
 
@@ -61,5 +63,7 @@ int wmain(int count, wchar_t** words) {
     const std::wstring_view word = words[i];
     texts.push_back(to_utf8(Text(word.begin(), word.end())));
   }
-  return script_tool::run_program(texts, streams, {});
+  using namespace script_tool;
+  const Surroundings surroundings{make_run_ado, open_database, environment_variable, ask_secret, standard_input_line};
+  return run_program(texts, streams, surroundings);
 }
