@@ -148,9 +148,12 @@ int cfp_test(const CfpTestRequest& asked, const Request& request, const Surround
   require_names(asked.connection.cfp.value());
   const auto connection = connection_of(asked.connection, surroundings, console);
   if (!connection) {
-    Json document = begun_document(request, *asked.connection.cfp);
-    document["connected"] = false;
-    if (request.format == Format::Json) write_json(document, console);
+    if (request.format == Format::Json) {
+      write_json({{"command", json_of(request.command)},
+                  {"error", "the connection file cannot be read"},
+                  {"exitCode", exit_code::kFailed}},
+                 console);
+    }
     return exit_code::kFailed;
   }
   const Opened result = open_and_ask(*connection, asked.connection.connect_timeout, surroundings);
