@@ -1,9 +1,12 @@
 #include <filesystem>
 
 #include "cfp/cfp_fixture.h"
+#include "qvrscript/output/json.h"
 
 namespace qvr::tests {
 namespace {
+
+using script_tool::Json;
 
 class CfpNew : public CfpCommands {
  protected:
@@ -180,10 +183,8 @@ TEST_F(CfpNew, WarnsOfAFileWithoutProviderAndOfAPasswordInAnArgument) {
 TEST_F(CfpNew, TellsMachines) {
   std::vector<Text> words = all;
   words.insert(words.end(), {u"--format", u"json"});
-  const ToolAnswer answer = cfp(u"new", words);
-  EXPECT_EQ(answer.out, R"({"command":"cfp new","file":")" + path() +
-                            R"(","engine":"sqlserver","replaced":false})"
-                            "\n");
+  EXPECT_EQ(Json::parse(cfp(u"new", words).out),
+            Json({{"command", "cfp new"}, {"file", path()}, {"engine", "sqlserver"}, {"replaced", false}}));
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
 #include <filesystem>
 
 #include "cfp/cfp_fixture.h"
+#include "qvrscript/output/json.h"
 
 namespace qvr::tests {
 namespace {
+
+using script_tool::Json;
 
 class CfpRekey : public CfpCommands {
  protected:
@@ -63,7 +66,7 @@ TEST_F(CfpRekey, LeavesAFileOfAnotherIdentification) {
 
 TEST_F(CfpRekey, TellsMachines) {
   write();
-  EXPECT_EQ(rekey({u"--format", u"json"}).out, R"({"command":"cfp rekey","file":")" + path() + "\"}\n");
+  EXPECT_EQ(Json::parse(rekey({u"--format", u"json"}).out), Json({{"command", "cfp rekey"}, {"file", path()}}));
 }
 
 }  // namespace

@@ -128,9 +128,8 @@ TEST_F(CfpTest, TellsMachinesOfAFailedConnection) {
 TEST_F(CfpTest, TellsMachinesOfAFileThatCannotBeRead) {
   const ToolAnswer answer = cfp(u"test", {u"--format", u"json"});
   EXPECT_EQ(answer.code, 1);
-  EXPECT_EQ(answer.out,
-            R"({"command":"cfp test","error":"the connection file cannot be read","exitCode":1})"
-            "\n");
+  EXPECT_EQ(answer.out, R"({"command":"cfp test","error":"the connection file cannot be read","exitCode":1})"
+                        "\n");
   EXPECT_EQ(answer.err, "qvrscript: " + path() + ": no such file\n");
   expect_any_traces();
 }

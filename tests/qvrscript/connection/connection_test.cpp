@@ -7,6 +7,7 @@
 #include "base/utf8.h"
 #include "connection/played_surroundings.h"
 #include "qvrscript/command_line/usage_failure.h"
+#include "qvrscript/connection/cfp_reading.h"
 #include "support/temporary_folder.h"
 #include "support/traced.h"
 
@@ -167,8 +168,8 @@ TEST_F(ConnectionChoices, ExplainAConnectionFileThatCannotBeRead) {
   const ConnectionChoice choice = file();
   played.variables[u"ID"] = u"another-id";
   EXPECT_EQ(string_of(choice), std::nullopt);
-  EXPECT_EQ(err.str(), "qvrscript: " + to_utf8(folder.text()) +
-                           "/shop.cfp: another identification, or no connection file: no line can be read with this "
+  EXPECT_EQ(err.str(), "qvrscript: " + to_utf8(shown_path(*choice.cfp)) +
+                           ": another identification, or no connection file: no line can be read with this "
                            "one\n");
   expect_any_traces();
 }
