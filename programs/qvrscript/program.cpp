@@ -5,6 +5,7 @@
 
 #include "base/trace.h"
 #include "base/utf8.h"
+#include "qvrscript/cfp/cfp.h"
 #include "qvrscript/check/check.h"
 #include "qvrscript/command_line/command_line.h"
 #include "qvrscript/command_line/usage_failure.h"
@@ -53,10 +54,11 @@ struct Commands {
   int operator()(const DoctorRequest&) const { return doctor(request, console); }
   int operator()(const RunRequest& run) const { return script_tool::run(run, request, surroundings, console); }
   int operator()(const LoadRequest& load) const { return install_or_update(load, request, surroundings, console); }
-  template <class Other>
-  int operator()(const Other&) const {
-    return exit_code::kFailed;
-  }
+  int operator()(const CfpNewRequest& cfp) const { return cfp_new(cfp, request, surroundings, console); }
+  int operator()(const CfpShowRequest& cfp) const { return cfp_show(cfp, request, surroundings, console); }
+  int operator()(const CfpCheckRequest& cfp) const { return cfp_check(cfp, request, surroundings, console); }
+  int operator()(const CfpRekeyRequest& cfp) const { return cfp_rekey(cfp, request, surroundings, console); }
+  int operator()(const CfpTestRequest& cfp) const { return cfp_test(cfp, request, surroundings, console); }
 };
 
 // A document for those who asked for one, beside the line.

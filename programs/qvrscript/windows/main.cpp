@@ -65,8 +65,7 @@ int wmain(int count, wchar_t** words) {
     const std::wstring_view word = words[i];
     texts.push_back(to_utf8(Text(word.begin(), word.end())));
   }
-  const script_tool::Surroundings surroundings{script_tool::make_run_ado, script_tool::open_database,
-                                               script_tool::environment_variable, script_tool::ask_secret,
-                                               script_tool::standard_input_line};
-  return script_tool::run_program(texts, streams, surroundings);
+  using namespace script_tool;
+  const Surroundings surroundings{make_run_ado, open_database, environment_variable, ask_secret, standard_input_line};
+  return run_program(texts, streams, surroundings);
 }
