@@ -50,7 +50,9 @@ class TextOutput final : public CheckOutput {
     if (totals.found.all() > 0) {
       console_.say({number_of(totals.files), totals.files == 1 ? u" file: " : u" files: ", counts_text(totals.found)});
     }
-    if (totals.locked.value_or(0) > 0) console_.say({number_of(*totals.locked), u" scripts locked"});
+    if (totals.locked.value_or(0) > 0) {
+      console_.say({number_of(*totals.locked), *totals.locked == 1 ? u" script locked" : u" scripts locked"});
+    }
   }
 
  private:

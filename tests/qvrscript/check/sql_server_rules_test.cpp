@@ -47,6 +47,7 @@ const RuleRow kCounts[] = {
     {"behind either", "if 1 = 1 delete T else delete U drop table T|GO|", {"1 counts-hide-errors"}},
     {"rows of a query", "insert into T select N from U|GO|", {}},
     {"rows of a call", "insert into T exec P|GO|", {}},
+    {"a call behind the rows of a call", "insert into T exec P|exec Q|GO|", {"1 counts-hide-errors"}},
     {"a call behind values", "insert into T values (1) exec P|GO|", {"1 counts-hide-errors"}},
     {"a merge",
      "merge T using U on 1 = 1 when matched then update set N = 1 when not matched then insert (N) values (1);|"
