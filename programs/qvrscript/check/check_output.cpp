@@ -121,14 +121,14 @@ class GitHubOutput final : public CheckOutput {
 
   void finding(TextView file, const Finding& finding, Severity severity) override {
     const Text line = finding.line == 0 ? Text() : join({u",line=", number_of(finding.line)});
-    console_.say({u"::", command(severity), u" file=", property(file), line, u",title=",
+    console_.say({u"::", command(severity), u" file=", path_property(file), line, u",title=",
                   property(text_of(finding.rule)), u"::", data(finding.message)});
   }
   void silenced(TextView, const Finding&, Severity) override {}
 
   void end(const CheckTotals& totals) override {
     for (const Text& path : totals.unreadable) {
-      console_.say({u"::error file=", property(path), u"::", data(path), u" cannot be read"});
+      console_.say({u"::error file=", path_property(path), u"::", data(path), u" cannot be read"});
     }
     for (const Text& folder : totals.empty) console_.say({u"::error::", data(folder), u" holds no script (*.cfc)"});
     if (totals.omitted.all() > 0) console_.say({u"::warning::", data(omitted_text(totals.omitted))});
@@ -151,6 +151,9 @@ class GitHubOutput final : public CheckOutput {
   }
 
   static Text property(TextView text) { return replace_all(replace_all(data(text), u":", u"%3A"), u",", u"%2C"); }
+
+  // With the separators that a repository has.
+  static Text path_property(TextView path) { return property(replace_all(Text(path), u"\\", u"/")); }
 
   Console& console_;
 };

@@ -33,12 +33,14 @@ fs::path native(TextView path) {
 
 // Nothing where the system's name is no Unicode.
 std::optional<Text> text_of(const fs::path& path) {
-  const auto native = path.generic_string<fs::path::value_type>();
-  if constexpr (std::is_same_v<fs::path::value_type, char>) {
-    return from_utf8(native);
-  } else {
-    return Text(native.begin(), native.end());
-  }
+  const auto decoded = [](const auto& name) -> std::optional<Text> {
+    if constexpr (sizeof name[0] == 1) {
+      return from_utf8(name);
+    } else {
+      return Text(name.begin(), name.end());
+    }
+  };
+  return decoded(path.generic_string<fs::path::value_type>());
 }
 
 fs::path whole(TextView path) { return fs::absolute(native(path)).lexically_normal(); }
