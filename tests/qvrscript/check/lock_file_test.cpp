@@ -170,6 +170,14 @@ TEST_F(Lock, TakesNoScriptThatTheReaderRefuses) {
   EXPECT_FALSE(std::filesystem::exists(folder.file(u"released.lock")));
 }
 
+TEST_F(Lock, TakesNoNameThatHidesItself) {
+  folder.write(u"c\u202eSQL1.cfc", kScript);
+  const ToolAnswer answer = check({u"--update"});
+  EXPECT_EQ(answer.code, 1);
+  EXPECT_NE(answer.err.find("c\\u202eSQL1.cfc has no path from the folder of "), std::string::npos) << answer.err;
+  EXPECT_FALSE(std::filesystem::exists(folder.file(u"released.lock")));
+}
+
 TEST_F(Lock, MustBeThereUnlessItIsBroughtUpToDate) {
   const ToolAnswer answer = check();
   EXPECT_EQ(answer.code, 1);
