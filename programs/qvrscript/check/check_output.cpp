@@ -94,6 +94,7 @@ class JsonOutput final : public CheckOutput {
                  {"silenced", std::move(silenced_)},
                  {"unreadable", texts_json(totals.unreadable)},
                  {"empty", texts_json(totals.empty)},
+                 {"problems", texts_json(totals.problems)},
                  {"counts", counts_json(totals.found)},
                  {"omitted", counts_json(totals.omitted)}};
     if (totals.locked) json["locked"] = *totals.locked;
@@ -131,6 +132,7 @@ class GitHubOutput final : public CheckOutput {
       console_.say({u"::error file=", path_property(path), u"::", data(path), u" cannot be read"});
     }
     for (const Text& folder : totals.empty) console_.say({u"::error::", data(folder), u" holds no script (*.cfc)"});
+    for (const Text& problem : totals.problems) console_.say({u"::error::", data(problem)});
     if (totals.omitted.all() > 0) console_.say({u"::warning::", data(omitted_text(totals.omitted))});
   }
 

@@ -9,8 +9,8 @@ namespace qvr::script_tool {
 namespace {
 
 // Words that begin a statement which can fail. SELECT is none of them: it is also a part of others.
-constexpr std::array<TextView, 10> kStatements = {u"EXEC",     u"EXECUTE", u"CREATE",    u"ALTER", u"DROP",
-                                                  u"TRUNCATE", u"GRANT",   u"RAISERROR", u"THROW", u"BULK"};
+constexpr std::array<TextView, 12> kStatements = {u"EXEC",  u"EXECUTE", u"CREATE", u"ALTER",     u"DROP",  u"TRUNCATE",
+                                                  u"GRANT", u"DENY",    u"REVOKE", u"RAISERROR", u"THROW", u"BULK"};
 
 bool is_one_of(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted) {
   return std::ranges::any_of(wanted, [&](TextView each) { return words_are(words, at, {each}); });
@@ -58,10 +58,8 @@ bool changes_rows(const Script& script, const std::vector<Word>& words, std::siz
 }
 
 bool begins_statement(const Script& script, const std::vector<Word>& words, std::size_t at) {
-  if (changes_rows(script, words, at)) return true;
-  const bool begins = std::ranges::any_of(kStatements, [&](TextView each) { return words_are(words, at, {each}); });
-  return begins && !follows_comma(script, words[at]) && !words_are(words, at + 1, {u"AS"}) &&
-         !is_behind(script, words, at, {u"GRANT", u"DENY", u"REVOKE", u"WITH"});
+  return changes_rows(script, words, at) ||
+         std::ranges::any_of(kStatements, [&](TextView each) { return words_are(words, at, {each}); });
 }
 
 // The other branch of an IF, which runs in place of the first.

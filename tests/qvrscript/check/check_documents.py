@@ -57,10 +57,12 @@ class Documents(unittest.TestCase):
             JSON.validate(document)
         (self.folder / "empty").mkdir()
         JSON.validate(self.document("--json", "--lock", "x.lock", "--update", "empty"))
+        JSON.validate(self.document("--json", "--lock", "none.lock", "empty"))
 
     def test_sarif_is_as_its_schema_says(self):
         for document in self.each("--format", "sarif"):
             SARIF.validate(document)
+        SARIF.validate(self.document("--format", "sarif", "--lock", "none.lock", "scripts"))
 
     def test_sarif_and_json_tell_the_same(self):
         told = self.document("--json", "scripts")

@@ -281,6 +281,12 @@ TEST_F(Check, WritesTheCommandsOfAWorkflow) {
   EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
+TEST_F(Check, WritesNoLineEndIntoACommandOfAWorkflow) {
+  const ToolAnswer answer = run_tool({u"check", u"--format", u"github", u"a\r\nb.cfc"});
+  EXPECT_EQ(answer.out, "::error file=a%0D%0Ab.cfc::a%0D%0Ab.cfc cannot be read\n");
+  EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
+}
+
 TEST_F(Check, WritesSarif) {
   folder.write(u"50% \u00f1SQL1.cfc",
                "select 1\r\nGO;\r\nGO\r\n-- qvrscript: ignore own-transaction: so it is\r\ncommit\r\nGO\r\n");

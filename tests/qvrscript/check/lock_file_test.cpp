@@ -189,7 +189,20 @@ TEST_F(Lock, MayHaveOtherLineEndsAndAnotherOrder) {
   check({u"--update"});
   folder.write(u"released.lock", "qvrscript lock 1\r\n" + std::string(kDigest) + "  bSQL1.cfc\r\n" +
                                      hexadecimal_of("select 2\r\nGO\r\n") + "  aSQL1.cfc\r\n");
-  EXPECT_EQ(rules_and_files(found()), std::vector<std::string>{});
+  const Json document = found();
+  EXPECT_EQ(rules_and_files(document), std::vector<std::string>{});
+  EXPECT_EQ(document["exitCode"], 0);
+}
+
+TEST_F(Lock, TellsProgramsWhatIsWrongWithIt) {
+  const Json document = found();
+  const std::string wrong = to_utf8(path(u"released.lock")) + " cannot be read";
+  EXPECT_EQ(document["problems"], Json::array({wrong}));
+  EXPECT_EQ(document["exitCode"], 1);
+  EXPECT_TRUE(check({u"--format", u"github"}).out.ends_with(" cannot be read\n"));
+  const Json run = Json::parse(check({u"--format", u"sarif"}).out)["runs"][0];
+  EXPECT_EQ(run["invocations"][0]["executionSuccessful"], false);
+  EXPECT_EQ(run["invocations"][0]["toolExecutionNotifications"][0]["message"]["text"], wrong);
 }
 
 struct Damage {
