@@ -48,7 +48,7 @@ Examples
   qvrscript check --format sarif scripts > findings.sarif
   qvrscript check --lock scripts/released.lock --update scripts
 
-Exit codes: 0 nothing from the severity of --fail-on on, 1 findings or something that cannot be read, 2 the command line.)";
+Exit codes: 0 nothing from the severity of --fail-on on, 1 findings or unreadable files, 2 the command line.)";
 
 }  // namespace
 

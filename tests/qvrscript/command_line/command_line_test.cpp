@@ -27,13 +27,14 @@ What parsed(const std::vector<std::string>& words) {
 TEST(CommandLine, OfCheck) {
   const auto plain = parsed<CheckRequest>({"check", "a"});
   EXPECT_EQ(plain.paths, std::vector<Text>{u"a"});
+  EXPECT_EQ(parsed<CheckRequest>({"check", "--", "-c", "d"}).paths, (std::vector<Text>{u"-c", u"d"}));
   EXPECT_EQ(plain.engine, std::nullopt);
   EXPECT_EQ(plain.fail_on, Severity::Warning);
   EXPECT_TRUE(plain.encryption);
   const Request all = parse({"check", "--json", "a", "--engine", "Oracle", "b c", "--fail-on=note", "--ignore", "x",
-                             "--ignore=y", "--no-encryption", "--lock", "l", "--update", "--quiet", "--", "-c"});
+                             "--ignore=y", "--no-encryption", "--lock", "l", "--update", "--quiet"});
   const auto& check = std::get<CheckRequest>(all.what);
-  EXPECT_EQ(check.paths, (std::vector<Text>{u"a", u"b c", u"-c"}));
+  EXPECT_EQ(check.paths, (std::vector<Text>{u"a", u"b c"}));
   EXPECT_EQ(check.engine, Engine::Oracle);
   EXPECT_EQ(check.fail_on, Severity::Note);
   EXPECT_EQ(check.ignored, (std::vector<Text>{u"x", u"y"}));
