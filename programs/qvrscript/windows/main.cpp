@@ -8,6 +8,7 @@
 #include "base/utf8.h"
 #include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
+#include "session/thread_state.h"
 
 namespace {
 
