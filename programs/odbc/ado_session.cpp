@@ -114,6 +114,11 @@ void AdoSession::end_trans(bool commit) {
   provider_call(hresult::kFail, [&] { connection_->set_autocommit(true); });
 }
 
+DriverFacts AdoSession::driver_facts() const {
+  require_open();
+  return odbc::driver_facts(connection_->handle());
+}
+
 ResultSet AdoSession::execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
   require_open();
   if (text.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");

@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "base/value.h"
+#include "odbc/driver_facts.h"
 #include "odbc/odbc.h"
 #include "odbc/odbc_statement.h"
 #include "services/ado.h"
@@ -39,6 +40,8 @@ class AdoSession {
   ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
   // By any thread: the command that is executed fails. Harmless where none is.
   void cancel() noexcept { under_way_.cancel(); }
+
+  DriverFacts driver_facts() const;  // of the open connection
 
   // The errors of the last failure of the provider; successful calls do not clear them, as in ADO.
   const std::vector<services::AdoError>& errors() const { return errors_; }

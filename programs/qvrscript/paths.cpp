@@ -13,6 +13,12 @@ TextView without_last_separator(TextView path) {
   return has_one && !path.ends_with(u":\\") ? path.substr(0, path.size() - 1) : path;
 }
 
+std::filesystem::path system_path(TextView path) {
+  Text generic(path);
+  std::ranges::replace(generic, u'\\', u'/');
+  return generic;
+}
+
 TextView file_name(TextView path) { return path.substr(path.find_last_of(u"/\\") + 1); }
 
 std::optional<std::vector<Text>> names_in(TextView folder) {

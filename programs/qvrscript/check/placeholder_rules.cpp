@@ -87,7 +87,7 @@ void check_word(const Script& script, std::size_t begin, TextView bracketed, Fin
 
 bool in_comment(const Script& script, std::size_t position) {
   const Region* region = region_at(script.regions(), position);
-  return region != nullptr && (region->kind == RegionKind::LineComment || region->kind == RegionKind::BlockComment);
+  return region != nullptr && is_comment(*region);
 }
 
 }  // namespace

@@ -15,6 +15,10 @@ struct Rule {
   std::string_view summary;  // what happens at run time, in a few words
 };
 
+// The group whose rules are of no use where nothing is encrypted.
+inline constexpr std::string_view kEncryptionRules =
+    "Encryption (SQL Server): AS alone on its line becomes WITH ENCRYPTION AS";
+
 // All of them, by group.
 std::span<const Rule> rules();
 

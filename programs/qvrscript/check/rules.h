@@ -24,6 +24,15 @@ void check_placeholders(const Script& script, Findings& findings);
 // AS and FOR lines that the rewriting for WITH ENCRYPTION changes or misses.
 void check_encryption(const Script& script, Findings& findings);
 
+// Transactions of the script's own, counts of rows that hide errors, USE.
+void check_sql_server(const Script& script, Findings& findings);
+
+// Terminators of statements and blocks, DDL that commits.
+void check_oracle(const Script& script, Findings& findings);
+
+// Comments, and several statements in one command.
+void check_jet(const Script& script, Findings& findings);
+
 // Statements that SQL Server rejects in a transaction.
 void check_transaction(const Script& script, Findings& findings);
 

@@ -31,7 +31,7 @@ class Scanner {
 
  private:
   // An empty region where none begins.
-  Region region_from(std::size_t at) const {
+  Region region_from(std::size_t at) {
     const TextView rest = text_.substr(at);
     if (comments_ && rest.starts_with(u"--")) return {RegionKind::LineComment, at, end_of_line(text_, at), true};
     if (comments_ && rest.starts_with(u"/*")) return block_comment(at);
@@ -80,15 +80,24 @@ class Scanner {
     return {kind, begin, text_.size(), false};
   }
 
-  // Names do not span lines: a bracket that is not closed on its line is no delimiter.
-  Region bracketed(std::size_t begin) const {
-    const Region name = quoted(RegionKind::QuotedName, begin, u']');
-    const bool one_line = name.closed && name.end <= end_of_line(text_, begin);
-    return brackets_ && one_line ? name : Region{RegionKind::QuotedName, begin, begin, true};
+  // Names do not span lines: a bracket that is not closed on its line is no delimiter. Then no other behind it on this
+  // line is either, which is kept: a line of brackets is looked through once.
+  Region bracketed(std::size_t begin) {
+    const Region none{RegionKind::QuotedName, begin, begin, true};
+    if (!brackets_ || begin < unclosed_until_) return none;
+    std::size_t at = begin + 1;
+    for (; at < text_.size() && !text_.substr(at).starts_with(kLineBreak); ++at) {
+      if (text_[at] != u']') continue;
+      if (at + 1 == text_.size() || text_[at + 1] != u']') return {RegionKind::QuotedName, begin, at + 1, true};
+      ++at;
+    }
+    unclosed_until_ = at;
+    return none;
   }
 
   TextView text_;
   bool comments_, nested_, brackets_, q_strings_;
+  std::size_t unclosed_until_ = 0;  // no bracket before this position is closed
 };
 
 }  // namespace

@@ -17,6 +17,10 @@ struct Region {
   bool closed;             // false: unclosed, up to the end of the text
 };
 
+inline bool is_comment(const Region& region) {
+  return region.kind == RegionKind::LineComment || region.kind == RegionKind::BlockComment;
+}
+
 // In order. Block comments nest in SQL Server only; Jet has no comments and Oracle no names in brackets. An unknown
 // engine is treated as SQL Server.
 std::vector<Region> regions_of(TextView text, Engine engine);

@@ -38,16 +38,42 @@ std::vector<Word> words_in(const Script& script, const ScriptCommand& piece) {
   return words;
 }
 
-bool holds_code(const Script& script, const ScriptCommand& piece) {
-  const std::size_t end = piece.begin + piece.text.size();
-  for (std::size_t at = piece.begin; at < end;) {
+std::size_t first_code(const Script& script, std::size_t begin, std::size_t end) {
+  for (std::size_t at = begin; at < end;) {
     const Region* region = region_at(script.regions(), at);
-    const bool comment = region != nullptr &&
-                         (region->kind == RegionKind::LineComment || region->kind == RegionKind::BlockComment);
-    if (!comment && kWhiteSpace.find(script.text()[at]) == TextView::npos) return true;
+    const bool comment = region != nullptr && is_comment(*region);
+    if (!comment && kWhiteSpace.find(script.text()[at]) == TextView::npos) return at;
     at = comment ? region->end : at + 1;
   }
-  return false;
+  return TextView::npos;
+}
+
+std::size_t last_code(const Script& script, const ScriptCommand& piece) {
+  for (std::size_t end = piece.begin + piece.text.size(); end > piece.begin;) {
+    const Region* region = region_at(script.regions(), end - 1);
+    const bool comment = region != nullptr && is_comment(*region);
+    if (!comment && kWhiteSpace.find(script.text()[end - 1]) == TextView::npos) return end - 1;
+    end = comment ? region->begin : end - 1;
+  }
+  return TextView::npos;
+}
+
+bool holds_code(const Script& script, const ScriptCommand& piece) {
+  return first_code(script, piece.begin, piece.begin + piece.text.size()) != TextView::npos;
+}
+
+std::size_t next_statement(const Script& script, const ScriptCommand& piece, std::size_t from) {
+  const std::size_t end = piece.begin + piece.text.size();
+  for (std::size_t at = from; at < end;) {
+    if (const Region* region = region_at(script.regions(), at)) {
+      at = region->end;
+    } else if (script.text()[at++] == u';') {
+      const std::size_t code = first_code(script, at, end);
+      if (code == TextView::npos || script.text()[code] != u';') return code;
+      at = code;
+    }
+  }
+  return TextView::npos;
 }
 
 bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted) {

@@ -17,6 +17,13 @@ bool in_word(char16_t unit);
 
 std::vector<Word> words_in(const Script& script, const ScriptCommand& piece);
 
+// The first and the last position with anything but white space and comments; npos where there is none.
+std::size_t first_code(const Script& script, std::size_t begin, std::size_t end);
+std::size_t last_code(const Script& script, const ScriptCommand& piece);
+
+// Where code goes on behind the next ";" of the piece, outside strings and names; npos where it does not.
+std::size_t next_statement(const Script& script, const ScriptCommand& piece, std::size_t from);
+
 // Whether there is anything but white space and comments.
 bool holds_code(const Script& script, const ScriptCommand& piece);
 

@@ -18,6 +18,20 @@ struct Update {
   Engine engine;
 };
 
+// Collects what is found in one name.
+class OfName {
+ public:
+  OfName(TextView folder, TextView name, std::vector<NameFinding>& found)
+      : path_(join({folder, u"/", name})), found_(found) {}
+  void add(std::string_view rule, std::initializer_list<TextView> message) {
+    found_.push_back({path_, {0, rule, join(message), std::nullopt}});
+  }
+
+ private:
+  Text path_;
+  std::vector<NameFinding>& found_;
+};
+
 bool fits(TextView name, std::initializer_list<TextView> pattern) { return matches_wildcards(name, join(pattern)); }
 
 bool is_update(TextView name, Engine engine) { return fits(name, {u"*", kVersions, engine_tag(engine), u".cfc"}); }
@@ -65,36 +79,31 @@ TextView why_missed(TextView name) {
   return u"no search finds this: the name has no engine's tag (JET, SQL or ORA) where it belongs";
 }
 
-void check_versions(const Update& update, Findings& findings) {
+void check_versions(const Update& update, OfName& findings) {
   if (!all_digits(update.from) || !all_digits(update.to)) {
-    findings.add(0, "version-digits",
-                 {u"the versions ", update.from, u" and ", update.to, u" are not five digits each"});
+    findings.add("version-digits", {u"the versions ", update.from, u" and ", update.to, u" are not five digits each"});
   } else if (update.from.starts_with(u'0')) {
-    findings.add(0, "version-zero",
-                 {u"an update from ", update.from,
-                  u" cannot begin: the current version is looked for without zeros in "
-                  u"front"});
+    findings.add("version-zero", {u"an update from ", update.from,
+                                  u" cannot begin: the current version is looked for without zeros in "
+                                  u"front"});
   } else if (update.to <= update.from) {
-    findings.add(0, "version-backwards", {u"this updates from ", update.from, u" to ", update.to});
+    findings.add("version-backwards", {u"this updates from ", update.from, u" to ", update.to});
   }
 }
 
-void check_next(const Update& before, const Update& next, Findings& findings) {
+void check_next(const Update& before, const Update& next, OfName& findings) {
   if (next.from > before.to) {
-    findings.add(0, "version-gap",
-                 {u"nothing updates from ", before.to, u" to ", next.from, u"; ", before.name,
-                  u" is followed by this all the same"});
+    findings.add("version-gap", {u"nothing updates from ", before.to, u" to ", next.from, u"; ", before.name,
+                                 u" is followed by this all the same"});
   } else if (next.from < before.to) {
-    findings.add(0, "version-overlap",
-                 {u"this runs after ", before.name, u", which has reached ", before.to,
-                  u" already: every file from the current version on is taken"});
+    findings.add("version-overlap", {u"this runs after ", before.name, u", which has reached ", before.to,
+                                     u" already: every file from the current version on is taken"});
   }
 }
 
-void check_chain(TextView folder, const std::vector<Update>& chain, std::vector<Finding>& found) {
+void check_chain(TextView folder, const std::vector<Update>& chain, std::vector<NameFinding>& found) {
   for (std::size_t i = 0; i < chain.size(); ++i) {
-    const Text path = join({folder, u"/", chain[i].name});
-    Findings findings(path, found);
+    OfName findings(folder, chain[i].name, found);
     check_versions(chain[i], findings);
     const bool numbers = all_digits(chain[i].from) && all_digits(chain[i].to);
     if (i > 0 && numbers && all_digits(chain[i - 1].to)) check_next(chain[i - 1], chain[i], findings);
@@ -103,15 +112,15 @@ void check_chain(TextView folder, const std::vector<Update>& chain, std::vector<
 
 }  // namespace
 
-void check_names(TextView folder, const std::vector<Text>& names, std::vector<Finding>& found) {
+std::vector<NameFinding> check_names(TextView folder, const std::vector<Text>& names) {
+  std::vector<NameFinding> found;
   std::vector<Text> sorted = names;
   std::ranges::sort(sorted, less_no_case);
   std::map<std::pair<Engine, Text>, std::vector<Update>> chains;  // by engine and folded application
   for (const Text& name : sorted) {
     const TextView why = why_missed(name);
     if (!why.empty()) {
-      const Text path = join({folder, u"/", name});
-      Findings(path, found).add(0, "name-missed", {why});
+      OfName(folder, name, found).add("name-missed", {why});
       continue;
     }
     for (Engine engine : kEngines) {
@@ -123,6 +132,7 @@ void check_names(TextView folder, const std::vector<Text>& names, std::vector<Fi
     }
   }
   for (const auto& [key, chain] : chains) check_chain(folder, chain, found);
+  return found;
 }
 
 }  // namespace qvr::script_tool

@@ -5,7 +5,12 @@
 
 namespace qvr::script_tool {
 
-// Reports names that neither a definition nor an update matches, and gaps and overlaps between updates.
-void check_names(TextView folder, const std::vector<Text>& names, std::vector<Finding>& found);
+struct NameFinding {
+  Text path;
+  Finding finding;
+};
+
+// Names that neither a definition nor an update matches, and gaps and overlaps between updates.
+std::vector<NameFinding> check_names(TextView folder, const std::vector<Text>& names);
 
 }  // namespace qvr::script_tool

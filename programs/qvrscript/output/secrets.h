@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "base/secret_text.h"
 #include "base/text.h"
 
 namespace qvr::script_tool {
@@ -10,10 +11,10 @@ namespace qvr::script_tool {
 class Secrets {
  public:
   Secrets() = default;
-  ~Secrets();
   Secrets(const Secrets&) = delete;
   Secrets& operator=(const Secrets&) = delete;
 
+  // The empty text is none.
   void add(TextView secret);
   // The passwords that a connection string names, those of its extended properties too.
   void add_passwords_of(TextView connection_string);
@@ -24,10 +25,12 @@ class Secrets {
   Text left_out(TextView text) const;
 
  private:
-  std::vector<Text> secrets_;  // with their spellings, the longest first
+  void add_spelling(Text spelling);
+
+  std::vector<SecretText> spellings_;  // wiped at the end
 };
 
-// Whether a connection string names a password.
+// Whether a connection string names a password that is not empty, also in its extended properties.
 bool names_password(TextView connection_string);
 
 }  // namespace qvr::script_tool

@@ -31,8 +31,8 @@ const BytesRow kEncodings[] = {
     {"system page", "select 1\r\nGO\r\nselect '\xC3\xB3 Jam\xF3n'\r\nGO\r\n", {"3 ansi-page"}},
     {"zero byte", "select 1\r\nGO\r\nselect\0 2\r\nGO\r\n"s, {"3 nul-byte"}},
     {"zero character", utf16("select 1\0\r\nGO\r\n"s, false), {"1 utf-16", "1 nul-byte"}},
-    {"half a unit", utf16("select 1\r\nGO\r\n", false) + "x", {"1 utf-16", "0 broken-encoding"}},
-    {"mark and no UTF-8", "\xEF\xBB\xBFselect '\xF3'\r\nGO\r\n", {"1 byte-order-mark", "0 broken-encoding"}},
+    {"half a unit", utf16("select 1\r\nGO\r\n", false) + "x", {"0 broken-encoding", "1 utf-16"}},
+    {"mark and no UTF-8", "\xEF\xBB\xBFselect '\xF3'\r\nGO\r\n", {"0 broken-encoding", "1 byte-order-mark"}},
     {"empty", "", {"0 empty-file"}},
     {"only a mark", "\xEF\xBB\xBF", {"0 empty-file", "1 byte-order-mark"}},
 };

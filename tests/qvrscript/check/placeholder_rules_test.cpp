@@ -18,7 +18,7 @@ TEST(PlaceholderRules, KnowWhatIsReplaced) {
 
 TEST(PlaceholderRules, TellOfWordsThatStay) {
   expect_rules({
-      {"letters swapped", "x|use [NombreDB]|GO|", {"2 placeholder-misspelt"}},
+      {"letters swapped", "x|go to [NombreDB]|GO|", {"2 placeholder-misspelt"}},
       {"a blank", "use [Nombre BD]|GO|", {"1 placeholder-misspelt"}},
       {"one letter too many", "[UsuariosQVRCli]|GO|", {"1 placeholder-misspelt"}},
       {"in a string", "'[ClaveUsuarioQVRAd]'|GO|", {"1 placeholder-misspelt"}},

@@ -19,11 +19,10 @@ struct NamesRow {
 };
 
 std::vector<std::string> found_in(const std::vector<Text>& names) {
-  std::vector<script_tool::Finding> findings;
-  script_tool::check_names(u"f", names, findings);
-  const Rules rules = rules_of(findings);
   std::vector<std::string> found;
-  for (std::size_t i = 0; i < rules.size(); ++i) found.push_back(to_utf8(findings[i].file) + " " + rules[i]);
+  for (const auto& [path, finding] : script_tool::check_names(u"f", names)) {
+    found.push_back(to_utf8(path) + " " + rules_of({finding}).front());
+  }
   return found;
 }
 

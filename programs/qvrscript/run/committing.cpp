@@ -1,0 +1,66 @@
+#include "qvrscript/run/committing.h"
+
+#include <algorithm>
+
+#include "base/utf8.h"
+#include "qvrscript/check/sql_words.h"
+#include "session/thread_state.h"
+
+namespace qvr::script_tool {
+namespace {
+
+constexpr TextView kDdl[] = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME", u"GRANT",
+                             u"REVOKE", u"COMMENT", u"ANALYZE", u"AUDIT",    u"NOAUDIT", u"PURGE"};
+constexpr TextView kOwnEnds[] = {u"COMMIT", u"ROLLBACK"};
+
+template <class Words>
+bool is_one_of(TextView word, const Words& words) {
+  return std::ranges::any_of(words, [&](TextView each) { return equal_no_case(word, each); });
+}
+
+// Whether a statement begins with this word: it is the command's first one, or ";" stands before it.
+bool begins_statement(const Script& script, const std::vector<Word>& words, std::size_t at) {
+  if (at == 0) return true;
+  const std::size_t end = words[at - 1].begin + words[at - 1].text.size();
+  return script.text().substr(end, words[at].begin - end).find(u';') != TextView::npos;
+}
+
+// The first statement that ends the transaction; empty where none does. A module's statements run when it is called.
+Text ending_statement(TextView command, Engine engine, bool ddl) {
+  const Script script(to_utf8(command), engine, thread_state().platform().files);
+  const std::vector<Word> words = words_in(script, {script.text(), 0});
+  const bool module = is_module(words);
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (!begins_statement(script, words, at)) continue;
+    const TextView word = words[at].text;
+    if (is_one_of(word, kOwnEnds)) return Text(word);
+    if (ddl && is_one_of(word, kDdl)) {
+      return at + 1 < words.size() ? join({word, u" ", words[at + 1].text}) : Text(word);
+    }
+    if (module) break;
+  }
+  return {};
+}
+
+// The last command up to this one that ends the transaction.
+std::optional<Committing> last_ending(const Assembly& assembly, std::size_t last_command, bool ddl) {
+  for (std::size_t command = std::min(last_command, assembly.commands().size()); command > 0; --command) {
+    Text statement = ending_statement(assembly.commands()[command - 1].text, assembly.engine(), ddl);
+    if (!statement.empty()) return Committing{command, std::move(statement)};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+Rollback judged_rollback(const Assembly& assembly, std::size_t last_command, const std::function<Ddl()>& ask) {
+  auto own = last_ending(assembly, last_command, false);
+  auto ddl = last_ending(assembly, last_command, true);
+  if (!ddl) return {};
+  const Ddl told = assembly.engine() == Engine::Oracle ? Ddl::Commits : ask();
+  if (told == Ddl::Commits) return {Ending::PartlyKept, std::move(ddl)};
+  if (own) return {Ending::PartlyKept, std::move(own)};
+  return told == Ddl::Unknown ? Rollback{Ending::PerhapsKept, std::move(ddl)} : Rollback{};
+}
+
+}  // namespace qvr::script_tool
