@@ -2,10 +2,11 @@
 # Unpacks the package where nothing else is and uses the Linux program as the README says: its commands, a script into a
 # database, the manual page and the completion. Usage: linux.sh ZIP
 set -euo pipefail
+archive=$(realpath "$1")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 # Not Python's own way of unpacking, which forgets what may be executed.
-cmake -E chdir "$work" cmake -E tar xf "$1"
+cmake -E chdir "$work" cmake -E tar xf "$archive"
 cd "$work"/*
 
 # With nothing of the environment.
