@@ -24,10 +24,12 @@ function(qvr_headers target headers)
 endfunction()
 
 # Product code. It tells the trace which file is meant by its place in the sources, so that equal sources make equal
-# bytes; all of a Windows build does.
+# bytes, also through a compiler cache that makes paths relative; all of a Windows build does.
 set(QVR_PRODUCT_OPTIONS ${QVR_SANITIZE_PRODUCT})
 if(NOT WIN32)
-  list(APPEND QVR_PRODUCT_OPTIONS -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
+  file(RELATIVE_PATH back_to_sources ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
+  list(APPEND QVR_PRODUCT_OPTIONS -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${back_to_sources}=./
+       -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
 endif()
 function(qvr_product target)
   qvr_warnings(${target})
