@@ -8,13 +8,10 @@
 #include "base/utf8.h"
 #include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
-<<<<<<< HEAD
 #include "qvrscript/run_ado.h"
 #include "qvrscript/signals.h"
 #include "qvrscript/system.h"
-=======
 #include "session/thread_state.h"
->>>>>>> w-release
 
 namespace {
 
