@@ -1,5 +1,6 @@
 // What the user types, pipes in and sets in the environment.
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <termios.h>
 #include <unistd.h>
@@ -47,24 +48,41 @@ class Terminal {
 
 std::atomic<int> caught{0};  // the signal that came while somebody typed; 0: none
 
-// Keeps the signals that end or stop a program away until the terminal echoes again, then lets them act.
+// Keeps the signals that end or stop a program away until the terminal echoes again, then lets them act. They arrive
+// while `wait` waits and at no other time: one just before reading would leave the reader waiting.
 class SignalsKept {
  public:
   SignalsKept() {
     caught = 0;
+    sigset_t kept;
+    sigemptyset(&kept);
+    for (const int signal : kSignals) sigaddset(&kept, signal);
+    pthread_sigmask(SIG_BLOCK, &kept, &former_mask_);
     struct sigaction keep {};
-    keep.sa_handler = [](int signal) { caught = signal; };  // without SA_RESTART: reading ends
+    keep.sa_handler = [](int signal) { caught = signal; };
     sigemptyset(&keep.sa_mask);
     for (std::size_t i = 0; i < kSignals.size(); ++i) sigaction(kSignals[i], &keep, &former_[i]);
   }
   ~SignalsKept() {
     for (std::size_t i = 0; i < kSignals.size(); ++i) sigaction(kSignals[i], &former_[i], nullptr);
     if (caught != 0) ::raise(caught);
+    pthread_sigmask(SIG_SETMASK, &former_mask_, nullptr);
   }
   SignalsKept(const SignalsKept&) = delete;
   SignalsKept& operator=(const SignalsKept&) = delete;
 
+  // Until there is something to read; false after a signal.
+  bool wait(int number) const {
+    while (caught == 0) {
+      pollfd awaited{number, POLLIN, 0};
+      if (::ppoll(&awaited, 1, nullptr, &former_mask_) >= 0) return true;
+      if (errno != EINTR) return true;  // reading tells why
+    }
+    return false;
+  }
+
  private:
+  sigset_t former_mask_{};
   static constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
   std::array<struct sigaction, kSignals.size()> former_{};
 };
@@ -94,7 +112,7 @@ class EchoOff {
 std::size_t read_some(int number, std::span<char> buffer) {
   for (;;) {
     const ssize_t count = ::read(number, buffer.data(), buffer.size());
-    if (count < 0 && errno == EINTR && caught == 0) continue;
+    if (count < 0 && errno == EINTR) continue;
     return count < 0 ? 0 : static_cast<std::size_t>(count);
   }
 }
@@ -104,7 +122,9 @@ std::optional<std::string> typed_line(const Terminal& terminal, std::string_view
   const EchoOff silence(terminal.number());
   if (!silence) return std::nullopt;
   terminal.write(prompt);
-  auto line = first_line([&](std::span<char> buffer) { return read_some(terminal.number(), buffer); });
+  auto line = first_line([&](std::span<char> buffer) {
+    return signals.wait(terminal.number()) ? read_some(terminal.number(), buffer) : 0;
+  });
   terminal.write("\n");
   if (caught != 0) return std::nullopt;
   return line;
@@ -131,7 +151,6 @@ std::optional<Text> ask_secret(TextView prompt) {
 }
 
 std::optional<Text> standard_input_line() {
-  caught = 0;
   if (::isatty(STDIN_FILENO) != 0) return std::nullopt;
   auto line = first_line([](std::span<char> buffer) { return read_some(STDIN_FILENO, buffer); });
   if (!line) return std::nullopt;
