@@ -146,13 +146,8 @@ Text bare(TextView value) {
   return replace_all(value, close + close, TextView(close).substr(0, 1));
 }
 
-// Without quotes of its own, inside the quotes of the extended properties: these end it, and are doubled in it.
-Text bare_within_quotes(TextView value) {
-  value = trimmed(value, u" \t");
-  const std::size_t closing = value.size() - 1 - std::min(value.find_last_not_of(u'"'), value.size() - 1);
-  if (closing % 2 == 1) value.remove_suffix(1);
-  return replace_all(value, u"\"\"", u"\"");
-}
+// Without quotes of its own, but maybe inside those of the extended properties, where its own ones are doubled.
+Text bare_within_quotes(TextView value) { return replace_all(trimmed(value, u" \t"), u"\"\"", u"\""); }
 
 }  // namespace
 

@@ -64,6 +64,7 @@ TEST_F(CfpCheck, TakesTheLineEndsThatTheLibraryTakes) {
   bytes.pop_back();
   folder.write(u"shop.cfp", bytes);
   EXPECT_EQ(cfp(u"check").code, 0);
+  EXPECT_EQ(document()["lines"], 10);
 }
 
 TEST_F(CfpCheck, NotesWhatIsBehindTheTenthLine) {
