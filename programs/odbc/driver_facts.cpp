@@ -15,7 +15,7 @@ Text text_fact(const Handle& connection, SQLUSMALLINT which) {
   std::array<char16_t, 256> buffer{};
   SQLSMALLINT bytes = 0;
   const auto room = static_cast<SQLSMALLINT>(sizeof(buffer) - sizeof(char16_t));  // an end, whatever the driver writes
-  if (!SQL_SUCCEEDED(SQLGetInfoW(connection.get(), which, buffer.data(), room, &bytes))) return {};
+  if (!SQL_SUCCEEDED(api().SQLGetInfoW(connection.get(), which, buffer.data(), room, &bytes))) return {};
   return buffer.data();
 }
 
@@ -24,8 +24,8 @@ Text text_fact(const Handle& connection, SQLUSMALLINT which) {
 DriverFacts driver_facts(const Handle& connection) {
   DriverFacts facts{text_fact(connection, SQL_DBMS_NAME), text_fact(connection, SQL_DBMS_VER), std::nullopt};
   SQLUSMALLINT transactions = 0;
-  const SQLRETURN asked =
-      SQLGetInfoW(connection.get(), SQL_TXN_CAPABLE, &transactions, sizeof(transactions), nullptr);
+  const SQLRETURN asked = api().SQLGetInfoW(connection.get(), SQL_TXN_CAPABLE, &transactions, sizeof(transactions),
+                                            nullptr);
   if (SQL_SUCCEEDED(asked)) facts.transactions = transactions;
   return facts;
 }
