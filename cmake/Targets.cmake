@@ -23,10 +23,17 @@ function(qvr_headers target headers)
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endfunction()
 
-# Product code.
+# Product code. It tells the trace which file is meant by its place in the sources, so that equal sources make equal
+# bytes, also through a compiler cache that makes paths relative; all of a Windows build does.
+set(QVR_PRODUCT_OPTIONS ${QVR_SANITIZE_PRODUCT})
+if(NOT WIN32)
+  file(RELATIVE_PATH back_to_sources ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
+  list(APPEND QVR_PRODUCT_OPTIONS -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${back_to_sources}=./
+       -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
+endif()
 function(qvr_product target)
   qvr_warnings(${target})
-  target_compile_options(${target} PRIVATE ${QVR_SANITIZE_PRODUCT})
+  target_compile_options(${target} PRIVATE ${QVR_PRODUCT_OPTIONS})
   # Without precompiled headers the sanitizer build shows that each file includes what it needs.
   if(NOT QVR_SANITIZE)
     qvr_headers(${target} product_headers)

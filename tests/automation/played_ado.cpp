@@ -18,7 +18,8 @@ struct Kind {
 
 const std::array kKinds = {
     Kind{"Connection",
-         {L"ConnectionString", L"Open", L"BeginTrans", L"CommitTrans", L"RollbackTrans", L"Close", L"Errors"}},
+         {L"ConnectionString", L"Open", L"BeginTrans", L"CommitTrans", L"RollbackTrans", L"Close", L"Errors",
+          L"ConnectionTimeout"}},
     Kind{"Command",
          {L"ActiveConnection", L"CommandType", L"CommandText", L"CommandTimeout", L"Execute", L"Parameters"}},
     Kind{"Parameter", {L"Type", L"Size", L"Precision", L"NumericScale", L"Name", L"Direction", L"Value"}},

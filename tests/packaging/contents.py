@@ -1,19 +1,25 @@
 #!/usr/bin/env python3
-"""Looks into the package: its check sums, what has to be there, the libraries' widths, the links of its pages, and that
-nothing tells of the machine that built it. Usage: contents.py ZIP SOURCE_FOLDER"""
+"""Looks into the package: its check sums, what has to be there, the libraries' widths, what the Linux program needs, the
+links of its pages, and that nothing tells of the machine that built it. Usage: contents.py ZIP SOURCE_FOLDER"""
 import hashlib
+import pathlib
 import posixpath
 import re
 import struct
 import sys
+import tempfile
 import zipfile
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "qvrscript"))
+import linked  # noqa: E402
 
 BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
         "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
     "include/QVRlib21.h", "include/adodb25.h", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
-    "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
+    "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
     "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
+PAGES = ["README.md", "LEAME.md"]
 MACHINES = {0x14C: 32, 0x8664: 64}
 
 
@@ -24,6 +30,21 @@ def image(data):
     optional = struct.unpack_from("<H", data, header + 20)[0]
     names = [data[at:at + 8] for at in range(header + 24 + optional, header + 24 + optional + 40 * sections, 40)]
     return MACHINES.get(machine), bool(symbols or count or any(name.startswith((b"/", b".debug")) for name in names))
+
+
+def linux_problems(data, pages):
+    """What the Linux program needs that the pages do not tell, and symbols that it keeps."""
+    with tempfile.NamedTemporaryFile() as program:
+        program.write(data)
+        program.flush()
+        yield from linked.problems(program.name)
+        if ".symtab" in linked.read_elf(program.name, "--sections"):
+            yield "linux/qvrscript has symbols"
+        versions = re.findall(r"GLIBC_([0-9.]+)", linked.read_elf(program.name, "--version-info"))
+    newest = max(versions, key=lambda version: [int(part) for part in version.split(".")])
+    for page, text in pages.items():
+        if f"glibc {newest} " not in text:
+            yield f"linux/qvrscript needs glibc {newest}, which {page} does not tell"
 
 
 def broken_links(files, name):
@@ -52,6 +73,8 @@ def problems(files, source):
                 yield f"{name} has {width} bits"
             if symbols:
                 yield f"{name} has symbols"
+        if name == "linux/qvrscript":
+            yield from linux_problems(data, {page: files[page].decode() for page in PAGES})
         if name.endswith((".bas", ".cls")) and data.count(b"\n") != data.count(b"\r\n"):
             yield f"{name} has lines that do not end in CR LF, which Visual Basic's editor does not read"
         if name.endswith(".md"):

@@ -33,16 +33,16 @@ fs::path native(TextView path) {
 }
 
 // Nothing where the system's name is no Unicode.
-std::optional<Text> text_of(const fs::path& path) {
-  const auto decoded = [](const auto& name) -> std::optional<Text> {
-    if constexpr (sizeof name[0] == 1) {
-      return from_utf8(name);
-    } else {
-      return Text(name.begin(), name.end());
-    }
-  };
-  return decoded(path.generic_string<fs::path::value_type>());
+template <class Unit>
+std::optional<Text> text_of(const std::basic_string<Unit>& name) {
+  if constexpr (std::is_same_v<Unit, char>) {
+    return from_utf8(name);
+  } else {
+    return Text(name.begin(), name.end());
+  }
 }
+
+std::optional<Text> text_of(const fs::path& path) { return text_of(path.generic_string<fs::path::value_type>()); }
 
 fs::path whole(TextView path) { return fs::absolute(native(path)).lexically_normal(); }
 

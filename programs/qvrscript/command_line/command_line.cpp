@@ -7,7 +7,9 @@
 #include <span>
 
 #include "base/utf8.h"
+#include "qvrscript/command_line/completion.h"
 #include "qvrscript/command_line/examples.h"
+#include "qvrscript/command_line/man_page.h"
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/engines.h"
 #include "session/ov.h"
@@ -431,6 +433,16 @@ void CommandLine::Description::add_others() {
   doctor.final_callback([this] {
     request.what = DoctorRequest{};
     request.command = u"doctor";
+  });
+  // For those who package the program: no help shows them.
+  constexpr const char* kHidden = "";
+  add_command(app, "manual-page", "Prints the manual page", "").group(kHidden)->final_callback([this] {
+    request.what = TextRequest{man_page(app)};
+  });
+  CLI::App& completion = add_command(app, "completion", "Prints what a shell completes", "");
+  completion.group(kHidden)->require_subcommand(1);
+  add_command(completion, "bash", "For bash", "").final_callback([this] {
+    request.what = TextRequest{bash_completion(app)};
   });
 }
 

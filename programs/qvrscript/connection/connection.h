@@ -21,7 +21,6 @@ struct Connection {
   }
 
   SecretText string;
-  SecretText identification;  // of the connection file
   SecretText identification;                       // of the connection file
   std::optional<ConnectionParameters> parameters;  // of the connection file, where it comes from one
 };
