@@ -314,5 +314,26 @@ TEST_F(Check, WritesSarif) {
   EXPECT_EQ(traced(), Traces{u"names_in: 75 Path/File access error"});
 }
 
+TEST_F(Check, WritesTheLineOfAFindingIntoSarifWhereItHasOne) {
+  folder.write(u"aSQL1.cfc", "select 1\n");
+  const Json results = Json::parse(
+      run_tool({u"check", u"--format", u"sarif", folder.text()}).out)["runs"][0]["results"];
+  ASSERT_EQ(results.size(), 2u);
+  EXPECT_FALSE(results[0]["locations"][0]["physicalLocation"].contains("region"));
+  EXPECT_EQ(results[1]["locations"][0]["physicalLocation"]["region"], Json({{"startLine", 1}}));
+}
+
+TEST_F(Check, WritesPathsAsUris) {
+  const Json run = Json::parse(
+      run_tool({u"check", u"--format", u"sarif", u"C:\\none\\a b.cfc", u"./a.cfc", u"..\\a.cfc", u"a:b.cfc"})
+          .out)["runs"][0];
+  std::vector<std::string> uris;
+  for (const Json& each : run["invocations"][0]["toolExecutionNotifications"]) {
+    uris.push_back(each["locations"][0]["physicalLocation"]["artifactLocation"]["uri"]);
+  }
+  EXPECT_EQ(uris, (std::vector<std::string>{"file:///C:/none/a%20b.cfc", "a.cfc", "../a.cfc", "a%3Ab.cfc"}));
+  EXPECT_EQ(traced(), Traces(4, u"names_in: 75 Path/File access error"));
+}
+
 }  // namespace
 }  // namespace qvr::tests

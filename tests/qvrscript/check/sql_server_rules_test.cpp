@@ -61,7 +61,7 @@ const RuleRow kCounts[] = {
      {}},
     {"another setting", "set xact_abort on|delete T|exec P|GO|", {"2 counts-hide-errors"}},
     {"permissions", "grant select, insert, update, delete on T to X grant execute on P to X|GO|", {}},
-    {"a permission behind", "delete T revoke execute on P to X|GO|", {"1 counts-hide-errors"}},
+    {"a permission behind", "delete T revoke select on P to X|GO|", {"1 counts-hide-errors"}},
     {"one permission", "grant delete on T to X exec P|GO|", {}},
     {"a hint", "select 1 from T inner merge join U on 1 = 1 option (merge join) exec P|GO|", {}},
     {"statistics", "update statistics T exec P|GO|", {}},
