@@ -115,7 +115,10 @@ class Checker {
     if (check_.update_lock) update_lock();
   }
 
-  bool sound() const { return sound_; }
+  bool sound() const {
+    const CheckTotals& totals = reporter_.totals;
+    return totals.unreadable.empty() && totals.empty.empty() && totals.problems.empty();
+  }
 
  private:
   void take(TextView path) {
@@ -132,7 +135,7 @@ class Checker {
     const std::vector<Text> passed_over = names_passed_over(folder);
     if (names.empty() && passed_over.empty()) {
       reporter_.totals.empty.emplace_back(folder);
-      complain({folder, u" holds no script (*.cfc)"});
+      console_.complain({folder, u" holds no script (*.cfc)"});
     }
     for (const Text& name : passed_over) {
       reporter_.take(join({folder, u"/", name}),
@@ -163,13 +166,13 @@ class Checker {
     try {
       take_state(path, lock_->compare(path, bytes));
     } catch (const LockFailure& failure) {
-      complain({failure.message()});
+      tell_problem({failure.message()});
     }
   }
 
   void refuse_file(TextView path) {
     reporter_.totals.unreadable.emplace_back(path);
-    complain({path, u" cannot be read"});
+    console_.complain({path, u" cannot be read"});
   }
 
   void take_state(TextView path, LockFile::State state) {
@@ -195,7 +198,7 @@ class Checker {
         }
         break;
       case LockFile::State::NoText:
-        if (check_.update_lock) complain({path, u" cannot be locked: the reader refuses it"});
+        if (check_.update_lock) tell_problem({path, u" cannot be locked: the reader refuses it"});
         break;
       case LockFile::State::Same: break;
     }
@@ -204,28 +207,26 @@ class Checker {
   // Nothing where something else is wrong: a lock file that is brought up to date half hides it.
   void update_lock() {
     reporter_.totals.locked = 0;
-    if (!unchanged_ || !sound_) {
-      complain({*check_.lock, u" is left as it is"});
+    if (!unchanged_ || !sound()) {
+      tell_problem({*check_.lock, u" is left as it is"});
       return;
     }
     try {
       lock_->write();
       reporter_.totals.locked = lock_->fresh();
     } catch (const LockFailure& failure) {
-      complain({failure.message()});
+      tell_problem({failure.message()});
     }
   }
 
-  void complain(std::initializer_list<TextView> line) {
-    sound_ = false;
-    console_.complain(line);
+  void tell_problem(std::initializer_list<TextView> line) {
+    console_.complain({reporter_.totals.problems.emplace_back(join(line))});
   }
 
   const CheckRequest& check_;
   Reporter& reporter_;
   Console& console_;
   std::optional<LockFile> lock_;
-  bool sound_ = true;
   bool unchanged_ = true;  // what is locked
 };
 
@@ -252,7 +253,7 @@ int check(const CheckRequest& check, const Request& request, Console& console) {
     const bool fine = checker.sound() && !any_from(check.fail_on, totals.found);
     totals.exit_code = fine ? exit_code::kDone : exit_code::kFailed;
   } catch (const LockFailure& failure) {  // before anything is looked at
-    console.complain({failure.message()});
+    console.complain({totals.problems.emplace_back(failure.message())});
     totals.exit_code = exit_code::kFailed;
   }
   output->end(totals);

@@ -50,7 +50,9 @@ class TextOutput final : public CheckOutput {
     if (totals.found.all() > 0) {
       console_.say({number_of(totals.files), totals.files == 1 ? u" file: " : u" files: ", counts_text(totals.found)});
     }
-    if (totals.locked.value_or(0) > 0) console_.say({number_of(*totals.locked), u" scripts locked"});
+    if (totals.locked.value_or(0) > 0) {
+      console_.say({number_of(*totals.locked), *totals.locked == 1 ? u" script locked" : u" scripts locked"});
+    }
   }
 
  private:
@@ -92,6 +94,7 @@ class JsonOutput final : public CheckOutput {
                  {"silenced", std::move(silenced_)},
                  {"unreadable", texts_json(totals.unreadable)},
                  {"empty", texts_json(totals.empty)},
+                 {"problems", texts_json(totals.problems)},
                  {"counts", counts_json(totals.found)},
                  {"omitted", counts_json(totals.omitted)}};
     if (totals.locked) json["locked"] = *totals.locked;
@@ -119,16 +122,17 @@ class GitHubOutput final : public CheckOutput {
 
   void finding(TextView file, const Finding& finding, Severity severity) override {
     const Text line = finding.line == 0 ? Text() : join({u",line=", number_of(finding.line)});
-    console_.say({u"::", command(severity), u" file=", property(file), line, u",title=",
+    console_.say({u"::", command(severity), u" file=", path_property(file), line, u",title=",
                   property(text_of(finding.rule)), u"::", data(finding.message)});
   }
   void silenced(TextView, const Finding&, Severity) override {}
 
   void end(const CheckTotals& totals) override {
     for (const Text& path : totals.unreadable) {
-      console_.say({u"::error file=", property(path), u"::", data(path), u" cannot be read"});
+      console_.say({u"::error file=", path_property(path), u"::", data(path), u" cannot be read"});
     }
     for (const Text& folder : totals.empty) console_.say({u"::error::", data(folder), u" holds no script (*.cfc)"});
+    for (const Text& problem : totals.problems) console_.say({u"::error::", data(problem)});
     if (totals.omitted.all() > 0) console_.say({u"::warning::", data(omitted_text(totals.omitted))});
   }
 
@@ -149,6 +153,9 @@ class GitHubOutput final : public CheckOutput {
   }
 
   static Text property(TextView text) { return replace_all(replace_all(data(text), u":", u"%3A"), u",", u"%2C"); }
+
+  // With the separators that a repository has.
+  static Text path_property(TextView path) { return property(replace_all(Text(path), u"\\", u"/")); }
 
   Console& console_;
 };

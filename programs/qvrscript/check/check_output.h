@@ -27,6 +27,7 @@ struct CheckTotals {
   Counts found, omitted;  // those that are omitted are among those that are found
   std::vector<Text> unreadable;
   std::vector<Text> empty;            // folders without scripts
+  std::vector<Text> problems;         // with the lock file
   std::optional<std::size_t> locked;  // how many scripts the lock file has got; nothing where it was not to be changed
   int exit_code = exit_code::kDone;
 };

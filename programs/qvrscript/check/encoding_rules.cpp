@@ -16,19 +16,27 @@ std::size_t line_of_byte(std::string_view bytes, std::size_t at) {
   return line;
 }
 
+// A surrogate in UTF-8 is none: the reader does not take it.
+bool is_utf8(std::string_view bytes) {
+  for (std::size_t at = bytes.find('\xED'); at != std::string_view::npos; at = bytes.find('\xED', at + 1)) {
+    if (at + 1 < bytes.size() && static_cast<unsigned char>(bytes[at + 1]) >= 0xA0) return false;
+  }
+  return from_utf8(bytes).has_value();
+}
+
 // The length of the longest valid UTF-8 prefix.
 std::size_t first_foreign_byte(std::string_view bytes) {
   std::size_t line_begin = 0;
   for (;;) {
     const std::size_t line_end = std::min(bytes.find('\n', line_begin), bytes.size());
-    if (!from_utf8(bytes.substr(line_begin, line_end - line_begin))) break;
+    if (!is_utf8(bytes.substr(line_begin, line_end - line_begin))) break;
     if (line_end == bytes.size()) return 0;
     line_begin = line_end + 1;
   }
   const auto ascii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
   for (std::size_t at = line_begin; at < bytes.size();) {
     std::size_t length = 1;
-    while (length <= 4 && !from_utf8(bytes.substr(at, length))) ++length;
+    while (length <= 4 && !is_utf8(bytes.substr(at, length))) ++length;
     if (!ascii(bytes[at]) && length > 4) return at;
     at += length;
   }

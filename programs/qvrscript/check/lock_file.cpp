@@ -7,6 +7,7 @@
 #include "base/failure.h"
 #include "base/utf8.h"
 #include "qvrscript/check/digest.h"
+#include "qvrscript/output/console.h"
 #include "qvrscript/paths.h"
 #include "services/builtin_script_reader.h"
 #include "services/script_text.h"
@@ -32,25 +33,24 @@ fs::path native(TextView path) {
 }
 
 // Nothing where the system's name is no Unicode.
-template <class Unit>
-std::optional<Text> text_of(const std::basic_string<Unit>& name) {
-  if constexpr (std::is_same_v<Unit, char>) {
-    return from_utf8(name);
-  } else {
-    return Text(name.begin(), name.end());
-  }
+std::optional<Text> text_of(const fs::path& path) {
+  const auto decoded = [](const auto& name) -> std::optional<Text> {
+    if constexpr (sizeof name[0] == 1) {
+      return from_utf8(name);
+    } else {
+      return Text(name.begin(), name.end());
+    }
+  };
+  return decoded(path.generic_string<fs::path::value_type>());
 }
-
-std::optional<Text> text_of(const fs::path& path) { return text_of(path.generic_string<fs::path::value_type>()); }
 
 fs::path whole(TextView path) { return fs::absolute(native(path)).lexically_normal(); }
 
 // With its last separator; empty where there is none.
 TextView folder_of(TextView path) { return path.substr(0, path.size() - file_name(path).size()); }
 
-bool has_control(TextView name) {
-  return std::ranges::any_of(name, [](char16_t unit) { return unit < 0x20 || unit == 0x7F; });
-}
+// Whether a line of UTF-8 can hold it, and an editor shows it.
+bool fits_line(TextView name) { return printable(name) == name; }
 
 std::optional<std::uint8_t> byte_of(std::string_view two) {
   const std::size_t high = kDigits.find(two[0]), low = kDigits.find(two[1]);
@@ -106,7 +106,7 @@ void LockFile::read_line(std::string_view line, std::size_t number) {
     entry.digest[i] = *byte;
   }
   auto name = from_utf8(line.substr(digits + kBetween.size()));
-  if (!name || has_control(*name) || !entries_.emplace(std::move(*name), entry).second) refuse(number);
+  if (!name || !fits_line(*name) || !entries_.emplace(std::move(*name), entry).second) refuse(number);
 }
 
 std::optional<LockFile::Digest> LockFile::digest_of(std::string_view bytes) {
@@ -120,7 +120,7 @@ std::optional<LockFile::Digest> LockFile::digest_of(std::string_view bytes) {
 Text LockFile::name_of(TextView script) const {
   try {
     const auto name = text_of(whole(script).lexically_relative(whole(path_).parent_path()));
-    if (name && !name->empty() && !has_control(*name)) return *name;
+    if (name && !name->empty() && fits_line(*name)) return *name;
   } catch (const fs::filesystem_error&) {
   }
   throw LockFailure({script, u" has no path from the folder of ", path_, u" that a lock file can hold"});

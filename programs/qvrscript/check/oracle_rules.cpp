@@ -57,16 +57,11 @@ std::vector<std::size_t> slash_lines(const Script& script, const ScriptCommand& 
   return lines;
 }
 
-// Whether the command ends in this unit, and no string or name does.
-bool ends_in(const Script& script, std::size_t last, char16_t unit) {
-  return script.text()[last] == unit && region_at(script.regions(), last) == nullptr;
-}
-
 bool check_slashes(const Script& script, const ScriptCommand& command, std::size_t last, std::string_view rule,
                    Findings& findings) {
   std::vector<std::size_t> lines = slash_lines(script, command);
   const std::size_t last_line = script.line_of(last);
-  if (ends_in(script, last, u'/') && (lines.empty() || lines.back() != last_line)) lines.push_back(last_line);
+  if (script.text()[last] == u'/' && (lines.empty() || lines.back() != last_line)) lines.push_back(last_line);
   for (const std::size_t line : lines) {
     findings.add(line, rule,
                  {u"this \"/\" is sent to Oracle, which refuses or miscompiles the command; only other tools take it "
@@ -76,7 +71,7 @@ bool check_slashes(const Script& script, const ScriptCommand& command, std::size
 }
 
 void check_block(const Script& script, const ScriptCommand& command, std::size_t last, Findings& findings) {
-  if (check_slashes(script, command, last, "oracle-block-end", findings) || ends_in(script, last, u';')) return;
+  if (check_slashes(script, command, last, "oracle-block-end", findings) || script.text()[last] == u';') return;
   findings.add(script.line_of(last), "oracle-block-end",
                {u"a PL/SQL block ends in \";\": without it a block fails, and what a CREATE makes is stored invalid, "
                 u"which the runner is not told"});
@@ -88,7 +83,7 @@ void check_statement(const Script& script, const ScriptCommand& command, std::si
     findings.add(script.line_of(second), "several-statements",
                  {u"Oracle runs one statement a command, and refuses this whole command for what stands behind the "
                   u"\";\" (ORA-00911, ORA-00933): put a GO line in place of the \";\""});
-  } else if (!check_slashes(script, command, last, "oracle-terminator", findings) && ends_in(script, last, u';')) {
+  } else if (!check_slashes(script, command, last, "oracle-terminator", findings) && script.text()[last] == u';') {
     findings.add(script.line_of(last), "oracle-terminator",
                  {u"Oracle refuses a statement that is sent with its \";\" (ORA-00911): take it away"});
   }

@@ -106,10 +106,12 @@ class SarifOutput final : public CheckOutput {
     for (const Text& folder : totals.empty) {
       notifications.push_back(notification(Severity::Error, join({folder, u" holds no script (*.cfc)"})));
     }
+    for (const Text& problem : totals.problems) notifications.push_back(notification(Severity::Error, problem));
     if (totals.omitted.all() > 0) {
       notifications.push_back(notification(Severity::Warning, omitted_text(totals.omitted)));
     }
-    return {{"executionSuccessful", totals.unreadable.empty() && totals.empty.empty()},
+    const bool successful = totals.unreadable.empty() && totals.empty.empty() && totals.problems.empty();
+    return {{"executionSuccessful", successful},
             {"exitCode", totals.exit_code},
             {"toolExecutionNotifications", std::move(notifications)}};
   }

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "qvrscript/check/rules.h"
 #include "qvrscript/check/sql_words.h"
@@ -8,8 +9,8 @@ namespace qvr::script_tool {
 namespace {
 
 // Words that begin a statement which can fail. SELECT is none of them: it is also a part of others.
-constexpr std::array<TextView, 10> kStatements = {u"EXEC",     u"EXECUTE", u"CREATE",    u"ALTER", u"DROP",
-                                                  u"TRUNCATE", u"GRANT",   u"RAISERROR", u"THROW", u"BULK"};
+constexpr std::array<TextView, 12> kStatements = {u"EXEC",  u"EXECUTE", u"CREATE", u"ALTER",     u"DROP",  u"TRUNCATE",
+                                                  u"GRANT", u"DENY",    u"REVOKE", u"RAISERROR", u"THROW", u"BULK"};
 
 bool is_one_of(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted) {
   return std::ranges::any_of(wanted, [&](TextView each) { return words_are(words, at, {each}); });
@@ -57,10 +58,8 @@ bool changes_rows(const Script& script, const std::vector<Word>& words, std::siz
 }
 
 bool begins_statement(const Script& script, const std::vector<Word>& words, std::size_t at) {
-  if (changes_rows(script, words, at)) return true;
-  const bool begins = std::ranges::any_of(kStatements, [&](TextView each) { return words_are(words, at, {each}); });
-  return begins && !follows_comma(script, words[at]) && !words_are(words, at + 1, {u"AS"}) &&
-         !is_behind(script, words, at, {u"GRANT", u"DENY", u"REVOKE", u"WITH"});
+  return changes_rows(script, words, at) ||
+         std::ranges::any_of(kStatements, [&](TextView each) { return words_are(words, at, {each}); });
 }
 
 // The other branch of an IF, which runs in place of the first.
@@ -69,40 +68,48 @@ bool is_alternative(const Script& script, const std::vector<Word>& words, std::s
          (is_behind(script, words, at, {u"BEGIN"}) && is_behind(script, words, at - 1, {u"ELSE"}));
 }
 
-// INSERT INTO T EXEC P is one statement.
-bool is_source(const Script& script, const std::vector<Word>& words, std::size_t change, std::size_t at) {
-  if (!words_are(words, change, {u"INSERT"}) || !is_one_of(words, at, {u"EXEC", u"EXECUTE"})) return false;
-  const TextView between = script.text().substr(words[change].begin, words[at].begin - words[change].begin);
-  return between.find(u';') == TextView::npos &&
-         std::none_of(words.begin() + static_cast<std::ptrdiff_t>(change),
-                      words.begin() + static_cast<std::ptrdiff_t>(at), [](const Word& word) {
-                        return equal_no_case(word.text, u"VALUES") || equal_no_case(word.text, u"SELECT");
-                      });
-}
-
 // Whether row counts are told, as SET NOCOUNT leaves it.
 void follow_counts(const std::vector<Word>& words, std::size_t at, bool& told) {
   if (!words_are(words, at, {u"SET", u"NOCOUNT"})) return;
   told = !words_are(words, at + 2, {u"ON"});
 }
 
-// The first change of rows, from this word on, that has its count told and a statement behind it; the number of words
-// where there is none. `told` is as the words leave it.
-std::size_t hiding_change(const Script& script, const std::vector<Word>& words, bool& told) {
-  std::size_t change = words.size(), hiding = words.size();
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    follow_counts(words, at, told);
-    if (hiding != words.size()) continue;
-    const bool source = change != words.size() && is_source(script, words, change, at);
-    if (change != words.size() && !source && !is_alternative(script, words, at) &&
-        begins_statement(script, words, at)) {
-      hiding = change;
-    } else if (told && change == words.size() && changes_rows(script, words, at)) {
-      change = at;
+// Follows the words of a command to the first change of rows that has its count told and a statement behind it.
+class HidingChange {
+ public:
+  HidingChange(const Script& script, const std::vector<Word>& words) : script_(script), words_(words) {}
+
+  // Its place; nothing where there is none. `told` is as the words find it, and then as they leave it.
+  std::optional<std::size_t> find(bool& told) {
+    std::optional<std::size_t> hiding;
+    for (std::size_t at = 0; at < words_.size(); ++at) {
+      follow_counts(words_, at, told);
+      if (hiding) continue;
+      if (change_) {
+        if (!is_source(at) && !is_alternative(script_, words_, at) && begins_statement(script_, words_, at)) {
+          hiding = change_;
+        }
+      } else if (told && changes_rows(script_, words_, at)) {
+        change_ = at;
+        wants_source_ = words_are(words_, at, {u"INSERT"});
+      }
     }
+    return hiding;
   }
-  return hiding;
-}
+
+ private:
+  // INSERT INTO T EXEC P is one statement.
+  bool is_source(std::size_t at) {
+    const bool call = wants_source_ && is_one_of(words_, at, {u"EXEC", u"EXECUTE"});
+    if (call || is_one_of(words_, at, {u"VALUES", u"SELECT"})) wants_source_ = false;
+    return call;
+  }
+
+  const Script& script_;
+  const std::vector<Word>& words_;
+  std::optional<std::size_t> change_;
+  bool wants_source_ = false;  // an INSERT whose rows have not been named yet
+};
 
 void check_trigger(const Script& script, const std::vector<Word>& words, Findings& findings) {
   bool told = true;
@@ -120,10 +127,10 @@ void check_trigger(const Script& script, const std::vector<Word>& words, Finding
 void check_counts(const Script& script, const std::vector<Word>& words, bool& told, Findings& findings) {
   if (is_trigger(words)) return check_trigger(script, words, findings);
   bool told_in_module = true;
-  const std::size_t change = hiding_change(script, words, is_module(words) ? told_in_module : told);
-  if (change == words.size()) return;
+  const auto change = HidingChange(script, words).find(is_module(words) ? told_in_module : told);
+  if (!change) return;
   findings.add(
-      script.line_of(words[change].begin), "counts-hide-errors",
+      script.line_of(words[*change].begin), "counts-hide-errors",
       {u"the count of these rows comes in front of what the statements behind it answer: ADO reads no further, "
        u"and an error there is lost; put SET NOCOUNT ON in front, or GO lines between the statements"});
 }

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/text.h"
+#include "qvrscript/command_line/requests.h"  // before `Json`, which one of its enumerators is called too
 #include "qvrscript/output/console.h"
 
 namespace qvr::script_tool {

@@ -77,19 +77,51 @@ std::size_t braced_end(TextView text, std::size_t from) {
   return text.size();
 }
 
-// Up to the semicolon, blanks too: what else is lost of the line is not worth the end of a password.
-std::size_t value_end(TextView text, std::size_t from) {
+// Up to the semicolon, blanks too: what else is lost of the line is not worth the end of a password. Inside quotes it
+// ends with them, and has its own ones doubled.
+std::size_t bare_end(TextView text, std::size_t from, bool inside_quotes) {
+  const std::size_t end = std::min(text.find_first_of(u";\r\n", from), text.size());
+  if (!inside_quotes) return end;
+  for (std::size_t at = text.find(u'"', from); at < end; at = text.find(u'"', at)) {
+    const std::size_t after = skipped(text, at, u"\"");
+    if ((after - at) % 2 == 1) return after - 1;
+    at = after;
+  }
+  return end;
+}
+
+std::size_t value_end(TextView text, std::size_t from, bool inside_quotes) {
   if (from == text.size()) return from;
+  if (inside_quotes && skipped(text, from, u"\"") == from + 1) return from;  // the closing one
   if (is_one_of(u"\"'", text[from])) return quoted_end(text, from);
   if (text[from] == u'{') return braced_end(text, from);
-  return std::min(text.find_first_of(u";\r\n", from), text.size());
+  return bare_end(text, from, inside_quotes);
 }
+
+// Whether a position is inside quotes that opened in its line; asked for rising positions.
+class Quotes {
+ public:
+  explicit Quotes(TextView text) : text_(text) {}
+  bool open_at(std::size_t position) {
+    for (; at_ < position; ++at_) {
+      if (text_[at_] == u'"') open_ = !open_;
+      if (text_[at_] == u'\n') open_ = false;
+    }
+    return open_;
+  }
+
+ private:
+  TextView text_;
+  std::size_t at_ = 0;
+  bool open_ = false;
+};
 
 constexpr std::array<TextView, 3> kPasswordWords{u"password", u"pwd", u"passwd"};
 
 // Wherever a word that ends so is followed by "=": also "Jet OLEDB:Database Password".
 template <class Found>
 void each_password_value(TextView text, Found found) {
+  Quotes quotes(text);
   for (std::size_t equals = text.find(u'='); equals != TextView::npos; equals = text.find(u'=', equals + 1)) {
     const std::size_t last = equals == 0 ? TextView::npos : text.find_last_not_of(u" \t", equals - 1);
     if (last == TextView::npos) continue;
@@ -98,7 +130,7 @@ void each_password_value(TextView text, Found found) {
     });
     if (!means_password) continue;
     const std::size_t begin = skipped(text, equals + 1, u" \t");
-    const std::size_t end = value_end(text, begin);
+    const std::size_t end = value_end(text, begin, quotes.open_at(begin));
     if (end > begin) found(Range{begin, end});
     if (end > equals + 1) equals = end - 1;
   }
@@ -125,8 +157,8 @@ Text bare_within_quotes(TextView value) {
 }  // namespace
 
 void Secrets::add_spelling(Text spelling) {
-  const bool known =
-      std::ranges::any_of(spellings_, [&](const SecretText& each) { return TextView(each) == TextView(spelling); });
+  const bool known = std::ranges::any_of(spellings_,
+                                         [&](const SecretText& each) { return TextView(each) == TextView(spelling); });
   if (known) {
     wipe(spelling);
   } else {

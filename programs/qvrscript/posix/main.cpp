@@ -6,6 +6,9 @@
 #include <string_view>
 
 #include "qvrscript/program.h"
+#include "qvrscript/run_ado.h"
+#include "qvrscript/signals.h"
+#include "qvrscript/system.h"
 
 namespace {
 
@@ -20,9 +23,11 @@ bool has_colours(int descriptor) {
 
 int main(int count, char** words) {
   using namespace qvr::script_tool;
+  hear_interruptions();
   // A reader that is gone is told as a failed write, after the run has ended as it should.
   std::signal(SIGPIPE, SIG_IGN);
   const Streams streams{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, has_colours(STDOUT_FILENO),
                         has_colours(STDERR_FILENO)};
-  return run_program({words + 1, words + count}, streams, {});
+  const Surroundings surroundings{make_run_ado, open_database, environment_variable, ask_secret, standard_input_line};
+  return run_program({words + 1, words + count}, streams, surroundings);
 }

@@ -73,17 +73,14 @@ bool would_be_missed(TextView rest, Engine engine) {
   const Script script(to_utf8(rest), engine, thread_state().platform().files);
   const ScriptCommand whole{script.text(), 0};
   const std::vector<Word> words = words_in(script, whole);
-  const bool only_go = !words.empty() && std::ranges::all_of(words, [](const Word& word) {
-    return equal_no_case(word.text, u"GO");
-  });
+  const bool only_go = !words.empty() &&
+                       std::ranges::all_of(words, [](const Word& word) { return equal_no_case(word.text, u"GO"); });
   return holds_code(script, whole) && !only_go;
 }
 
 }  // namespace
 
-Text shown(const Place& place) {
-  return join({place.file, u":", decimal(static_cast<std::int64_t>(place.line))});
-}
+Text shown(const Place& place) { return join({place.file, u":", decimal(static_cast<std::int64_t>(place.line))}); }
 
 Text beginning(TextView command) {
   constexpr std::size_t kMost = 160;

@@ -24,8 +24,8 @@ struct ReadScript {
 
 struct AssembledCommand {
   TextView text;
-  Place place;                // of its first character that is not white space
-  std::size_t script = 0;     // the number of the script in which it begins
+  Place place;             // of its first character that is not white space
+  std::size_t script = 0;  // the number of the script in which it begins
 };
 
 // Text behind the last GO line, which nobody runs.

@@ -7,6 +7,7 @@
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/connection/connection.h"
 #include "qvrscript/engines.h"
+#include "qvrscript/output/json.h"
 #include "qvrscript/paths.h"
 #include "qvrscript/run/plan.h"
 #include "qvrscript/run/reported_run.h"
@@ -20,33 +21,34 @@ namespace {
 
 constexpr TextView kAdminPassword = u"[ClaveUsuarioQVRAdm]", kClientPassword = u"[ClaveUsuarioQVRCli]";
 
-void require_engine(const RunOptions& options, const std::optional<Connection>& connection) {
-  if (!connection || !connection->parameters || connection->parameters->MotorBD == options.engine) return;
-  const TextView title = engine_title(connection->parameters->MotorBD);
+void require_engine(Engine engine, const Connection& connection) {
+  if (!connection.parameters || connection.parameters->MotorBD == engine) return;
+  const TextView title = engine_title(connection.parameters->MotorBD);
   throw ToolFailure({u"the connection file is for ", title.empty() ? u"no known engine" : title, u", not for ",
-                     engine_title(options.engine)});
+                     engine_title(engine)});
 }
 
 std::optional<Connection> connection_for(const RunOptions& options, const Surroundings& surroundings,
                                          Console& console) {
-  std::optional<Connection> connection;
-  if (options.connection) connection.emplace(connection_of(*options.connection, surroundings, console));
-  require_engine(options, connection);
+  if (!options.connection) return std::nullopt;
+  auto connection = connection_of(*options.connection, surroundings, console);
+  if (!connection) throw ToolFailure({u"the connection file cannot be used"}, true);
+  require_engine(options.engine, *connection);
   return connection;
 }
 
 // The only number of the only row, as a version.
 std::int32_t asked_version(const LoadRequest& load, TextView connection_string, const Surroundings& surroundings,
                            Console& console) {
-  const auto database =
-      opened_database(connection_string, load.options.connection->connect_timeout, surroundings,
-                      [&](TextView why) { console.complain({why}); });
+  const auto database = opened_database(connection_string, load.options.connection->connect_timeout, surroundings,
+                                        [&](TextView why) { console.complain({why}); });
   const auto rows = database->rows(*load.from_query);
   if (rows.size() != 1 || rows.front().size() != 1) {
     throw ToolFailure({u"--from-query must give one row with one number: it gave ",
                        decimal(static_cast<std::int64_t>(rows.size())), u" rows",
-                       rows.empty() ? Text() : join({u" of ", decimal(static_cast<std::int64_t>(rows.front().size())),
-                                                     u" columns"})});
+                       rows.empty()
+                           ? Text()
+                           : join({u" of ", decimal(static_cast<std::int64_t>(rows.front().size())), u" columns"})});
   }
   const Text text(trimmed(or_default({}, Text(), [&] { return to_text(rows.front().front()); })));
   if (text.size() != 5 || !all_digits(text) || text.starts_with(u'0')) {
@@ -62,7 +64,7 @@ std::int32_t version_of(const LoadRequest& load, const std::optional<Connection>
   if (load.from) return *load.from;
   if (!load.from_query) return 0;
   try {
-    return asked_version(load, connection->string.view(), surroundings, console);
+    return asked_version(load, connection->string, surroundings, console);
   } catch (const RuntimeFailure& failure) {
     throw ToolFailure({u"--from-query failed: ", failure.detail().description});
   }
@@ -83,8 +85,7 @@ Text password_of(const AccountChoice& account, const Text* of_file, const Surrou
 // What replaces the placeholders; `passwords`: else theirs stay as they are.
 ScriptAccounts accounts_of(const LoadRequest& load, const std::optional<Connection>& connection, bool passwords,
                            const Surroundings& surroundings, Console& console) {
-  const ConnectionParameters* const file =
-      connection && connection->parameters ? &*connection->parameters : nullptr;
+  const ConnectionParameters* const file = connection && connection->parameters ? &*connection->parameters : nullptr;
   ScriptAccounts accounts;
   if (file != nullptr) {
     accounts.NombreBaseOTablespace = file->InitialCatalogOTablespace;
@@ -97,10 +98,10 @@ ScriptAccounts accounts_of(const LoadRequest& load, const std::optional<Connecti
   accounts.ClaveUsuarioQVRAdm = kAdminPassword;
   accounts.ClaveUsuarioQVRCli = kClientPassword;
   if (passwords) {
-    accounts.ClaveUsuarioQVRAdm =
-        password_of(load.admin, file != nullptr ? &file->ClaveAdm : nullptr, surroundings, console);
-    accounts.ClaveUsuarioQVRCli =
-        password_of(load.client, file != nullptr ? &file->ClaveCli : nullptr, surroundings, console);
+    accounts.ClaveUsuarioQVRAdm = password_of(load.admin, file != nullptr ? &file->ClaveAdm : nullptr, surroundings,
+                                              console);
+    accounts.ClaveUsuarioQVRCli = password_of(load.client, file != nullptr ? &file->ClaveCli : nullptr, surroundings,
+                                              console);
   }
   return accounts;
 }
@@ -124,10 +125,9 @@ void write_out(const LoadRequest& load, const Assembly& assembly, const Request&
   const Text count = decimal(static_cast<std::int64_t>(assembly.commands().size()));
   if (load.with_passwords) console.complain({*load.out, u" holds the accounts' passwords: whoever reads it has them"});
   if (request.format == Format::Json) {
-    write_json({{"command", json_of(request.command)},
-                {"out", json_of(*load.out)},
-                {"commands", assembly.commands().size()}},
-               console);
+    write_json(
+        {{"command", json_of(request.command)}, {"out", json_of(*load.out)}, {"commands", assembly.commands().size()}},
+        console);
   } else if (!request.quiet) {
     console.say({*load.out, u": ", count, u" commands"});
   }
@@ -151,7 +151,7 @@ int up_to_date(const LoadRequest& load, const Request& request, std::int32_t ver
 int run(const RunRequest& run, const Request& request, const Surroundings& surroundings, Console& console) {
   const Assembly assembly = assembled_file(run.file, run.options.engine);
   const auto connection = connection_for(run.options, surroundings, console);
-  return run_and_report({request, run.options, assembly}, connection->string.view(), surroundings, console);
+  return run_and_report({request, run.options, assembly}, connection->string, surroundings, console);
 }
 
 int install_or_update(const LoadRequest& load, const Request& request, const Surroundings& surroundings,
@@ -163,10 +163,10 @@ int install_or_update(const LoadRequest& load, const Request& request, const Sur
   for (const Text& gap : names.gaps) console.complain({gap});
   const bool passwords = !load.plan && (!load.out || load.with_passwords);
   const ScriptAccounts accounts = accounts_of(load, connection, passwords, surroundings, console);
-  const TextView identification = connection ? connection->identification.view() : TextView();
+  const TextView identification = connection ? TextView(connection->identification) : TextView();
   const Assembly assembly = loaded(load, version, names.pending, accounts, identification);
   if (!load.plan && !load.out) {
-    return run_and_report({request, load.options, assembly}, connection->string.view(), surroundings, console);
+    return run_and_report({request, load.options, assembly}, connection->string, surroundings, console);
   }
   complain_of_remainder(assembly, console);
   if (load.plan) write_plan({request, load, version, names, assembly, accounts}, console);

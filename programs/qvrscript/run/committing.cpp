@@ -9,7 +9,7 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr TextView kDdl[] = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME", u"GRANT",
+constexpr TextView kDdl[] = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME",  u"GRANT",
                              u"REVOKE", u"COMMENT", u"ANALYZE", u"AUDIT",    u"NOAUDIT", u"PURGE"};
 constexpr TextView kOwnEnds[] = {u"COMMIT", u"ROLLBACK"};
 

@@ -15,8 +15,8 @@ struct Rollback {
 };
 
 // What a rollback behind this command (from 1, 0: none was begun) took back. A COMMIT or ROLLBACK of the script's own
-// ends the transaction everywhere, DDL where the engine does so: `ask` is called for this where the number of the engine
-// does not tell it and the script holds DDL. What runs inside procedures is not seen.
+// ends the transaction everywhere, DDL where the engine does so: `ask` is called for this where the number of the
+// engine does not tell it and the script holds DDL. What runs inside procedures is not seen.
 Rollback judged_rollback(const Assembly& assembly, std::size_t last_command, const std::function<Ddl()>& ask);
 
 }  // namespace qvr::script_tool

@@ -26,13 +26,14 @@ Versions versions_in(const LoadRequest& load, TextView name) {
 [[noreturn]] void nothing_found(const LoadRequest& load) {
   const TextView pattern = load.update ? u"?????a?????" : u"";
   const TextView last = load.update ? u"" : u"?";
-  throw ToolFailure({u"no script ", load.name, pattern, engine_tag(load.options.engine), last, u".cfc in ",
-                     folder_of(load)});
+  throw ToolFailure(
+      {u"no script ", load.name, pattern, engine_tag(load.options.engine), last, u".cfc in ", folder_of(load)});
 }
 
 // Systems that tell names in two cases apart can have both; the library takes them for two scripts.
 void require_different(const std::vector<Text>& names) {
-  const auto twice = std::ranges::adjacent_find(names, [](const Text& a, const Text& b) { return equal_no_case(a, b); });
+  const auto twice = std::ranges::adjacent_find(names,
+                                                [](const Text& a, const Text& b) { return equal_no_case(a, b); });
   if (twice != names.end()) {
     throw ToolFailure({*twice, u" and ", *std::next(twice), u" are one name to the library: both would run"});
   }
@@ -109,10 +110,10 @@ Assembly loaded(const LoadRequest& load, std::int32_t version, const std::vector
     Silence silence;
     QVRScr runner(silence);
     const Engine engine = load.options.engine;
-    text = load.update ? runner.CargarActualizacion(identification, engine, folder_of(load), load.name, version,
-                                                    accounts, load.encrypt)
-                       : runner.CargarDefinicion(identification, engine, folder_of(load), load.name, accounts,
-                                                 load.encrypt);
+    text = load.update
+               ? runner.CargarActualizacion(identification, engine, folder_of(load), load.name, version, accounts,
+                                            load.encrypt)
+               : runner.CargarDefinicion(identification, engine, folder_of(load), load.name, accounts, load.encrypt);
   }
   if (scripts.size() < names.size()) {
     throw ToolFailure({shown_path(scripts.size()), u" is empty or cannot be read: nothing is run"});

@@ -20,8 +20,8 @@ struct ScriptNames {
 // `version` of an update. Throws ToolFailure where there are none, or versions overlap, or names differ in case only.
 ScriptNames script_names(const LoadRequest& load, std::int32_t version);
 
-// The scripts' texts joined, with their placeholders replaced and bodies encrypted. `identification` is what a reader of
-// protected scripts is given. Throws ToolFailure where one cannot be read, or is empty.
+// The scripts' texts joined, with their placeholders replaced and bodies encrypted. `identification` is what a reader
+// of protected scripts is given. Throws ToolFailure where one cannot be read, or is empty.
 Assembly loaded(const LoadRequest& load, std::int32_t version, const std::vector<Text>& names,
                 const ScriptAccounts& accounts, TextView identification);
 

@@ -3,11 +3,7 @@
 namespace qvr::script_tool {
 namespace {
 
-class Observer {
- public:
-  Observer(Course& course, const ObservedHooks& hooks, bool rehearse)
-      : course(course), hooks(hooks), rehearse(rehearse) {}
-
+struct Observer {
   void require_uninterrupted() const {
     if (hooks.interrupted()) throw RuntimeFailure(failure_number::kInvalidArgument, u"Interrupted");
   }
@@ -86,7 +82,9 @@ class ObservedCommand final : public services::AdoCommand {
 
   void refresh_parameters() override { real_->refresh_parameters(); }
   Value parameter_value(std::int32_t index) override { return real_->parameter_value(index); }
-  void set_parameter_value(std::int32_t index, const Value& value) override { real_->set_parameter_value(index, value); }
+  void set_parameter_value(std::int32_t index, const Value& value) override {
+    real_->set_parameter_value(index, value);
+  }
   void append_parameter(services::AdoParameter& parameter) override { real_->append_parameter(parameter); }
 
  private:
@@ -97,7 +95,7 @@ class ObservedCommand final : public services::AdoCommand {
 class ObservedAdo final : public services::Ado {
  public:
   ObservedAdo(RunAdo& real, Course& course, const ObservedHooks& hooks, bool rehearse)
-      : real_(real), observer_(course, hooks, rehearse) {}
+      : real_(real), observer_{course, hooks, rehearse} {}
 
   std::unique_ptr<services::AdoConnection> new_connection() override {
     return std::make_unique<ObservedConnection>(real_.new_connection(), observer_);

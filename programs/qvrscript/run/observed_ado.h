@@ -17,10 +17,10 @@ struct Course {
 };
 
 struct ObservedHooks {
-  std::function<void()> opening, opened;           // around the opening; the second one only where it succeeded
+  std::function<void()> opening, opened;  // around the opening; the second one only where it succeeded
   std::function<void()> executing;
   std::function<void(bool success)> executed;
-  std::function<bool()> interrupted;               // whether the run has to end: the next call of it fails then
+  std::function<bool()> interrupted;  // whether the run has to end: the next call of it fails then
 };
 
 // `rehearse`: what the run commits is rolled back instead.

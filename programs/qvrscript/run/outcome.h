@@ -13,10 +13,10 @@ namespace qvr::script_tool {
 
 // What became of what ran.
 enum class Ending {
-  Nothing,         // nothing ran: no connection, or no transaction
+  Nothing,  // nothing ran: no connection, or no transaction
   Committed,
-  Rehearsed,       // all taken back, as was asked
-  Kept,            // no transaction: each command stays
+  Rehearsed,  // all taken back, as was asked
+  Kept,       // no transaction: each command stays
   TakenBack,
   PartlyKept,      // rolled back, but the engine committed a part by itself
   PerhapsKept,     // rolled back, and whether the engine takes such commands back is not known
@@ -42,8 +42,8 @@ struct Outcome {
   Ending ending = Ending::Nothing;
   std::vector<RunFailure> failures;
   std::optional<FailureDetail> rollback_failure;
-  std::optional<Committing> kept_up_to;    // with PartlyKept and PerhapsKept
-  std::vector<double> milliseconds;        // of each command that was begun
+  std::optional<Committing> kept_up_to;  // with PartlyKept and PerhapsKept
+  std::vector<double> milliseconds;      // of each command that was begun
   double whole_milliseconds = 0;
 };
 

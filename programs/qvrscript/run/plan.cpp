@@ -59,9 +59,7 @@ std::size_t commands_in(const Plan& plan, std::size_t script) {
 
 Text number(std::size_t value) { return decimal(static_cast<std::int64_t>(value)); }
 
-Text counted(std::size_t count, TextView thing) {
-  return join({number(count), u" ", thing, count == 1 ? u"" : u"s"});
-}
+Text counted(std::size_t count, TextView thing) { return join({number(count), u" ", thing, count == 1 ? u"" : u"s"}); }
 
 Text kind_of(const Plan& plan) {
   return plan.load.update ? join({u"update from ", decimal(plan.version)}) : Text(u"definition");
@@ -69,7 +67,8 @@ Text kind_of(const Plan& plan) {
 
 void write_lines(const Plan& plan, Console& console) {
   console.say({plan.load.name, u", ", kind_of(plan), u", ", engine_title(plan.load.options.engine), u": ",
-               counted(plan.names.pending.size(), u"file"), u", ", counted(plan.assembly.commands().size(), u"command")});
+               counted(plan.names.pending.size(), u"file"), u", ",
+               counted(plan.assembly.commands().size(), u"command")});
   for (const Text& name : plan.names.done) console.say({u"  ", name, u": already in the database"});
   for (std::size_t i = 0; i < plan.names.pending.size(); ++i) {
     console.say({u"  ", plan.names.pending[i], u": ", counted(commands_in(plan, i), u"command")});
@@ -88,8 +87,7 @@ void write_document(const Plan& plan, Console& console) {
   Json files = Json::array(), placeholders = Json::array(), not_run = Json::array();
   for (const Text& name : plan.names.done) files.push_back({{"name", json_of(name)}, {"pending", false}});
   for (std::size_t i = 0; i < plan.names.pending.size(); ++i) {
-    files.push_back(
-        {{"name", json_of(plan.names.pending[i])}, {"pending", true}, {"commands", commands_in(plan, i)}});
+    files.push_back({{"name", json_of(plan.names.pending[i])}, {"pending", true}, {"commands", commands_in(plan, i)}});
   }
   for (const Replacement& each : replacements(plan)) {
     placeholders.push_back({{"placeholder", json_of(each.placeholder)},
@@ -98,9 +96,8 @@ void write_document(const Plan& plan, Console& console) {
                             {"count", each.count}});
   }
   if (const auto& rest = plan.assembly.not_run()) {
-    not_run.push_back({{"file", json_of(rest->place.file)},
-                       {"line", rest->place.line},
-                       {"text", json_of(beginning(rest->text))}});
+    not_run.push_back(
+        {{"file", json_of(rest->place.file)}, {"line", rest->place.line}, {"text", json_of(beginning(rest->text))}});
   }
   write_json({{"command", json_of(plan.request.command)},
               {"plan", true},

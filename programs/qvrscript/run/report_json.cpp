@@ -20,11 +20,11 @@ std::string_view word_of(Ending ending) {
   return "rollbackFailed";
 }
 
-Json json_of(const Place& place, TextView text) {
+Json place_json(const Place& place, TextView text) {
   return {{"file", json_of(place.file)}, {"line", place.line}, {"text", json_of(text)}};
 }
 
-Json json_of(const services::AdoError& error) {
+Json error_json(const services::AdoError& error) {
   return {{"number", error.number},
           {"nativeError", error.native_error},
           {"sqlState", json_of(error.sql_state)},
@@ -33,13 +33,13 @@ Json json_of(const services::AdoError& error) {
 }
 
 // Nothing of a command is known of a failure outside of them.
-Json json_of(const RunFailure& failure, const Assembly& assembly) {
+Json failure_json(const RunFailure& failure, const Assembly& assembly) {
   const std::size_t all = assembly.commands().size();
   const bool of_command = failure.command > 0 && failure.command <= all;
   const AssembledCommand* const command = of_command ? &assembly.commands()[failure.command - 1] : nullptr;
   const services::AdoError* const first = failure.errors.empty() ? nullptr : &failure.errors.front();
   Json errors = Json::array();
-  for (const services::AdoError& error : failure.errors) errors.push_back(json_of(error));
+  for (const services::AdoError& error : failure.errors) errors.push_back(error_json(error));
   return {{"command", of_command ? Json(failure.command) : Json()},
           {"of", all},
           {"file", of_command ? json_of(command->place.file) : Json()},
@@ -70,8 +70,8 @@ Json times_of(const Outcome& outcome, const Assembly& assembly) {
 void write_run_json(const RunReport& report, const Outcome& outcome, Console& console) {
   Json files = Json::array(), failures = Json::array(), not_run = Json::array();
   for (const ReadScript& script : report.assembly.scripts()) files.push_back(json_of(script.file));
-  for (const RunFailure& failure : outcome.failures) failures.push_back(json_of(failure, report.assembly));
-  if (const auto& rest = report.assembly.not_run()) not_run.push_back(json_of(rest->place, beginning(rest->text)));
+  for (const RunFailure& failure : outcome.failures) failures.push_back(failure_json(failure, report.assembly));
+  if (const auto& rest = report.assembly.not_run()) not_run.push_back(place_json(rest->place, beginning(rest->text)));
   Json document = {{"command", json_of(report.request.command)},
                    {"files", files},
                    {"success", exit_code_of(outcome, report.assembly) == exit_code::kDone},

@@ -10,8 +10,8 @@ namespace {
 
 std::string seconds(double milliseconds) {
   std::array<char, 400> digits{};
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), milliseconds / 1000, std::chars_format::fixed, 3);
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), milliseconds / 1000,
+                                 std::chars_format::fixed, 3);
   return {digits.data(), end.ptr};
 }
 
@@ -83,10 +83,10 @@ std::vector<Case> cases_of(const RunReport& report, const Outcome& outcome, cons
     }
   }
   if (const auto& rest = report.assembly.not_run()) {
-    cases.push_back({rest->place.file,
-                     join({u"line ", decimal(static_cast<std::int64_t>(rest->place.line)), u": ",
-                           beginning(rest->text)}),
-                     "0.000", "<failure message=\"no GO line follows, and it is not run\"/>"});
+    cases.push_back(
+        {rest->place.file,
+         join({u"line ", decimal(static_cast<std::int64_t>(rest->place.line)), u": ", beginning(rest->text)}), "0.000",
+         "<failure message=\"no GO line follows, and it is not run\"/>"});
   }
   if (outcome.interrupted) {
     cases.push_back({u"run", u"interruption", "0.000", "<failure message=\"interrupted\"/>"});

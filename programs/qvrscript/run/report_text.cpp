@@ -102,8 +102,9 @@ void tell_failure(const RunReport& report, const RunFailure& failure, Console& c
     console.complain_more({u"the run failed outside its commands"}, Colour::Red);
   }
   tell_field(u"error", failure.failure.description, console);
-  tell_field(u"number", join({decimal(failure.failure.number), u" (0x",
-                              hexadecimal(static_cast<std::uint32_t>(failure.failure.number), 8), u")"}),
+  tell_field(u"number",
+             join({decimal(failure.failure.number), u" (0x",
+                   hexadecimal(static_cast<std::uint32_t>(failure.failure.number), 8), u")"}),
              console);
   if (!failure.failure.source.empty()) tell_field(u"source", failure.failure.source, console);
   if (!failure.errors.empty()) {
@@ -124,6 +125,8 @@ void tell_outcome(const RunReport& report, const Outcome& outcome, Console& cons
       console.say({rehearsed ? u"rehearsed: " : u"done: ", counts, rehearsed ? u"; all taken back" : u""},
                   Colour::Green);
     }
+  } else if (outcome.ending == Ending::Nothing && outcome.failures.empty() && !outcome.interrupted) {
+    console.complain({u"nothing was run"});
   } else if (outcome.interrupted) {
     console.complain({u"interrupted after ", counts, u"; ", ending});
   } else if (outcome.success) {
@@ -137,9 +140,9 @@ void tell_outcome(const RunReport& report, const Outcome& outcome, Console& cons
 void complain_of_remainder(const Assembly& assembly, Console& console) {
   if (!assembly.not_run()) return;
   const Remainder& rest = *assembly.not_run();
-  console.complain({shown(rest.place), assembly.commands().empty()
-                                           ? u": there is no GO line, and nothing of this is run: "
-                                           : u": no GO line follows this, and it is not run: ",
+  console.complain({shown(rest.place),
+                    assembly.commands().empty() ? u": there is no GO line, and nothing of this is run: "
+                                                : u": no GO line follows this, and it is not run: ",
                     beginning(rest.text)});
 }
 

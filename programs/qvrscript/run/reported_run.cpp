@@ -65,8 +65,7 @@ int run_and_report(const RunReport& report, TextView connection_string, const Su
       });
     });
   }
-  const Outcome outcome =
-      run_assembly(report.assembly, connection_string, report.options, surroundings, teller);
+  const Outcome outcome = run_assembly(report.assembly, connection_string, report.options, surroundings, teller);
   teller.finish(outcome);
   const int code = exit_code_of(outcome, report.assembly);
   if (!log || !log->broken()) return code;

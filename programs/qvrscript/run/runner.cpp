@@ -66,7 +66,8 @@ class Run {
 void Run::give_up(TextView why, bool interrupted) {
   Outcome outcome;
   outcome.interrupted = interrupted;
-  if (!interrupted) outcome.failures.push_back({0, {failure_number::kInvalidArgument, Text(why), Text(kOwnSource)}, {}});
+  if (!interrupted)
+    outcome.failures.push_back({0, {failure_number::kInvalidArgument, Text(why), Text(kOwnSource)}, {}});
   outcome.whole_milliseconds = milliseconds_since(run_begin_);
   listener_.given_up(outcome);
   std::_Exit(interrupted ? exit_code::kInterrupted : exit_code::kFailed);
@@ -119,8 +120,8 @@ Outcome Run::done(TextView connection_string, const Surroundings& surroundings) 
     const RunThread thread(std::move(hooks));
     Text id = options_.use_transaction ? u"qvrscript" : u"EvitarTransaccion qvrscript";
     Text counts(Progress::kCounts);
-    outcome_.success =
-        QVRScr(progress_).EjecutarComandos(id, assembly_.engine(), assembly_.text(), connection_string, counts);
+    outcome_.success = QVRScr(progress_).EjecutarComandos(id, assembly_.engine(), assembly_.text(), connection_string,
+                                                          counts);
   }
   watch_.reset();
   ending_.reset();

@@ -8,7 +8,9 @@
 #include "base/utf8.h"
 #include "platform/windows/debugger_trace.h"
 #include "qvrscript/program.h"
-#include "session/thread_state.h"
+#include "qvrscript/run_ado.h"
+#include "qvrscript/signals.h"
+#include "qvrscript/system.h"
 
 namespace {
 
@@ -53,6 +55,7 @@ bool has_colours(DWORD which) {
 int wmain(int count, wchar_t** words) {
   using namespace qvr;
   set_trace_sink(windows::trace_to_debugger);
+  script_tool::hear_interruptions();
   const Utf8Output output;
   const Apartment apartment;
   const script_tool::Streams streams{std::cout, std::cerr, _isatty(_fileno(stderr)) != 0,
@@ -62,5 +65,7 @@ int wmain(int count, wchar_t** words) {
     const std::wstring_view word = words[i];
     texts.push_back(to_utf8(Text(word.begin(), word.end())));
   }
-  return script_tool::run_program(texts, streams, {});
+  using namespace script_tool;
+  const Surroundings surroundings{make_run_ado, open_database, environment_variable, ask_secret, standard_input_line};
+  return run_program(texts, streams, surroundings);
 }

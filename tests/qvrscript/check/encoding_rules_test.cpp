@@ -29,6 +29,7 @@ const BytesRow kEncodings[] = {
     {"UTF-16", utf16("select 1\r\nGO\r\n", false), {"1 utf-16"}},
     {"UTF-16, most significant first", utf16("select 1\r\nGO\r\n", true), {"1 utf-16"}},
     {"system page", "select 1\r\nGO\r\nselect '\xC3\xB3 Jam\xF3n'\r\nGO\r\n", {"3 ansi-page"}},
+    {"a surrogate", "select 1\r\nGO\r\nselect '\xED\xA0\x80'\r\nGO\r\n", {"3 ansi-page"}},
     {"zero byte", "select 1\r\nGO\r\nselect\0 2\r\nGO\r\n"s, {"3 nul-byte"}},
     {"zero character", utf16("select 1\0\r\nGO\r\n"s, false), {"1 utf-16", "1 nul-byte"}},
     {"half a unit", utf16("select 1\r\nGO\r\n", false) + "x", {"0 broken-encoding", "1 utf-16"}},

@@ -51,7 +51,7 @@ const RuleRow kBlocks[] = {
     {"trigger", "create trigger T before insert on X for each row begin null; end|GO|", {"1 oracle-block-end"}},
     {"trigger that calls", "create trigger T before insert on X call P()|GO|", {}},
     {"body of a type", "create type body T is member procedure P is begin null; end; end|GO|", {"1 oracle-block-end"}},
-    {"another language", "create or replace java source named J as class J { }|GO|", {}},
+    {"another language", "create or replace java source named J as class J { int n; int m; }|GO|", {}},
     {"wrapped", "create procedure P wrapped|a000000|GO|", {}},
 };
 

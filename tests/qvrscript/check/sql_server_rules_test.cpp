@@ -33,7 +33,7 @@ const RuleRow kCounts[] = {
     {"first of a command only", "delete T|delete U|delete V|GO|", {"1 counts-hide-errors"}},
     {"a call behind", "delete T exec P|GO|", {"1 counts-hide-errors"}},
     {"behind a name in brackets",
-     "delete A from [T] A join [U] on [N] update [V] set X = 1 drop table [U]|GO|",
+     "select 1 from [T] A join [U] on [N] update [V] set X = 1 drop table [U]|GO|",
      {"1 counts-hide-errors"}},
     {"an error behind", "update T set N = 1 if @@rowcount = 0 raiserror('x', 16, 1)|GO|", {"1 counts-hide-errors"}},
     {"DDL behind", "delete T;|alter table T drop column N|GO|", {"1 counts-hide-errors"}},
@@ -47,6 +47,7 @@ const RuleRow kCounts[] = {
     {"behind either", "if 1 = 1 delete T else delete U drop table T|GO|", {"1 counts-hide-errors"}},
     {"rows of a query", "insert into T select N from U|GO|", {}},
     {"rows of a call", "insert into T exec P|GO|", {}},
+    {"a call behind the rows of a call", "insert into T exec P|exec Q|GO|", {"1 counts-hide-errors"}},
     {"a call behind values", "insert into T values (1) exec P|GO|", {"1 counts-hide-errors"}},
     {"a merge",
      "merge T using U on 1 = 1 when matched then update set N = 1 when not matched then insert (N) values (1);|"
@@ -60,6 +61,8 @@ const RuleRow kCounts[] = {
      {}},
     {"another setting", "set xact_abort on|delete T|exec P|GO|", {"2 counts-hide-errors"}},
     {"permissions", "grant select, insert, update, delete on T to X grant execute on P to X|GO|", {}},
+    {"a permission behind", "delete T revoke execute on P to X|GO|", {"1 counts-hide-errors"}},
+    {"one permission", "grant delete on T to X exec P|GO|", {}},
     {"a hint", "select 1 from T inner merge join U on 1 = 1 option (merge join) exec P|GO|", {}},
     {"statistics", "update statistics T exec P|GO|", {}},
 };

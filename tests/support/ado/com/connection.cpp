@@ -2,6 +2,7 @@
 
 #include "support/ado/com/errors.h"
 #include "support/ado/com/execution.h"
+#include "support/ado/com/properties.h"
 #include "support/ado/com/trace.h"
 
 namespace qvr::tests::com {
@@ -81,6 +82,9 @@ const Members& Connection::members() const {
                trace(u"Provider");
                self.session_->set_provider(call.text(0));
              }),
+      T::get(
+          13, u"Properties",
+          [](Connection& self, Call& call) { answer_collection(call, make_properties(self.session_)); }, 1),
       T::get(12, u"Version", [](Connection&, Call& call) { call.answer(Text(u"2.5")); }),
   };
   return table;
