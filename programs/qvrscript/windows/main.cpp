@@ -11,6 +11,7 @@
 #include "qvrscript/run_ado.h"
 #include "qvrscript/signals.h"
 #include "qvrscript/system.h"
+#include "session/thread_state.h"
 
 namespace {
 
