@@ -112,7 +112,7 @@ int run_program(const std::vector<std::string>& words, const Streams& streams, c
   Console console(streams);
   const int code = parse_and_obey(words, console, surroundings);
   if (!console.broken()) return code;
-  console.complain({u"the output could not be written whole"});
+  console.complain({u"the output could not be written whole", console.done_all_the_same});
   return code == exit_code::kDone ? exit_code::kFailed : code;
 }
 

@@ -55,6 +55,9 @@ class Console {
   // Whether something could not be written to the output.
   bool broken() const { return !streams_.out; }
 
+  // What was done and stays, for the line that tells of an output that could not be written.
+  Text done_all_the_same;
+
   // Hears every line that is shown.
   std::function<void(std::string_view line)> listener;
 

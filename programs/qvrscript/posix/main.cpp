@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <clocale>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -23,6 +24,8 @@ bool has_colours(int descriptor) {
 
 int main(int count, char** words) {
   using namespace qvr::script_tool;
+  // unixODBC converts texts for drivers without wide functions by the C locale's character set.
+  std::setlocale(LC_CTYPE, "C.UTF-8");
   hear_interruptions();
   // A reader that is gone is told as a failed write, after the run has ended as it should.
   std::signal(SIGPIPE, SIG_IGN);

@@ -1,7 +1,9 @@
 #include "qvrscript/run/interruption.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <thread>
 
 #include "qvrscript/output/console.h"
 
@@ -14,9 +16,17 @@ void Interruption::request() {
                   "qvrscript: interrupted again: the connection is left as it is, and the database takes back what was "
                   "not committed");
   }
-  const std::lock_guard lock(mutex_);
-  if (!end_) leave_at_once(exit_code::kInterrupted, "qvrscript: interrupted");
-  end_();
+  // Again and again until it has ended: a command that is just about to begin cannot be cancelled yet.
+  constexpr std::chrono::milliseconds kPause{50};
+  for (bool first = true;; first = false) {
+    {
+      const std::lock_guard lock(mutex_);
+      if (!end_ && first) leave_at_once(exit_code::kInterrupted, "qvrscript: interrupted");
+      if (!end_) return;
+      end_();
+    }
+    std::this_thread::sleep_for(kPause);
+  }
 }
 
 Interruption::Ending::Ending(Interruption& interruption, std::function<void()> end) : interruption_(interruption) {
@@ -34,7 +44,6 @@ Interruption::Ending::~Ending() {
 void Interruption::Ending::replace(std::function<void()> end) {
   const std::lock_guard lock(interruption_.mutex_);
   interruption_.end_ = std::move(end);
-  if (interruption_.requested()) interruption_.end_();
 }
 
 Interruption& interruption() {

@@ -9,21 +9,21 @@ namespace qvr::script_tool {
 
 class Interruption {
  public:
-  // By any thread. While an `Ending` lives, the first call asks it to end; a second, and one without any, ends the
-  // process with 130.
+  // By a thread of its own: while an `Ending` lives, the first call asks it to end and returns when it is gone. A
+  // second call, and one without an ending, ends the process with 130.
   void request();
   bool requested() const { return requests_ > 0; }
 
   // What is ended by a request instead of the process. One at a time.
   class Ending {
    public:
+    // `end` is called again until this is gone, by another thread.
     Ending(Interruption& interruption, std::function<void()> end);
     ~Ending();  // the next request is a first one again
     Ending(const Ending&) = delete;
     Ending& operator=(const Ending&) = delete;
 
-    // Another way to end from now on, such as before and behind the opening of a connection. Called at once where the
-    // request has come already.
+    // Another way to end from now on, such as before and behind the opening of a connection.
     void replace(std::function<void()> end);
 
    private:

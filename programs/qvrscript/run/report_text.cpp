@@ -115,13 +115,15 @@ void tell_failure(const RunReport& report, const RunFailure& failure, Console& c
   for (std::size_t i = 1; i < failure.errors.size(); ++i) tell_error(u"also", failure.errors[i], console);
 }
 
+// A failure is told beside a document too.
 void tell_outcome(const RunReport& report, const Outcome& outcome, Console& console) {
   const Text counts = counted(outcome.executed, report.assembly.commands().size());
   const Text ending = ending_of(report, outcome);
   const bool whole = exit_code_of(outcome, report.assembly) == exit_code::kDone;
+  console.done_all_the_same = join({u"; the run itself: ", counts, u"; ", ending});
   if (whole) {
     const bool rehearsed = outcome.ending == Ending::Rehearsed;
-    if (!report.request.quiet) {
+    if (!report.request.quiet && report.request.format == Format::Text) {
       console.say({rehearsed ? u"rehearsed: " : u"done: ", counts, rehearsed ? u"; all taken back" : u""},
                   Colour::Green);
     }
@@ -134,7 +136,8 @@ void tell_outcome(const RunReport& report, const Outcome& outcome, Console& cons
   } else {
     console.complain({u"failed after ", counts, u"; ", ending});
   }
-  if (report.options.timing) console.say({u"in all: ", duration(outcome.whole_milliseconds)});
+  if (report.options.timing && report.request.format == Format::Text)
+    console.say({u"in all: ", duration(outcome.whole_milliseconds)});
 }
 
 void complain_of_remainder(const Assembly& assembly, Console& console) {

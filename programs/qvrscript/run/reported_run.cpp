@@ -28,10 +28,7 @@ class Teller final : public RunListener {
   void finish(const Outcome& outcome) {
     if (report_.request.format == Format::Json) write_run_json(report_, outcome, console_);
     if (report_.request.format == Format::JUnit) write_run_junit(report_, outcome, console_);
-    // Failures are told beside a document too.
-    if (report_.request.format == Format::Text || exit_code_of(outcome, report_.assembly) != exit_code::kDone) {
-      tell_outcome(report_, outcome, console_);
-    }
+    tell_outcome(report_, outcome, console_);
   }
 
  private:

@@ -69,8 +69,8 @@ class ConnectionFile(ProgramTest):
     def test_another_identification_is_told(self):
         self.make()
         ended = self.cfp("check", "--id-env", "QVR_OLD")
-        self.assertEqual((ended.code, ended.out), (1, ""))
-        self.assertIn("another identification", ended.err)
+        self.expect(ended, 1, f"{self.shown('gestion.cfp')}: another identification, or no connection file: no line can be "
+                    "read with this one\n")
 
     def test_another_engine_is_refused(self):
         self.make()
