@@ -30,8 +30,8 @@ def main():
     parser.add_argument("--width")
     parser.add_argument("--driver")
     parser.add_argument("--gtest_output", required=True)
-    parser.add_argument("--gtest_brief")
-    parser.add_argument("--only")
+    parser.add_argument("--gtest_brief", help="taken, as run_cases.py gives it")
+    parser.add_argument("--only", help="the name of one class")
     options = parser.parse_args()
     tested = program.Program(options.program, options.wine is not None)
     tested.driver = options.driver
@@ -39,7 +39,7 @@ def main():
     cases = COMMON if options.wine else COMMON + POSIX
     if options.only:
         cases = [case for case in cases if case.__name__ == options.only]
-    path = options.gtest_output.removeprefix("xml:")
+    path = options.gtest_output.removeprefix("xml:").removeprefix("Z:").replace("\\", "/")
     if not options.wine:
         return program.run_tests(cases, path)
     ado = tested.path_of(f"{options.wine}/testado.dll")
