@@ -70,6 +70,21 @@ class Interrupted(ProgramTest):
         self.assertEqual(self.ended(process), (130, "", "qvrscript: interrupted after 0 of 1 commands; nothing was run\n"))
 
 
+    def test_a_command_that_runs_nothing_ends_at_once(self):
+        env = {"QVR_ID": "x"}
+        other = f'Extended Properties="DRIVER={self.program.driver};hang=connect;log={self.folder}/log;"'
+        self.expect(self.run_program("cfp", "new", "--id-env", "QVR_ID", "--engine", "jet", "--provider", "MSDASQL",
+                                     "--other", other, "--quiet", str(self.folder), "x", env=env), 0, "")
+        process = self.start("cfp", "test", "--id-env", "QVR_ID", str(self.folder), "x", env=env)
+        self.wait_for("connect")
+        process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.ended(process), (130, "", "qvrscript: interrupted\n"))
+        ended = self.run_program("cfp", "test", "--id-env", "QVR_ID", "--connect-timeout=1", "--json", str(self.folder),
+                                 "x", env=env)
+        self.assertEqual((ended.code, json.loads(ended.out)["failure"]["description"]),
+                         (1, "The connection was not opened within 1 seconds (--connect-timeout)"))
+
+
 class Played(ProgramTest):
     def run_played(self, behaviour, script, *more, engine="sqlserver"):
         return self.run_program("run", "--engine", engine, "--connection", self.played(behaviour), "--quiet", *more,
@@ -86,6 +101,11 @@ class Played(ProgramTest):
         self.assertEqual((failure["command"], failure["description"]),
                          (None, "The connection was not opened within 1 seconds (--connect-timeout)"))
         self.assertEqual(self.last_line(ended), "qvrscript: failed after 0 of 1 commands; nothing was run")
+
+    def test_a_question_for_the_version_does_not_wait_for_ever(self):
+        ended = self.run_program("update", "--engine", "jet", "--from-query", "select 1", "--connect-timeout=1",
+                                 "--connection", self.played("hang=connect;"), str(self.folder), "Gestion")
+        self.expect(ended, 1, "", "qvrscript: The connection was not opened within 1 seconds (--connect-timeout)\n")
 
     def test_a_rollback_that_fails_is_not_told_as_done(self):
         ended = self.run_played("fail=rollback;", "one\nGO\nfail 42000 1 no\nGO\n")
