@@ -53,10 +53,11 @@ void check_rows(const Folder& folder) {
   connection.open(folder.driver_string(), 0);
   const qvr::odbc::Handle statement(SQL_HANDLE_STMT, connection.handle().get());
   const Text question = u"SELECT COUNT(*) FROM Articulos";
-  statement.check(SQLExecDirectW(statement.get(), qvr::odbc::wide(question), qvr::odbc::units(question)));
-  statement.check(SQLFetch(statement.get()));
+  statement.check(
+      qvr::odbc::api().SQLExecDirectW(statement.get(), qvr::odbc::wide(question), qvr::odbc::units(question)));
+  statement.check(qvr::odbc::api().SQLFetch(statement.get()));
   SQLBIGINT rows = 0;
-  statement.check(SQLGetData(statement.get(), 1, SQL_C_SBIGINT, &rows, sizeof rows, nullptr));
+  statement.check(qvr::odbc::api().SQLGetData(statement.get(), 1, SQL_C_SBIGINT, &rows, sizeof rows, nullptr));
   qvr::bench::require(rows == kInserts, "not all rows are there");
 }
 
@@ -72,8 +73,9 @@ void by_hand(benchmark::State& state) {
       connection.set_autocommit(false);
       const qvr::odbc::Handle statement(SQL_HANDLE_STMT, connection.handle().get());
       for (const Text& text : texts) {
-        statement.check(SQLExecDirectW(statement.get(), qvr::odbc::wide(text), qvr::odbc::units(text)));
-        SQLFreeStmt(statement.get(), SQL_CLOSE);
+        statement.check(
+            qvr::odbc::api().SQLExecDirectW(statement.get(), qvr::odbc::wide(text), qvr::odbc::units(text)));
+        qvr::odbc::api().SQLFreeStmt(statement.get(), SQL_CLOSE);
       }
       connection.end_transaction(true);
     }

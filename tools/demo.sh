@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Sets the machine up, builds the library and shows its main job: examples/gestion as a C++ host and as VBScript.
+# Sets the machine up, builds the library and shows its main job: examples/gestion as a C++ host, as VBScript and by the
+# console program.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 need windows
 need_wine
-need_built win32 QVRlib21 testado gestion answer_boxes
+need_built win32 QVRlib21 testado gestion answer_boxes qvrscript
 
 work=$build/demo
 rm -rf "$work"
@@ -35,3 +36,7 @@ echo "=== The same in VBScript ==="
 regsvr "$bin\\QVRlib21.dll"
 script parameters.vbs "$folder" "$work/gestion.db"
 script commands.vbs "$folder" "$example\\scripts\\sqlite" "$bin\\answer_boxes.exe"
+echo
+echo "=== The same database by the console program ==="
+"$root/examples/gestion/console_program.sh" "$work/consola.db" "$folder" "$example\\scripts\\sqlite" \
+  timeout 300 "$root/tools/wine.sh" "$bin\\qvrscript.exe"

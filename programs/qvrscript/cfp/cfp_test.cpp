@@ -1,4 +1,5 @@
 #include <array>
+#include <functional>
 
 #include "qvrscript/cfp/cfp.h"
 #include "qvrscript/cfp/cfp_parts.h"
@@ -14,10 +15,15 @@ struct Opened {
   std::vector<services::AdoError> errors;
 };
 
-Opened open_and_ask(const Connection& connection, std::int32_t connect_timeout, const Surroundings& surroundings) {
+Opened open_and_ask(const Connection& connection, std::int32_t connect_timeout, const Surroundings& surroundings,
+                    const std::function<void(const Opened&)>& tell) {
   Opened result;
+  const auto give_up = [&](TextView why) {
+    result.failure = {failure_number::kInvalidArgument, Text(why), Text(kOwnSource)};
+    tell(result);
+  };
   try {
-    result.facts = opened(connection, connect_timeout, surroundings)->facts();
+    result.facts = opened_database(connection.string, connect_timeout, surroundings, give_up)->facts();
     result.done = true;
   } catch (const OpenFailure& failure) {
     result.failure = failure.detail();
@@ -156,12 +162,15 @@ int cfp_test(const CfpTestRequest& asked, const Request& request, const Surround
     }
     return exit_code::kFailed;
   }
-  const Opened result = open_and_ask(*connection, asked.connection.connect_timeout, surroundings);
-  if (request.format == Format::Json) {
-    tell_json(asked, request, *connection->parameters, result, console);
-  } else {
-    tell_text(asked, *connection->parameters, result, console);
-  }
+  const auto tell = [&](const Opened& result) {
+    if (request.format == Format::Json) {
+      tell_json(asked, request, *connection->parameters, result, console);
+    } else {
+      tell_text(asked, *connection->parameters, result, console);
+    }
+  };
+  const Opened result = open_and_ask(*connection, asked.connection.connect_timeout, surroundings, tell);
+  tell(result);
   return result.done ? exit_code::kDone : exit_code::kFailed;
 }
 

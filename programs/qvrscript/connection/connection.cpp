@@ -1,8 +1,11 @@
 #include "qvrscript/connection/connection.h"
 
+#include <cstdlib>
+
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/connection/asked_secret.h"
 #include "qvrscript/connection/cfp_reading.h"
+#include "qvrscript/connection/opening_watch.h"
 
 namespace qvr::script_tool {
 namespace {
@@ -65,9 +68,14 @@ std::optional<Connection> connection_of(const ConnectionChoice& choice, const Su
   return connection;
 }
 
-std::unique_ptr<Database> opened(const Connection& connection, std::int32_t connect_timeout,
-                                 const Surroundings& surroundings) {
-  return surroundings.open_database(connection.string, connect_timeout);
+std::unique_ptr<Database> opened_database(TextView connection_string, std::int32_t connect_timeout,
+                                          const Surroundings& surroundings,
+                                          const std::function<void(TextView why)>& give_up) {
+  const OpeningWatch watch(connect_timeout, [&] {
+    give_up(not_opened(connect_timeout));
+    std::_Exit(exit_code::kFailed);
+  });
+  return surroundings.open_database(connection_string, connect_timeout);
 }
 
 }  // namespace qvr::script_tool

@@ -1,6 +1,7 @@
 // Where a command's connection comes from.
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "base/secret_text.h"
@@ -32,9 +33,10 @@ struct Connection {
 std::optional<Connection> connection_of(const ConnectionChoice& choice, const Surroundings& surroundings,
                                         Console& console);
 
-// Opens it for the program's own questions. Throws OpenFailure. The one place that does so: what bounds a driver that
-// ignores its time limit goes around it.
-std::unique_ptr<Database> opened(const Connection& connection, std::int32_t connect_timeout,
-                                 const Surroundings& surroundings);
+// A connection of the program's own. Throws OpenFailure. Where the driver ignores its time limit, `give_up` is told by
+// another thread, and the process ends with exit_code::kFailed.
+std::unique_ptr<Database> opened_database(TextView connection_string, std::int32_t connect_timeout,
+                                          const Surroundings& surroundings,
+                                          const std::function<void(TextView why)>& give_up);
 
 }  // namespace qvr::script_tool

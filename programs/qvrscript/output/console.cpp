@@ -74,6 +74,7 @@ void Console::write(std::ostream& stream, bool colours, TextView prefix, std::in
 
 void Console::document(std::string_view utf8) {
   clear_status();
+  if (listener) listener(utf8);
   streams_.out << utf8 << '\n' << std::flush;
 }
 

@@ -58,7 +58,7 @@ class Console {
   // What was done and stays, for the line that tells of an output that could not be written.
   Text done_all_the_same;
 
-  // Hears every line that is shown.
+  // Hears every line and document that is shown.
   std::function<void(std::string_view line)> listener;
 
  private:

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "base/failure.h"
+#include "qvrscript/connection/connection.h"
 #include "qvrscript/run/log_file.h"
 #include "qvrscript/run/runner.h"
 

@@ -4,11 +4,12 @@
 #include <cstdlib>
 
 #include "base/failure.h"
+#include "qvrscript/connection/connection.h"
+#include "qvrscript/connection/opening_watch.h"
 #include "qvrscript/output/console.h"
 #include "qvrscript/run/committing.h"
 #include "qvrscript/run/interruption.h"
 #include "qvrscript/run/observed_ado.h"
-#include "qvrscript/run/opening_watch.h"
 #include "qvrscript/run/run_thread.h"
 #include "qvrscript/tool_failure.h"
 #include "script/qvrscr.h"
@@ -20,10 +21,6 @@ using Clock = std::chrono::steady_clock;
 
 double milliseconds_since(Clock::time_point begin) {
   return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
-}
-
-Text not_opened(std::int32_t seconds) {
-  return join({u"The connection was not opened within ", decimal(seconds), u" seconds (--connect-timeout)"});
 }
 
 // Counts the commands by the events of the run.
@@ -170,16 +167,6 @@ void require_rehearsable(const Assembly& assembly, const std::function<Ddl()>& a
   throw ToolFailure({shown(place), u": ", first.statement,
                      rollback.ending == Ending::PartlyKept ? u" commits by itself" : u" may commit by itself",
                      u" here, and what ran before it: this cannot be rehearsed, and nothing was run"});
-}
-
-std::unique_ptr<Database> opened_database(TextView connection_string, std::int32_t connect_timeout,
-                                          const Surroundings& surroundings,
-                                          const std::function<void(TextView why)>& give_up) {
-  const OpeningWatch watch(connect_timeout, [&] {
-    give_up(not_opened(connect_timeout));
-    std::_Exit(exit_code::kFailed);
-  });
-  return surroundings.open_database(connection_string, connect_timeout);
 }
 
 }  // namespace qvr::script_tool

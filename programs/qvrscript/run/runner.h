@@ -29,10 +29,4 @@ Outcome run_assembly(const Assembly& assembly, TextView connection_string, const
 // Throws ToolFailure where a rollback would not take back everything that the script holds.
 void require_rehearsable(const Assembly& assembly, const std::function<Ddl()>& ask);
 
-// A connection of the program's own. Where it takes too long, `give_up` is told by another thread, and the process
-// ends.
-std::unique_ptr<Database> opened_database(TextView connection_string, std::int32_t connect_timeout,
-                                          const Surroundings& surroundings,
-                                          const std::function<void(TextView why)>& give_up);
-
 }  // namespace qvr::script_tool

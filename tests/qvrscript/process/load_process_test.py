@@ -1,7 +1,8 @@
 """`qvrscript install` and `update` as a process."""
 import json
+import subprocess
 
-from program import ProgramTest
+from program import ROOT, ProgramTest
 
 FIRST = "create table [NombreBD](U varchar(30), P varchar(30))\nGO\n"
 SECOND = "-- accounts\ninsert into [nombrebd] values('[UsuarioQVRAdm]', '[ClaveUsuarioQVRAdm]')\nGO\n"
@@ -170,3 +171,38 @@ class Load(ProgramTest):
         self.write("GestionSQL2.cfc", "nonsense(\nGO\n")
         ended = self.install("--connection", self.connection(), "--quiet")
         self.assertEqual(ended.err.splitlines()[0], f"{self.file('GestionSQL1.cfc')}:4: command 2 of 2 failed")
+
+
+class Example(ProgramTest):
+    """The example's database, from its connection file to the last version."""
+
+    def test_it_is_installed_and_updated(self):
+        folder, scripts = self.program.path_of(self.folder), self.program.path_of(ROOT / "examples/gestion/scripts/sqlite")
+        ended = subprocess.run([ROOT / "examples/gestion/console_program.sh", self.database, folder, scripts,
+                                *self.program.words(())], env=self.program.environment({}), capture_output=True,
+                               check=False, timeout=240)
+        told = [line for line in ended.stdout.decode().splitlines() if not line.startswith("> ")]
+        file = folder + ("\\" if self.program.wine else "/") + "consola.cfp"
+        self.assertEqual((told, ended.stderr, ended.returncode), ([
+            f"{file}: written (Jet)",
+            f"{file}: fine (Jet)",
+            "Gestion, definition, Jet: 4 files, 260 commands",
+            "  GestionJET1.cfc: 14 commands",
+            "  GestionJET2.cfc: 97 commands",
+            "  GestionJET3.cfc: 56 commands",
+            "  GestionJET4.cfc: 93 commands",
+            '  [NombreBD] becomes "Gestion": 1 time',
+            '  [UsuarioQVRAdm] becomes "Admin": 3 times',
+            '  [UsuarioQVRCli] becomes "app": 2 times',
+            "rehearsed: 260 of 260 commands; all taken back",
+            "done: 260 of 260 commands",
+            "Gestion, update from 10000, Jet: 3 files, 20 commands",
+            "  Gestion10000a10010JET.cfc: 6 commands",
+            "  Gestion10010a10020JET.cfc: 8 commands",
+            "  Gestion10020a10100JET.cfc: 6 commands",
+            "done: 20 of 20 commands",
+            "up to date: Gestion has no update from 10100"], b"", 0))
+        self.assertEqual(self.rows('select "Versi\u00f3n" from Esquema'), [(10100,)])
+        users = self.rows('select "Nombre" from Usuarios')
+        self.assertIn(("Admin",), users)
+        self.assertIn(("app",), users)

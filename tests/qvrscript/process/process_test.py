@@ -14,7 +14,7 @@ import run_process_test
 import secrets_process_test
 
 COMMON = (run_process_test.Run, secrets_process_test.Connection, secrets_process_test.ConnectionFile,
-          load_process_test.Load)
+          load_process_test.Load, load_process_test.Example)
 POSIX = (posix_process_test.Interrupted, posix_process_test.Played, posix_process_test.Outputs)
 
 
@@ -30,8 +30,8 @@ def main():
     parser.add_argument("--width")
     parser.add_argument("--driver")
     parser.add_argument("--gtest_output", required=True)
-    parser.add_argument("--gtest_brief")
-    parser.add_argument("--only")
+    parser.add_argument("--gtest_brief", help="taken, as run_cases.py gives it")
+    parser.add_argument("--only", help="the name of one class")
     options = parser.parse_args()
     tested = program.Program(options.program, options.wine is not None)
     tested.driver = options.driver
@@ -39,7 +39,7 @@ def main():
     cases = COMMON if options.wine else COMMON + POSIX
     if options.only:
         cases = [case for case in cases if case.__name__ == options.only]
-    path = options.gtest_output.removeprefix("xml:")
+    path = options.gtest_output.removeprefix("xml:").removeprefix("Z:").replace("\\", "/")
     if not options.wine:
         return program.run_tests(cases, path)
     ado = tested.path_of(f"{options.wine}/testado.dll")

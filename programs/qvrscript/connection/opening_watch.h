@@ -7,7 +7,12 @@
 #include <mutex>
 #include <thread>
 
+#include "base/text.h"
+
 namespace qvr::script_tool {
+
+// What is told of a connection that is given up.
+Text not_opened(std::int32_t seconds);
 
 class OpeningWatch {
  public:

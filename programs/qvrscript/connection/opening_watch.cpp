@@ -1,8 +1,12 @@
-#include "qvrscript/run/opening_watch.h"
+#include "qvrscript/connection/opening_watch.h"
 
 #include <chrono>
 
 namespace qvr::script_tool {
+
+Text not_opened(std::int32_t seconds) {
+  return join({u"The connection was not opened within ", decimal(seconds), u" seconds (--connect-timeout)"});
+}
 
 OpeningWatch::OpeningWatch(std::int32_t seconds, std::function<void()> give_up) {
   if (seconds == 0) return;
