@@ -2,8 +2,8 @@
 """Puts the sources of the site together: assemble.py REFERENCE FOLDER.
 
 FOLDER gets one folder for each language with the manual's pages, the schemas that they link to, the reference (from the
-folder that reference.py wrote) and, in English, those pages of docs/ that the manual links to. Links are made to hold there. One to a page of
-another language becomes "site:<language>/<page>.html", which conf.py resolves.
+folder that reference.py wrote) and, in English, those pages of docs/ that the manual links to. Links are made to hold
+there. One to a page of another language becomes "site:<language>/<page>.html", which conf.py resolves.
 """
 import json
 import pathlib

@@ -1,4 +1,4 @@
-"""The examples of the manual's page for build servers, run as they stand there, and the documents beside their schema."""
+"""The manual's examples of qvrscript, run as they stand there, and its documents beside their schema."""
 import json
 import os
 import pathlib
@@ -22,6 +22,19 @@ def snippet(language, name):
     return found[0]
 
 
+class Silencing(ProgramTest):
+    """The comment that the page for scripts shows."""
+
+    def test_it_silences_what_it_names(self):
+        for language in ("en", "es"):
+            page = (MANUAL / language / "qvrscript-scripts.md").read_text(encoding="utf-8")
+            example, = re.findall(r"^```sql\n(.*?)^```$", page, re.MULTILINE | re.DOTALL)
+            script = self.write("x.cfc", example.replace("\n", "\r\n"))
+            told = json.loads(self.run_program("check", "--json", "--fail-on", "note", script).out)
+            self.assertEqual((told["findings"], told["exitCode"]), ([], 0))
+            self.assertEqual([each["rule"] for each in told["silenced"]], ["no-transaction", "own-transaction"])
+
+
 class Snippets(ProgramTest):
     """A folder as a project has it, with the program where shells look for it."""
 
@@ -39,8 +52,9 @@ class Snippets(ProgramTest):
     def call(self, *words, **more):
         # Nothing of the machine's own settings, and none of a repository around.
         environment = {name: value for name, value in os.environ.items() if not name.startswith("GIT_")}
-        environment |= {"LC_ALL": "C.UTF-8", "PATH": f"{self.folder}/bin:{os.environ['PATH']}", "HOME": str(self.folder),
-                        "GIT_CONFIG_NOSYSTEM": "1", "TMPDIR": str(self.folder / "tmp"), **more}
+        environment |= {"LC_ALL": "C.UTF-8", "PATH": f"{self.folder}/bin:{os.environ['PATH']}",
+                        "HOME": str(self.folder), "GIT_CONFIG_NOSYSTEM": "1", "TMPDIR": str(self.folder / "tmp"),
+                        **more}
         return subprocess.run(words, cwd=self.project, env=environment, capture_output=True, text=True, timeout=120,
                               check=False)
 
@@ -189,7 +203,8 @@ class Documents(ProgramTest):
         self.assertEqual(self.script(1, REFUSED + b"select 1")["ending"], "nothing")
         failed = b"create table V(N int)\r\nGO\r\n" + REFUSED
         self.assertEqual(self.script(1, failed)["ending"], "takenBack")
-        self.assertEqual(self.script(1, failed, engine="oracle")["keptUpTo"], {"command": 1, "statement": "create table"})
+        self.assertEqual(self.script(1, failed, engine="oracle")["keptUpTo"],
+                         {"command": 1, "statement": "create table"})
 
     def test_the_end_tells_whether_there_is_more_to_tell(self):
         told = self.script(1, b"create table V(N int)\r\nGO\r\n" + REFUSED, engine="oracle")
@@ -213,5 +228,6 @@ class Documents(ProgramTest):
         self.assertEqual((told["total"], told["ending"]), (0, "nothing"))
 
     def test_what_goes_no_further(self):
-        self.assertEqual(self.document(1, "run", "--engine", "jet", "--connection", "x", self.shown("none.cfc"))["exitCode"], 1)
+        told = self.document(1, "run", "--engine", "jet", "--connection", "x", self.shown("none.cfc"))
+        self.assertEqual(told["exitCode"], 1)
         self.assertIsNone(self.document(2, "install", "--nothing")["command"])
