@@ -18,13 +18,9 @@ void check_command(const Script& script, const ScriptCommand& command, Findings&
 }
 
 // GO lines alone are reported by the rule for consecutive separators.
-bool only_go_lines(const Script& script, const ScriptCommand& piece) {
-  return std::ranges::all_of(words_in(script, piece), [](const Word& word) { return equal_no_case(word.text, u"GO"); });
-}
-
 void check_rest(const Script& script, Findings& findings) {
   const ScriptCommand rest = script.rest();
-  if (!holds_code(script, rest) || only_go_lines(script, rest)) return;
+  if (!would_be_missed(script, rest)) return;
   const std::size_t line = script.line_of(script.text().find_first_not_of(kWhiteSpace, rest.begin));
   if (script.commands().empty()) {
     findings.add(line, "no-go", {u"the file has no GO line: nothing of it is run"});

@@ -76,6 +76,20 @@ std::size_t next_statement(const Script& script, const ScriptCommand& piece, std
   return TextView::npos;
 }
 
+bool would_be_missed(const Script& script, const ScriptCommand& piece) {
+  std::size_t from = piece.begin;
+  const std::size_t end = piece.begin + piece.text.size();
+  const auto code_before = [&](std::size_t to) {
+    return holds_code(script, {script.text().substr(from, to - from), from});
+  };
+  for (const Word& word : words_in(script, piece)) {
+    if (!equal_no_case(word.text, u"GO")) return true;
+    if (code_before(word.begin)) return true;
+    from = word.begin + word.text.size();
+  }
+  return code_before(end);
+}
+
 bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted) {
   for (const TextView word : wanted) {
     if (at >= words.size() || !equal_no_case(words[at++].text, word)) return false;

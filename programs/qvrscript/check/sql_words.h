@@ -27,6 +27,9 @@ std::size_t next_statement(const Script& script, const ScriptCommand& piece, std
 // Whether there is anything but white space and comments.
 bool holds_code(const Script& script, const ScriptCommand& piece);
 
+// Whether there is anything but white space, comments and GO: whether somebody would miss it where it does not run.
+bool would_be_missed(const Script& script, const ScriptCommand& piece);
+
 // Whether these words follow at this position, without regard to case.
 bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted);
 

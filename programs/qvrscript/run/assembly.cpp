@@ -68,14 +68,9 @@ std::size_t first_visible(TextView text, std::size_t from, std::size_t end) {
   return found == TextView::npos ? from : found;
 }
 
-// Whether the text holds more than white space, comments and GO lines.
 bool would_be_missed(TextView rest, Engine engine) {
   const Script script(to_utf8(rest), engine, thread_state().platform().files);
-  const ScriptCommand whole{script.text(), 0};
-  const std::vector<Word> words = words_in(script, whole);
-  const bool only_go = !words.empty() &&
-                       std::ranges::all_of(words, [](const Word& word) { return equal_no_case(word.text, u"GO"); });
-  return holds_code(script, whole) && !only_go;
+  return script_tool::would_be_missed(script, {script.text(), 0});
 }
 
 }  // namespace

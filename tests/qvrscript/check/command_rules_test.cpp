@@ -24,6 +24,9 @@ TEST(CommandRules, TellOfWhatIsNeverRun) {
       {"blank lines at the end", "select 1|GO|||  |", {}},
       {"no GO at all", "select 1|select 2|", {"1 no-go"}},
       {"only comments", "-- nothing|", {}},
+      {"only a name in brackets", "[x]|", {"1 no-go"}},
+      {"a string behind GO", "select 1|GO|GO 'x'|", {"3 no-last-go"}},
+      {"a second GO and a comment", "select 1|GO|GO -- x|", {"3 go-comment"}},
   });
 }
 
