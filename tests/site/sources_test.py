@@ -1,4 +1,4 @@
-"""What the checks of the manual's pictures and excerpts find."""
+"""What the checks of the manual's pictures and excerpts find, and what becomes of links to schemas."""
 import pathlib
 import sys
 import tempfile
@@ -6,6 +6,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/manual"))
 
+import assemble  # noqa: E402
 import diagrams  # noqa: E402
 import excerpts  # noqa: E402
 
@@ -82,6 +83,25 @@ class Excerpts(unittest.TestCase):
     def test_are_only_what_follows_the_name(self):
         page = "From `examples/one.cpp`:\n\nText.\n\n```cpp\nint two();\n```\n"
         self.assertEqual(self.found("int one();\n", page), [])
+
+
+class Schemas(unittest.TestCase):
+    def setUp(self):
+        work = tempfile.TemporaryDirectory()
+        self.addCleanup(work.cleanup)
+        self.folder = pathlib.Path(work.name)
+        name = "qvrscript-build-servers.md"
+        self.page = assemble.Page(assemble.Site(self.folder), "en", name, assemble.MANUAL / "en" / name, self.folder)
+
+    def test_go_to_the_site_with_the_page_that_links_to_them(self):
+        name = "qvrscript-run.schema.json"
+        self.assertEqual(self.page.change("run", f"../schemas/{name}", False), f"[run](schemas/{name})")
+        self.assertEqual((self.folder / "schemas" / name).read_bytes(), (assemble.SCHEMAS / name).read_bytes())
+
+    def test_that_are_not_there_are_told(self):
+        with self.assertRaises(assemble.Broken) as told:
+            self.page.change("run", "../schemas/none.json", False)
+        self.assertEqual(str(told.exception), "docs/manual/en/qvrscript-build-servers.md: there is no none.json")
 
 
 if __name__ == "__main__":

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Puts the sources of the site together: assemble.py REFERENCE FOLDER.
 
-FOLDER gets one folder for each language with the manual's pages, the reference (from the folder that reference.py
-wrote) and, in English, those pages of docs/ that the manual links to. Links are made to hold there. One to a page of
-another language becomes "site:<language>/<page>.html", which conf.py resolves.
+FOLDER gets one folder for each language with the manual's pages, the schemas that they link to, the reference (from the
+folder that reference.py wrote) and, in English, those pages of docs/ that the manual links to. Links are made to hold
+there. One to a page of another language becomes "site:<language>/<page>.html", which conf.py resolves.
 """
 import json
 import pathlib
@@ -16,6 +16,7 @@ from markdown import title, with_links
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 DOCS = ROOT / "docs"
 MANUAL = DOCS / "manual"
+SCHEMAS = MANUAL / "schemas"
 LANGUAGES = ("en", "es", "fr")
 FRENCH_INDEX = "# QVRlib21\n"  # for a language without an index of its own
 
@@ -97,7 +98,9 @@ class Page:
             return f"{mark}[{label}]({target})"
         anchor = target[len(target.partition("#")[0]):]
         if image:
-            return f"![{label}]({self.picture(path)})"
+            return f"![{label}]({self.copied(path, 'images')})"
+        if path.parent == SCHEMAS:
+            return f"[{label}]({self.copied(path, 'schemas')})"
         place = self.site.place(path)
         if place is None and self.name.startswith("project/") and path.exists():
             return label  # a page for the library's own developers
@@ -108,12 +111,12 @@ class Page:
             return f"[{label}]({self.up()}{site_name(page)}.md{anchor})"
         return f"[{label}](site:{language}/{site_name(page)}.html{anchor})"
 
-    def picture(self, path):
+    def copied(self, path, folder):
         if not path.exists():
-            raise Broken(f"{self.at.relative_to(ROOT)}: there is no picture {path.name}")
-        (self.target / "images").mkdir(exist_ok=True)
-        shutil.copy(path, self.target / "images")
-        return f"{self.up()}images/{path.name}"
+            raise Broken(f"{self.at.relative_to(ROOT)}: there is no {path.name}")
+        (self.target / folder).mkdir(exist_ok=True)
+        shutil.copy(path, self.target / folder)
+        return f"{self.up()}{folder}/{path.name}"
 
     def write(self, behind=""):
         text = with_links(self.path.read_text(encoding="utf-8"), self.change) + behind

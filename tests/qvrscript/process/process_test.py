@@ -12,10 +12,12 @@ import posix_process_test
 import program
 import run_process_test
 import secrets_process_test
+import snippets_test
 
 COMMON = (run_process_test.Run, secrets_process_test.Connection, secrets_process_test.ConnectionFile,
           load_process_test.Load, load_process_test.Example)
-POSIX = (posix_process_test.Interrupted, posix_process_test.Played, posix_process_test.Outputs)
+POSIX = (posix_process_test.Interrupted, posix_process_test.Played, posix_process_test.Outputs,
+         snippets_test.Silencing, snippets_test.Hook, snippets_test.Job, snippets_test.Documents)
 
 
 def regsvr(width, *words):
