@@ -16,9 +16,13 @@ LogFile::LogFile(TextView path, Console& console) : console_(console) {
   const bool made = or_default({}, false, [&] { return thread_state().platform().files.create(path)->close(), true; });
   if (made) file_.open(system_path(path), std::ios::binary | std::ios::app);
   if (!made || !file_) throw ToolFailure({path, u" cannot be written"});
-  console_.listener = [this](std::string_view line) {
+  console_.listener = [this](std::string_view shown) {
     const std::time_t now = std::time(nullptr);
-    file_ << std::put_time(std::localtime(&now), "%Y-%m-%d %H:%M:%S ") << line << '\n' << std::flush;
+    for (std::size_t at = 0; at <= shown.size();) {  // a document has several lines
+      const std::string_view line = shown.substr(at, shown.find('\n', at) - at);
+      file_ << std::put_time(std::localtime(&now), "%Y-%m-%d %H:%M:%S ") << line << '\n' << std::flush;
+      at += line.size() + 1;
+    }
   };
 }
 
