@@ -23,6 +23,22 @@ struct ToolCall {
 
 ToolAnswer run_tool(const std::vector<Text>& words, const ToolCall& call = {});
 
+// Every command that has a help; the first one is the program itself.
+inline const std::vector<Text> kCommands[] = {
+    {},
+    {u"check"},
+    {u"install"},
+    {u"update"},
+    {u"run"},
+    {u"cfp"},
+    {u"cfp", u"new"},
+    {u"cfp", u"show"},
+    {u"cfp", u"check"},
+    {u"cfp", u"rekey"},
+    {u"cfp", u"test"},
+    {u"doctor"},
+};
+
 // What is found in a script, as "line rule", in order.
 std::vector<std::string> rules_in(std::string_view bytes, Engine engine = Engine::SqlServer);
 std::vector<std::string> rules_of(const std::vector<script_tool::Finding>& findings);

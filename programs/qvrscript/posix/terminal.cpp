@@ -17,6 +17,7 @@
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/connection/input_line.h"
 #include "qvrscript/output/console.h"
+#include "qvrscript/run/interruption.h"
 #include "qvrscript/system.h"
 
 namespace qvr::script_tool {
@@ -118,6 +119,14 @@ std::size_t read_some(int number, std::span<char> buffer) {
 }
 
 std::optional<std::string> typed_line(const Terminal& terminal, std::string_view prompt) {
+  termios former{};
+  const bool known = tcgetattr(terminal.number(), &former) == 0;
+  // Where signals are heard by another thread, that one brings the echo back before it ends the process.
+  const Interruption::Ending ending(interruption(), [&] {
+    if (known) tcsetattr(terminal.number(), TCSAFLUSH, &former);
+    terminal.write("\n");
+    leave_at_once(exit_code::kInterrupted, "qvrscript: interrupted");
+  });
   const SignalsKept signals;
   const EchoOff silence(terminal.number());
   if (!silence) return std::nullopt;

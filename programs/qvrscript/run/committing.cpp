@@ -53,11 +53,12 @@ std::optional<Committing> last_ending(const Assembly& assembly, std::size_t last
 
 }  // namespace
 
-Rollback judged_rollback(const Assembly& assembly, std::size_t last_command, const std::function<Ddl()>& ask) {
+Rollback judged_rollback(const Assembly& assembly, std::size_t last_command,
+                         const std::function<Ddl(const Committing& ddl)>& ask) {
   auto own = last_ending(assembly, last_command, false);
   auto ddl = last_ending(assembly, last_command, true);
   if (!ddl) return {};
-  const Ddl told = assembly.engine() == Engine::Oracle ? Ddl::Commits : ask();
+  const Ddl told = assembly.engine() == Engine::Oracle ? Ddl::Commits : ask(*ddl);
   if (told == Ddl::Commits) return {Ending::PartlyKept, std::move(ddl)};
   if (own) return {Ending::PartlyKept, std::move(own)};
   return told == Ddl::Unknown ? Rollback{Ending::PerhapsKept, std::move(ddl)} : Rollback{};

@@ -19,12 +19,7 @@ class Teller final : public RunListener {
     tell_ended(report_, command, milliseconds, console_);
   }
   void failed(const RunFailure& failure) override { tell_failure(report_, failure, console_); }
-  void given_up(const Outcome& outcome) override {
-    for (const RunFailure& failure : outcome.failures) {
-      if (failure.command == 0) tell_failure(report_, failure, console_);
-    }
-    finish(outcome);
-  }
+  void given_up(const Outcome& outcome) override { finish(outcome); }
 
   void finish(const Outcome& outcome) {
     if (report_.request.format == Format::Json) write_run_json(report_, outcome, console_);
@@ -50,11 +45,12 @@ int run_and_report(const RunReport& report, TextView connection_string, const Su
     return exit_code::kFailed;
   }
   if (report.options.rehearse) {
-    require_rehearsable(report.assembly, [&] {
+    require_rehearsable(report.assembly, [&](const Committing&) {
       const auto give_up = [&](TextView why) {
         Outcome outcome;
         outcome.failures.push_back({0, {failure_number::kInvalidArgument, Text(why), Text(kOwnSource)}, {}});
-        teller.given_up(outcome);
+        teller.failed(outcome.failures.back());
+        teller.finish(outcome);
       };
       return or_default({}, Ddl::Unknown, [&] {
         return opened_database(connection_string, report.options.connection->connect_timeout, surroundings, give_up)

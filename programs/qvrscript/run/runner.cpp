@@ -45,8 +45,8 @@ class Run {
   ObservedHooks observed_hooks(RunAdo& ado);
   void report(const services::ErrorNotice& notice);
   void give_up(TextView why, bool interrupted);
-  void find_ending(const std::function<Ddl()>& ask);
-  Ddl asked_of_database(TextView connection_string, const Surroundings& surroundings);
+  void find_ending(const std::function<Ddl(const Committing& ddl)>& ask);
+  Ddl asked_of_database(const Committing& ddl, TextView connection_string, const Surroundings& surroundings);
 
   const Assembly& assembly_;
   const RunOptions& options_;
@@ -63,8 +63,10 @@ class Run {
 void Run::give_up(TextView why, bool interrupted) {
   Outcome outcome;
   outcome.interrupted = interrupted;
-  if (!interrupted)
+  if (!interrupted) {
     outcome.failures.push_back({0, {failure_number::kInvalidArgument, Text(why), Text(kOwnSource)}, {}});
+    listener_.failed(outcome.failures.back());
+  }
   outcome.whole_milliseconds = milliseconds_since(run_begin_);
   listener_.given_up(outcome);
   std::_Exit(interrupted ? exit_code::kInterrupted : exit_code::kFailed);
@@ -122,12 +124,12 @@ Outcome Run::done(TextView connection_string, const Surroundings& surroundings) 
   }
   watch_.reset();
   ending_.reset();
-  find_ending([&] { return asked_of_database(connection_string, surroundings); });
+  find_ending([&](const Committing& ddl) { return asked_of_database(ddl, connection_string, surroundings); });
   outcome_.whole_milliseconds = milliseconds_since(run_begin_);
   return std::move(outcome_);
 }
 
-void Run::find_ending(const std::function<Ddl()>& ask) {
+void Run::find_ending(const std::function<Ddl(const Committing& ddl)>& ask) {
   if (!course_.opened || (options_.use_transaction && !course_.begun)) return;
   outcome_.rollback_failure = course_.rollback_failure;
   if (!options_.use_transaction) {
@@ -145,8 +147,12 @@ void Run::find_ending(const std::function<Ddl()>& ask) {
 }
 
 // Asked behind the run, as most scripts never need it.
-Ddl Run::asked_of_database(TextView connection_string, const Surroundings& surroundings) {
-  const auto give_up = [this](TextView) { listener_.given_up(outcome_); };
+Ddl Run::asked_of_database(const Committing& ddl, TextView connection_string, const Surroundings& surroundings) {
+  const auto give_up = [&](TextView) {
+    outcome_.ending = Ending::PerhapsKept;
+    outcome_.kept_up_to = ddl;
+    listener_.given_up(outcome_);
+  };
   return or_default({}, Ddl::Unknown, [&] {
     return opened_database(connection_string, options_.connection->connect_timeout, surroundings, give_up)->facts().ddl;
   });
@@ -159,7 +165,7 @@ Outcome run_assembly(const Assembly& assembly, TextView connection_string, const
   return Run(assembly, options, listener).done(connection_string, surroundings);
 }
 
-void require_rehearsable(const Assembly& assembly, const std::function<Ddl()>& ask) {
+void require_rehearsable(const Assembly& assembly, const std::function<Ddl(const Committing& ddl)>& ask) {
   const Rollback rollback = judged_rollback(assembly, assembly.commands().size(), ask);
   if (rollback.ending == Ending::TakenBack) return;
   const Committing& first = *rollback.kept_up_to;

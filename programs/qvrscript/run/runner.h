@@ -27,6 +27,6 @@ Outcome run_assembly(const Assembly& assembly, TextView connection_string, const
                      const Surroundings& surroundings, RunListener& listener);
 
 // Throws ToolFailure where a rollback would not take back everything that the script holds.
-void require_rehearsable(const Assembly& assembly, const std::function<Ddl()>& ask);
+void require_rehearsable(const Assembly& assembly, const std::function<Ddl(const Committing& ddl)>& ask);
 
 }  // namespace qvr::script_tool

@@ -12,28 +12,13 @@
 namespace qvr::tests {
 namespace {
 
-const std::vector<Text> kTopics[] = {
-    {},
-    {u"check"},
-    {u"install"},
-    {u"update"},
-    {u"run"},
-    {u"cfp"},
-    {u"cfp", u"new"},
-    {u"cfp", u"show"},
-    {u"cfp", u"check"},
-    {u"cfp", u"rekey"},
-    {u"cfp", u"test"},
-    {u"doctor"},
-};
-
 std::vector<Text> followed_by(std::vector<Text> words, TextView last) {
   words.emplace_back(last);
   return words;
 }
 
 TEST(Help, IsThereForAllAndEach) {
-  for (const std::vector<Text>& topic : kTopics) {
+  for (const std::vector<Text>& topic : kCommands) {
     const ToolAnswer answer = run_tool(followed_by(topic, u"--help"));
     std::string usage = "Usage: qvrscript";
     for (const Text& word : topic) usage += " " + to_utf8(word);
@@ -48,7 +33,7 @@ TEST(Help, IsThereForAllAndEach) {
 }
 
 TEST(Help, FitsOnAScreen) {
-  for (const std::vector<Text>& topic : kTopics) {
+  for (const std::vector<Text>& topic : kCommands) {
     std::istringstream text(run_tool(followed_by(topic, u"--help")).out);
     for (std::string line; std::getline(text, line);) EXPECT_LE(line.size(), 120u) << line;
   }

@@ -17,21 +17,6 @@ namespace {
 
 constexpr const char* kPages[] = {"qvrscript.md", "qvrscript-scripts.md", "qvrscript-build-servers.md"};
 
-const std::vector<Text> kCommands[] = {
-    {},
-    {u"check"},
-    {u"install"},
-    {u"update"},
-    {u"run"},
-    {u"cfp"},
-    {u"cfp", u"new"},
-    {u"cfp", u"show"},
-    {u"cfp", u"check"},
-    {u"cfp", u"rekey"},
-    {u"cfp", u"test"},
-    {u"doctor"},
-};
-
 std::set<std::string> matches(const std::string& text, const char* pattern) {
   const std::regex expression(pattern);
   std::set<std::string> found;

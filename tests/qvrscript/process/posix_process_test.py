@@ -1,9 +1,11 @@
 """What only a process on Linux shows: signals, closed and full outputs, and databases that hang or fail."""
 import json
 import os
+import pty
 import resource
 import signal
 import subprocess
+import termios
 import time
 
 from program import ProgramTest
@@ -83,6 +85,28 @@ class Interrupted(ProgramTest):
                                  "x", env=env)
         self.assertEqual((ended.code, json.loads(ended.out)["failure"]["description"]),
                          (1, "The connection was not opened within 1 seconds (--connect-timeout)"))
+
+
+    def test_a_secret_that_is_asked_for(self):
+        child, master = pty.fork()
+        if child == 0:
+            os.execve(self.program.path, [self.program.path, "cfp", "show", str(self.folder), "x"],
+                      self.program.environment({}))
+        shown = b""
+        while not shown.endswith(b": "):
+            shown += os.read(master, 1)
+        self.assertFalse(termios.tcgetattr(master)[3] & termios.ECHO)
+        os.write(master, b"\x03")
+        self.assertIn(b"qvrscript: interrupted", self.rest_of(master))
+        self.assertEqual(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), 130)
+
+    def rest_of(self, master):
+        """What is still shown, and the terminal's echo is back behind it."""
+        shown = b""
+        while b"interrupted" not in shown:
+            shown += os.read(master, 100)
+        self.assertTrue(termios.tcgetattr(master)[3] & termios.ECHO)
+        return shown
 
 
 class Played(ProgramTest):

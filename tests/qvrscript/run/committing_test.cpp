@@ -56,7 +56,7 @@ TEST_P(Rollbacks, AreJudgedByWhatRan) {
   std::vector<ReadScript> scripts;
   scripts.push_back({u"x", text});
   const Assembly assembly(text, row.engine, std::move(scripts));
-  const Rollback rollback = judged_rollback(assembly, row.last, [&] { return row.told; });
+  const Rollback rollback = judged_rollback(assembly, row.last, [&](const Committing&) { return row.told; });
   EXPECT_EQ(rollback.ending, row.ending);
   ASSERT_EQ(rollback.kept_up_to.has_value(), row.kept_up_to > 0);
   if (!rollback.kept_up_to) return;
@@ -72,7 +72,8 @@ TEST(Rollback, AsksTheDatabaseOnlyWhereItMatters) {
     std::vector<ReadScript> scripts;
     scripts.push_back({u"x", text});
     bool called = false;
-    judged_rollback(Assembly(text, engine, std::move(scripts)), 1, [&] { return called = true, Ddl::Unknown; });
+    judged_rollback(Assembly(text, engine, std::move(scripts)), 1,
+                    [&](const Committing&) { return called = true, Ddl::Unknown; });
     return called;
   };
   EXPECT_TRUE(asked(u"create table T(N int)", Engine::SqlServer));
