@@ -8,8 +8,6 @@ namespace qvr::script_tool {
 namespace {
 
 constexpr std::array<TextView, 4> kUnits = {u"PROCEDURE", u"FUNCTION", u"PACKAGE", u"TRIGGER"};
-constexpr std::array<TextView, 12> kDdl = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME",  u"GRANT",
-                                           u"REVOKE", u"COMMENT", u"ANALYZE", u"AUDIT",    u"NOAUDIT", u"PURGE"};
 constexpr std::array<TextView, 7> kChanges = {u"INSERT", u"UPDATE", u"DELETE", u"MERGE", u"BEGIN", u"DECLARE", u"CALL"};
 
 template <std::size_t count>
@@ -95,9 +93,8 @@ class Pending {
   explicit Pending(const Script& script) : script_(script) {}
 
   void take(const std::vector<Word>& words, Findings& findings) {
-    const bool session = words_are(words, 0, {u"ALTER", u"SESSION"}) || words_are(words, 0, {u"ALTER", u"SYSTEM"});
     const std::size_t line = script_.line_of(words.front().begin);
-    if (is_one_of(words, 0, kDdl) && !session) {
+    if (is_ddl(words, 0)) {
       if (since_ != 0) tell(line, words.front().text, findings);
       since_ = 0;
     } else if (words_are(words, 0, {u"COMMIT"}) || words_are(words, 0, {u"ROLLBACK"})) {

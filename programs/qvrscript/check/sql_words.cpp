@@ -5,6 +5,8 @@
 namespace qvr::script_tool {
 namespace {
 
+constexpr TextView kDdl[] = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME",  u"GRANT",
+                             u"REVOKE", u"COMMENT", u"ANALYZE", u"AUDIT",    u"NOAUDIT", u"PURGE"};
 constexpr TextView kModules[] = {u"PROC", u"PROCEDURE", u"VIEW", u"FUNCTION", u"TRIGGER"};
 
 // The kind of object that the command creates or alters; empty for other commands.
@@ -95,6 +97,11 @@ bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_
     if (at >= words.size() || !equal_no_case(words[at++].text, word)) return false;
   }
   return true;
+}
+
+bool is_ddl(const std::vector<Word>& words, std::size_t at) {
+  if (words_are(words, at, {u"ALTER", u"SESSION"}) || words_are(words, at, {u"ALTER", u"SYSTEM"})) return false;
+  return std::ranges::any_of(kDdl, [&](TextView each) { return words_are(words, at, {each}); });
 }
 
 bool is_module(const std::vector<Word>& words) {

@@ -33,6 +33,10 @@ bool would_be_missed(const Script& script, const ScriptCommand& piece);
 // Whether these words follow at this position, without regard to case.
 bool words_are(const std::vector<Word>& words, std::size_t at, std::initializer_list<TextView> wanted);
 
+// Whether DDL begins at this position, as engines understand it that commit there. ALTER SESSION and ALTER SYSTEM are
+// none.
+bool is_ddl(const std::vector<Word>& words, std::size_t at);
+
 // Whether the command creates or alters a procedure, view, function or trigger, whose statements run later.
 bool is_module(const std::vector<Word>& words);
 bool is_trigger(const std::vector<Word>& words);

@@ -9,15 +9,6 @@
 namespace qvr::script_tool {
 namespace {
 
-constexpr TextView kDdl[] = {u"CREATE", u"ALTER",   u"DROP",    u"TRUNCATE", u"RENAME",  u"GRANT",
-                             u"REVOKE", u"COMMENT", u"ANALYZE", u"AUDIT",    u"NOAUDIT", u"PURGE"};
-constexpr TextView kOwnEnds[] = {u"COMMIT", u"ROLLBACK"};
-
-template <class Words>
-bool is_one_of(TextView word, const Words& words) {
-  return std::ranges::any_of(words, [&](TextView each) { return equal_no_case(word, each); });
-}
-
 // Whether a statement begins with this word: it is the command's first one, or ";" stands before it.
 bool begins_statement(const Script& script, const std::vector<Word>& words, std::size_t at) {
   if (at == 0) return true;
@@ -33,8 +24,8 @@ Text ending_statement(TextView command, Engine engine, bool ddl) {
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (!begins_statement(script, words, at)) continue;
     const TextView word = words[at].text;
-    if (is_one_of(word, kOwnEnds)) return Text(word);
-    if (ddl && is_one_of(word, kDdl)) {
+    if (equal_no_case(word, u"COMMIT") || equal_no_case(word, u"ROLLBACK")) return Text(word);
+    if (ddl && is_ddl(words, at)) {
       return at + 1 < words.size() ? join({word, u" ", words[at + 1].text}) : Text(word);
     }
     if (module) break;
@@ -60,7 +51,9 @@ Rollback judged_rollback(const Assembly& assembly, std::size_t last_command,
   if (!ddl) return {};
   const Ddl told = assembly.engine() == Engine::Oracle ? Ddl::Commits : ask(*ddl);
   if (told == Ddl::Commits) return {Ending::PartlyKept, std::move(ddl)};
-  if (own) return {Ending::PartlyKept, std::move(own)};
+  // Behind a ROLLBACK each command may stay, or be in a transaction of its own: providers differ.
+  const bool rolls_back = own && equal_no_case(own->statement, u"ROLLBACK");
+  if (own) return {rolls_back ? Ending::PerhapsKept : Ending::PartlyKept, std::move(own)};
   return told == Ddl::Unknown ? Rollback{Ending::PerhapsKept, std::move(ddl)} : Rollback{};
 }
 

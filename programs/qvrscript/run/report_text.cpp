@@ -52,9 +52,9 @@ void tell_error(TextView name, const services::AdoError& error, Console& console
 }
 
 Text ending_of(const RunReport& report, const Outcome& outcome) {
-  const auto kept = [&](TextView how) {
+  const auto statement = [&] {
     const Committing& last = *outcome.kept_up_to;
-    return join({how, last.statement, u" in command ", number(last.command), u" (",
+    return join({last.statement, u" in command ", number(last.command), u" (",
                  shown(report.assembly.commands()[last.command - 1].place), u")"});
   };
   switch (outcome.ending) {
@@ -63,9 +63,8 @@ Text ending_of(const RunReport& report, const Outcome& outcome) {
     case Ending::Rehearsed:
     case Ending::TakenBack: return u"all taken back";
     case Ending::Kept: return u"what ran stays";
-    case Ending::PartlyKept: return kept(u"rolled back, but what ran stays up to ");
-    case Ending::PerhapsKept:
-      return kept(u"rolled back; whether the database takes back such commands is not known: perhaps all stays up to ");
+    case Ending::PartlyKept: return join({u"rolled back, but what ran stays up to ", statement()});
+    case Ending::PerhapsKept: return join({u"rolled back, but it is not known what stays because of ", statement()});
     case Ending::RollbackFailed: break;
   }
   const Text why = outcome.rollback_failure ? join({u" (", outcome.rollback_failure->description, u")"}) : Text();

@@ -170,9 +170,10 @@ void require_rehearsable(const Assembly& assembly, const std::function<Ddl(const
   if (rollback.ending == Ending::TakenBack) return;
   const Committing& first = *rollback.kept_up_to;
   const Place& place = assembly.commands()[first.command - 1].place;
-  throw ToolFailure({shown(place), u": ", first.statement,
-                     rollback.ending == Ending::PartlyKept ? u" commits by itself" : u" may commit by itself",
-                     u" here, and what ran before it: this cannot be rehearsed, and nothing was run"});
+  const TextView why = rollback.ending == Ending::PartlyKept
+                           ? u" commits by itself here, and what ran before it"
+                           : u": it is not known whether a rollback takes everything back";
+  throw ToolFailure({shown(place), u": ", first.statement, why, u": this cannot be rehearsed, and nothing was run"});
 }
 
 }  // namespace qvr::script_tool

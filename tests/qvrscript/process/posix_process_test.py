@@ -157,6 +157,15 @@ class Played(ProgramTest):
         self.assertEqual(self.last_line(ended), "qvrscript: failed after 2 of 3 commands; rolled back, but what ran "
                          f"stays up to COMMIT in command 2 ({self.shown('x.cfc')}:3)")
 
+    def test_an_own_rollback_leaves_it_open(self):
+        script = "one\nGO\nROLLBACK\nGO\nfail 42000 1 no\nGO\n"
+        ended = self.run_played("", script)
+        self.assertEqual(self.last_line(ended), "qvrscript: failed after 2 of 3 commands; rolled back, but it is not known "
+                         f"what stays because of ROLLBACK in command 2 ({self.shown('x.cfc')}:3)")
+        ended = self.run_played("", script, "--rehearse")
+        self.assertEqual(self.last_line(ended), f"qvrscript: {self.shown('x.cfc')}:3: ROLLBACK: it is not known whether a "
+                         "rollback takes everything back: this cannot be rehearsed, and nothing was run")
+
     def test_a_rehearsal_is_refused_where_ddl_commits(self):
         ended = self.run_played(f"ddl=commits;log={self.folder}/log;", "one\nGO\nalter table T\nGO\n", "--rehearse")
         self.assertEqual(self.last_line(ended), f"qvrscript: {self.shown('x.cfc')}:3: alter table commits by itself here, "
