@@ -7,6 +7,7 @@
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/connection/asked_secret.h"
 #include "qvrscript/paths.h"
+#include "qvrscript/tool_failure.h"
 #include "session/thread_state.h"
 
 namespace qvr::script_tool {
@@ -51,15 +52,14 @@ bool exists(const CfpChoice& cfp) {
   return thread_state().platform().files.any_entry(cfp_path(cfp.folder, cfp.name), kHidden | kSystem | kDirectory);
 }
 
-bool may_be_written(const CfpNewRequest& asked, Console& console, bool& replaces) {
-  if (!names_in(asked.cfp.folder)) {
-    console.complain({asked.cfp.folder, u": no folder, or one that cannot be read"});
-    return false;
+// Whether it takes the place of a file. Throws ToolFailure where it may not be written.
+bool replaces(const CfpNewRequest& asked) {
+  if (!names_in(asked.cfp.folder)) throw ToolFailure({asked.cfp.folder, u": no folder, or one that cannot be read"});
+  const bool there = exists(asked.cfp);
+  if (there && !asked.replace) {
+    throw ToolFailure({shown_path(asked.cfp), u": exists already; --replace writes it anew"});
   }
-  replaces = exists(asked.cfp);
-  if (!replaces || asked.replace) return true;
-  console.complain({shown_path(asked.cfp), u": exists already; --replace writes it anew"});
-  return false;
+  return there;
 }
 
 Text password_of(const AccountChoice& account, TextView option, TextView whose, const Surroundings& surroundings,
@@ -99,8 +99,7 @@ void tell(const CfpNewRequest& asked, const Request& request, bool replaced, Con
 int cfp_new(const CfpNewRequest& asked, const Request& request, const Surroundings& surroundings, Console& console) {
   require_names(asked.cfp);
   require_values(asked);
-  bool replaced = false;
-  if (!may_be_written(asked, console, replaced)) return exit_code::kFailed;
+  const bool replaced = replaces(asked);
   console.secrets.add_passwords_of(asked.other);
   const SecretText id = asked_new_identification(asked.cfp.id_variable, u"--id-env", surroundings, console);
   PassingParameters made;
@@ -115,7 +114,7 @@ int cfp_new(const CfpNewRequest& asked, const Request& request, const Surroundin
   parameters.ClaveCli = password_of(asked.client, u"--client-password-env", u"client", surroundings, console);
   parameters.OtrosParametros = asked.other;
   warn(asked, console);
-  if (!write_connection_file(asked.cfp, id, parameters, console)) return exit_code::kFailed;
+  write_connection_file(asked.cfp, id, parameters);
   tell(asked, request, replaced, console);
   return exit_code::kDone;
 }

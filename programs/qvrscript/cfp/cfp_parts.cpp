@@ -3,6 +3,7 @@
 #include "base/utf8.h"
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/engines.h"
+#include "qvrscript/tool_failure.h"
 
 namespace qvr::script_tool {
 
@@ -12,12 +13,10 @@ void require_names(const CfpChoice& cfp) {
   if (cfp.name.empty() || leads_elsewhere) throw UsageFailure({u"no name of a file: ", cfp.name});
 }
 
-bool write_connection_file(const CfpChoice& cfp, TextView identification, const ConnectionParameters& parameters,
-                           Console& console) {
+void write_connection_file(const CfpChoice& cfp, TextView identification, const ConnectionParameters& parameters) {
   QVRcfp library;
-  if (library.Asignar(identification, parameters) && library.Guardar(identification, cfp.folder, cfp.name)) return true;
-  console.complain({shown_path(cfp), u": cannot be written; nothing was changed"});
-  return false;
+  if (library.Asignar(identification, parameters) && library.Guardar(identification, cfp.folder, cfp.name)) return;
+  throw ToolFailure({shown_path(cfp), u": cannot be written; nothing was changed"});
 }
 
 int refuse(const CfpReading& reading, const CfpChoice& cfp, const Request& request, Console& console) {

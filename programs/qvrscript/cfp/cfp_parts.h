@@ -12,9 +12,8 @@ namespace qvr::script_tool {
 // Throws UsageFailure for a folder or a name that would lead elsewhere.
 void require_names(const CfpChoice& cfp);
 
-// Writes the parameters for this identification, whole or not at all; else complains and is false.
-bool write_connection_file(const CfpChoice& cfp, TextView identification, const ConnectionParameters& parameters,
-                           Console& console);
+// Writes the parameters for this identification, whole or not at all: then throws ToolFailure.
+void write_connection_file(const CfpChoice& cfp, TextView identification, const ConnectionParameters& parameters);
 
 // Complains of a file that is not fine, in a document as well where one is asked for. Gives the exit code.
 int refuse(const CfpReading& reading, const CfpChoice& cfp, const Request& request, Console& console);

@@ -4,6 +4,7 @@
 #include "qvrscript/cfp/cfp_parts.h"
 #include "qvrscript/command_line/usage_failure.h"
 #include "qvrscript/connection/asked_secret.h"
+#include "qvrscript/tool_failure.h"
 
 namespace qvr::script_tool {
 namespace {
@@ -28,11 +29,10 @@ int cfp_rekey(const CfpRekeyRequest& asked, const Request& request, const Surrou
   if (TextView(id) == TextView(fresh)) {
     throw UsageFailure({u"the new identification is the one that the file has; nothing was changed"});
   }
-  if (!write_connection_file(asked.cfp, fresh, former.parameters, console)) return exit_code::kFailed;
+  write_connection_file(asked.cfp, fresh, former.parameters);
   const CfpReading written = read_connection_file(asked.cfp, fresh);
   if (written.state != CfpState::Fine || !same_fields(written.parameters, former.parameters)) {
-    console.complain({shown_path(asked.cfp), u": was written, and does not read back as it was"});
-    return exit_code::kFailed;
+    throw ToolFailure({shown_path(asked.cfp), u": was written, and does not read back as it was"});
   }
   if (request.format == Format::Json) {
     write_json(begun_document(request, asked.cfp), console);

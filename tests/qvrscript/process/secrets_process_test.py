@@ -1,4 +1,6 @@
 """Where a connection string comes from, and that nobody sees it."""
+import json
+
 from program import ProgramTest
 
 SCRIPT = "create table T(N int)\nGO\n"
@@ -65,6 +67,15 @@ class ConnectionFile(ProgramTest):
                                "--id-env", "QVR_ID", "--quiet", script, env=self.ENV)
         self.expect(ran, 0, "")
         self.assertEqual(self.rows("select name from sqlite_master"), [("T",)])
+
+    def test_a_file_that_is_there_stays_and_is_told_as_json_too(self):
+        self.make()
+        former = (self.folder / "gestion.cfp").read_bytes()
+        ended = self.cfp("new", "--json", "--id-env", "QVR_OLD", "--engine", "jet", "--provider", "P")
+        message = f"{self.shown('gestion.cfp')}: exists already; --replace writes it anew"
+        self.assertEqual((json.loads(ended.out), ended.err, ended.code),
+                         ({"command": "cfp new", "error": message, "exitCode": 1}, f"qvrscript: {message}\n", 1))
+        self.assertEqual((self.folder / "gestion.cfp").read_bytes(), former)
 
     def test_another_identification_is_told(self):
         self.make()
