@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 began=$SECONDS
-need windows win64 native bench clang tests manual browser
+need windows win64 native bench clang tests manual browser servers
 need_wine wine-core wine64
 
 results=$build/test-results

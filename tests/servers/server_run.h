@@ -1,0 +1,39 @@
+// The runner of scripts into the server that is beside this program, its events and boxes kept.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "script/qvrscr.h"
+#include "servers/server.h"
+#include "servers/session.h"
+#include "support/test_thread.h"
+
+namespace qvr::tests {
+
+struct RunEvents final : ScriptEvents {
+  void Progreso(const Text& Mensaje) noexcept override { progress.push_back(Mensaje); }
+  void Terminado(bool Exito) noexcept override { ends.push_back(Exito); }
+  std::vector<Text> progress;
+  std::vector<bool> ends;
+};
+
+class ServerRun : public testing::Test {
+ protected:
+  ServerRun();
+
+  // Each test begins with a database without tables, on a server that runs.
+  void SetUp() override;
+
+  bool run(TextView commands, Text id = u"app");
+  // Asked in a session of its own.
+  Text ask(TextView query) const { return Session(server.odbc_string()).ask(query); }
+
+  const Server& server = Server::here();
+  TestThread thread;
+  RunEvents events;
+  QVRScr runner{events};
+};
+
+}  // namespace qvr::tests

@@ -1,0 +1,97 @@
+#!/usr/bin/env python3
+"""Runs a command beside a database server of its own, which has ended whatever becomes of the command.
+
+with_server.py [--drivers FOLDER] mariadb|postgresql COMMAND...
+
+The command's environment has
+  QVR_TESTS_SERVER      the server's name
+  QVR_TESTS_CONNECTION  a connection string of an ordinary user
+  QVR_TESTS_ADMIN       and one of the administrator
+  QVR_TESTS_CONTROL     a folder: whoever renames a file to `request` there, with one of the words kill, stop, start,
+                        fill and free as its content, finds `answer` when that is done: empty, or what went wrong
+Drivers are the registered ones, or those of a folder.
+"""
+
+import argparse
+import os
+import signal
+import subprocess
+import sys
+import threading
+import traceback
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+from mariadb import MariaDb  # noqa: E402
+from postgresql import PostgreSql  # noqa: E402
+from server import Server  # noqa: E402
+
+SERVERS = {each.name: each for each in (MariaDb, PostgreSql)}
+
+
+class Control:
+    """Does what the command asks for, one request at a time."""
+
+    def __init__(self, server: Server) -> None:
+        self.folder = server.folder / "control"
+        self.folder.mkdir()
+        self.folder.chmod(0o777)  # the command may be another user than the server
+        self._actions = {"kill": server.kill, "stop": server.stop, "start": server.start,
+                         "fill": server.fill_disk, "free": server.free_disk}
+        self._over = threading.Event()
+        self._thread = threading.Thread(target=self._serve)
+
+    def __enter__(self) -> "Control":
+        self._thread.start()
+        return self
+
+    def __exit__(self, *_) -> None:
+        self._over.set()
+        self._thread.join()
+
+    def _serve(self) -> None:
+        request = self.folder / "request"
+        while not self._over.wait(0.002):
+            if not request.exists():
+                continue
+            word = request.read_text().strip()
+            request.unlink()
+            unfinished = self.folder / "answer.unfinished"
+            unfinished.write_text(self._done(word))
+            unfinished.rename(self.folder / "answer")
+
+    def _done(self, word: str) -> str:
+        try:
+            self._actions[word]()
+            return ""
+        except Exception:  # the one who asked tells it
+            return traceback.format_exc()
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--drivers", type=Path)
+    parser.add_argument("server", choices=SERVERS)
+    parser.add_argument("command", nargs=argparse.REMAINDER)
+    arguments = parser.parse_args()
+    # As an exception, so that the server ends.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    with SERVERS[arguments.server]() as server, Control(server) as control:
+        driver = str(arguments.drivers / server.driver_file) if arguments.drivers else server.driver
+        environment = dict(os.environ)
+        environment["QVR_TESTS_SERVER"] = server.name
+        environment["QVR_TESTS_CONNECTION"] = server.connection_string(driver)
+        environment["QVR_TESTS_ADMIN"] = server.connection_string(driver, administrator=True)
+        environment["QVR_TESTS_CONTROL"] = str(control.folder)
+        child = subprocess.Popen(arguments.command, env=environment)
+        try:
+            result = child.wait()
+        finally:
+            child.kill()
+        if result != 0:
+            print(f"The log of {server.name}:\n" + server.log_text()[-20000:], file=sys.stderr)
+        return result if result >= 0 else 128 - result
+
+
+if __name__ == "__main__":
+    sys.exit(main())
