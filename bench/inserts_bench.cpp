@@ -19,7 +19,7 @@ namespace {
 
 using qvr::Text;
 using qvr::TextView;
-using qvr::tests::Server;
+using qvr::tests::DatabaseServer;
 using qvr::tests::Session;
 
 constexpr int kInserts = 100000;
@@ -48,7 +48,7 @@ class Place {
  public:
   Place() {
     if (on_server()) {
-      Session(Server::here().odbc_string()).run(u"DROP TABLE IF EXISTS Articulos");
+      Session(DatabaseServer::here().odbc_string()).run(u"DROP TABLE IF EXISTS Articulos");
     } else {
       folder_.emplace();
     }
@@ -56,7 +56,7 @@ class Place {
 
   // In SQLite commits do not wait for the disk, which is the most unsteady part of both.
   Text odbc_string() const {
-    if (on_server()) return Server::here().odbc_string();
+    if (on_server()) return DatabaseServer::here().odbc_string();
     return qvr::join({u"DRIVER={SQLite3};Database=", folder_->database.u16string(), u";SyncPragma=OFF;"});
   }
 
@@ -71,7 +71,7 @@ class Place {
 
 const char* subject() {
   if (!on_server()) return "OdbcInserts";
-  return Server::here().kind() == qvr::tests::ServerKind::MariaDb ? "MariaDbInserts" : "PostgreSqlInserts";
+  return DatabaseServer::here().kind() == qvr::tests::ServerKind::MariaDb ? "MariaDbInserts" : "PostgreSqlInserts";
 }
 
 std::vector<Text> commands() {

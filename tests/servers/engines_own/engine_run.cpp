@@ -12,8 +12,13 @@ void EngineRun::SetUp() {
 }
 
 bool EngineRun::runs(std::initializer_list<TextView> commands, TextView options, Text id) {
-  Text text, shown = u"Hecho: ";
+  Text text;
   for (const TextView each : commands) text.append(each).append(u"\r\nGO\r\n");
+  return runs_text(text, options, std::move(id));
+}
+
+bool EngineRun::runs_text(TextView text, TextView options, Text id) {
+  Text shown = u"Hecho: ";
   return runner.EjecutarComandos(
       id, Engine::SqlServer, text,
       join({u"Provider=MSDASQL;Extended Properties=\"", server.odbc_string(), u";", options, u"\""}), shown);

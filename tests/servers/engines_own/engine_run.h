@@ -22,6 +22,7 @@ class EngineRun : public ServerRun {
   bool runs(std::initializer_list<TextView> commands) { return runs(commands, {}); }
   // With further parts of the driver's connection string, and this identification.
   bool runs(std::initializer_list<TextView> commands, TextView options, Text id = u"app");
+  bool runs_text(TextView text, TextView options, Text id = u"app");
 
   // The user's answer to each question from now on. The trace of the failures is not looked at.
   void answer(BoxAnswer answer);
@@ -31,6 +32,9 @@ class EngineRun : public ServerRun {
   Text numbers() const;  // in T, such as "1,2"
   bool has_table(TextView name) const;
 };
+
+// Of MariaDB's driver, which else takes one statement a command.
+inline constexpr TextView kSeveralStatements = u"OPTION=67108864";
 
 inline constexpr TextView kNoTransaction = u"EvitarTransaccion";
 

@@ -43,9 +43,6 @@ TEST_F(EngineRun, ATextThatIsCutIsNone) {
   EXPECT_EQ(ask(u"select X from T"), u"veinti\u00fan letras, m\u00e1s");
 }
 
-// Of MariaDB, which else takes one statement a command.
-constexpr TextView kSeveralStatements = u"OPTION=67108864";
-
 struct Batch {
   const char* name;
   TextView command;

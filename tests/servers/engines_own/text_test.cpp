@@ -92,7 +92,7 @@ TEST_F(EngineRun, LongCommandsArriveWhole) {
 // MariaDB's for one command, while this lives. Sessions that begin then have it.
 class PacketLimit {
  public:
-  explicit PacketLimit(const Server& server) : server_(server) { set(u"1048576"); }
+  explicit PacketLimit(const DatabaseServer& server) : server_(server) { set(u"1048576"); }
   ~PacketLimit() { set(u"67108864"); }
   PacketLimit(const PacketLimit&) = delete;
   PacketLimit& operator=(const PacketLimit&) = delete;
@@ -102,7 +102,7 @@ class PacketLimit {
     if (server_.kind() != ServerKind::MariaDb) return;
     Session(server_.administrator_string()).run(join({u"set global max_allowed_packet = ", bytes}));
   }
-  const Server& server_;
+  const DatabaseServer& server_;
 };
 
 TEST_F(EngineRun, ACommandBeyondTheServersLimitEndsTheConnection) {
