@@ -47,7 +47,7 @@ TEST_F(ServerInstallation, TheDefinitionFillsItsTables) {
                             {u"Art\u00edculos", u"18"},
                             {u"Pedidos", u"12"},
                             {u"L\u00edneas", u"15"},
-                            {u"ImportePorCliente", u"9"}}) {
+                            {u"ImportePorCliente", u"8"}}) {
     EXPECT_EQ(rows(each.name), each.count) << to_utf8(each.name);
   }
   EXPECT_EQ(ask(u"select Versi\u00f3n from Esquema"), u"10000");
