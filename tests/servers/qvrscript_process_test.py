@@ -3,6 +3,7 @@
 
 qvrscript_process_test.py SCRIPTS QVRSCRIPT
 """
+import json
 import os
 import pathlib
 import subprocess
@@ -33,17 +34,15 @@ class Server(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def run_program(self, command, *arguments):
-        """The exit code and all that was written."""
-        ended = subprocess.run(
+        return subprocess.run(
             [PROGRAM, command, "--engine", "sqlserver", "--connection-env", "CONNECTION", *arguments],
             env={**os.environ, "CONNECTION": f'Provider=MSDASQL;Extended Properties="{DRIVER}"'},
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=120)
-        return ended.returncode, ended.stdout
+            stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=120)
 
     def last_line(self, code, *arguments):
-        ended, told = self.run_program(*arguments)
-        self.assertEqual(ended, code, told)
-        return told.splitlines()[-1]
+        ended = self.run_program(*arguments)
+        self.assertEqual(ended.returncode, code, ended.stderr)
+        return (ended.stdout + ended.stderr).splitlines()[-1]
 
     def ask(self, query):
         with pyodbc.connect(DRIVER) as session:
@@ -89,6 +88,21 @@ class Server(unittest.TestCase):
             "all taken back"))
         tables = "select count(*) from information_schema.tables where table_name in ('T', 't')"
         self.assertEqual(self.ask(tables), 1 if MARIADB else 0)
+
+    def test_what_a_command_that_is_left_out_left_is_told(self):
+        with pyodbc.connect(DRIVER, autocommit=True) as session:
+            session.execute("create table T(N int)")
+        script = self.write("insert into T values(1)\nGO\nnonsense\nGO\ninsert into T values(2)\nGO\n")
+        self.assertEqual(self.last_line(1, "run", "--continue", script),
+                         "qvrscript: not everything ran: 2 of 3 commands; committed" + (
+                             "" if MARIADB else ", but the database may have taken back what ran before a failure, or "
+                             "all of it"))
+        self.assertEqual(self.ask("select count(*) from T"), 2 if MARIADB else 1)
+
+    def test_a_document_tells_the_same(self):
+        script = self.write("nonsense\nGO\nselect 1\nGO\n")
+        document = json.loads(self.run_program("run", "--continue", "--format", "json", script).stdout)
+        self.assertEqual(document["ending"], "committed" if MARIADB else "perhapsCommitted")
 
     def test_rows_are_rehearsed_everywhere(self):
         self.install()
