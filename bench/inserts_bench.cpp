@@ -1,20 +1,26 @@
-// What running 100,000 INSERTs into SQLite costs in qvrscript, beside a bare loop of ODBC calls, into files of one
-// folder. Both execute the same texts one by one in one transaction. The loop makes one statement, hands each text to
-// SQLExecDirectW, checks the answer and closes the statement's cursor, which is the least that somebody would write; it
-// tells nobody what it does, counts no commands and does not ask for changed rows. Its texts are ready before the clock
-// runs, the runner finds its own in one text.
+// What running 100,000 INSERTs costs in qvrscript, beside a bare loop of ODBC calls: into a SQLite file, or into the
+// server that tests/servers/with_server.py has started. Both execute the same texts one by one in one transaction. The
+// loop makes one statement, hands each text to SQLExecDirectW, checks the answer and closes the statement's cursor,
+// which is the least that somebody would write; it tells nobody what it does, counts no commands and does not ask for
+// changed rows. Its texts are ready before the clock runs, the runner finds its own in one text.
 
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 #include "odbc/odbc.h"
 #include "odbc/odbc_api.h"
 #include "run.h"
 #include "script/qvrscr.h"
+#include "servers/server.h"
+#include "servers/session.h"
 
 namespace {
 
 using qvr::Text;
 using qvr::TextView;
+using qvr::tests::DatabaseServer;
+using qvr::tests::Session;
 
 constexpr int kInserts = 100000;
 
@@ -24,20 +30,49 @@ class NoEvents final : public qvr::ScriptEvents {
   void Terminado(bool) noexcept override {}
 };
 
-// A folder with an empty database.
+// A folder with an empty SQLite database.
 struct Folder {
   Folder() {
     std::filesystem::remove_all(path);
     std::filesystem::create_directories(path);
   }
   ~Folder() { std::filesystem::remove_all(path); }
-  // Commits do not wait for the disk, which is the most unsteady part of both.
-  Text driver_string() const {
-    return qvr::join({u"DRIVER={SQLite3};Database=", database.u16string(), u";SyncPragma=OFF;"});
-  }
   std::filesystem::path path = std::filesystem::temp_directory_path() / "qvrlib21-inserts-bench";
   std::filesystem::path database = path / "bench.db";
 };
+
+bool on_server() { return std::getenv("QVR_TESTS_SERVER") != nullptr; }
+
+// A database without the table.
+class Place {
+ public:
+  Place() {
+    if (on_server()) {
+      Session(DatabaseServer::here().odbc_string()).run(u"DROP TABLE IF EXISTS Articulos");
+    } else {
+      folder_.emplace();
+    }
+  }
+
+  // In SQLite commits do not wait for the disk, which is the most unsteady part of both.
+  Text odbc_string() const {
+    if (on_server()) return DatabaseServer::here().odbc_string();
+    return qvr::join({u"DRIVER={SQLite3};Database=", folder_->database.u16string(), u";SyncPragma=OFF;"});
+  }
+
+  void check_rows() const {
+    const Text rows = Session(odbc_string()).ask(u"SELECT COUNT(*) FROM Articulos");
+    qvr::bench::require(rows == qvr::decimal(kInserts), "not all rows are there");
+  }
+
+ private:
+  std::optional<Folder> folder_;
+};
+
+const char* subject() {
+  if (!on_server()) return "OdbcInserts";
+  return DatabaseServer::here().kind() == qvr::tests::ServerKind::MariaDb ? "MariaDbInserts" : "PostgreSqlInserts";
+}
 
 std::vector<Text> commands() {
   std::vector<Text> texts{u"CREATE TABLE Articulos (Codigo INTEGER, Nombre VARCHAR(40), Precio REAL)"};
@@ -48,28 +83,15 @@ std::vector<Text> commands() {
   return texts;
 }
 
-void check_rows(const Folder& folder) {
-  qvr::odbc::Connection connection;
-  connection.open(folder.driver_string(), 0);
-  const qvr::odbc::Handle statement(SQL_HANDLE_STMT, connection.handle().get());
-  const Text question = u"SELECT COUNT(*) FROM Articulos";
-  statement.check(
-      qvr::odbc::api().SQLExecDirectW(statement.get(), qvr::odbc::wide(question), qvr::odbc::units(question)));
-  statement.check(qvr::odbc::api().SQLFetch(statement.get()));
-  SQLBIGINT rows = 0;
-  statement.check(qvr::odbc::api().SQLGetData(statement.get(), 1, SQL_C_SBIGINT, &rows, sizeof rows, nullptr));
-  qvr::bench::require(rows == kInserts, "not all rows are there");
-}
-
 void by_hand(benchmark::State& state) {
   const std::vector<Text> texts = commands();
   for (auto _ : state) {
     state.PauseTiming();
-    const Folder folder;
+    const Place place;
     state.ResumeTiming();
     {
       qvr::odbc::Connection connection;
-      connection.open(folder.driver_string(), 0);
+      connection.open(place.odbc_string(), 0);
       connection.set_autocommit(false);
       const qvr::odbc::Handle statement(SQL_HANDLE_STMT, connection.handle().get());
       for (const Text& text : texts) {
@@ -80,7 +102,7 @@ void by_hand(benchmark::State& state) {
       connection.end_transaction(true);
     }
     state.PauseTiming();
-    check_rows(folder);
+    place.check_rows();
     state.ResumeTiming();
   }
 }
@@ -92,17 +114,17 @@ void library(benchmark::State& state) {
   qvr::QVRScr runner(events);
   for (auto _ : state) {
     state.PauseTiming();
-    const Folder folder;
+    const Place place;
     Text id = u"bench", shown;
-    const Text connection = qvr::join({u"Provider=MSDASQL;Extended Properties=\"", folder.driver_string(), u"\""});
+    const Text connection = qvr::join({u"Provider=MSDASQL;Extended Properties=\"", place.odbc_string(), u"\""});
     state.ResumeTiming();
     qvr::bench::require(runner.EjecutarComandos(id, qvr::Engine::Jet, script, connection, shown), "the run failed");
     state.PauseTiming();
-    check_rows(folder);
+    place.check_rows();
     state.ResumeTiming();
   }
 }
 
 }  // namespace
 
-int main(int count, char** arguments) { return qvr::bench::beside("OdbcInserts", library, by_hand, count, arguments); }
+int main(int count, char** arguments) { return qvr::bench::beside(subject(), library, by_hand, count, arguments); }

@@ -2,7 +2,7 @@
 # Measures what users wait for, each beside the same done by hand in the same run, and prints the figures as one table.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
-need windows win64 native bench
+need windows win64 native bench servers
 need_wine
 need_built native inserts_bench loading_bench
 need_built win32 QVRlib21 testado host_bench
@@ -12,10 +12,13 @@ results=$build/bench
 rm -rf "$results"
 mkdir -p "$results"
 
+# native NAME REPETITIONS COMMAND...
 native() {
-  "$build/native/bin/$1_bench" --benchmark_format=json --benchmark_repetitions=5 \
-    --benchmark_enable_random_interleaving=true 2>"$results/$1.log" >"$results/$1.$2.json" || {
-    cat "$results/$1.log" >&2
+  local name=$1 repetitions=$2
+  shift 2
+  "$@" --benchmark_format=json --benchmark_repetitions="$repetitions" \
+    --benchmark_enable_random_interleaving=true 2>"$results/$name.log" >"$results/$name.json" || {
+    cat "$results/$name.log" >&2
     exit 1
   }
 }
@@ -26,8 +29,12 @@ core=$(taskset -cp $$ | grep -o '[0-9]*$')
 under_wine() { taskset -c "$core" "$root/tools/wine.sh" "$build/win32/bin/host_bench.exe" >"$results/host.$1.json"; }
 
 measure_all() {
-  native inserts "$1"
-  native loading "$1"
+  native "inserts.$1" 5 "$build/native/bin/inserts_bench"
+  native "loading.$1" 5 "$build/native/bin/loading_bench"
+  local server
+  for server in mariadb postgresql; do
+    native "$server.$1" 2 "$root/tests/servers/with_server.py" "$server" "$build/native/bin/inserts_bench"
+  done
   under_wine "$1"
 }
 

@@ -28,7 +28,9 @@ ROWS = [
     ("20,000 looks for messages, part of both", "LooksForMessages", None),
     ("procedure call, eight parameters", "ProcedureCall", 1.3),
     ("installing the example's database", "Installation", 1.2),
-    ("native: 100,000 INSERTs of qvrscript through ODBC", "OdbcInserts", None),
+    ("native: 100,000 INSERTs of qvrscript into SQLite", "OdbcInserts", None),
+    ("native: 100,000 INSERTs of qvrscript into MariaDB", "MariaDbInserts", 1.2),
+    ("native: 100,000 INSERTs of qvrscript into PostgreSQL", "PostgreSqlInserts", 1.2),
     ("native: loading 10 million characters, beside a copy for each pass", "Loading", None),
 ]
 

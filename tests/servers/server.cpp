@@ -34,22 +34,22 @@ std::filesystem::path control_folder() {
 
 }  // namespace
 
-const Server& Server::here() {
-  static const Server only;
+const DatabaseServer& DatabaseServer::here() {
+  static const DatabaseServer only;
   return only;
 }
 
-Server::Server()
+DatabaseServer::DatabaseServer()
     : kind_(setting("QVR_TESTS_SERVER") == "mariadb" ? ServerKind::MariaDb : ServerKind::PostgreSql),
       user_(text_setting("QVR_TESTS_CONNECTION")),
       administrator_(text_setting("QVR_TESTS_ADMIN")),
       cable_(text_setting("QVR_TESTS_CABLE")) {}
 
-Text Server::for_ado(const Text& odbc_string) {
+Text DatabaseServer::for_ado(const Text& odbc_string) {
   return join({u"Provider=MSDASQL;Extended Properties=\"", odbc_string, u"\""});
 }
 
-void Server::ask(const char* what) const {
+void DatabaseServer::ask(const char* what) const {
   const std::filesystem::path folder = control_folder(), unfinished = folder / "request.unfinished",
                               answer = folder / "answer";
   std::ofstream(unfinished) << what;

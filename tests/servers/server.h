@@ -7,9 +7,9 @@ namespace qvr::tests {
 
 enum class ServerKind { MariaDb, PostgreSql };
 
-class Server {
+class DatabaseServer {
  public:
-  static const Server& here();  // throws std::runtime_error where the program was started without one
+  static const DatabaseServer& here();  // throws std::runtime_error where the program was started without one
 
   ServerKind kind() const { return kind_; }
   const Text& odbc_string() const { return user_; }  // of an ordinary user, owner of the database
@@ -28,7 +28,7 @@ class Server {
   void lose_answer() const { ask("lose"); }
 
  private:
-  Server();
+  DatabaseServer();
   static Text for_ado(const Text& odbc_string);
   void ask(const char* what) const;
 

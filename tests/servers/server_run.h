@@ -30,7 +30,7 @@ class ServerRun : public testing::Test {
   // Asked in a session of its own.
   Text ask(TextView query) const { return Session(server.odbc_string()).ask(query); }
 
-  const Server& server = Server::here();
+  const DatabaseServer& server = DatabaseServer::here();
   TestThread thread;
   RunEvents events;
   QVRScr runner{events};

@@ -9,15 +9,15 @@ namespace qvr::tests {
 namespace {
 
 TEST(Server, TakesAndGivesTexts) {
-  for (const Text& who : {Server::here().odbc_string(), Server::here().administrator_string()}) {
+  for (const Text& who : {DatabaseServer::here().odbc_string(), DatabaseServer::here().administrator_string()}) {
     EXPECT_EQ(Session(who).ask(u"select 'Jam\u00f3n \u20ac \u0141 \U0001F600'"),
               u"Jam\u00f3n \u20ac \u0141 \U0001F600");
   }
 }
 
 TEST(Server, ComesBackAfterItsEnd) {
-  const Server& server = Server::here();
-  for (const auto end : {&Server::stop, &Server::kill}) {
+  const DatabaseServer& server = DatabaseServer::here();
+  for (const auto end : {&DatabaseServer::stop, &DatabaseServer::kill}) {
     (server.*end)();
     EXPECT_THROW(Session(server.odbc_string()).ask(u"select 1"), odbc::Failure);
     server.start();

@@ -87,7 +87,7 @@ void expect_good_run(RunHost& host, const FaultCase& played) {
 
 std::vector<FaultCase> cases_here() {
   std::vector<FaultCase> cases = FaultTable::of_the_manual().cases;
-  std::erase_if(cases, [](const FaultCase& each) { return each.server != Server::here().kind(); });
+  std::erase_if(cases, [](const FaultCase& each) { return each.server != DatabaseServer::here().kind(); });
   return cases;
 }
 
@@ -101,7 +101,7 @@ TEST_P(FailingServer, IsTold) {
   const FaultCase& played = GetParam();
   const Watchdog watchdog(played.name, kCaseWithin);
   const auto host = RunHost::make();
-  const Held before = held();
+  const Handles before = open_handles();
   Stage stage(played);
   const SeenRun seen = host->run(stage.script(), stage.ado_string(), played.yes,
                                  [&](TextView call) { stage.before_call(call); });
@@ -111,7 +111,7 @@ TEST_P(FailingServer, IsTold) {
   expect_whole(seen, played);
   wait_until("the end of the run's session", [&] { return !stage.has_sessions_of_runs(); });
   expect_good_run(*host, played);
-  EXPECT_EQ(held(), before);
+  EXPECT_EQ(open_handles(), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(, FailingServer, testing::ValuesIn(cases_here()), row_name);

@@ -106,6 +106,6 @@ std::size_t entries_of(const char* folder) {
 
 std::unique_ptr<RunHost> RunHost::make() { return std::make_unique<NativeHost>(); }
 
-Held held() { return {entries_of("/proc/self/fd"), entries_of("/proc/self/task")}; }
+Handles open_handles() { return {entries_of("/proc/self/fd"), entries_of("/proc/self/task")}; }
 
 }  // namespace qvr::tests

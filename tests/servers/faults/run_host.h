@@ -30,12 +30,12 @@ class RunHost {
   virtual SeenRun run(TextView commands, TextView ado_string, bool yes, const BeforeCall& before) = 0;
 };
 
-// What the process holds of the system.
-struct Held {
-  std::size_t handles = 0, threads = 0;
-  bool operator==(const Held&) const = default;
+// What the process has of the system.
+struct Handles {
+  std::size_t handles = 0, threads = 0;  // threads natively only
+  bool operator==(const Handles&) const = default;
 };
 
-Held held();
+Handles open_handles();
 
 }  // namespace qvr::tests

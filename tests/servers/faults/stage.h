@@ -63,7 +63,7 @@ class Stage {
   void run(TextView statement) const;
   TextView by_server(TextView mariadb, TextView postgresql) const;
 
-  const Server& server_ = Server::here();
+  const DatabaseServer& server_ = DatabaseServer::here();
   const FaultCase& played_;
   std::vector<Text> commands_;
   int executed_ = 0;
