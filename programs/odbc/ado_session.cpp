@@ -107,12 +107,13 @@ std::int32_t AdoSession::begin_trans() {
   return 1;
 }
 
-// After a failed commit the transaction is still open and can be rolled back.
+// After a failed commit the transaction is still open and can be rolled back, unless the connection is lost.
 void AdoSession::end_trans(bool commit) {
   require_open();
   if (!in_transaction_) fail_transaction(hresult::kNoTransaction, u"The session is in no transaction.");
-  // With their connection some drivers lose the transaction as well, and then commit nothing successfully.
-  if (commit && failed_in_transaction_ && connection_->is_lost()) {
+  // With their connection some drivers lose the transaction as well, and then end none successfully: nothing would have
+  // been committed, or a commit whose answer was lost would seem to be rolled back.
+  if (failed_in_transaction_ && connection_->is_lost()) {
     fail_transaction(hresult::kFail, u"The connection to the server has been lost.");
   }
   provider_call(hresult::kFail, [&] { connection_->end_transaction(commit); });
