@@ -33,6 +33,7 @@ auto AdoSession::provider_call(std::int32_t otherwise, Body&& body) {
 
 void AdoSession::fail_with(std::vector<services::AdoError> errors) {
   errors_ = std::move(errors);
+  failed_in_transaction_ = true;
   const services::AdoError& first = errors_.front();
   throw RuntimeFailure(FailureDetail{first.number, first.description, first.source});
 }
@@ -102,13 +103,19 @@ std::int32_t AdoSession::begin_trans() {
   if (in_transaction_) fail_transaction(hresult::kTransactionExists, u"The session already is in a transaction.");
   provider_call(hresult::kFail, [&] { connection_->set_autocommit(false); });
   in_transaction_ = true;
+  failed_in_transaction_ = false;
   return 1;
 }
 
-// After a failed commit the transaction is still open and can be rolled back.
+// After a failed commit the transaction is still open and can be rolled back, unless the connection is lost.
 void AdoSession::end_trans(bool commit) {
   require_open();
   if (!in_transaction_) fail_transaction(hresult::kNoTransaction, u"The session is in no transaction.");
+  // With their connection some drivers lose the transaction as well, and then end none successfully: nothing would have
+  // been committed, or a commit whose answer was lost would seem to be rolled back.
+  if (failed_in_transaction_ && connection_->is_lost()) {
+    fail_transaction(hresult::kFail, u"The connection to the server has been lost.");
+  }
   provider_call(hresult::kFail, [&] { connection_->end_transaction(commit); });
   in_transaction_ = false;
   provider_call(hresult::kFail, [&] { connection_->set_autocommit(true); });

@@ -66,6 +66,7 @@ class AdoSession {
   UnderWay under_way_;
   std::uint32_t openings_ = 0;
   bool in_transaction_ = false;
+  bool failed_in_transaction_ = false;  // some call of the provider did
   std::vector<services::AdoError> errors_;
 };
 

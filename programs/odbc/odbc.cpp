@@ -119,6 +119,14 @@ void Connection::set_autocommit(bool on) {
   connection_.check(api().SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, attribute(value), 0));
 }
 
+bool Connection::is_lost() const {
+  SQLULEN dead = SQL_CD_FALSE;
+  // A driver may not know.
+  const SQLRETURN asked = api().SQLGetConnectAttrW(connection_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, SQL_IS_UINTEGER,
+                                                   nullptr);
+  return SQL_SUCCEEDED(asked) && static_cast<SQLUINTEGER>(dead) == SQL_CD_TRUE;
+}
+
 void Connection::end_transaction(bool commit) {
   connection_.check(api().SQLEndTran(SQL_HANDLE_DBC, connection_.get(), commit ? SQL_COMMIT : SQL_ROLLBACK));
 }

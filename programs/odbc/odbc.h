@@ -73,6 +73,7 @@ class Connection {
   void close();
   void set_autocommit(bool on);
   void end_transaction(bool commit);
+  bool is_lost() const;  // so far as the driver knows, which may ask the server
 
   const Handle& handle() const { return connection_; }
 

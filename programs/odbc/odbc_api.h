@@ -32,6 +32,7 @@ struct Api {
   decltype(&::SQLFetch) SQLFetch;
   decltype(&::SQLFreeHandle) SQLFreeHandle;
   decltype(&::SQLFreeStmt) SQLFreeStmt;
+  decltype(&::SQLGetConnectAttrW) SQLGetConnectAttrW;
   decltype(&::SQLGetData) SQLGetData;
   decltype(&::SQLGetDiagRecW) SQLGetDiagRecW;
   decltype(&::SQLGetInfoW) SQLGetInfoW;

@@ -107,6 +107,44 @@ TEST_F(PlayedOdbc, FailsAtTheStepThatIsNamed) {
   EXPECT_TRUE(failure_of([&] { session.close(); }));
 }
 
+// The driver would do both successfully, as it has lost the transaction as well.
+TEST_F(PlayedOdbc, NeitherCommitsNorRollsBackWhereAFailedCommandHasLostTheConnection) {
+  open(u"lost=1;");
+  session.begin_trans();
+  EXPECT_TRUE(failure_of([&] { session.execute(u"fail 08S01 1 Gone", {}, 0); }));
+  EXPECT_TRUE(failure_of([&] { session.commit_trans(); }));
+  EXPECT_EQ(errors(), Strings{" 0 The connection to the server has been lost."});
+  EXPECT_TRUE(failure_of([&] { session.rollback_trans(); }));
+  EXPECT_EQ(log(), "connect\nbegin\nexecute fail 08S01 1 Gone\n");
+}
+
+// Whether the server has committed is not known then.
+TEST_F(PlayedOdbc, DoesNotRollBackACommitWithWhichTheConnectionWasLost) {
+  open(u"fail=commit;lost=1;");
+  session.begin_trans();
+  EXPECT_TRUE(failure_of([&] { session.commit_trans(); }));
+  EXPECT_TRUE(failure_of([&] { session.rollback_trans(); }));
+}
+
+// Being asked, a driver may ask the server, and lose there what the commit was to find out.
+TEST_F(PlayedOdbc, AsksNotWhetherTheConnectionIsLostWhereNothingHasFailed) {
+  open(u"lost=1;");
+  session.begin_trans();
+  session.execute(u"insert", {}, 0);
+  session.commit_trans();
+  session.close();
+}
+
+TEST_F(PlayedOdbc, CommitsAfterAFailureOfTheCommandAlone) {
+  for (const TextView known : {u"", u"lost=0;"}) {
+    open(known);
+    session.begin_trans();
+    EXPECT_TRUE(failure_of([&] { session.execute(u"fail 42S02 208 No such table", {}, 0); }));
+    session.commit_trans();
+    session.close();
+  }
+}
+
 // The driver waits until it is asked to end the statement, so that nothing but the cancelling ends this test.
 TEST_F(PlayedOdbc, EndsAStatementThatIsCancelled) {
   open(u"");

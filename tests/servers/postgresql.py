@@ -21,6 +21,10 @@ class PostgreSql(Server):
             raise RuntimeError(f"PostgreSQL's {name} is not installed")
         return str(found[-1])
 
+    @property
+    def socket(self) -> Path:
+        return self.folder / f".s.PGSQL.{PORT}"
+
     def _make(self) -> None:
         passwords = self.folder / "password"
         passwords.write_text(self.password + "\n")
@@ -34,7 +38,7 @@ class PostgreSql(Server):
         options = {"listen_addresses": "", "unix_socket_directories": str(self.folder), "port": str(PORT),
                    # Small and quick; what was committed survives the end of the process.
                    "fsync": "off", "full_page_writes": "off", "shared_buffers": "16MB", "max_connections": "40",
-                   "lock_timeout": "2s", "deadlock_timeout": "100ms", "jit": "off"}
+                   "lock_timeout": "1s", "deadlock_timeout": "100ms", "jit": "off"}
         return [self._program("postgres"), "-D", f"{self.folder}/data",
                 *(f"--{name}={value}" for name, value in options.items())]
 
@@ -57,6 +61,6 @@ class PostgreSql(Server):
             create database {self.database} owner {self.user};
             """)
 
-    def connection_string(self, driver: str, administrator: bool = False) -> str:
+    def connection_string(self, driver: str, administrator: bool = False, socket: Path | None = None) -> str:
         who = "UID=postgres" if administrator else f"UID={self.user};PWD={self.password}"
-        return f"DRIVER={{{driver}}};Servername={self.folder};Port={PORT};Database={self.database};{who}"
+        return f"DRIVER={{{driver}}};Servername={(socket or self.socket).parent};Port={PORT};Database={self.database};{who}"

@@ -42,9 +42,12 @@ const DatabaseServer& DatabaseServer::here() {
 DatabaseServer::DatabaseServer()
     : kind_(setting("QVR_TESTS_SERVER") == "mariadb" ? ServerKind::MariaDb : ServerKind::PostgreSql),
       user_(text_setting("QVR_TESTS_CONNECTION")),
-      administrator_(text_setting("QVR_TESTS_ADMIN")) {}
+      administrator_(text_setting("QVR_TESTS_ADMIN")),
+      cable_(text_setting("QVR_TESTS_CABLE")) {}
 
-Text DatabaseServer::ado_string() const { return join({u"Provider=MSDASQL;Extended Properties=\"", user_, u"\""}); }
+Text DatabaseServer::for_ado(const Text& odbc_string) {
+  return join({u"Provider=MSDASQL;Extended Properties=\"", odbc_string, u"\""});
+}
 
 void DatabaseServer::ask(const char* what) const {
   const std::filesystem::path folder = control_folder(), unfinished = folder / "request.unfinished",

@@ -24,7 +24,9 @@ class Server(ABC):
     password = "Secreto-1"
     database = "gestion"
 
-    def __init__(self) -> None:
+    def __init__(self, full_disk: Path | None = None) -> None:
+        """`full_disk` is the library that lets the disk be full."""
+        self._full_disk = full_disk
         self.folder = Path(tempfile.mkdtemp(prefix="qvr-"))  # short: a socket's path has at most 107 bytes
         self._process: subprocess.Popen | None = None
         # Both servers refuse to run as root, or are better not to.
@@ -78,11 +80,13 @@ class Server(ABC):
     def _end(self, sent: signal.Signals) -> None:
         if not self._process:
             return
+        if sent == signal.SIGKILL:
+            self._process.send_signal(signal.SIGSTOP)  # it makes no further children, and these do not miss it
         children = _children_of(self._process.pid)
-        self._process.send_signal(sent)
         if sent == signal.SIGKILL:
             for child in children:
                 _kill(child)
+        self._process.send_signal(sent)
         try:
             self._process.wait(STOPPED_WITHIN)
             until = time.monotonic() + STOPPED_WITHIN
@@ -96,10 +100,16 @@ class Server(ABC):
 
     def fill_disk(self) -> None:
         """From now on no file of the server grows."""
-        (self.folder / "full").touch()
+        if not self._full_disk:
+            raise RuntimeError("started without the library that lets the disk be full")
+        self._full.touch()
 
     def free_disk(self) -> None:
-        (self.folder / "full").unlink(missing_ok=True)
+        self._full.unlink(missing_ok=True)
+
+    @property
+    def _full(self) -> Path:
+        return self.folder / "full"
 
     def log_text(self) -> str:
         return self.log.read_text(errors="replace") if self.log.exists() else ""
@@ -115,7 +125,11 @@ class Server(ABC):
             raise RuntimeError(f"{command[0]} ended with {done.returncode}:\n{done.stdout}{done.stderr}")
 
     def _environment(self) -> dict[str, str]:
-        return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.folder)}
+        environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.folder)}
+        if self._full_disk:
+            environment["LD_PRELOAD"] = str(self._full_disk)
+            environment["QVR_TESTS_FULL"] = str(self._full)
+        return environment
 
     def _clean_up(self) -> None:
         """Removes what a server that was killed leaves in the way of the next start."""
@@ -137,9 +151,14 @@ class Server(ABC):
     def _prepare(self) -> None:
         """Makes the database and its user."""
 
+    @property
     @abstractmethod
-    def connection_string(self, driver: str, administrator: bool = False) -> str:
-        """For ODBC; `driver` is a registered name or a driver's path."""
+    def socket(self) -> Path: ...
+
+    @abstractmethod
+    def connection_string(self, driver: str, administrator: bool = False, socket: Path | None = None) -> str:
+        """For ODBC; `driver` is a registered name or a driver's path, `socket` another than the server's own, of the
+        same name in another folder."""
 
 
 def _children_of(pid: int) -> list[int]:

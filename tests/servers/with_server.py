@@ -1,18 +1,20 @@
 #!/usr/bin/env python3
 """Runs a command beside a database server of its own, which has ended whatever becomes of the command.
 
-with_server.py [--drivers FOLDER] mariadb|postgresql COMMAND...
+with_server.py [--drivers FOLDER] [--full-disk LIBRARY] mariadb|postgresql COMMAND...
 
 The command's environment has
   QVR_TESTS_SERVER      the server's name
   QVR_TESTS_CONNECTION  a connection string of an ordinary user
   QVR_TESTS_ADMIN       and one of the administrator
+  QVR_TESTS_CABLE       the ordinary user's, through a cable that can lose answers
   QVR_TESTS_CONTROL     a folder: whoever renames a file to `request` there, with one of the words kill, stop, start,
-                        fill and free as its content, finds `answer` when that is done: empty, or what went wrong
+                        fill, free and lose as its content, finds `answer` when that is done: empty, or what went wrong
 Drivers are the registered ones, or those of a folder.
 """
 
 import argparse
+import contextlib
 import os
 import signal
 import subprocess
@@ -22,6 +24,7 @@ import traceback
 from pathlib import Path
 
 sys.dont_write_bytecode = True
+from cable import Cable  # noqa: E402
 from mariadb import MariaDb  # noqa: E402
 from postgresql import PostgreSql  # noqa: E402
 from server import Server  # noqa: E402
@@ -32,12 +35,13 @@ SERVERS = {each.name: each for each in (MariaDb, PostgreSql)}
 class Control:
     """Does what the command asks for, one request at a time."""
 
-    def __init__(self, server: Server) -> None:
+    def __init__(self, server: Server, cable: Cable) -> None:
         self.folder = server.folder / "control"
         self.folder.mkdir()
         self.folder.chmod(0o777)  # the command may be another user than the server
         self._actions = {"kill": server.kill, "stop": server.stop, "start": server.start,
-                         "fill": server.fill_disk, "free": server.free_disk}
+                         "fill": server.fill_disk, "free": server.free_disk,
+                         "lose": cable.lose_answer}
         self._over = threading.Event()
         self._thread = threading.Thread(target=self._serve)
 
@@ -71,17 +75,24 @@ class Control:
 def main() -> int:
     parser = argparse.ArgumentParser()
     parser.add_argument("--drivers", type=Path)
+    parser.add_argument("--full-disk", type=lambda path: Path(path).resolve())
     parser.add_argument("server", choices=SERVERS)
     parser.add_argument("command", nargs=argparse.REMAINDER)
     arguments = parser.parse_args()
     # As an exception, so that the server ends.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
-    with SERVERS[arguments.server]() as server, Control(server) as control:
+    with contextlib.ExitStack() as used:
+        server = used.enter_context(SERVERS[arguments.server](arguments.full_disk))
+        front = server.folder / "cable" / server.socket.name
+        front.parent.mkdir()
+        cable = used.enter_context(Cable(front, server.socket))
+        control = used.enter_context(Control(server, cable))
         driver = str(arguments.drivers / server.driver_file) if arguments.drivers else server.driver
         environment = dict(os.environ)
         environment["QVR_TESTS_SERVER"] = server.name
         environment["QVR_TESTS_CONNECTION"] = server.connection_string(driver)
         environment["QVR_TESTS_ADMIN"] = server.connection_string(driver, administrator=True)
+        environment["QVR_TESTS_CABLE"] = server.connection_string(driver, socket=front)
         environment["QVR_TESTS_CONTROL"] = str(control.folder)
         child = subprocess.Popen(arguments.command, env=environment)
         try:

@@ -42,6 +42,7 @@ std::optional<Api> functions_of(void* handle) {
   library.take("SQLFetch", api.SQLFetch);
   library.take("SQLFreeHandle", api.SQLFreeHandle);
   library.take("SQLFreeStmt", api.SQLFreeStmt);
+  library.take("SQLGetConnectAttrW", api.SQLGetConnectAttrW);
   library.take("SQLGetData", api.SQLGetData);
   library.take("SQLGetDiagRecW", api.SQLGetDiagRecW);
   library.take("SQLGetInfoW", api.SQLGetInfoW);

@@ -16,6 +16,7 @@ const Api& api() {
       .SQLFetch = ::SQLFetch,
       .SQLFreeHandle = ::SQLFreeHandle,
       .SQLFreeStmt = ::SQLFreeStmt,
+      .SQLGetConnectAttrW = ::SQLGetConnectAttrW,
       .SQLGetData = ::SQLGetData,
       .SQLGetDiagRecW = ::SQLGetDiagRecW,
       .SQLGetInfoW = ::SQLGetInfoW,

@@ -196,6 +196,13 @@ SQLRETURN SQL_API SQLSetConnectAttr(SQLHDBC handle, SQLINTEGER attribute, SQLPOI
   });
 }
 
+SQLRETURN SQL_API SQLGetConnectAttr(SQLHDBC handle, SQLINTEGER what, SQLPOINTER value, SQLINTEGER, SQLINTEGER*) {
+  const std::string lost = connection_of(handle).word("lost");
+  if (what != SQL_ATTR_CONNECTION_DEAD || lost.empty()) return SQL_ERROR;
+  *static_cast<SQLUINTEGER*>(value) = lost == "1" ? SQL_CD_TRUE : SQL_CD_FALSE;
+  return SQL_SUCCESS;
+}
+
 SQLRETURN SQL_API SQLSetStmtAttr(SQLHSTMT, SQLINTEGER, SQLPOINTER, SQLINTEGER) { return SQL_SUCCESS; }
 
 SQLRETURN SQL_API SQLGetStmtAttr(SQLHSTMT, SQLINTEGER, SQLPOINTER value, SQLINTEGER, SQLINTEGER*) {

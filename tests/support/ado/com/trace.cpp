@@ -61,6 +61,13 @@ class Watch {
   std::map<Text, int> calls_;
 };
 
+struct Listener {
+  void (*on_call)(const wchar_t* operation, void* context) = nullptr;
+  void* context = nullptr;
+};
+
+thread_local Listener listener;
+
 Watch& watch() {
   static Watch only;
   return only;
@@ -69,11 +76,18 @@ Watch& watch() {
 }  // namespace
 
 void trace(TextView operation, TextView detail) {
+  if (const Listener now = listener; now.on_call != nullptr) {
+    now.on_call(std::wstring(operation.begin(), operation.end()).c_str(), now.context);
+  }
   if (!watch().under_way() || !watch().note(operation, detail)) return;
   throw RuntimeFailure(FailureDetail{hresult::kFail, join({u"injected failure: ", operation}), u"testado"});
 }
 
 }  // namespace qvr::tests::com
+
+extern "C" void TellCalls(void (*on_call)(const wchar_t* operation, void* context), void* context) {
+  qvr::tests::com::listener = {on_call, context};
+}
 
 extern "C" void WatchCalls(const wchar_t* failures, const wchar_t* log) {
   qvr::tests::com::watch().begin(failures, log);

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """`qvrscript` with the example's scripts for the server that with_server.py has started.
 
-qvrscript_process_test.py SCRIPTS QVRSCRIPT
+installation_test.py SCRIPTS QVRSCRIPT
 """
 import json
 import os
