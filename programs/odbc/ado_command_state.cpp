@@ -46,10 +46,16 @@ AdoSession& AdoCommandState::open_session() const {
 
 ResultSet AdoCommandState::execute(const std::vector<Value>& parameters) { return execute_as(type_, parameters); }
 
+void AdoCommandState::execute_for_effect() { executed(type_, {}, ResultRows::PassedOver); }
+
 ResultSet AdoCommandState::execute_as(std::int32_t type, const std::vector<Value>& parameters) {
+  return executed(type, parameters, ResultRows::Kept);
+}
+
+ResultSet AdoCommandState::executed(std::int32_t type, const std::vector<Value>& parameters, ResultRows rows) {
   AdoSession& session = open_session();
   if (text_.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");
-  return session.execute(statement_for(type, text_, parameters.size()), parameters, timeout_);
+  return session.execute(statement_for(type, text_, parameters.size()), parameters, timeout_, rows);
 }
 
 }  // namespace qvr::odbc

@@ -35,9 +35,12 @@ class AdoCommandState {
 
   AdoSession& open_session() const;  // error 3709 when there is none
   ResultSet execute(const std::vector<Value>& parameters);
+  void execute_for_effect();  // without parameters, its rows passed over
   ResultSet execute_as(std::int32_t type, const std::vector<Value>& parameters);
 
  private:
+  ResultSet executed(std::int32_t type, const std::vector<Value>& parameters, ResultRows rows);
+
   std::shared_ptr<AdoSession> session_;
   std::int32_t type_ = command_type::kUnknown;
   Text text_;

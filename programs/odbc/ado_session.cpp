@@ -126,11 +126,12 @@ DriverFacts AdoSession::driver_facts() const {
   return odbc::driver_facts(connection_->handle());
 }
 
-ResultSet AdoSession::execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout) {
+ResultSet AdoSession::execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
+                              ResultRows rows) {
   require_open();
   if (text.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");
   return provider_call(hresult::kErrorsInCommand,
-                       [&] { return odbc::execute(*connection_, text, parameters, timeout, under_way_); });
+                       [&] { return odbc::execute(*connection_, text, parameters, timeout, under_way_, rows); });
 }
 
 }  // namespace qvr::odbc

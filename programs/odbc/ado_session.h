@@ -37,7 +37,8 @@ class AdoSession {
   void commit_trans() { end_trans(true); }
   void rollback_trans() { end_trans(false); }
 
-  ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout);
+  ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
+                    ResultRows rows = ResultRows::Kept);
   // By any thread: the command that is executed fails. Harmless where none is.
   void cancel() noexcept { under_way_.cancel(); }
 

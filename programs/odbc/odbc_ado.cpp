@@ -38,7 +38,7 @@ class NativeCommand : public services::AdoCommand {
   void set_command_type(services::CommandType type) override { state_.set_type(static_cast<std::int32_t>(type)); }
   void set_command_text(TextView text) override { state_.set_text(text); }
   void set_command_timeout(std::int32_t seconds) override { state_.set_timeout(seconds); }
-  void execute() override { state_.execute({}); }
+  void execute() override { state_.execute_for_effect(); }
 
   void refresh_parameters() override { refuse(); }
   Value parameter_value(std::int32_t) override { refuse(); }

@@ -109,6 +109,14 @@ void read_rows(const Handle& statement, SQLUSMALLINT count, ResultSet& result) {
   }
 }
 
+void pass_over_rows(const Handle& statement) {
+  SQLRETURN fetched = SQL_SUCCESS;
+  do {
+    fetched = api().SQLFetch(statement.get());
+    statement.check(fetched);
+  } while (fetched != SQL_NO_DATA);
+}
+
 // Of a batch the first result counts, as in ADO; but the server runs the other statements, and reports their errors,
 // only while SQLMoreResults is called.
 void run_to_the_end(const Handle& statement) {
@@ -131,13 +139,15 @@ class Execution {
   UnderWay& under_way_;
 };
 
-ResultSet executed(const Handle& statement, TextView text) {
+ResultSet executed(const Handle& statement, TextView text, ResultRows rows) {
   statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
   ResultSet result;
   SQLSMALLINT columns = 0;
   statement.check(api().SQLNumResultCols(statement.get(), &columns));
   result.has_rows = columns > 0;
-  if (result.has_rows) {
+  if (result.has_rows && rows == ResultRows::PassedOver) {
+    pass_over_rows(statement);
+  } else if (result.has_rows) {
     read_rows(statement, static_cast<SQLUSMALLINT>(columns), result);
   } else {
     SQLLEN affected = -1;
@@ -151,14 +161,14 @@ ResultSet executed(const Handle& statement, TextView text) {
 }  // namespace
 
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
-                  UnderWay& under_way) {
+                  UnderWay& under_way, ResultRows rows) {
   std::unique_ptr<Statement> used = connection.statement(timeout);
   const Handle& statement = used->handle;
   const std::list<BoundValue> bound = bind(statement, parameters);
   ResultSet result;
   {
     const Execution execution(under_way, *used);
-    result = executed(statement, text);
+    result = executed(statement, text, rows);
   }
   if (parameters.empty()) connection.keep(std::move(used));
   return result;

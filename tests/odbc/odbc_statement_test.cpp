@@ -130,6 +130,21 @@ TEST_F(OdbcStatement, GoesBeforeItsConnectionCloses) {
   EXPECT_EQ(odbc::execute(connection, u"select N from A", {}, 0).rows.size(), 3u);
 }
 
+TEST_F(OdbcStatement, PassesOverRowsAsIfItHadReadThem) {
+  odbc::Connection connection;
+  open_with_table(connection);
+  odbc::UnderWay under_way;
+  const auto passed_over = [&](TextView text) {
+    return odbc::execute(connection, text, {}, 0, under_way, odbc::ResultRows::PassedOver);
+  };
+  const odbc::ResultSet result = passed_over(u"select N from A");
+  EXPECT_TRUE(result.has_rows);
+  EXPECT_TRUE(result.rows.empty());
+  EXPECT_EQ(passed_over(u"delete from A where N = 1").affected, 1);
+  EXPECT_THROW(passed_over(u"select abs(N - 9223372036854775807 - 3) from A"), odbc::Failure) << "in its second row";
+  EXPECT_EQ(odbc::execute(connection, u"select N from A", {}, 0).rows.size(), 2u);
+}
+
 TEST_F(OdbcStatement, HoldsNoLockAfterRowsWereRead) {
   odbc::Connection connection, other;
   open_with_table(connection);

@@ -15,8 +15,9 @@ namespace qvr::script_tool {
 enum class Ending {
   Nothing,  // nothing ran: no connection, or no transaction
   Committed,
-  Rehearsed,  // all taken back, as was asked
-  Kept,       // no transaction: each command stays
+  PerhapsCommitted,  // but the database may have taken back what ran before a failure
+  Rehearsed,         // all taken back, as was asked
+  Kept,              // no transaction: each command stays
   TakenBack,
   PartlyKept,      // rolled back, but the engine committed a part by itself
   PerhapsKept,     // rolled back, and whether the engine takes such commands back is not known

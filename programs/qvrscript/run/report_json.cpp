@@ -10,6 +10,7 @@ std::string_view word_of(Ending ending) {
   switch (ending) {
     case Ending::Nothing: return "nothing";
     case Ending::Committed: return "committed";
+    case Ending::PerhapsCommitted: return "perhapsCommitted";
     case Ending::Rehearsed: return "rehearsed";
     case Ending::Kept: return "kept";
     case Ending::TakenBack: return "takenBack";

@@ -60,6 +60,8 @@ Text ending_of(const RunReport& report, const Outcome& outcome) {
   switch (outcome.ending) {
     case Ending::Nothing: return u"nothing was run";
     case Ending::Committed: return u"committed";
+    case Ending::PerhapsCommitted:
+      return u"committed, but the database may have taken back what ran before a failure, or all of it";
     case Ending::Rehearsed:
     case Ending::TakenBack: return u"all taken back";
     case Ending::Kept: return u"what ran stays";

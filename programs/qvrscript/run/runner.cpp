@@ -1,5 +1,6 @@
 #include "qvrscript/run/runner.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 
@@ -45,8 +46,8 @@ class Run {
   ObservedHooks observed_hooks(RunAdo& ado);
   void report(const services::ErrorNotice& notice);
   void give_up(TextView why, bool interrupted);
-  void find_ending(const std::function<Ddl(const Committing& ddl)>& ask);
-  Ddl asked_of_database(const Committing& ddl, TextView connection_string, const Surroundings& surroundings);
+  void find_ending(const std::function<DatabaseFacts()>& ask);
+  DatabaseFacts asked_of_database(TextView connection_string, const Surroundings& surroundings);
 
   const Assembly& assembly_;
   const RunOptions& options_;
@@ -124,22 +125,34 @@ Outcome Run::done(TextView connection_string, const Surroundings& surroundings) 
   }
   watch_.reset();
   ending_.reset();
-  find_ending([&](const Committing& ddl) { return asked_of_database(ddl, connection_string, surroundings); });
+  find_ending([&] { return asked_of_database(connection_string, surroundings); });
   outcome_.whole_milliseconds = milliseconds_since(run_begin_);
   return std::move(outcome_);
 }
 
-void Run::find_ending(const std::function<Ddl(const Committing& ddl)>& ask) {
+// A failed command ends the transaction of this server, and its COMMIT succeeds all the same; the ODBC driver begins
+// another one without a word.
+bool may_forget_behind_failures(const DatabaseFacts& facts) { return facts.product == u"PostgreSQL"; }
+
+// While the database is asked, the ending is the one that is told where nothing comes of that.
+void Run::find_ending(const std::function<DatabaseFacts()>& ask) {
   if (!course_.opened || (options_.use_transaction && !course_.begun)) return;
   outcome_.rollback_failure = course_.rollback_failure;
   if (!options_.use_transaction) {
     outcome_.ending = Ending::Kept;
   } else if (course_.committed) {
-    outcome_.ending = Ending::Committed;
+    const bool left_out = std::ranges::any_of(outcome_.failures,
+                                              [](const RunFailure& each) { return each.command > 0; });
+    outcome_.ending = left_out ? Ending::PerhapsCommitted : Ending::Committed;
+    if (left_out && !may_forget_behind_failures(ask())) outcome_.ending = Ending::Committed;
   } else if (!course_.rolled_back) {
     outcome_.ending = Ending::RollbackFailed;
   } else {
-    Rollback rollback = judged_rollback(assembly_, progress_.command, ask);
+    Rollback rollback = judged_rollback(assembly_, progress_.command, [&](const Committing& ddl) {
+      outcome_.ending = Ending::PerhapsKept;
+      outcome_.kept_up_to = ddl;
+      return ask().ddl;
+    });
     const bool rehearsed = outcome_.success && rollback.ending == Ending::TakenBack;
     outcome_.ending = rehearsed ? Ending::Rehearsed : rollback.ending;
     outcome_.kept_up_to = std::move(rollback.kept_up_to);
@@ -147,14 +160,10 @@ void Run::find_ending(const std::function<Ddl(const Committing& ddl)>& ask) {
 }
 
 // Asked behind the run, as most scripts never need it.
-Ddl Run::asked_of_database(const Committing& ddl, TextView connection_string, const Surroundings& surroundings) {
-  const auto give_up = [&](TextView) {
-    outcome_.ending = Ending::PerhapsKept;
-    outcome_.kept_up_to = ddl;
-    listener_.given_up(outcome_);
-  };
-  return or_default({}, Ddl::Unknown, [&] {
-    return opened_database(connection_string, options_.connection->connect_timeout, surroundings, give_up)->facts().ddl;
+DatabaseFacts Run::asked_of_database(TextView connection_string, const Surroundings& surroundings) {
+  const auto give_up = [&](TextView) { listener_.given_up(outcome_); };
+  return or_default({}, DatabaseFacts(), [&] {
+    return opened_database(connection_string, options_.connection->connect_timeout, surroundings, give_up)->facts();
   });
 }
 

@@ -1,0 +1,35 @@
+ALTER TABLE Pedidos ADD Importe decimal(12, 2) DEFAULT 0 NOT NULL
+GO
+
+UPDATE Pedidos SET Importe = ImporteDePedido(Número)
+GO
+
+CREATE OR REPLACE VIEW ImportePorCliente AS
+SELECT C.Código, C.Nombre, Sum(P.Importe + P.Portes) AS Importe
+FROM Clientes C INNER JOIN Pedidos P ON P.Cliente = C.Código
+WHERE NOT C.Inactivo
+GROUP BY C.Código, C.Nombre
+GO
+
+CREATE FUNCTION LíneasImporte () RETURNS trigger LANGUAGE plpgsql AS $$
+BEGIN
+  IF TG_OP <> 'INSERT' THEN
+    UPDATE Pedidos SET Importe = ImporteDePedido(Número) WHERE Número = OLD.Pedido;
+  END IF;
+  IF TG_OP <> 'DELETE' THEN
+    UPDATE Pedidos SET Importe = ImporteDePedido(Número) WHERE Número = NEW.Pedido;
+  END IF;
+  RETURN NULL;
+END
+$$
+GO
+
+CREATE TRIGGER LíneasImporte AFTER INSERT OR UPDATE OR DELETE ON Líneas
+FOR EACH ROW EXECUTE FUNCTION LíneasImporte ()
+GO
+
+CREATE INDEX PedidosPorFormaPago ON Pedidos (FormaPago)
+GO
+
+UPDATE Esquema SET Versión = 10100, Fecha = '2024-07-01' WHERE Versión = 10020
+GO
