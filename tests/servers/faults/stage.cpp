@@ -14,6 +14,7 @@ namespace {
 constexpr auto kNoticedWithin = std::chrono::seconds(20);
 
 constexpr std::string_view kInside = "inside a command";
+constexpr std::string_view kInsideCommit = "inside the commit";
 constexpr std::string_view kBeforeRollback = "before the rollback";
 
 // The call before which a fault comes; of commands, the position.
@@ -31,6 +32,7 @@ constexpr std::array kSteps = {
     Step{kInside, u"Execute", 2},
     Step{kBeforeRollback, u"RollbackTrans"},
     Step{"before the commit", u"CommitTrans"},
+    Step{kInsideCommit, u"CommitTrans"},
     Step{"before closing", u"Close"},
 };
 
@@ -109,6 +111,7 @@ Stage::Stage(const FaultCase& played) : played_(played) {
   owner.run(u"insert into T values(0, '')");
   (this->*row_of(kFaults, played.fault).prepare)();
   if (played.when == kInside) hold_row();
+  if (played.when == kInsideCommit) make_commits_wait();
 }
 
 Stage::~Stage() {
@@ -146,7 +149,7 @@ bool Stage::is_moment(TextView call) {
 void Stage::before_call(TextView call) noexcept {
   try {
     if (!is_moment(call)) return;
-    if (played_.when == kInside) {
+    if (played_.when == kInside || played_.when == kInsideCommit) {
       happen_inside();
     } else {
       (this->*row_of(kFaults, played_.fault).happen)();
@@ -159,11 +162,13 @@ void Stage::before_call(TextView call) noexcept {
 void Stage::happen_inside() {
   // Both others of a deadlock are there before the command.
   if (played_.fault == "deadlock") return ask_for_row_of_run();
+  if (played_.when == kInsideCommit)
+    holder_->run(by_server(u"flush tables with read lock", u"select pg_advisory_lock(1)"));
   beside_ = std::thread([this] {
     try {
-      wait_for_command();
+      wait_for_run();
       (this->*row_of(kFaults, played_.fault).happen)();
-      if (played_.fault == "disk full" || played_.fault == "answer lost") release_row();
+      if (played_.fault == "disk full" || played_.fault == "answer lost") release();
     } catch (...) {
       note_failure();
     }
@@ -263,16 +268,30 @@ void Stage::hold_row() {
   }
 }
 
-void Stage::release_row() { holder_->connection().end_transaction(false); }
+void Stage::make_commits_wait() {
+  holder_ = std::make_unique<Session>(server_.administrator_string());
+  if (server_.kind() == ServerKind::MariaDb) return;
+  holder_->run(
+      u"create or replace function waits() returns trigger language plpgsql as "
+      u"'begin perform pg_advisory_xact_lock(1); return null; end'");
+  holder_->run(
+      u"create constraint trigger waits after insert on T deferrable initially deferred for each row "
+      u"execute function waits()");
+}
+
+void Stage::release() {
+  if (played_.when == kInsideCommit) return holder_->run(by_server(u"unlock tables", u"select pg_advisory_unlock(1)"));
+  holder_->connection().end_transaction(false);
+}
 
 bool Stage::is_asked_for(TextView condition_for_mariadb, TextView condition_for_postgresql) const {
   return ask(join({u"select count(*) from ", by_server(u"information_schema.processlist", u"pg_stat_activity"),
                    u" where ", by_server(condition_for_mariadb, condition_for_postgresql)})) != u"0";
 }
 
-void Stage::wait_for_command() const {
+void Stage::wait_for_run() const {
   wait_until("the waiting command", [this] {
-    return is_asked_for(u"user = 'qvr' and command = 'Query' and info like 'insert into T %'",
+    return is_asked_for(u"user = 'qvr' and command = 'Query' and (info like 'insert into T %' or info like 'commit%')",
                         u"usename = 'qvr' and wait_event_type = 'Lock'");
   });
 }

@@ -55,9 +55,10 @@ class Stage {
   void happen_inside();
   Text many_rows_into(TextView table) const;
   void hold_row();
-  void release_row();
+  void make_commits_wait();
+  void release();
   bool is_asked_for(TextView condition_for_mariadb, TextView condition_for_postgresql) const;
-  void wait_for_command() const;
+  void wait_for_run() const;
   Text session_of_run() const;
   Text ask(TextView query) const;  // of the administrator
   void run(TextView statement) const;
@@ -68,7 +69,7 @@ class Stage {
   std::vector<Text> commands_;
   int executed_ = 0;
   bool has_happened_ = false;
-  std::unique_ptr<Session> holder_;  // of a row that the second command wants
+  std::unique_ptr<Session> holder_;  // of what the second command or the commit waits for
   std::thread beside_;
   std::string went_wrong_;
 };
