@@ -30,7 +30,7 @@ int main(int count, char** arguments) {
   if (count == 2 && starts_first_list(arguments[1])) return first_list_in_this_process(arguments[1]);
   OleInitialize(nullptr);
   using namespace qvr::tests;
-  const Server library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));
+  const InProcessServer library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));
   library.register_it();
   ado.register_it();
   Times times;

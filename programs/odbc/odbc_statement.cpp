@@ -131,8 +131,9 @@ class Execution {
   UnderWay& under_way_;
 };
 
-ResultSet executed(const Handle& statement, TextView text) {
-  statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
+}  // namespace
+
+ResultSet all_results(const Handle& statement) {
   ResultSet result;
   SQLSMALLINT columns = 0;
   statement.check(api().SQLNumResultCols(statement.get(), &columns));
@@ -148,7 +149,10 @@ ResultSet executed(const Handle& statement, TextView text) {
   return result;
 }
 
-}  // namespace
+ResultSet execute_bound(const Handle& statement, TextView text) {
+  statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
+  return all_results(statement);
+}
 
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
                   UnderWay& under_way) {
@@ -158,7 +162,7 @@ ResultSet execute(Connection& connection, TextView text, const std::vector<Value
   ResultSet result;
   {
     const Execution execution(under_way, *used);
-    result = executed(statement, text);
+    result = execute_bound(statement, text);
   }
   if (parameters.empty()) connection.keep(std::move(used));
   return result;
