@@ -1,5 +1,6 @@
 // What people wait for, each beside the same done by hand over late binding, under Wine or on Windows: all of it, or
-// the subjects that the arguments name. ADO is the one of the tests, into SQLite files.
+// the subjects that the arguments name. ADO is the one of the tests, into SQLite files, and
+// for procedures into the server beside this program (tests/servers/with_server.py).
 #include <algorithm>
 #include <span>
 #include <string_view>
