@@ -4,6 +4,7 @@ set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 need windows win64 native bench servers
 need_wine
+need_drivers32
 need_built native inserts_bench loading_bench
 need_built win32 QVRlib21 testado host_bench
 need_built win64 QVRlib21
@@ -26,7 +27,10 @@ native() {
 # On one core, Wine and its server hand each other their turn at once. On two, each call of the server waits until a core
 # that sleeps is awake, which takes ten times as long as the call.
 core=$(taskset -cp $$ | grep -o '[0-9]*$')
-under_wine() { taskset -c "$core" "$root/tools/wine.sh" "$build/win32/bin/host_bench.exe" >"$results/host.$1.json"; }
+under_wine() {
+  taskset -c "$core" "$root/tests/servers/with_server.py" --drivers "$build/drivers32" mariadb \
+    "$root/tools/wine.sh" "$build/win32/bin/host_bench.exe" >"$results/host.$1.json"
+}
 
 measure_all() {
   native "inserts.$1" 5 "$build/native/bin/inserts_bench"

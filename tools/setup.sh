@@ -79,6 +79,39 @@ copy_wine_prefix() {
   cp -a --reflink=auto "$build/wine" "$build/$1" || fail "the Wine prefix could not be copied"
 }
 
+# The servers' ODBC drivers for 32-bit programs, in build/drivers32 with what they need beyond Wine's packages.
+need_drivers32() { [ -e "$build/drivers32/ready" ] || timed "setup: 32-bit drivers of the servers" make_drivers32; }
+
+make_drivers32() {
+  local folder=$build/drivers32 unpacked=$build/drivers32/packages from=/usr/lib/i386-linux-gnu
+  local packages="odbc-mariadb:i386 libmariadb3:i386 odbc-postgresql:i386 libpq5:i386"
+  rm -rf "$folder"
+  mkdir -p "$unpacked"
+  # Where a library or a driver of the other width is in their way, they are unpacked and not installed.
+  # shellcheck disable=SC2086
+  apt-get install -y --no-install-recommends --no-remove $packages >>"$log" 2>&1 ||
+    apt-get install -y --no-install-recommends --no-remove -t bookworm $packages >>"$log" 2>&1 ||
+    { unpack_packages "$unpacked" $packages && from=$unpacked/usr/lib/i386-linux-gnu; } ||
+    fail "the 32-bit drivers can be neither installed nor downloaded"
+  cp -L "$from"/odbc/{libmaodbc,psqlodbcw}.so "$from"/{libmariadb.so.3,libpq.so.5} "$folder"
+  rm -rf "$unpacked"
+  LD_LIBRARY_PATH=$folder ldd "$folder"/*.so* >>"$log" 2>&1 || fail "ldd does not read the 32-bit drivers"
+  if LD_LIBRARY_PATH=$folder ldd "$folder"/*.so* | grep 'not found' >>"$log"; then
+    fail "the 32-bit drivers lack libraries"
+  fi
+  touch "$folder/ready"
+}
+
+# unpack_packages FOLDER PACKAGE...
+unpack_packages() {
+  local folder=$1 each
+  shift
+  # Lists may be missing or old.
+  apt-get update >>"$log" 2>&1 || true
+  (cd "$folder" && apt-get download "$@" >>"$log" 2>&1) || return
+  for each in "$folder"/*.deb; do dpkg -x "$each" "$folder" || return; done
+}
+
 # need_built PRESET [TARGET...]: builds these targets, or all.
 need_built() { timed "setup: building $*" build_preset "$@"; }
 

@@ -93,7 +93,7 @@ int first_list_in_this_process(const std::string& argument) {
 }
 
 void measure_first_list(Times& times) {
-  const Server empty(beside_program(L"empty_class.dll"));
+  const InProcessServer empty(beside_program(L"empty_class.dll"));
   empty.register_it();
   std::vector<double> library, hand;
   for (int process = 0; process < kProcesses; ++process) {

@@ -1,5 +1,6 @@
 // What people wait for, each beside the same done by hand over late binding, under Wine or on Windows: all of it, or
-// the subjects that the arguments name. ADO is the one of the tests, into SQLite files.
+// the subjects that the arguments name. ADO is the one of the tests, into SQLite files, and
+// for procedures into the server beside this program (tests/servers/with_server.py).
 #include <algorithm>
 #include <span>
 #include <string_view>
@@ -30,7 +31,7 @@ int main(int count, char** arguments) {
   if (count == 2 && starts_first_list(arguments[1])) return first_list_in_this_process(arguments[1]);
   OleInitialize(nullptr);
   using namespace qvr::tests;
-  const Server library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));
+  const InProcessServer library(beside_program(L"QVRlib21.dll")), ado(beside_program(L"testado.dll"));
   library.register_it();
   ado.register_it();
   Times times;

@@ -1,31 +1,32 @@
-// One call of a stored procedure with eight parameters.
+// One call of a stored procedure with eight parameters, into MariaDB.
 #include <array>
 
+#include "automation/arrays.h"
 #include "automation/by_hand.h"
 #include "automation/measures.h"
-#include "automation/procedures.h"
+#include "servers/server.h"
 
 namespace qvr::bench {
 namespace {
 
 using namespace qvr::tests;
 
-constexpr const wchar_t* kProcedure = L"Pedido";
+constexpr const wchar_t* kProcedure = L"pedido";
 constexpr int kParameters = 8, kStoredProcedure = 4, kCalls = 50, kRounds = 30;
 constexpr int kTotal = 7;  // the position of the output, from 0
 
-ProcedureDatabase& defined(ProcedureDatabase& database) {
-  database.define(kProcedure,
-                  {{L"@Cliente", ado::kInteger},
-                   {L"@Nombre", ado::kVarWChar, ado::kInput, 50},
-                   {L"@Fecha", ado::kDate},
-                   {L"@Urgente", ado::kBoolean},
-                   {L"@Portes", ado::kDouble},
-                   {L"@Numero", ado::kInteger, ado::kInputOutput},
-                   {L"@Nota", ado::kVarWChar, ado::kInputOutput, 50},
-                   {L"@Total", ado::kDouble, ado::kOutput}},
-                  {{L"select @Numero + 1", 6}, {L"select 'Para ' || @Nombre", 7}, {L"select @Portes * 2", 8}});
-  return database;
+// What a library that asks for item 0 finds there is the first output.
+constexpr const wchar_t* kDefinition =
+    L"create or replace procedure pedido(out devuelto int, in cliente int, in nombre varchar(50), in fecha datetime, "
+    L"in urgente bit(1), in portes double, inout numero int, in nota varchar(50), out total double) "
+    L"begin set devuelto = 0; set numero = numero + 1; set total = portes * 2; end";
+
+LateObject connected() {
+  const Text text = Server::here().ado_string();
+  LateObject connection(L"ADODB.Connection");
+  require(connection.call(L"Open", {std::wstring(text.begin(), text.end())}));
+  require(connection.call(L"Execute", {kDefinition}));
+  return connection;
 }
 
 std::vector<Var> values() {
@@ -68,8 +69,7 @@ void by_hand(const LateObject& connection) {
 }  // namespace
 
 void measure_procedure_call(Times& times) {
-  ProcedureDatabase database;
-  const LateObject connection = defined(database).open(), cfp(L"QVRlib21.QVRcfp");
+  const LateObject connection = connected(), cfp(L"QVRlib21.QVRcfp");
   require_true(cfp.call(L"Asignar", {L"bench", 2, L"", L"", L"", L"", L"", L"", L"", L""}));
   times.beside(
       "ProcedureCall", [&] { by_library(cfp, connection); }, [&] { by_hand(connection); }, kCalls, kRounds);

@@ -128,10 +128,15 @@ DriverFacts AdoSession::driver_facts() const {
 
 ResultSet AdoSession::execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
                               ResultRows rows) {
+  return on_connection([&](Connection& connection) {
+    if (text.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");
+    return odbc::execute(connection, text, parameters, timeout, under_way_, rows);
+  });
+}
+
+ResultSet AdoSession::on_connection(const std::function<ResultSet(Connection&)>& work) {
   require_open();
-  if (text.empty()) fail_provider(hresult::kNoCommandText, u"The command has no text.");
-  return provider_call(hresult::kErrorsInCommand,
-                       [&] { return odbc::execute(*connection_, text, parameters, timeout, under_way_, rows); });
+  return provider_call(hresult::kErrorsInCommand, [&] { return work(*connection_); });
 }
 
 }  // namespace qvr::odbc

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,6 +40,8 @@ class AdoSession {
 
   ResultSet execute(TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
                     ResultRows rows = ResultRows::Kept);
+  // Work of ODBC's own on the open connection; its failures become the provider's.
+  ResultSet on_connection(const std::function<ResultSet(Connection&)>& work);
   // By any thread: the command that is executed fails. Harmless where none is.
   void cancel() noexcept { under_way_.cancel(); }
 

@@ -139,8 +139,9 @@ class Execution {
   UnderWay& under_way_;
 };
 
-ResultSet executed(const Handle& statement, TextView text, ResultRows rows) {
-  statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
+}  // namespace
+
+ResultSet all_results(const Handle& statement, ResultRows rows) {
   ResultSet result;
   SQLSMALLINT columns = 0;
   statement.check(api().SQLNumResultCols(statement.get(), &columns));
@@ -158,7 +159,10 @@ ResultSet executed(const Handle& statement, TextView text, ResultRows rows) {
   return result;
 }
 
-}  // namespace
+ResultSet execute_bound(const Handle& statement, TextView text, ResultRows rows) {
+  statement.check(api().SQLExecDirectW(statement.get(), wide(text), units(text)));
+  return all_results(statement, rows);
+}
 
 ResultSet execute(Connection& connection, TextView text, const std::vector<Value>& parameters, std::int32_t timeout,
                   UnderWay& under_way, ResultRows rows) {
@@ -168,7 +172,7 @@ ResultSet execute(Connection& connection, TextView text, const std::vector<Value
   ResultSet result;
   {
     const Execution execution(under_way, *used);
-    result = executed(statement, text, rows);
+    result = execute_bound(statement, text, rows);
   }
   if (parameters.empty()) connection.keep(std::move(used));
   return result;

@@ -1,6 +1,5 @@
 // Parameters that a host has appended to its own command: what arrives there.
 #include "automation/parameter_host.h"
-#include "automation/procedures.h"
 #include "support/rows.h"
 #include "support/traced.h"
 
@@ -99,24 +98,6 @@ TEST_F(AdoParameter, AScriptsVariables) {
   EXPECT_EQ(describe(value.raw()) + ", " + describe(width.raw()) + ", " + describe(direction.raw()),
             "BSTR 7, Empty, BSTR 2")
       << "no variable is changed";
-}
-
-TEST_F(AdoParameter, AHostsOwnProcedureCall) {
-  ProcedureDatabase database;
-  database.define(L"Suma", {{L"@a", ado::kInteger}, {L"@b", ado::kInteger, ado::kOutput}},
-                  {{L"select @a + 1", 2}, {L"select 9", 0}});
-  const LateObject connection = database.open(), command(L"ADODB.Command");
-  EXPECT_EQ(command.put(L"ActiveConnection", connection.get()).result, S_OK);
-  EXPECT_EQ(command.put(L"CommandText", L"Suma").result, S_OK);
-  EXPECT_EQ(command.put(L"CommandType", 4).result, S_OK);
-  host.use(2);
-  EXPECT_EQ(host.append_late(command.get(), {L"INT", L"@RETURN_VALUE", Var::missing(), 0, 4}), "BOOL true");
-  EXPECT_EQ(host.append_early(command.get(), {L"INT", L"@a", 7}), "BOOL true");
-  EXPECT_EQ(host.append_early(command.get(), {L"INT", L"@b", Var::missing(), 0, 2}), "BOOL true");
-  EXPECT_EQ(command.call(L"Execute").result, S_OK);
-  EXPECT_TRUE(described_parameter(command, 0).ends_with("direction 4, I4 9"));
-  EXPECT_TRUE(described_parameter(command, 2).ends_with("direction 2, I4 8"));
-  connection.call(L"Close");
 }
 
 }  // namespace

@@ -35,29 +35,30 @@ void watch_calls(const wchar_t* failures, const wchar_t* log) {
 
 }  // namespace
 
-Database::Database()
-    : file_(unused_file(L".db")),
-      connection_string_(L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=" + driver_path(file_) +
-                         L";\"") {
+Database::Database() : Database(unused_file(L".db")) {}
+
+Database::Database(const std::wstring& file)
+    : AdoDatabase(L"Provider=MSDASQL;Extended Properties=\"DRIVER={SQLite3};Database=" + driver_path(file) + L";\""),
+      file_(file) {
   DeleteFileW(file_.c_str());  // of a run that was broken off, whose process had the same number
 }
 
 Database::~Database() { DeleteFileW(file_.c_str()); }
 
-LateObject Database::open() const {
+LateObject AdoDatabase::open() const {
   LateObject connection(L"ADODB.Connection");
   EXPECT_EQ(connection.call(L"Open", {connection_string_}).result, S_OK);
   return connection;
 }
 
-void Database::run(const std::wstring& statement) const {
+void AdoDatabase::run(const std::wstring& statement) const {
   const LateObject connection = open();
   const LateAnswer ran = connection.call(L"Execute", {statement});
   EXPECT_EQ(ran.result, S_OK) << narrow(statement) << ": " << narrow(ran.description);
   connection.call(L"Close");
 }
 
-std::string Database::ask(const wchar_t* query) const {
+std::string AdoDatabase::ask(const wchar_t* query) const {
   const LateObject connection = open();
   const LateAnswer opened = connection.call(L"Execute", {query});
   EXPECT_EQ(opened.result, S_OK) << narrow(opened.description);

@@ -1,4 +1,4 @@
-// A SQLite database for one test, through the test ADO.
+// Databases through the test ADO.
 #pragma once
 
 #include <string>
@@ -7,12 +7,9 @@
 
 namespace qvr::tests {
 
-class Database {
+class AdoDatabase {
  public:
-  Database();
-  ~Database();
-  Database(const Database&) = delete;
-  Database& operator=(const Database&) = delete;
+  explicit AdoDatabase(std::wstring connection_string) : connection_string_(std::move(connection_string)) {}
 
   const std::wstring& connection_string() const { return connection_string_; }
   // Runs a statement on a connection of its own.
@@ -23,8 +20,21 @@ class Database {
   LateObject open() const;
 
  private:
-  std::wstring file_;
   std::wstring connection_string_;
+};
+
+// Of SQLite, in a file of one test's own.
+class Database : public AdoDatabase {
+ public:
+  Database();
+  ~Database();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+ private:
+  explicit Database(const std::wstring& file);
+
+  std::wstring file_;
 };
 
 // Makes the test ADO fail at these calls ("Open", "Execute:3") and log its calls.

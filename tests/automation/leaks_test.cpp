@@ -1,10 +1,10 @@
 // Leaks: memory blocks and handles are counted before and after repeated calls.
+#include "automation/arrays.h"
 #include "automation/both.h"
 #include "automation/boxes.h"
 #include "automation/database.h"
 #include "automation/in_use.h"
 #include "automation/library.h"
-#include "automation/procedures.h"
 #include "automation/script_folder.h"
 #include "automation/sink.h"
 #include "support/traced.h"
@@ -122,31 +122,9 @@ TEST(Leaks, ListsAndErrors) {
   });
 }
 
-TEST(Leaks, ProceduresAndTheirOutputs) {
-  ProcedureDatabase database;
-  database.define(L"p", {{L"@a", ado::kVarWChar, ado::kInputOutput, 20}, {L"@b", ado::kInteger, ado::kOutput}},
-                  {{L"select @a || 'x'", 1}, {L"select 7", 2}});
-  const LateObject connection = database.open();
-  expect_no_leak([&] {
-    const LateObject cfp(L"QVRlib21.QVRcfp");
-    cfp.call(L"Asignar", {L"id", 2, L"", L"", L"", L"", L"", L"", L"", L""});
-    for (Var list : {array_of({L"text", L"5"}), array_of({L"text", L"5"}, 0, VT_BSTR)}) {
-      EXPECT_EQ(describe(cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", list}).value.raw()), "BOOL true");
-      cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", Var::by_reference(list)});
-      cfp.call(L"EjecutarProcSQL7", {connection.get(), L"p", Var::by_content(list)});
-      auto* raw = reinterpret_cast<Connection*>(connection.get());
-      Bstr name(L"p");
-      VARIANT_BOOL done = VARIANT_FALSE;
-      cfp.as<_QVRcfp>()->EjecutarProcSQL7(&raw, &name, &list.raw(), &done);
-      EXPECT_EQ(done, VARIANT_TRUE);
-    }
-  });
-  connection.call(L"Close");
-}
-
 TEST(Leaks, ProceduresThatFailAndParametersThatAreRefused) {
   expect_any_traces();
-  ProcedureDatabase database;
+  Database database;
   const LateObject connection = database.open();
   expect_no_leak([&] {
     Person person;

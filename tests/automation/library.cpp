@@ -7,14 +7,14 @@
 namespace qvr::tests {
 namespace {
 
-std::unique_ptr<Server> library_server, ado_server;
+std::unique_ptr<InProcessServer> library_server, ado_server;
 
 class Registered : public testing::Environment {
  public:
   void SetUp() override {
     ASSERT_EQ(OleInitialize(nullptr), S_OK);
-    library_server = std::make_unique<Server>(beside_program(L"QVRlib21.dll"));
-    ado_server = std::make_unique<Server>(beside_program(L"testado.dll"));
+    library_server = std::make_unique<InProcessServer>(beside_program(L"QVRlib21.dll"));
+    ado_server = std::make_unique<InProcessServer>(beside_program(L"testado.dll"));
     ASSERT_TRUE(library_server->loaded());
     ASSERT_TRUE(ado_server->loaded());
     ASSERT_EQ(library_server->register_it(), S_OK);
@@ -34,13 +34,13 @@ const auto* const registered = testing::AddGlobalTestEnvironment(new Registered)
 
 }  // namespace
 
-Server::Server(const std::wstring& path) : module_(LoadLibraryW(path.c_str())) {}
+InProcessServer::InProcessServer(const std::wstring& path) : module_(LoadLibraryW(path.c_str())) {}
 
-Server::~Server() {
+InProcessServer::~InProcessServer() {
   if (module_ != nullptr) FreeLibrary(module_);
 }
 
-const Server& library() { return *library_server; }
-const Server& test_ado() { return *ado_server; }
+const InProcessServer& library() { return *library_server; }
+const InProcessServer& test_ado() { return *ado_server; }
 
 }  // namespace qvr::tests

@@ -11,12 +11,12 @@
 namespace qvr::tests {
 
 // A DLL with the entry points of an in-process server.
-class Server {
+class InProcessServer {
  public:
-  explicit Server(const std::wstring& path);
-  ~Server();
-  Server(const Server&) = delete;
-  Server& operator=(const Server&) = delete;
+  explicit InProcessServer(const std::wstring& path);
+  ~InProcessServer();
+  InProcessServer(const InProcessServer&) = delete;
+  InProcessServer& operator=(const InProcessServer&) = delete;
 
   HRESULT register_it() const { return entry<HRESULT()>("DllRegisterServer")(); }
   HRESULT unregister_it() const { return entry<HRESULT()>("DllUnregisterServer")(); }
@@ -45,7 +45,7 @@ class Server {
 };
 
 // Registered before the first test, unregistered after the last.
-const Server& library();
-const Server& test_ado();
+const InProcessServer& library();
+const InProcessServer& test_ado();
 
 }  // namespace qvr::tests

@@ -8,7 +8,10 @@ namespace {
 
 class ProcedureObjects : public ProcedureCalls {
  protected:
+  ProcedureObjects() { connection = database.open(); }
   bool call(const Var& parameters) { return call_late(connection.get(), L"p", parameters); }
+
+  Database database;
 };
 
 // An object that counts its references, and does what a test wants when it is released.

@@ -1,47 +1,6 @@
 #include "automation/procedures.h"
 
-#include <array>
-
 namespace qvr::tests {
-namespace {
-
-std::wstring quoted(const wchar_t* text) {
-  std::wstring literal = L"'";
-  for (; *text != L'\0'; ++text) {
-    if (*text == L'\'') literal += L'\'';
-    literal += *text;
-  }
-  return literal + L"'";
-}
-
-std::wstring row_of(std::initializer_list<std::wstring> fields) {
-  std::wstring row = L" values(";
-  for (const std::wstring& field : fields) row += (row.ends_with(L'(') ? L"" : L", ") + field;
-  return row + L")";
-}
-
-}  // namespace
-
-ProcedureDatabase::ProcedureDatabase() {
-  run(L"create table ado_parameters(procedure varchar(50), position integer, name varchar(50), type integer, "
-      L"size integer, direction integer)");
-  run(L"create table ado_steps(procedure varchar(50), step integer, statement varchar(500), sets integer)");
-}
-
-void ProcedureDatabase::define(const wchar_t* name, const std::vector<ProcedureParameter>& parameters,
-                               const std::vector<ProcedureStep>& steps) const {
-  std::vector<ProcedureParameter> all{{L"@RETURN_VALUE", ado::kInteger, ado::kReturnValue}};
-  all.insert(all.end(), parameters.begin(), parameters.end());
-  for (std::size_t i = 0; i < all.size(); ++i) {
-    run(L"insert into ado_parameters" +
-        row_of({quoted(name), std::to_wstring(i), quoted(all[i].name), std::to_wstring(all[i].type),
-                std::to_wstring(all[i].size), std::to_wstring(all[i].direction)}));
-  }
-  for (std::size_t i = 0; i < steps.size(); ++i) {
-    const std::wstring sets = steps[i].sets ? std::to_wstring(*steps[i].sets) : L"null";
-    run(L"insert into ado_steps" + row_of({quoted(name), std::to_wstring(i), quoted(steps[i].statement), sets}));
-  }
-}
 
 ProcedureCalls::ProcedureCalls() { use(2); }
 
@@ -93,6 +52,24 @@ void ProcedureCalls::expect_call(const wchar_t* procedure, const Var& parameters
     EXPECT_EQ(describe(variable.raw()), way.given_back ? after : describe(parameters.raw()));
     EXPECT_EQ(variable.raw().parray, before) << "the array is the caller's own";
   }
+}
+
+std::wstring ProcedureCalls::failed(IDispatch* connected, const wchar_t* procedure, const Var& parameters) {
+  Person person;
+  Var variable = parameters;
+  EXPECT_FALSE(call_early(connected, procedure, &variable.raw()));
+  EXPECT_FALSE(call_late(connected, procedure, Var::by_reference(variable)));
+  EXPECT_EQ(describe(variable.raw()), describe(parameters.raw())) << "nothing comes back";
+  EXPECT_EQ(person.boxes().size(), 2u);
+  if (person.boxes().size() != 2) return L"";
+  EXPECT_EQ(person.boxes()[0].text, person.boxes()[1].text);
+  EXPECT_EQ(person.boxes()[0].title, L"QVRlib21");
+  EXPECT_FALSE(person.boxes()[0].question);
+  return person.boxes()[0].text;
+}
+
+std::wstring procedure_report(const std::wstring& errors, const wchar_t* procedure) {
+  return L"Error indeterminado\r\n\r\n" + errors + L"\r\n\r\nObjeto: " + procedure + L"\r\nM\u00e9todo: EjecutarProc";
 }
 
 }  // namespace qvr::tests

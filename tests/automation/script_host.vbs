@@ -16,7 +16,7 @@ Sub Use(number)
 End Sub
 
 Dim version, cfp, other, scr, query, both, list, value, id, engine, text, folder, name
-Dim fields, values, fixed(1), nothingYet, empties(), connection
+Dim fields, values, fixed(1), nothingYet, empties()
 
 Set version = CreateObject("QVRlib21.Ov")
 Show "Version", version.Version
@@ -85,27 +85,10 @@ ShowError "an array without bounds"
 cfp.sqlWhereRelacionTablas Array("a", "b")
 ShowError "half a triple"
 
-Set connection = CreateObject("ADODB.Connection")
-connection.Open "Provider=MSDASQL;Extended Properties=""DRIVER={SQLite3};Database=" & WScript.Arguments(0) & ";"""
-connection.Execute "create table ado_parameters(procedure varchar, position integer, name varchar, type integer, size integer, direction integer)"
-connection.Execute "create table ado_steps(procedure varchar, step integer, statement varchar, sets integer)"
-connection.Execute "insert into ado_parameters values('Doble', 0, '@RETURN_VALUE', 3, 0, 4), ('Doble', 1, '@n', 3, 0, 1), ('Doble', 2, '@doble', 3, 0, 2)"
-connection.Execute "insert into ado_steps values('Doble', 1, 'select @n * 2', 2)"
-values = Array(21, 0)
-fixed(0) = 4
-fixed(1) = Empty
-Show "EjecutarProcSQL7", cfp.EjecutarProcSQL7(connection, "Doble", values)
-Show "its output", values(1)
-Show "EjecutarProcSQL7 fixed array", cfp.EjecutarProcSQL7(connection, "Doble", fixed)
-Show "its output", fixed(1)
-values(1) = 1
-Show "EjecutarProcSQL7 by value", cfp.EjecutarProcSQL7(connection, "Doble", (values))
-Show "its output", values(1)
 Set other = CreateObject("ADODB.Command")
 Show "AgregarParametroADO", cfp.AgregarParametroADO(other, "NVARCHAR", "@Nombre", "Ana", 50)
 Show "its type", other.Parameters(0).Type
 Show "its direction", other.Parameters(0).Direction
-connection.Close
 Use 3
 Show "AgregarParametroADO of Oracle", cfp.AgregarParametroADO(Nothing, "INT", "@r", , , 4)
 ShowError "up to here"

@@ -10,7 +10,7 @@ The command's environment has
   QVR_TESTS_CABLE       the ordinary user's, through a cable that can lose answers
   QVR_TESTS_CONTROL     a folder: whoever renames a file to `request` there, with one of the words kill, stop, start,
                         fill, free and lose as its content, finds `answer` when that is done: empty, or what went wrong
-Drivers are the registered ones, or those of a folder.
+Drivers are the registered ones, or those of a folder, which also has the libraries that they need.
 """
 
 import argparse
@@ -74,7 +74,7 @@ class Control:
 
 def main() -> int:
     parser = argparse.ArgumentParser()
-    parser.add_argument("--drivers", type=Path)
+    parser.add_argument("--drivers", type=lambda folder: Path(folder).resolve())
     parser.add_argument("--full-disk", type=lambda path: Path(path).resolve())
     parser.add_argument("server", choices=SERVERS)
     parser.add_argument("command", nargs=argparse.REMAINDER)
@@ -94,6 +94,8 @@ def main() -> int:
         environment["QVR_TESTS_ADMIN"] = server.connection_string(driver, administrator=True)
         environment["QVR_TESTS_CABLE"] = server.connection_string(driver, socket=front)
         environment["QVR_TESTS_CONTROL"] = str(control.folder)
+        if arguments.drivers:
+            environment["LD_LIBRARY_PATH"] = str(arguments.drivers)
         child = subprocess.Popen(arguments.command, env=environment)
         try:
             result = child.wait()

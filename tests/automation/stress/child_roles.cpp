@@ -31,7 +31,7 @@ void tell_begun() {
   CloseHandle(event);
 }
 
-LateObject created_without_registration(const Server& server) {
+LateObject created_without_registration(const InProcessServer& server) {
   ComPtr<IClassFactory> factory;
   server.class_object(CLSID_QVRcfp, __uuidof(IClassFactory), reinterpret_cast<void**>(&factory));
   return LateObject(created_by(*factory.Get()));
@@ -40,7 +40,7 @@ LateObject created_without_registration(const Server& server) {
 // Ends only when a save fails.
 int save_again_and_again() {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const Server server(beside_program(L"QVRlib21.dll"));
+  const InProcessServer server(beside_program(L"QVRlib21.dll"));
   const LateObject files[] = {created_without_registration(server), created_without_registration(server)};
   for (int i = 0; i < 2; ++i) {
     files[i].call(L"Asignar", {L"id", 2, kProviders[i], L"", L"", L"", L"", L"", L"",
@@ -56,7 +56,7 @@ int save_again_and_again() {
 // Ends only when one of the two fails.
 int register_again_and_again() {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const Server server(beside_program(L"QVRlib21.dll"));
+  const InProcessServer server(beside_program(L"QVRlib21.dll"));
   const wchar_t* const scope = words()[2] == L"user" ? L"user" : nullptr;
   for (tell_begun();;) {
     if (server.install(TRUE, scope) != S_OK || server.install(FALSE, scope) != S_OK) return 1;
@@ -67,7 +67,7 @@ bool loaded() { return GetModuleHandleW(L"QVRlib21.dll") != nullptr; }
 
 // Whether the library says that it is in use exactly while it is.
 bool load_use_and_let_go(const ClassUnderStress& row) {
-  const Server server(beside_program(L"QVRlib21.dll"));
+  const InProcessServer server(beside_program(L"QVRlib21.dll"));
   if (!server.loaded() || server.can_unload() != S_OK) return false;
   ComPtr<IClassFactory> factory;
   if (server.class_object(row.id, __uuidof(IClassFactory), reinterpret_cast<void**>(&factory)) != S_OK) return false;
@@ -81,7 +81,7 @@ bool load_use_and_let_go(const ClassUnderStress& row) {
 }
 
 bool load_and_let_go(const ClassUnderStress&) {
-  const Server server(beside_program(L"QVRlib21.dll"));
+  const InProcessServer server(beside_program(L"QVRlib21.dll"));
   return server.loaded() && server.can_unload() == S_OK;
 }
 
@@ -123,7 +123,7 @@ int load_in_state() {
   tell_begun();
   bool found = false;
   const StateAround around = in_state(state, [&] {
-    const Server server(path);
+    const InProcessServer server(path);
     ComPtr<IClassFactory> factory;
     found = server.loaded() && server.can_unload() == S_OK &&
             server.class_object(CLSID_QVRcfp, __uuidof(IClassFactory), reinterpret_cast<void**>(&factory)) == S_OK;
@@ -147,7 +147,7 @@ int load_with_slots() {
     taken.pop_back();
   }
   const auto works = [&] {
-    const Server server(path);
+    const InProcessServer server(path);
     if (!server.loaded()) return false;
     const LateObject cfp = created_without_registration(server);
     return describe(cfp.call(L"TextoAValor", {L"F", L"2011-01-05"}).value.raw()) == "DATE 40548.000000";

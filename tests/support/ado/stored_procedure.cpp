@@ -1,73 +1,101 @@
 #include "support/ado/stored_procedure.h"
 
 #include <algorithm>
+#include <limits>
 
-#include "support/ado/behaviour.h"
+#include "base/number_text.h"
+#include "support/ado/data_type.h"
+#include "support/ado/procedure_binding.h"
 
 namespace qvr::tests {
 namespace {
 
-constexpr TextView kParameters =
-    u"select name, type, size, direction from ado_parameters where procedure = ? order by position";
-constexpr TextView kSteps = u"select statement, sets from ado_steps where procedure = ? order by step";
+// Columns of SQLProcedureColumns, from 0.
+enum Column { kProcedure = 2, kName = 3, kKind = 4, kType = 5, kSize = 7, kDigits = 9 };
 
-// The tables' columns have types of their own, so that nothing is left to convert.
 Text text_in(const Value& value) {
   const Text* text = value.as<Text>();
   return text != nullptr ? *text : Text();
 }
 
-std::int32_t number_in(const Value& value) {
-  const auto* number = value.as<std::int32_t>();
-  return number != nullptr ? *number : 0;
+// Drivers have small numbers, large ones and texts in the same column.
+double any_number(const Value& value) {
+  if (const auto* number = value.as<std::int32_t>()) return *number;
+  if (const auto* number = value.as<std::int64_t>()) return static_cast<double>(*number);
+  if (const auto* number = value.as<double>()) return *number;
+  return number_prefix(text_in(value));
 }
 
-bool in_name(char16_t unit) { return unit == u'_' || is_digit(unit) || is_ascii_letter(unit); }
+std::int32_t number_in(const Value& value) {
+  constexpr double kMost = std::numeric_limits<std::int32_t>::max();
+  return static_cast<std::int32_t>(std::clamp(any_number(value), -kMost, kMost));
+}
 
-// "@name" at the start of the text; only the first unit when no name follows.
-TextView name_at(TextView text) {
-  const auto end = std::find_if_not(text.begin() + 1, text.end(), in_name);
-  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+// 0 for the columns of results.
+std::int32_t direction_of(std::int32_t kind) {
+  switch (kind) {
+    case SQL_PARAM_INPUT: return direction::kInput;
+    case SQL_PARAM_INPUT_OUTPUT: return direction::kInputOutput;
+    case SQL_PARAM_OUTPUT: return direction::kOutput;
+    case SQL_RETURN_VALUE: return direction::kReturnValue;
+    default: return 0;
+  }
+}
+
+ProcedureParameter described(const std::vector<Value>& row) {
+  ProcedureParameter parameter;
+  parameter.name = text_in(row[kName]);
+  parameter.type = described_type(static_cast<SQLSMALLINT>(number_in(row[kType])));
+  parameter.direction = direction_of(number_in(row[kKind]));
+  const DataType* type = data_type(parameter.type);
+  const bool text = type != nullptr && type->sized;
+  (text ? parameter.size : parameter.precision) = number_in(row[kSize]);
+  if (!text) parameter.scale = number_in(row[kDigits]);
+  return parameter;
+}
+
+odbc::ResultSet ask_for_columns(odbc::Connection& connection, TextView name, std::int32_t timeout) {
+  const auto statement = connection.statement(timeout);
+  statement->handle.check(SQLProcedureColumnsW(statement->handle.get(), nullptr, 0, nullptr, 0, odbc::wide(name),
+                                               odbc::short_units(name.size()), nullptr, 0));
+  return odbc::all_results(statement->handle);
+}
+
+Text call_text(TextView name, const std::vector<ProcedureArgument>& arguments) {
+  const bool returns = !arguments.empty() && arguments[0].direction == direction::kReturnValue;
+  Text text = join({returns ? u"{? = call " : u"{call ", name, u"("});
+  for (std::size_t i = returns ? 1 : 0; i < arguments.size(); ++i) text += text.ends_with(u'(') ? u"?" : u", ?";
+  return text + u")}";
 }
 
 }  // namespace
 
-StoredProcedure::StoredProcedure(AdoSession& session, TextView name, std::int32_t timeout)
-    : session_(session), name_(name), timeout_(timeout) {
-  for (const std::vector<Value>& row : ask(kParameters, {name_}).rows) {
-    parameters_.push_back({text_in(row[0]), number_in(row[1]), number_in(row[2]), number_in(row[3])});
+std::vector<ProcedureParameter> procedure_parameters(AdoSession& session, TextView name, std::int32_t timeout) {
+  const odbc::ResultSet columns = session.on_connection(
+      [&](odbc::Connection& connection) { return ask_for_columns(connection, name, timeout); });
+  std::vector<ProcedureParameter> parameters;
+  for (const std::vector<Value>& row : columns.rows) {
+    // The name is a pattern for the driver.
+    if (!equal_no_case(text_in(row[kProcedure]), name) || direction_of(number_in(row[kKind])) == 0) continue;
+    parameters.push_back(described(row));
   }
-  if (!parameters_.empty()) return;
+  if (!parameters.empty()) return parameters;
   fail_provider(hresult::kParametersUnavailable, u"The provider cannot tell the command's parameters.");
 }
 
-std::size_t StoredProcedure::parameter_at(TextView statement) const {
-  const TextView name = name_at(statement);
-  const auto found = std::find_if(parameters_.begin(), parameters_.end(),
-                                  [&](const ProcedureParameter& each) { return equal_no_case(each.name, name); });
-  if (found == parameters_.end()) fail_provider(hresult::kErrorsInCommand, u"The procedure has no such parameter.");
-  return static_cast<std::size_t>(found - parameters_.begin());
-}
-
-void StoredProcedure::call(std::vector<Value>& values) const {
-  values[0] = std::int32_t{0};  // what a procedure returns that says nothing
-  for (const std::vector<Value>& step : ask(kSteps, {name_}).rows) {
-    const Text statement = text_in(step[0]);
-    Text marked;
-    std::vector<Value> passed;
-    bool quoted = false;
-    for (std::size_t at = 0; at < statement.size(); ++at) {
-      if (statement[at] == u'\'') quoted = !quoted;
-      const bool parameter = statement[at] == u'@' && !quoted;
-      marked += parameter ? u'?' : statement[at];
-      if (!parameter) continue;
-      const TextView rest = TextView(statement).substr(at);
-      passed.push_back(values[parameter_at(rest)]);
-      at += name_at(rest).size() - 1;
-    }
-    const odbc::ResultSet result = ask(marked, passed);
-    if (!step[1].is<Null>()) values.at(static_cast<std::size_t>(number_in(step[1]))) = result.rows.at(0).at(0);
+odbc::ResultSet call_procedure(AdoSession& session, TextView name, std::int32_t timeout,
+                               std::vector<ProcedureArgument>& arguments) {
+  std::vector<BoundArgument> bound(arguments.begin(), arguments.end());
+  odbc::ResultSet result = session.on_connection([&](odbc::Connection& connection) {
+    const auto statement = connection.statement(timeout);
+    SQLUSMALLINT position = 0;
+    for (BoundArgument& each : bound) each.bind(statement->handle, ++position);
+    return odbc::execute_bound(statement->handle, call_text(name, arguments));
+  });
+  for (std::size_t i = 0; i < bound.size(); ++i) {
+    if (arguments[i].direction != direction::kInput) arguments[i].value = bound[i].value();
   }
+  return result;
 }
 
 }  // namespace qvr::tests

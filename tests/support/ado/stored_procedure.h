@@ -1,4 +1,4 @@
-// Stored procedures for a database that has none: tables of its own describe them.
+// Stored procedures over ODBC.
 #pragma once
 
 #include <cstdint>
@@ -8,34 +8,36 @@
 
 namespace qvr::tests {
 
+// Values of ParameterDirectionEnum.
+namespace direction {
+inline constexpr std::int32_t kInput = 1;
+inline constexpr std::int32_t kOutput = 2;
+inline constexpr std::int32_t kInputOutput = 3;
+inline constexpr std::int32_t kReturnValue = 4;
+}  // namespace direction
+
 struct ProcedureParameter {
   Text name;
   std::int32_t type = 0;  // ADO's numbers
+  std::int32_t size = 0;  // of texts, in characters
+  std::int32_t direction = 0;
+  std::int32_t precision = 0, scale = 0;  // of numbers
+};
+
+struct ProcedureArgument {
+  std::int32_t type = 0;
   std::int32_t size = 0;
   std::int32_t direction = 0;
+  std::int32_t precision = 0, scale = 0;
+  Value value;
 };
 
-class StoredProcedure {
- public:
-  // Reads the description; throws in the provider's name when there is none.
-  StoredProcedure(AdoSession& session, TextView name, std::int32_t timeout);
+// As the driver tells them, in order; throws in the provider's name when there is none.
+std::vector<ProcedureParameter> procedure_parameters(AdoSession& session, TextView name, std::int32_t timeout);
 
-  // The first one is the return value.
-  const std::vector<ProcedureParameter>& parameters() const { return parameters_; }
-
-  // Runs the statements. There is a value for each parameter, and it is the parameter's afterwards.
-  void call(std::vector<Value>& values) const;
-
- private:
-  odbc::ResultSet ask(TextView text, const std::vector<Value>& values) const {
-    return session_.execute(text, values, timeout_);
-  }
-  std::size_t parameter_at(TextView statement) const;
-
-  AdoSession& session_;
-  Text name_;
-  std::int32_t timeout_;
-  std::vector<ProcedureParameter> parameters_;
-};
+// The first result. When all are read, the values of what is no input are the procedure's. A return value is the first
+// argument.
+odbc::ResultSet call_procedure(AdoSession& session, TextView name, std::int32_t timeout,
+                               std::vector<ProcedureArgument>& arguments);
 
 }  // namespace qvr::tests

@@ -31,29 +31,15 @@ std::vector<Value> Command::values(const Call& call) const {
   return all;
 }
 
-// The return value is the first of a procedure's parameters, and the command may have none for it; the others belong
-// together in order.
 void Command::call_procedure(Call& call) {
   const AdoCommandState& state = parts_->state;
-  const StoredProcedure procedure(state.open_session(), state.text(), state.timeout());
-  std::vector<Parameter*> parameters{nullptr};
-  for (const Ref<Parameter>& each : parts_->parameters) {
-    if (each->is_return_value()) {
-      parameters[0] = each.get();
-    } else {
-      parameters.push_back(each.get());
-    }
+  std::vector<ProcedureArgument> passed;
+  for (const Ref<Parameter>& each : parts_->parameters) passed.push_back(each->as_argument());
+  odbc::ResultSet rows = tests::call_procedure(state.open_session(), state.text(), state.timeout(), passed);
+  for (std::size_t i = 0; i < passed.size(); ++i) {
+    if (!parts_->parameters[i]->is_input()) parts_->parameters[i]->take_output(passed[i].value);
   }
-  if (parameters.size() != procedure.parameters().size()) {
-    fail_provider(hresult::kErrorsInCommand, u"The procedure has another number of parameters.");
-  }
-  std::vector<Value> values(parameters.size());
-  for (std::size_t i = 1; i < values.size(); ++i) values[i] = parameters[i]->value();
-  procedure.call(values);
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    if (parameters[i] != nullptr && !parameters[i]->is_input()) parameters[i]->take_output(values[i]);
-  }
-  answer_rows(state, {}, call);
+  answer_rows(state, std::move(rows), call);
 }
 
 void Command::execute(Call& call) {

@@ -1,58 +1,33 @@
 #include "support/ado/com/parameter.h"
 
-#include <algorithm>
-#include <array>
-
 #include "support/ado/behaviour.h"
 #include "support/ado/com/trace.h"
+#include "support/ado/data_type.h"
 
 namespace qvr::tests::com {
 namespace {
 
 constexpr TextView kSource = u"ADODB.Parameter";
-constexpr std::int32_t kInput = 1;
-constexpr std::int32_t kReturnValue = 4;
-
-// Values of DataTypeEnum with what a value of that type is held as, and whether it needs a size.
-struct DataType {
-  std::int32_t number;
-  VARTYPE held_as;
-  bool sized = false;
-};
-
-constexpr std::array kDataTypes = {
-    DataType{2, VT_I2},           DataType{3, VT_I4},           DataType{4, VT_R4},
-    DataType{5, VT_R8},           DataType{6, VT_CY},           DataType{7, VT_DATE},
-    DataType{8, VT_BSTR},         DataType{11, VT_BOOL},        DataType{14, VT_DECIMAL},
-    DataType{16, VT_I2},          DataType{17, VT_UI1},         DataType{18, VT_I4},
-    DataType{19, VT_I8},          DataType{20, VT_I8},          DataType{129, VT_BSTR, true},
-    DataType{130, VT_BSTR, true}, DataType{131, VT_DECIMAL},    DataType{133, VT_DATE},
-    DataType{134, VT_DATE},       DataType{135, VT_DATE},       DataType{200, VT_BSTR, true},
-    DataType{201, VT_BSTR, true}, DataType{202, VT_BSTR, true}, DataType{203, VT_BSTR, true},
-};
-
-const DataType* data_type(std::int32_t number) {
-  const auto found = std::find_if(kDataTypes.begin(), kDataTypes.end(),
-                                  [&](const DataType& each) { return each.number == number; });
-  return found == kDataTypes.end() ? nullptr : &*found;
-}
 
 }  // namespace
 
 Parameter::Parameter(const Call& call)
     : name_(call.text_or_none(0)),
       type_(call.integer_or(1, 0)),
-      direction_(call.integer_or(2, kInput)),
+      direction_(call.integer_or(2, direction::kInput)),
       size_(call.integer_or(3, 0)) {
   if (call.given(4)) set_value(call.raw(4));
 }
 
 Parameter::Parameter(const ProcedureParameter& described)
-    : name_(described.name), type_(described.type), direction_(described.direction), size_(described.size) {}
+    : name_(described.name),
+      type_(described.type),
+      direction_(described.direction),
+      size_(described.size),
+      precision_(described.precision),
+      scale_(described.scale) {}
 
-bool Parameter::is_input() const { return direction_ == kInput; }
-
-bool Parameter::is_return_value() const { return direction_ == kReturnValue; }
+bool Parameter::is_input() const { return direction_ == direction::kInput; }
 
 bool Parameter::defined() const {
   const DataType* type = data_type(type_);

@@ -15,9 +15,9 @@ class Parameter : public DispatchObject {
 
   const Text& name() const { return name_; }
   const Value& value() const { return value_; }
+  ProcedureArgument as_argument() const { return {type_, size_, direction_, precision_, scale_, value_}; }
   void take_output(const Value& value);  // converted as any other value
   bool is_input() const;
-  bool is_return_value() const;
   bool defined() const;  // enough is known of it to send it
 
  private:
@@ -26,7 +26,7 @@ class Parameter : public DispatchObject {
 
   Text name_;
   std::int32_t type_ = 0;
-  std::int32_t direction_ = 1;
+  std::int32_t direction_ = direction::kInput;
   std::int32_t size_ = 0;
   std::int32_t precision_ = 0;
   std::int32_t scale_ = 0;

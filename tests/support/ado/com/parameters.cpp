@@ -42,9 +42,10 @@ class Parameters : public Collection {
   void refresh() {
     trace(u"Parameters.Refresh");
     const AdoCommandState& state = parts_->state;
-    const StoredProcedure procedure(state.open_session(), state.text(), state.timeout());
     std::vector<Ref<Parameter>> described;
-    for (const ProcedureParameter& each : procedure.parameters()) described.push_back(make<Parameter>(each));
+    for (const ProcedureParameter& each : procedure_parameters(state.open_session(), state.text(), state.timeout())) {
+      described.push_back(make<Parameter>(each));
+    }
     parts_->parameters = std::move(described);
   }
 
