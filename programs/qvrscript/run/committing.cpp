@@ -16,6 +16,17 @@ bool begins_statement(const Script& script, const std::vector<Word>& words, std:
   return script.text().substr(end, words[at].begin - end).find(u';') != TextView::npos;
 }
 
+// Whether this statement commits where DDL does. Oracle has DDL alone; the others are MariaDB's, whose temporary tables
+// are none.
+bool commits_like_ddl(const Script& script, const std::vector<Word>& words, std::size_t at, Engine engine) {
+  if (engine == Engine::Oracle) return is_ddl(words, at);
+  if (words_are(words, at, {u"CREATE", u"TEMPORARY"}) || words_are(words, at, {u"DROP", u"TEMPORARY"})) return false;
+  const bool alone = at + 1 == words.size() || begins_statement(script, words, at + 1);
+  return is_ddl(words, at) || (alone && words_are(words, at, {u"BEGIN"})) ||
+         words_are(words, at, {u"BEGIN", u"WORK"}) || words_are(words, at, {u"START", u"TRANSACTION"}) ||
+         words_are(words, at, {u"SET", u"AUTOCOMMIT"}) || words_are(words, at, {u"LOCK", u"TABLES"});
+}
+
 // The first statement that ends the transaction; empty where none does. A module's statements run when it is called.
 Text ending_statement(TextView command, Engine engine, bool ddl) {
   const Script script(to_utf8(command), engine, thread_state().platform().files);
@@ -25,8 +36,9 @@ Text ending_statement(TextView command, Engine engine, bool ddl) {
     if (!begins_statement(script, words, at)) continue;
     const TextView word = words[at].text;
     if (equal_no_case(word, u"COMMIT") || equal_no_case(word, u"ROLLBACK")) return Text(word);
-    if (ddl && is_ddl(words, at)) {
-      return at + 1 < words.size() ? join({word, u" ", words[at + 1].text}) : Text(word);
+    if (ddl && commits_like_ddl(script, words, at, engine)) {
+      const bool alone = at + 1 == words.size() || begins_statement(script, words, at + 1);
+      return alone ? Text(word) : join({word, u" ", words[at + 1].text});
     }
     if (module) break;
   }

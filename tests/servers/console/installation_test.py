@@ -89,6 +89,14 @@ class Server(unittest.TestCase):
         tables = "select count(*) from information_schema.tables where table_name in ('T', 't')"
         self.assertEqual(self.ask(tables), 1 if MARIADB else 0)
 
+    def test_a_begin_of_the_scripts_own_is_no_rehearsal(self):
+        with pyodbc.connect(DRIVER, autocommit=True) as session:
+            session.execute("create table T(N int)")
+        script = self.write("insert into T values(1)\nGO\nbegin\nGO\nnonsense\nGO\n")
+        self.assertEqual(self.last_line(1, "run", script), "qvrscript: failed after 2 of 3 commands; " + (
+            f"rolled back, but what ran stays up to begin in command 2 ({script}:3)" if MARIADB else "all taken back"))
+        self.assertEqual(self.ask("select count(*) from T"), 1 if MARIADB else 0)
+
     def test_what_a_command_that_is_left_out_left_is_told(self):
         with pyodbc.connect(DRIVER, autocommit=True) as session:
             session.execute("create table T(N int)")

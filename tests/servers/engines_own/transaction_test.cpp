@@ -37,6 +37,12 @@ TEST_P(EngineRunStatement, EndsTheTransactionOrIsAPartOfIt) {
 
 INSTANTIATE_TEST_SUITE_P(, EngineRunStatement, testing::ValuesIn(kStatements), row_name);
 
+TEST_F(EngineRun, DdlThatFailsCommitsToo) {
+  answer(BoxAnswer::No);
+  EXPECT_FALSE(runs({u"insert into T(N) values(1)", u"create table T(N int)"}));
+  EXPECT_EQ(numbers(), by_server<TextView>(u"1", u""));
+}
+
 TEST_F(EngineRun, ATableStaysOrIsTakenBackWithTheRun) {
   answer(BoxAnswer::No);
   EXPECT_FALSE(runs({u"create table u(N int)", u"nonsense"}));
