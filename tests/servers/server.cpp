@@ -7,6 +7,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <thread>
 
 #include "base/utf8.h"
@@ -53,7 +54,10 @@ void DatabaseServer::ask(const char* what) const {
   const std::filesystem::path folder = control_folder(), unfinished = folder / "request.unfinished",
                               answer = folder / "answer";
   std::ofstream(unfinished) << what;
-  std::filesystem::rename(unfinished, folder / "request");
+  // Wine calls a renaming failed, whose result the other side takes away at once.
+  std::error_code failed;
+  std::filesystem::rename(unfinished, folder / "request", failed);
+  if (failed && std::filesystem::exists(unfinished)) throw std::runtime_error(failed.message());
   const auto until = std::chrono::steady_clock::now() + kAnsweredWithin;
   while (!std::filesystem::exists(answer)) {
     if (std::chrono::steady_clock::now() > until) throw std::runtime_error(std::string(what) + " is not answered");

@@ -109,6 +109,10 @@ Stage::Stage(const FaultCase& played) : played_(played) {
   // The row makes room for a few more of them.
   owner.run(u"create table T(N int primary key, Filler varchar(100))");
   owner.run(u"insert into T values(0, '')");
+  if (played.fault != "lock held") {
+    // On a busy machine the fault may need its time.
+    run(by_server(u"set global innodb_lock_wait_timeout = 60", u"alter role qvr set lock_timeout = '60s'"));
+  }
   (this->*row_of(kFaults, played.fault).prepare)();
   if (played.when == kInside) hold_row();
   if (played.when == kInsideCommit) make_commits_wait();
@@ -180,9 +184,8 @@ void Stage::end() {
   holder_.reset();
   server_.start();
   server_.free_disk();
-  if (played_.fault == "time limit") {
-    run(by_server(u"set global max_statement_time = 0", u"alter role qvr reset statement_timeout"));
-  }
+  run(by_server(u"set global innodb_lock_wait_timeout = 1", u"alter role qvr reset all"));
+  if (server_.kind() == ServerKind::MariaDb) run(u"set global max_statement_time = 0");
   if (!went_wrong_.empty()) throw std::runtime_error(went_wrong_);
   if (!has_happened_) throw std::runtime_error("the run did not come to this step");
 }
@@ -245,7 +248,7 @@ void Stage::cancel_command() {
 }
 
 void Stage::set_time_limit() {
-  run(by_server(u"set global max_statement_time = 0.3", u"alter role qvr set statement_timeout = '300ms'"));
+  run(by_server(u"set global max_statement_time = 1", u"alter role qvr set statement_timeout = '1s'"));
 }
 
 // Rows without their like in another table are found at the commit.
