@@ -17,12 +17,12 @@ constexpr int kTotal = 7;  // the position of the output, from 0
 
 // What a library that asks for item 0 finds there is the first output.
 constexpr const wchar_t* kDefinition =
-    L"create or replace procedure pedido(out devuelto int, in cliente int, in nombre varchar(50), in fecha datetime, "
+    L"create procedure pedido(out devuelto int, in cliente int, in nombre varchar(50), in fecha datetime, "
     L"in urgente bit(1), in portes double, inout numero int, in nota varchar(50), out total double) "
     L"begin set devuelto = 0; set numero = numero + 1; set total = portes * 2; end";
 
 LateObject connected() {
-  const Text text = Server::here().ado_string();
+  const Text text = DatabaseServer::here().ado_string();
   LateObject connection(L"ADODB.Connection");
   require(connection.call(L"Open", {std::wstring(text.begin(), text.end())}));
   require(connection.call(L"Execute", {kDefinition}));

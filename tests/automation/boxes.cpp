@@ -25,7 +25,7 @@ Person::Person(int answer)
 Person::~Person() {
   KillTimer(nullptr, glances_);
   UnhookWindowsHookEx(hook_);
-  present_ = nullptr;
+  present_ = before_;
 }
 
 LRESULT CALLBACK Person::on_event(int code, WPARAM window, LPARAM detail) {

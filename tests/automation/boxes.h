@@ -1,4 +1,4 @@
-// Answers the message boxes of this thread and records their texts.
+// Answers the message boxes of this thread and records their texts. Of several the one who came last does.
 #pragma once
 
 #include <windows.h>
@@ -31,6 +31,7 @@ class Person {
   void answer(HWND box);
 
   static thread_local Person* present_;
+  Person* const before_ = present_;
   int answer_;
   HHOOK hook_;
   UINT_PTR glances_;

@@ -41,6 +41,7 @@ void ProcedureCalls::expect_call(const wchar_t* procedure, const Var& parameters
         Way{"early, an array variable", false, true, by_content}, Way{"late, by value", true, false, by_value},
         Way{"late, a script's variable", true, true, by_variable},
         Way{"late, an array variable", true, true, by_content}}) {
+    if (HasFailure()) return;  // each further one may show a box, and wait for it
     SCOPED_TRACE(std::string(narrow(procedure)) + ", " + way.name);
     Var variable = parameters;
     const SAFEARRAY* const before = variable.raw().parray;

@@ -100,9 +100,7 @@ const Conversion kConversions[] = {
 TEST_F(ProcedureOutputs, FitAnArrayOfOneType) {
   for_rows_here(kConversions, [&](const Conversion& row) {
     define_output(row.type.here(), row.expression);
-    const Person person;
     expect_call(L"uno", array_of({row.before}, 0, row.array), true, row.after);
-    for (const Person::Box& box : person.boxes()) ADD_FAILURE() << narrow(box.text);
   });
 }
 

@@ -21,6 +21,10 @@ const wchar_t* ByServer::here() const {
 
 ServerProcedures::ServerProcedures() : database(ado_string(server)) { connection = database.open(); }
 
+void ServerProcedures::TearDown() {
+  for (const Person::Box& box : anybody.boxes()) ADD_FAILURE() << narrow(box.text);
+}
+
 void ServerProcedures::run(const std::wstring& statement) const {
   const LateAnswer ran = connection.call(L"Execute", {statement});
   EXPECT_EQ(ran.result, S_OK) << narrow(statement) << ": " << narrow(ran.description);
