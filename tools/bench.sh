@@ -24,8 +24,8 @@ native() {
   }
 }
 
-# On one core, Wine and its server hand each other their turn at once. On two, each call of the server waits until a core
-# that sleeps is awake, which takes ten times as long as the call.
+# On one core, a program and its server, Wine's or a database's, hand each other their turn at once. On two, each call of
+# the server waits until a core that sleeps is awake, which takes several times as long as the call.
 core=$(taskset -cp $$ | grep -o '[0-9]*$')
 under_wine() {
   taskset -c "$core" "$root/tests/servers/with_server.py" --drivers "$build/drivers32" mariadb \
@@ -37,7 +37,8 @@ measure_all() {
   native "loading.$1" 5 "$build/native/bin/loading_bench"
   local server
   for server in mariadb postgresql; do
-    native "$server.$1" 2 "$root/tests/servers/with_server.py" "$server" "$build/native/bin/inserts_bench"
+    native "$server.$1" 2 taskset -c "$core" "$root/tests/servers/with_server.py" "$server" \
+      "$build/native/bin/inserts_bench"
   done
   under_wine "$1"
 }

@@ -85,15 +85,17 @@ need_drivers32() { [ -e "$build/drivers32/ready" ] || timed "setup: 32-bit drive
 make_drivers32() {
   local folder=$build/drivers32 unpacked=$build/drivers32/packages from=/usr/lib/i386-linux-gnu
   local packages="odbc-mariadb:i386 libmariadb3:i386 odbc-postgresql:i386 libpq5:i386"
+  local also="libssl3:i386 libldap-2.5-0:i386 libsasl2-2:i386"  # of what they need, what Wine does not bring along
   rm -rf "$folder"
   mkdir -p "$unpacked"
   # Where a library or a driver of the other width is in their way, they are unpacked and not installed.
   # shellcheck disable=SC2086
   apt-get install -y --no-install-recommends --no-remove $packages >>"$log" 2>&1 ||
     apt-get install -y --no-install-recommends --no-remove -t bookworm $packages >>"$log" 2>&1 ||
-    { unpack_packages "$unpacked" $packages && from=$unpacked/usr/lib/i386-linux-gnu; } ||
+    { unpack_packages "$unpacked" $packages $also && from=$unpacked/usr/lib/i386-linux-gnu; } ||
     fail "the 32-bit drivers can be neither installed nor downloaded"
-  cp -L "$from"/odbc/{libmaodbc,psqlodbcw}.so "$from"/{libmariadb.so.3,libpq.so.5} "$folder"
+  cp -L "$from"/odbc/{libmaodbc,psqlodbcw}.so "$from"/{libmariadb.so.3,libpq.so.5,libssl.so.3,libcrypto.so.3} \
+    "$from"/{libldap-2.5.so.0,liblber-2.5.so.0,libsasl2.so.2} "$folder"
   rm -rf "$unpacked"
   LD_LIBRARY_PATH=$folder ldd "$folder"/*.so* >>"$log" 2>&1 || fail "ldd does not read the 32-bit drivers"
   if LD_LIBRARY_PATH=$folder ldd "$folder"/*.so* | grep 'not found' >>"$log"; then
