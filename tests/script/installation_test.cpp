@@ -9,6 +9,7 @@
 #include "script/script_preparation.h"
 #include "session/value_convert.h"
 #include "support/rows.h"
+#include "support/run_events.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 #include "support/traced.h"
@@ -19,13 +20,6 @@ namespace {
 using tests::PrintTo;
 
 constexpr std::int32_t kFirstVersion = 10000;
-
-struct Events final : ScriptEvents {
-  void Progreso(const Text& Mensaje) noexcept override { progress.push_back(Mensaje); }
-  void Terminado(bool Exito) noexcept override { ends.push_back(Exito); }
-  std::vector<Text> progress;
-  std::vector<bool> ends;
-};
 
 class InstallationTest : public testing::Test {
  protected:
@@ -62,7 +56,7 @@ class InstallationTest : public testing::Test {
 
   TestThread thread;
   TemporaryFolder folder;
-  Events events;
+  RunEvents events;
   QVRScr runner{events};
   ScriptAccounts accounts{u"Gestión", u"Begoña", u"clave 1", u"mostrador", u"clave 2"};
 };

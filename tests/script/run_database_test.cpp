@@ -6,19 +6,13 @@
 #include "script/qvrscr.h"
 #include "services/builtin_error_report.h"
 #include "session/value_convert.h"
+#include "support/run_events.h"
 #include "support/temporary_folder.h"
 #include "support/test_thread.h"
 #include "support/traced.h"
 
 namespace qvr::tests {
 namespace {
-
-struct Events final : ScriptEvents {
-  void Progreso(const Text& Mensaje) noexcept override { progress.push_back(Mensaje); }
-  void Terminado(bool Exito) noexcept override { ends.push_back(Exito); }
-  std::vector<Text> progress;
-  std::vector<bool> ends;
-};
 
 class RunIntoDatabase : public testing::Test {
  protected:
@@ -44,7 +38,7 @@ class RunIntoDatabase : public testing::Test {
 
   TestThread thread;
   TemporaryFolder folder;
-  Events events;
+  RunEvents events;
   QVRScr runner{events};
 };
 

@@ -3,21 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "script/qvrscr.h"
 #include "servers/server.h"
 #include "servers/session.h"
+#include "support/run_events.h"
 #include "support/test_thread.h"
 
 namespace qvr::tests {
-
-struct RunEvents final : ScriptEvents {
-  void Progreso(const Text& Mensaje) noexcept override { progress.push_back(Mensaje); }
-  void Terminado(bool Exito) noexcept override { ends.push_back(Exito); }
-  std::vector<Text> progress;
-  std::vector<bool> ends;
-};
 
 class ServerRun : public testing::Test {
  protected:

@@ -24,7 +24,7 @@ Held held_natively() {
 struct WatchingEvents final : ScriptEvents {
   WatchingEvents(Watched& all, CallLog& calls) : watched(all), log(calls) {}
   void Progreso(const Text&) noexcept override {
-    log.take();  // what the test itself keeps
+    log.take();                                // what the test itself keeps
     if (told++ != 0) watched.after_command();  // the first one tells that commands are counted
   }
   void Terminado(bool Exito) noexcept override { ended = Exito; }
