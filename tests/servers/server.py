@@ -26,8 +26,9 @@ class Server(ABC):
 
     def __init__(self, full_disk: Path | None = None) -> None:
         """`full_disk` is the library that lets the disk be full."""
-        self._full_disk = full_disk
-        self.folder = Path(tempfile.mkdtemp(prefix="qvr-"))  # short: a socket's path has at most 107 bytes
+        self.folder = Path(tempfile.mkdtemp(prefix="qvr-", dir="/tmp"))  # a socket's path has at most 107 bytes
+        # A copy, as the server's user may not read the folder of the build.
+        self._full_disk = shutil.copy(full_disk, self.folder) if full_disk else None
         self._process: subprocess.Popen | None = None
         # Both servers refuse to run as root, or are better not to.
         self._as_user = {}
@@ -127,7 +128,7 @@ class Server(ABC):
     def _environment(self) -> dict[str, str]:
         environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.folder)}
         if self._full_disk:
-            environment["LD_PRELOAD"] = str(self._full_disk)
+            environment["LD_PRELOAD"] = self._full_disk
             environment["QVR_TESTS_FULL"] = str(self._full)
         return environment
 
