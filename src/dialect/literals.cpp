@@ -50,7 +50,8 @@ Text date_literal(Engine engine, const DateForm& form, const Value& value) {
 Text text_literal(Engine engine, const Text& text) {
   constexpr std::size_t kLongestInOracle = 4000;
   if (equal_no_case(text, u"AhoraSQL")) return AhoraSQL(engine);
-  // Truncated before the quotes are doubled: the engine's limit counts the characters of the value.
+  // Truncated before the quotes are doubled. These are characters; the engine's limit is as many bytes, which only the
+  // database's character set tells.
   return ComillasSQL(engine == Engine::Oracle ? TextView(text).substr(0, kLongestInOracle) : TextView(text));
 }
 
