@@ -10,7 +10,9 @@ from linked import needed
 
 SCRIPT = "fail 42S02 208 thrown by the driver\r\nGO\r\nupdate T set N = 1\r\nGO\r\n"
 STEPS = ["connect", "begin", "execute fail 42S02 208 thrown by the driver", "execute update T set N = 1", "commit",
-         "disconnect"]
+         "disconnect",
+         # A command was left out: the database is asked whether it may have forgotten what ran before.
+         "connect", "rollback", "disconnect"]
 
 
 def main():
