@@ -121,12 +121,14 @@ class Server(ABC):
 
     def _run(self, *command: str, text: str = "") -> None:
         done = subprocess.run(command, input=text, text=True, capture_output=True, cwd=self.folder,
-                              timeout=READY_WITHIN, **self._as_user)
+                              env=self._environment(), timeout=READY_WITHIN, **self._as_user)
         if done.returncode != 0:
             raise RuntimeError(f"{command[0]} ended with {done.returncode}:\n{done.stdout}{done.stderr}")
 
     def _environment(self) -> dict[str, str]:
-        environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.folder)}
+        environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.folder),
+                       # MariaDB removes the temporary tables that it finds where it has its own, whosever they are.
+                       "TMPDIR": str(self.folder)}
         if self._full_disk:
             environment["LD_PRELOAD"] = self._full_disk
             environment["QVR_TESTS_FULL"] = str(self._full)
