@@ -33,7 +33,6 @@ class RunHost {
 // What the process has of the system.
 struct Handles {
   std::size_t handles = 0, threads = 0;  // threads natively only
-  bool operator==(const Handles&) const = default;
 };
 
 Handles open_handles();
