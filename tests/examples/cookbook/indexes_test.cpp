@@ -131,6 +131,10 @@ TEST_F(MariaDbIndexes, ServeAConditionOfOnesOwnOnly) {
   session.run(recipe[0]);
   EXPECT_TRUE(range(own.query.SQL())) << plan(session, u"EXPLAIN", own.query.SQL());
   EXPECT_FALSE(range(searched(Engine::SqlServer, u"abc1*")));
+  session.run(
+      u"ALTER TABLE Clientes ADD NombreMayus VARCHAR(40) AS (UPPER(Nombre)) PERSISTENT, ADD INDEX (NombreMayus)");
+  EXPECT_FALSE(range(searched(Engine::SqlServer, u"abc1*")));
+  EXPECT_FALSE(holds(plan(session, u"EXPLAIN", searched(Engine::SqlServer, u"abc1*")), "NombreMayus"));
 }
 
 }  // namespace
