@@ -3,6 +3,7 @@ rem Takes the registration away again, before the files:  remove.cmd machine|use
 setlocal
 set options=/s /u
 if "%~1"=="machine" goto narrow
+if not "%~1"=="user" exit /b 1
 set options=/s /u /n /i:user
 :narrow
 set narrow=%SystemRoot%\SysWOW64\regsvr32.exe
