@@ -4,7 +4,8 @@ import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/manual"))
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
+sys.path[:0] = [str(TOOLS / "manual"), str(TOOLS / "contract")]
 
 from check import problems  # noqa: E402
 from declarations import declarations  # noqa: E402
@@ -12,11 +13,14 @@ from entries import Entries  # noqa: E402
 from idl import read_library  # noqa: E402
 
 IDL = """
+[
+  uuid(0), version(1.0), helpstring("A library")
+]
 library L
 {
   importlib("x.tlb");
   [uuid(1), helpstring("Kinds")] typedef enum Kinds { One = 1, Two = 2 } Kinds;
-  [object, helpstring("An interface")]
+  [object, uuid(4), helpstring("An interface")]
   interface _C : IDispatch
   {
     // a comment; [with brackets]

@@ -7,6 +7,8 @@ of examples too. The pages of a language go to FOLDER/<language>/.
 import pathlib
 import sys
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "contract"))
+
 import diagrams
 import excerpts
 from check import problems

@@ -1,4 +1,4 @@
-"""Reads the library's IDL: interfaces with their members, classes, the enumeration, the events."""
+"""Reads the library's IDL: its identifiers, interfaces with their members, classes, the enumeration, the events."""
 import re
 from dataclasses import dataclass, field
 
@@ -9,6 +9,7 @@ TOKEN = re.compile(r'//[^\n]*|"(?:[^"\\]|\\.)*"|0[xX][0-9A-Fa-f]+|\w[\w.\-]*|[^\
 class Parameter:
     name: str
     type: str  # as in the IDL, without its pointer
+    by_reference: bool
     optional: bool
     default: str | None
 
@@ -24,7 +25,7 @@ class Accessor:
 
 @dataclass
 class Member:
-    """A method, an event, or a property with its accessors."""
+    """A method, an event, or a property with its accessors in the order of their slots."""
 
     name: str
     accessors: list[Accessor] = field(default_factory=list)
@@ -40,15 +41,25 @@ class Member:
 
 @dataclass
 class Interface:
+    """A dual interface behind IDispatch, the events, or what an enumeration is called."""
+
     name: str
     help: str
+    uuid: str
+    dual: bool = False
     members: dict[str, Member] = field(default_factory=dict)
+
+    @property
+    def slots(self):
+        """Each member with one of its accessors, in the order of the slots behind IDispatch."""
+        return [(member, accessor) for member in self.members.values() for accessor in member.accessors]
 
 
 @dataclass
 class Coclass:
     name: str
     help: str
+    uuid: str
     creatable: bool
     default: str
     source: str | None
@@ -57,6 +68,10 @@ class Coclass:
 
 @dataclass
 class Library:
+    name: str
+    help: str
+    uuid: str
+    version: str
     interfaces: dict[str, Interface] = field(default_factory=dict)
     classes: dict[str, Coclass] = field(default_factory=dict)
     enums: dict[str, tuple[Interface, dict[str, str]]] = field(default_factory=dict)
@@ -110,10 +125,11 @@ def text_of(attributes):
 def read_parameter(reader):
     attributes = reader.attributes()
     kind = reader.take()
+    by_reference = reader.peek() == "*"
     while reader.peek() == "*":
         reader.take("*")
     name = reader.take()
-    parameter = Parameter(name, kind, "optional" in attributes, attributes.get("defaultvalue"))
+    parameter = Parameter(name, kind, by_reference, "optional" in attributes, attributes.get("defaultvalue"))
     return parameter, "retval" in attributes
 
 
@@ -138,7 +154,7 @@ def read_member(reader, attributes, interface):
 
 
 def read_interface(reader, attributes):
-    interface = Interface(reader.take(), text_of(attributes))
+    interface = Interface(reader.take(), text_of(attributes), attributes["uuid"], "dual" in attributes)
     reader.skip_to("{")
     while reader.peek() != "}":
         if reader.peek() in ("properties", "methods"):
@@ -165,7 +181,7 @@ def read_class(reader, attributes):
         else:
             others.append(implemented)
     reader.take("}")
-    return Coclass(name, text_of(attributes), "noncreatable" not in attributes, default, source, others)
+    return Coclass(name, text_of(attributes), attributes["uuid"], "noncreatable" not in attributes, default, source, others)
 
 
 def read_enum(reader, attributes):
@@ -179,12 +195,15 @@ def read_enum(reader, attributes):
         if reader.peek() == ",":
             reader.take(",")
     reader.skip_to(";")
-    return Interface(name, text_of(attributes)), values
+    return Interface(name, text_of(attributes), attributes["uuid"]), values
 
 
 def read_library(text):
     """Everything inside the IDL's library block."""
-    reader, library = Reader(text[text.index("\nlibrary "):]), Library()
+    reader = Reader(text[text.index("\n[\n"):])
+    attributes = reader.attributes()
+    reader.take("library")
+    library = Library(reader.take(), text_of(attributes), attributes["uuid"], attributes["version"])
     reader.skip_to("{")
     while reader.peek() != "}":
         attributes, word = reader.attributes(), reader.take()
