@@ -49,7 +49,7 @@ Function NuevaLista()
 End Function
 
 Sub Guardar(Usuario, Lista)
-  Conexion.Execute "DELETE FROM Filtros WHERE Usuario=" & Parametros.ComillasSQL(Usuario)
+  Conexion.Execute "DELETE FROM Filtros WHERE Lista='Clientes' AND Usuario=" & Parametros.ComillasSQL(Usuario)
   Conexion.Execute Parametros.SqlInsert2("Filtros", Array("Usuario", "Lista", "Version", "Texto"), _
     Array(Usuario, "Clientes", VersionLista, Lista.iSQL20_CriterioActualCompleto))
 End Sub

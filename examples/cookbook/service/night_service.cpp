@@ -1,7 +1,7 @@
 // A Windows service that runs a script when it is started, keeps a log, and waits to be stopped:
-//   night_service ID FOLDER NAME SCRIPT LOG
-// ID, FOLDER and NAME are those of a connection file, SCRIPT is a file of commands in the system's code page. Started
-// by hand it does the same once and ends. Builds with mingw-w64 and needs advapi32, ole32, oleaut32, user32 and uuid.
+//   night_service FOLDER NAME SCRIPT LOG
+// FOLDER and NAME are those of a connection file, SCRIPT is a file of commands in UTF-8. Started by hand it does the
+// same once and ends. Builds with mingw-w64 and needs advapi32, ole32, oleaut32, user32 and uuid.
 
 #include <fstream>
 #include <iterator>
@@ -11,8 +11,10 @@
 
 namespace {
 
+constexpr const wchar_t* kId = L"cuentas";  // of the connection file; command lines can be read by others
+
 struct Job {
-  _bstr_t id, folder, name;
+  _bstr_t folder, name;
   std::wstring script, log;
 } job;
 
@@ -36,7 +38,7 @@ std::wstring commands() {
 
 bool run_script() {
   const Object parameters(L"QVRlib21.QVRcfp");
-  if (!parameters.truth(L"Crear", {job.id, job.folder, job.name})) {
+  if (!parameters.truth(L"Crear", {kId, job.folder, job.name})) {
     say(L"no connection file");
     return false;
   }
@@ -46,8 +48,8 @@ bool run_script() {
   });
   const Object script(L"QVRlib21.QVRScr");
   const Subscription subscription(script, sink);
-  return script.truth(L"EjecutarComandos", {job.id, parameters.call(L"MotorBD"), commands().c_str(),
-                                            parameters.call(L"CadenaADO", {job.id, true})});
+  return script.truth(L"EjecutarComandos", {kId, parameters.call(L"MotorBD"), commands().c_str(),
+                                            parameters.call(L"CadenaADO", {kId, true})});
 }
 
 // An apartment's messages have to be processed while its thread waits.
@@ -100,8 +102,8 @@ void WINAPI service_main(DWORD, wchar_t**) {
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-  if (count != 6) return 2;
-  job = {arguments[1], arguments[2], arguments[3], arguments[4], arguments[5]};
+  if (count != 5) return 2;
+  job = {arguments[1], arguments[2], arguments[3], arguments[4]};
   stop = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   wchar_t name[] = L"";  // a process with one service needs none
   const SERVICE_TABLE_ENTRYW services[] = {{name, service_main}, {nullptr, nullptr}};
