@@ -59,6 +59,7 @@ version() { wine "$system\\cscript.exe" //nologo "$(windows_path "$work/version.
 # Whatever an earlier test that was ended left.
 batch remove machine >"$work/log"
 batch remove user >"$work/log"
+wine sc delete Cuentas >"$work/log" 2>&1 || true
 {
   installed 'before' 0
   installed 'for the machine' "$(batch install machine)"
