@@ -1121,14 +1121,15 @@ class QVRScr {
 
   // Runs commands separated by GO lines in one transaction; True when the list ran to its end.
   bool EjecutarComandos(std::wstring_view ID, long MotorBD, std::wstring_view TextosComandos,
-                        std::wstring_view CadenaConexion, std::wstring_view TextoMostrar = {}) const {
+                        std::wstring_view CadenaConexion, std::wstring* TextoMostrar = nullptr) const {
     detail::Text ID_(ID);
     detail::Text TextosComandos_(TextosComandos);
     detail::Text CadenaConexion_(CadenaConexion);
-    detail::Text TextoMostrar_(TextoMostrar);
+    detail::Text TextoMostrar_(TextoMostrar != nullptr ? *TextoMostrar : L"");
     VARIANT_BOOL answer = VARIANT_FALSE;
     detail::check(object_->EjecutarComandos(ID_.address(), &MotorBD, TextosComandos_.address(),
                                             CadenaConexion_.address(), TextoMostrar_.address(), &answer));
+    if (TextoMostrar != nullptr) *TextoMostrar = TextoMostrar_.copy();
     return answer != VARIANT_FALSE;
   }
   // Runs one command on an open connection; False after the failure was reported.

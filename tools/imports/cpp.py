@@ -24,8 +24,8 @@ RESULT = {"BSTR": ("std::wstring", "detail::Text answer;", "answer.address()", "
 # ADO's constants of the one enumeration in the library's signatures.
 DIRECTIONS = {"adParamUnknown": 0, "adParamInput": 1, "adParamOutput": 2, "adParamInputOutput": 3,
               "adParamReturnValue": 4}
-# The only arguments by which the library answers: the values of a procedure's outputs.
-CHANGED = {("EjecutarProcSQL7", "Parametros")}
+# The only arguments by which the library answers: the values of a procedure's outputs, and the text that was shown.
+CHANGED = {("EjecutarProcSQL7", "Parametros"), ("EjecutarComandos", "TextoMostrar")}
 
 
 def guid(text):
@@ -65,14 +65,18 @@ def default_of(parameter):
     return f" = {parameter.default}" if parameter.default else " = {}"
 
 
+def is_changed(member, parameter):
+    return (member.name, parameter.name) in CHANGED
+
+
 def given(member, parameter):
-    if (member.name, parameter.name) in CHANGED:
-        return f"Value& {parameter.name}"
+    if is_changed(member, parameter):
+        return f"Value& {parameter.name}" if parameter.type == "VARIANT" else f"std::wstring* {parameter.name} = nullptr"
     return f"{GIVEN[parameter.type]} {parameter.name}{default_of(parameter)}"
 
 
 def argument(member, parameter):
-    if (member.name, parameter.name) in CHANGED:
+    if is_changed(member, parameter) and parameter.type == "VARIANT":
         return f"{parameter.name}.address()"
     if not parameter.by_reference:
         return {"BSTR": "{0}_.get()", "VARIANT": "{0}.get()"}.get(parameter.type, "{0}").format(parameter.name)
@@ -80,9 +84,18 @@ def argument(member, parameter):
 
 
 def local(member, parameter):
-    if (member.name, parameter.name) in CHANGED or parameter.type == "VARIANT" and not parameter.by_reference:
+    if is_changed(member, parameter):
+        name = parameter.name
+        return None if parameter.type == "VARIANT" else f"detail::Text {name}_({name} != nullptr ? *{name} : L\"\");"
+    if parameter.type == "VARIANT" and not parameter.by_reference:
         return None
     return LOCAL.get(parameter.type, "").format(parameter.name) or None
+
+
+def taken_back(member, parameter):
+    if is_changed(member, parameter) and parameter.type == "BSTR":
+        return f"if ({parameter.name} != nullptr) *{parameter.name} = {parameter.name}_.copy();"
+    return None
 
 
 def method(member, accessor, pointer, name):
@@ -92,6 +105,7 @@ def method(member, accessor, pointer, name):
     lines += [each for each in [*(local(member, each) for each in accessor.parameters), declared] if each]
     arguments = [argument(member, each) for each in accessor.parameters] + ([address] if address else [])
     lines.append(f"detail::check({pointer}->{slot_name(member, accessor)}({', '.join(arguments)}));")
+    lines += [each for each in (taken_back(member, each) for each in accessor.parameters) if each]
     return lines + ([f"return {answer};"] if answer else []) + ["}"]
 
 
