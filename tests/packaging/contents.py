@@ -16,7 +16,7 @@ import linked  # noqa: E402
 BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
         "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
-    "include/QVRlib21.h", "include/adodb25.h", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
+    "imports/cpp/QVRlib21.hpp", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
     "examples/cookbook/list_form.vbs",
     "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
