@@ -436,7 +436,7 @@ void CommandLine::Description::add_doctor() {
   add_connection(command, doctor.connection);
   add_engine(command, "That database's engine (MotorBD); else that of the connection file, or\njet", doctor.engine)
       ->group(kConnectionGroup);
-  for (const char* name : {"--connection", "--connection-env", "--cfp", "--engine"}) {
+  for (const char* name : {"--connection", "--connection-env", "--cfp", "--connect-timeout", "--engine"}) {
     command.get_option(name)->needs(tries);
   }
   add_text(command, "--report", "FILE", "Writes all of it to a file that can be sent, the steps with their times",

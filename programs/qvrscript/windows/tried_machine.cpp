@@ -184,9 +184,10 @@ class AutomationMachine final : public TriedMachine {
     return windows::listening(*dispatch_of(runner).Get(), DIID___QVRScr, std::move(heard));
   }
 
-  bool answers_boxes() override {
-    return boxes_.hooked() && qvr::windows::has_visible_desktop() &&
-           !com::registered_class(com::ComErrorReport::kProgramId);
+  Boxes boxes() override {
+    if (com::registered_class(com::ComErrorReport::kProgramId)) return Boxes::Elsewhere;
+    if (!qvr::windows::has_visible_desktop()) return Boxes::TakenAsNo;
+    return boxes_.hooked() ? Boxes::Answered : Boxes::Elsewhere;
   }
   void answer_questions(bool yes) override { boxes_.answer(yes); }
 

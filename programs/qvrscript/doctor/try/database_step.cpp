@@ -31,6 +31,8 @@ void make_with_adox(Trial& trial, TextView provider) {
   const Tried catalog = Tried::of_ado(trial.machine, u"ADOX.Catalog");
   catalog.call(u"Create", {trial.connection_string});
   catalog.object(u"ActiveConnection").call(u"Close");
+  // A pooled connection would keep the file open, which then cannot be removed.
+  trial.connection_string += u";OLE DB Services=-4";
 }
 
 void make_with_local_server(Trial& trial, TextView provider) {

@@ -96,8 +96,9 @@ StepAnswer try_classes(Trial& trial) {
     try {
       try_class(trial, row);
     } catch (const RuntimeFailure& failure) {
+      trial.without_library = names.empty();
       throw StepFailure({row.name, u", ", trial.machine.way(), u": expected an object that answers ", row.member,
-                         u", came failure ", decimal(failure.detail().number), u" ", failure.detail().description});
+                         u", came ", failure_text(failure.detail())});
     }
     names.emplace_back(row.name);
   }

@@ -59,14 +59,20 @@ void expect_progress(std::vector<Text> texts) {
 
 StepAnswer try_failing_script(Trial& trial) {
   if (trial.connection_string.empty()) return without_database();
-  if (!trial.machine.answers_boxes()) {
-    return {Level::Note, u"Not tried: the library's boxes cannot be answered here",
-            u"Run it in a user's session; a registered QVRServicios.InformeErrores shows boxes of its own."};
+  const Boxes boxes = trial.machine.boxes();
+  if (boxes == Boxes::Elsewhere) {
+    return {Level::Note, u"Not tried: QVRServicios.InformeErrores, or the system, shows boxes that nobody answers here",
+            u"Run a script with a mistake in the application itself."};
   }
   run_with_failure(trial, false);
+  if (boxes == Boxes::TakenAsNo) {
+    return {Level::Note,
+            u"A script with a failing command was taken back whole; without a desktop no other answer comes",
+            u"To have the other answer tried too, run it in a user's session."};
+  }
   run_with_failure(trial, true);
   execute(trial, join({u"DELETE FROM ", trial.table}));
-  return {Level::Ok, u"A script with a failing command was taken back whole, and run on without it, as answered"};
+  return {Level::Ok, u"A script with a failing command was taken back whole, and went on without it, as was answered"};
 }
 
 StepAnswer try_events(Trial& trial) {
@@ -85,7 +91,7 @@ StepAnswer try_procedure(Trial& trial) {
   if (trial.connection_string.empty()) return without_database();
   if (trial.engine != Engine::SqlServer) {
     return {Level::Note, u"Not tried: this engine has no procedures that EjecutarProcSQL7 calls",
-            u"SQL Server LocalDB, or a database of SQL Server that is given, has them."};
+            u"Give a database of SQL Server, with --engine sqlserver."};
   }
   const Text name = join({u"qvrscript_try_p_", trial.mark});
   execute(trial, join({u"CREATE PROCEDURE ", name, u" @uno INT, @dos INT OUTPUT AS SET @dos = @uno + 1; RETURN 0"}));

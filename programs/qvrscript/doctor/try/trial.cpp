@@ -26,10 +26,6 @@ constexpr Step kSteps[] = {
     {"try events", try_events},   {"try procedure", try_procedure},
 };
 
-Text failure_text(const FailureDetail& failure) {
-  return join({u"failure ", decimal(failure.number), failure.description.empty() ? u"" : u": ", failure.description});
-}
-
 // Calls and tells what went wrong; the empty text where nothing did.
 template <class Call>
 Text trouble_of(Call&& call) {
@@ -46,6 +42,9 @@ Text trouble_of(Call&& call) {
 }
 
 Diagnosis diagnosis_of(const Step& step, Trial& trial) {
+  if (trial.without_library && step.run != try_database) {
+    return {Level::Note, step.subject, u"Not tried: the library cannot be created", u"See the line of the classes."};
+  }
   StepAnswer answer;
   const Text trouble = trouble_of([&] { answer = step.run(trial); });
   if (!trouble.empty()) return {Level::Error, step.subject, trouble, Text(kKeepReport)};
@@ -88,6 +87,13 @@ Diagnosis tidied(Trial& trial) {
 }
 
 }  // namespace
+
+// The system's failures are known by their hexadecimal numbers.
+Text failure_text(const FailureDetail& failure) {
+  const Text number = failure.number >= 0 ? decimal(failure.number)
+                                          : u"0x" + hexadecimal(static_cast<std::uint32_t>(failure.number), 8);
+  return join({u"failure ", number, failure.description.empty() ? u"" : u": ", failure.description});
+}
 
 void expect_text(TextView what, TextView expected, TextView came) {
   if (came != expected) throw StepFailure({what, u": expected ", expected, u", came ", came});

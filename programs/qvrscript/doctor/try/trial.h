@@ -24,6 +24,7 @@ struct Trial {
   const Text folder;                   // for files, removed at the end
   const Text mark;                     // part of every name, so that no other trial has it
 
+  bool without_library = false;
   // Of the database step; empty where there is no database.
   Text connection_string{};
   Engine engine = Engine::None;
@@ -53,6 +54,8 @@ void expect_text(TextView what, TextView expected, TextView came);
 void expect_value(TextView what, const Value& expected, const Value& came);
 // A value for output: True, 12, "text", Empty ...
 Text shown_value(const Value& value);
+
+Text failure_text(const FailureDetail& failure);
 
 // Members of an object.
 class Tried {

@@ -11,6 +11,10 @@ namespace qvr::script_tool {
 
 enum class Access { Call, Get, Put };
 
+// What becomes of the library's boxes: they are answered, or without a desktop questions are taken as No, or another
+// component shows some, which nobody answers.
+enum class Boxes { Answered, TakenAsNo, Elsewhere };
+
 // Every member throws RuntimeFailure with the failure of the object, or of its creation.
 class TriedMachine {
  public:
@@ -33,9 +37,8 @@ class TriedMachine {
   // Until the answer ends.
   virtual std::shared_ptr<void> listen(const Value& runner, Heard heard) = 0;
 
-  // Boxes are answered while this lives, questions as told here; the first answer is No. False where questions cannot
-  // be answered: no box is shown there, or another component shows it.
-  virtual bool answers_boxes() = 0;
+  // Boxes are answered while this lives, questions as told here; the first answer is No.
+  virtual Boxes boxes() = 0;
   virtual void answer_questions(bool yes) = 0;
 
   virtual Text locale_name() = 0;
