@@ -1,5 +1,4 @@
 // The steps that need the library alone.
-#include <filesystem>
 #include <fstream>
 
 #include "qvrscript/doctor/try/trial.h"
