@@ -54,4 +54,7 @@ host jscript "$events|^By reference:" "$system\\cscript.exe" //nologo "$sources\
 host cpp-early '^$' "$bin\\hosts_early.exe"
 host cpp-late '^$' "$bin\\hosts_late.exe"
 # There is no cross compiler for 32 bits.
-[ "$width" = 32 ] || host pascal '^$' "$bin\\hosts_pascal.exe"
+if [ "$width" = 64 ]; then
+  host pascal-late '^$' "$bin\\hosts_pascal_late.exe"
+  host pascal-early '^$' "$bin\\hosts_pascal_early.exe"
+fi

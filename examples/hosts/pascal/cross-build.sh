@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Builds the Pascal host for 64-bit Windows on Debian. The compiler's packages have no units of that system, so they are
-# compiled from its sources, into a folder that serves the next time too. Usage: cross-build.sh UNITS PROGRAM
+# Builds a Pascal program for 64-bit Windows on Debian, with the library's unit and those in the program's folder. The
+# compiler's packages have no units of that system, so they are compiled from its sources, into a folder that serves the
+# next time too. Usage: cross-build.sh UNITS SOURCE PROGRAM
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 units=$1
-program=$2
+source=$2
+program=$3
 free_pascal=$(find /usr/share/fpcsrc -mindepth 1 -maxdepth 1 -type d | sort -V | tail -n 1)
 [ -n "$free_pascal" ] || { echo "no sources of Free Pascal: install fpc-source" >&2; exit 1; }
 rtl=$free_pascal/rtl
@@ -35,4 +37,4 @@ for each in winunits-base rtl-objpas/src/inc rtl-objpas/src/win fcl-registry fcl
   [[ $each == */* ]] || each=$each/src
   folders+=("-Fu$packages/$each" "-Fi$packages/$each")
 done
-compile "${folders[@]}" -Fu"$here" -o"$program" "$here/hosts.pas"
+compile "${folders[@]}" -Fu"$(dirname "$source")" -Fu"$here/../../../imports/pascal" -o"$program" "$source"
