@@ -104,6 +104,22 @@ make_drivers32() {
   touch "$folder/ready"
 }
 
+# Free Pascal's compiler for 32-bit processors, which cannot be installed beside the other one. It makes 32-bit Windows
+# programs from the same sources.
+need_pascal32() { [ -e "$build/pascal32/ready" ] || timed "setup: 32-bit Free Pascal" make_pascal32; }
+
+make_pascal32() {
+  local folder=$build/pascal32 version
+  rm -rf "$folder"
+  mkdir -p "$folder/packages"
+  version=$(find /usr/share/fpcsrc -mindepth 1 -maxdepth 1 -type d -printf '%f\n' | sort -V | tail -n 1)
+  unpack_packages "$folder/packages" "fp-compiler-$version:i386" || fail "32-bit Free Pascal cannot be downloaded"
+  find "$folder/packages" -name ppc386 -type f -exec cp {} "$folder" \;
+  rm -rf "$folder/packages"
+  "$folder/ppc386" -iV >>"$log" 2>&1 || fail "32-bit Free Pascal does not run"
+  touch "$folder/ready"
+}
+
 # unpack_packages FOLDER PACKAGE...
 unpack_packages() {
   local folder=$1 each

@@ -7,6 +7,7 @@ began=$SECONDS
 need windows win64 native bench clang tests manual browser servers
 need_wine wine-core wine64
 need_drivers32
+need_pascal32
 
 results=$build/test-results
 mkdir -p "$results"

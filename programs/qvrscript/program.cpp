@@ -51,7 +51,7 @@ struct Commands {
     return exit_code::kDone;
   }
   int operator()(const CheckRequest& check) const { return script_tool::check(check, request, console); }
-  int operator()(const DoctorRequest&) const { return doctor(request, console); }
+  int operator()(const DoctorRequest& asked) const { return doctor(asked, request, surroundings, console); }
   int operator()(const RunRequest& run) const { return script_tool::run(run, request, surroundings, console); }
   int operator()(const LoadRequest& load) const { return install_or_update(load, request, surroundings, console); }
   int operator()(const CfpNewRequest& cfp) const { return cfp_new(cfp, request, surroundings, console); }

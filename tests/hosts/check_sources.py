@@ -67,4 +67,5 @@ def main(idl, hosts):
     return 1 if found else 0
 
 
-sys.exit(main(*sys.argv[1:]))
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

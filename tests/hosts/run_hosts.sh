@@ -53,5 +53,5 @@ host vbscript "$events" "$system\\cscript.exe" //nologo "$sources\\vbscript\\hos
 host jscript "$events|^By reference:" "$system\\cscript.exe" //nologo "$sources\\jscript\\hosts.js"
 host cpp-early '^$' "$bin\\hosts_early.exe"
 host cpp-late '^$' "$bin\\hosts_late.exe"
-# There is no cross compiler for 32 bits.
-[ "$width" = 32 ] || host pascal '^$' "$bin\\hosts_pascal.exe"
+host pascal-late '^$' "$bin\\hosts_pascal_late.exe"
+host pascal-early '^$' "$bin\\hosts_pascal_early.exe"

@@ -16,8 +16,9 @@ import linked  # noqa: E402
 BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
         "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
-    "include/QVRlib21.h", "include/adodb25.h", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
+    "imports/cpp/QVRlib21.hpp", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
+    "examples/cookbook/list_form.vbs",
     "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
 PAGES = ["README.md", "LEAME.md"]
 MACHINES = {0x14C: 32, 0x8664: 64}
@@ -75,8 +76,8 @@ def problems(files, source):
                 yield f"{name} has symbols"
         if name == "linux/qvrscript":
             yield from linux_problems(data, {page: files[page].decode() for page in PAGES})
-        if name.endswith((".bas", ".cls")) and data.count(b"\n") != data.count(b"\r\n"):
-            yield f"{name} has lines that do not end in CR LF, which Visual Basic's editor does not read"
+        if name.endswith((".bas", ".cls", ".cmd")) and data.count(b"\n") != data.count(b"\r\n"):
+            yield f"{name} has lines that do not end in CR LF, which Visual Basic's editor and labels of batch files need"
         if name.endswith(".md"):
             yield from broken_links(files, name)
 

@@ -10,10 +10,12 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools/contract"))
 
+import cpp  # noqa: E402
+import pascal  # noqa: E402
 from idl import read_library  # noqa: E402
 
 # The files by their path below imports/.
-WRITERS = {}
+WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "pascal/QVRlib21_TLB.pas": pascal.source}
 
 
 def differing(library, check):

@@ -122,6 +122,7 @@ struct CommandLine::Description {
   CfpCheckRequest cfp_check;
   CfpRekeyRequest cfp_rekey;
   CfpTestRequest cfp_test;
+  DoctorRequest doctor;
 
   Description();
   CLI::App& add_command(CLI::App& parent, const char* name, const char* what, const char* examples);
@@ -133,6 +134,7 @@ struct CommandLine::Description {
   void add_load(LoadRequest& load, const char* name, const char* what, const char* examples);
   void add_check();
   void add_cfp_commands();
+  void add_doctor();
   void add_others();
 };
 
@@ -426,14 +428,29 @@ void CommandLine::Description::add_cfp_commands() {
       ->option_text("SECONDS");
 }
 
-void CommandLine::Description::add_others() {
-  CLI::App& doctor = add_command(app, "doctor", "Tells what this machine lacks for the library, and what to do",
-                                 examples::kDoctor);
-  add_output(doctor, {{"text", Format::Text}, {"json", Format::Json}});
-  doctor.final_callback([this] {
-    request.what = DoctorRequest{};
+void CommandLine::Description::add_doctor() {
+  CLI::App& command = add_command(app, "doctor", "Tells what this machine lacks for the library, and what to do",
+                                  examples::kDoctor);
+  auto* const tries = command.add_flag("--try", doctor.tries,
+                                       "Uses the library as applications do, and leaves nothing behind");
+  add_connection(command, doctor.connection);
+  add_engine(command, "That database's engine (MotorBD); else that of the connection file, or\njet", doctor.engine)
+      ->group(kConnectionGroup);
+  for (const char* name : {"--connection", "--connection-env", "--cfp", "--connect-timeout", "--engine"}) {
+    command.get_option(name)->needs(tries);
+  }
+  add_text(command, "--report", "FILE", "Writes all of it to a file that can be sent, the steps with their times",
+           doctor.report)
+      ->group(kOutputGroup);
+  add_output(command, {{"text", Format::Text}, {"json", Format::Json}});
+  command.final_callback([this] {
+    request.what = std::move(doctor);
     request.command = u"doctor";
   });
+}
+
+void CommandLine::Description::add_others() {
+  add_doctor();
   // For those who package the program: no help shows them.
   constexpr const char* kHidden = "";
   add_command(app, "manual-page", "Prints the manual page", "").group(kHidden)->final_callback([this] {

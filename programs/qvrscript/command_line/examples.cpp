@@ -119,7 +119,14 @@ const char* const kDoctor =
 Run the qvrscript.exe of the width that the application has. A note is worth knowing and fails nothing. Nothing is
 changed, and no connection is opened. Elsewhere than on Windows only process and language can be told.
 
-Exit codes: 0 no errors, 1 errors found, 2 the command line.)";
+  qvrscript doctor --try --report report.txt
+  qvrscript doctor --try --connection-env GESTION_CONNECTION --engine sqlserver
+
+With --try the library is used as applications use it: classes by name and by interface, a connection file, values,
+queries, a database, a script with a mistake, events, a procedure. It makes an empty database with Jet or ACE, SQL
+Server LocalDB or SQLite, or works in a table of its own in the database that is given, and takes all of it away again.
+
+Exit codes: 0 no errors, 1 errors found, 2 the command line, 130 interrupted.)";
 
 std::string check() { return kCheckFirst + rules_by_group() + kCheckLast; }
 

@@ -103,7 +103,12 @@ struct CfpTestRequest {
   ConnectionChoice connection;  // a connection file
 };
 
-struct DoctorRequest {};
+struct DoctorRequest {
+  bool tries = false;                          // uses the library
+  std::optional<ConnectionChoice> connection;  // the database that the trial uses
+  Engine engine = Engine::None;                // of that database
+  std::optional<Text> report;
+};
 
 // A text to show: the help of one command or of all, the version, the manual page, a shell's completion.
 struct TextRequest {

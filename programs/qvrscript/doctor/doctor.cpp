@@ -2,11 +2,17 @@
 
 #include <algorithm>
 
+#include "qvrscript/connection/connection.h"
 #include "qvrscript/doctor/doctor_subjects.h"
+
+#include "qvrscript/doctor/report.h"
+#include "qvrscript/doctor/try/trial.h"
 #include "qvrscript/output/json.h"
 
 namespace qvr::script_tool {
 namespace {
+
+constexpr std::int32_t kConnectTimeout = 15;  // in seconds, where no connection is given
 
 void diagnose_process(const Facts& facts, Diagnoses& found) {
   found.of("process");
@@ -18,36 +24,14 @@ void diagnose_process(const Facts& facts, Diagnoses& found) {
   }
 }
 
-TextView level_word(Level level) {
-  switch (level) {
-    case Level::Ok: return u"ok";
-    case Level::Note: return u"note";
-    case Level::Error: break;
-  }
-  return u"error";
-}
-
-Text padded_to(TextView text, std::size_t width) {
-  Text padded(text);
-  if (padded.size() < width) padded.resize(width, u' ');
-  return padded;
-}
-
-Text subject_text(const Diagnosis& each) { return Text(each.subject.begin(), each.subject.end()); }
-
 void write_lines(const std::vector<Diagnosis>& found, std::size_t errors, bool quiet, Console& console) {
-  constexpr std::size_t kLevelWidth = 7, kSubjectWidth = 15;
   for (const Diagnosis& each : found) {
     if (quiet && each.level != Level::Error) continue;
-    const Colour colour = each.level == Level::Error ? Colour::Red : Colour::None;
-    console.say({padded_to(level_word(each.level), kLevelWidth), padded_to(subject_text(each), kSubjectWidth),
-                 each.message},
-                colour);
-    if (!each.advice.empty()) console.say({Text(kLevelWidth + kSubjectWidth, u' '), u"-> ", each.advice});
+    const std::vector<Text> lines = lines_of(each);
+    console.say({lines.front()}, each.level == Level::Error ? Colour::Red : Colour::None);
+    for (std::size_t i = 1; i < lines.size(); ++i) console.say({lines[i]});
   }
-  if (quiet) return;
-  const Text count = errors == 0 ? Text(u"no") : decimal(static_cast<std::int64_t>(errors));
-  console.say({count, errors == 1 ? u" error" : u" errors"});
+  if (!quiet) console.say({count_of_errors(errors)});
 }
 
 void write_document(const std::vector<Diagnosis>& found, std::size_t errors, Console& console) {
@@ -86,14 +70,43 @@ std::vector<Diagnosis> diagnose(const Facts& facts) {
   return diagnoses;
 }
 
-int doctor(const Request& request, Console& console) {
-  const std::vector<Diagnosis> found = diagnose(facts_of_this_machine());
+namespace {
+
+// A time limit alone names none.
+bool names_source(const ConnectionChoice& choice) {
+  return choice.text || choice.standard_input || choice.variable || choice.cfp;
+}
+
+// Nothing after a failure of the connection file, which then stands on the error output.
+std::optional<GivenDatabase> given_database(const DoctorRequest& asked, const Surroundings& surroundings,
+                                            Console& console) {
+  const std::optional<Connection> connection = connection_of(*asked.connection, surroundings, console);
+  if (!connection) return std::nullopt;
+  Engine engine = asked.engine;
+  if (engine == Engine::None && connection->parameters) engine = connection->parameters->MotorBD;
+  return GivenDatabase{Text(TextView(connection->string)), engine == Engine::None ? Engine::Jet : engine};
+}
+
+}  // namespace
+
+int doctor(const DoctorRequest& asked, const Request& request, const Surroundings& surroundings, Console& console) {
+  std::optional<GivenDatabase> given;
+  if (asked.connection && names_source(*asked.connection)) {
+    given = given_database(asked, surroundings, console);
+    if (!given) return exit_code::kFailed;
+  }
+  std::vector<Diagnosis> found = diagnose(facts_of_this_machine());
+  TrialResult tried;
+  if (asked.tries) tried = try_library(given, asked.connection ? asked.connection->connect_timeout : kConnectTimeout);
+  if (asked.report) write_report(*asked.report, found, tried, console);
+  for (const TriedStep& each : tried.steps) found.push_back(each.diagnosis);
   const auto errors = static_cast<std::size_t>(std::ranges::count(found, Level::Error, &Diagnosis::level));
   if (request.format == Format::Json) {
     write_document(found, errors, console);
   } else {
     write_lines(found, errors, request.quiet, console);
   }
+  if (tried.interrupted) return exit_code::kInterrupted;
   return errors == 0 ? exit_code::kDone : exit_code::kFailed;
 }
 

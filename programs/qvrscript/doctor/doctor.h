@@ -7,6 +7,7 @@
 #include "qvrscript/command_line/requests.h"
 #include "qvrscript/doctor/doctor_facts.h"
 #include "qvrscript/output/console.h"
+#include "qvrscript/surroundings.h"
 
 namespace qvr::script_tool {
 
@@ -23,7 +24,7 @@ struct Diagnosis {
 // All subjects in order.
 std::vector<Diagnosis> diagnose(const Facts& facts);
 
-// Checks this machine; fails when there is an error among the findings.
-int doctor(const Request& request, Console& console);
+// Checks this machine, and tries the library where asked to; fails when there is an error among the findings.
+int doctor(const DoctorRequest& asked, const Request& request, const Surroundings& surroundings, Console& console);
 
 }  // namespace qvr::script_tool

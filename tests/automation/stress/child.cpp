@@ -24,7 +24,7 @@ Child::Child(const wchar_t* role, const std::wstring& argument) {
 
 Child::~Child() {
   if (process_ == nullptr) return;
-  TerminateProcess(process_, 9);
+  TerminateProcess(process_, kEndedFromOutside);
   WaitForSingleObject(process_, INFINITE);
   CloseHandle(process_);
 }
@@ -32,17 +32,15 @@ Child::~Child() {
 int Child::answer() {
   constexpr DWORD kLongest = 300000;
   DWORD code = 0;
-  const bool ended = begun_ && WaitForSingleObject(process_, kLongest) == WAIT_OBJECT_0;
+  const bool ended = process_ != nullptr && WaitForSingleObject(process_, kLongest) == WAIT_OBJECT_0;
   return ended && GetExitCodeProcess(process_, &code) ? static_cast<int>(code) : -1;
 }
 
-bool Child::end_after(DWORD milliseconds) {
-  if (!begun_ || WaitForSingleObject(process_, milliseconds) != WAIT_TIMEOUT) return false;
-  constexpr DWORD kEnded = 9;
-  DWORD code = 0;
-  TerminateProcess(process_, kEnded);
-  WaitForSingleObject(process_, INFINITE);
-  return GetExitCodeProcess(process_, &code) && code == kEnded;
+int Child::end_after(DWORD milliseconds) {
+  if (begun_ && WaitForSingleObject(process_, milliseconds) == WAIT_TIMEOUT) {
+    TerminateProcess(process_, kEndedFromOutside);
+  }
+  return answer();
 }
 
 }  // namespace qvr::tests

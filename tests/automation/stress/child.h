@@ -15,8 +15,11 @@ class Child {
   Child(const Child&) = delete;
   Child& operator=(const Child&) = delete;
 
-  // Lets it work so long and ends it where it is. False when it had ended by itself.
-  bool end_after(DWORD milliseconds);
+  static constexpr int kEndedFromOutside = 9;
+
+  // Lets it work so long and ends it where it is. Its exit code: that one, or its own when it had ended by itself; -1
+  // when it had not even begun.
+  int end_after(DWORD milliseconds);
 
   // Lets it work until it ends by itself: what it says then; the longest wait is five minutes.
   int answer();

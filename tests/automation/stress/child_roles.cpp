@@ -48,7 +48,11 @@ int save_again_and_again() {
   }
   const std::wstring folder = words()[2];
   for (int i = 0;; i = 1 - i) {
-    if (describe(files[i].call(L"Guardar", {L"id", folder, L"ended"}).value.raw()) != "BOOL true") return 1;
+    const std::string answer = describe(files[i].call(L"Guardar", {L"id", folder, L"ended"}).value.raw());
+    if (answer != "BOOL true") {
+      std::printf("Guardar of the %s: %s, error %lu\n", i == 0 ? "first" : "second", answer.c_str(), GetLastError());
+      return 1;
+    }
     if (i == 1) tell_begun();
   }
 }

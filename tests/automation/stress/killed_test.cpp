@@ -29,7 +29,7 @@ void end_children(const wchar_t* role, const std::wstring& argument, DWORD longe
     ASSERT_LT(round, kMostChildren) << "no child was ended in the midst, so nothing was shown";
     {
       Child child(role, argument);
-      ASSERT_TRUE(child.end_after(moments() % (longest + 1)));
+      ASSERT_EQ(child.end_after(moments() % (longest + 1)), Child::kEndedFromOutside);
     }
     half = left_half();
   }

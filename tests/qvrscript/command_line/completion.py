@@ -7,6 +7,7 @@ import tempfile
 
 COMMANDS = "check install update run cfp doctor"
 OUTPUT = "--format --json --quiet --verbose"
+CONNECTION = "--connection --connection-env --cfp --id-env --client --connect-timeout"
 EVERYTHING = ["a b.cfc", "b.cfc", "scripts"]
 
 # The words after the program's name, the last one being completed, and all that is offered.
@@ -19,7 +20,7 @@ CASES = [
     (["cfp", ""], "new show check rekey test".split()),
     (["cfp", "check", "--"], f"--help --id-env {OUTPUT}".split()),
     (["cfp", "new", ""], EVERYTHING),
-    (["doctor", "-"], f"--help -h {OUTPUT}".split()),
+    (["doctor", "-"], f"--help -h --try {CONNECTION} --engine --report {OUTPUT}".split()),
     (["doctor", "--q"], ["--quiet"]),
     (["check", ""], EVERYTHING),
     (["check", "a"], ["a b.cfc"]),

@@ -1,6 +1,6 @@
-{ The library from Free Pascal or Delphi: hosts FOLDER [PROVIDER OPTIONS]
+{ The library from Free Pascal or Delphi: hosts_late FOLDER [PROVIDER OPTIONS]
   Late-bound through OleVariant. Lists are variant arrays from 0; variables go by reference and may come back changed. }
-program Hosts;
+program HostsLate;
 
 {$ifdef FPC}{$mode delphi}{$H+}{$endif}
 {$apptype console}
@@ -142,7 +142,7 @@ end;
 begin
   if (ParamCount <> 1) and (ParamCount <> 3) then
   begin
-    WriteLn('usage: hosts FOLDER [PROVIDER OPTIONS]');
+    WriteLn('usage: hosts_late FOLDER [PROVIDER OPTIONS]');
     Halt(2);
   end;
   Folder := WideString(ParamStr(1));

@@ -1,0 +1,2 @@
+CREATE INDEX ClientesNombre ON Clientes (UPPER(Nombre))
+GO

@@ -1,0 +1,4 @@
+CREATE TABLE Clientes (Id INTEGER PRIMARY KEY, Nombre VARCHAR(40) COLLATE NOCASE)
+GO
+CREATE INDEX ClientesNombre ON Clientes (Nombre)
+GO

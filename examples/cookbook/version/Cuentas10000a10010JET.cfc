@@ -1,0 +1,4 @@
+ALTER TABLE Cuentas ADD Saldo DECIMAL(15,2)
+GO
+UPDATE Esquema SET Version = 10010 WHERE Version = 10000
+GO

@@ -1,0 +1,4 @@
+CREATE TABLE Apuntes (Cuenta INTEGER NOT NULL, Importe DECIMAL(15,2))
+GO
+UPDATE Esquema SET Version = 10020 WHERE Version = 10010
+GO
