@@ -27,29 +27,37 @@ commands() { awk -v width="$1" '/^ *```bat/ { inside = 1; next } /^ *```/ { insi
 blocks() { awk '/^ *```[a-z]/ { inside = 1 } inside { print } /^ *```$/ { inside = 0 }' "$1"; }
 diff <(blocks README.md) <(blocks LEAME.md)
 
-# Does what the README says, and prints what is to be compared. Of the doctor's lines these are the one about the
-# registration, which here shows as the user's, the machine's or both, and the last one.
+# Does what the README says, and prints what is to be compared. Of the trial these are its steps, with their outcome;
+# here is no engine for those that want a database. Of the doctor's lines they are the one about the registration, which
+# here shows as the user's, the machine's or both, and the last one.
 go() {
   local width=$1 system=$2 command
   mapfile -t steps < <(commands "$width" "$system")
-  [ "${#steps[@]}" = 5 ] || { echo "the README has ${#steps[@]} commands for $width-bit programs"; exit 1; }
-  run "${steps[0]}" >/dev/null
+  [ "${#steps[@]}" = 6 ] || { echo "the README has ${#steps[@]} commands for $width-bit programs"; exit 1; }
+  echo "== trial"
+  run "${steps[0]}" >"$work/trial"
+  grep -oE '^(ok|note|error) +try [a-z]+' "$work/trial"
+  run "${steps[1]}" >/dev/null
   echo "== first script, registered"
-  run "${steps[1]}" | sed 's/ *$//'
+  run "${steps[2]}" | sed 's/ *$//'
   echo "== doctor"
-  run "${steps[2]}" >"$work/doctor"
+  run "${steps[3]}" >"$work/doctor"
   grep -E '^(ok|note|error) +registration' "$work/doctor" | grep -F "$width-bit programs" |
     sed -e "s|Z:.*win$width|FOLDER|" -e 's/, for the \(user\|machine\)//' | uniq
   tail -n 1 "$work/doctor"
-  run "${steps[3]}" >/dev/null
+  run "${steps[4]}" >/dev/null
   echo "== first script, not registered any more"
-  run "${steps[1]}" | sed 's/ *$//'
+  run "${steps[2]}" | sed 's/ *$//'
   echo "== without registration"
-  run "${steps[4]}" | tail -n 1
+  run "${steps[5]}" | tail -n 1
 }
 
 # What the README says that the script prints, and what the rest prints.
 expected() {
+  echo "== trial"
+  printf 'ok     try %s\n' classes cfp values queries
+  printf 'note   try %s\n' database script events procedure
+  echo "ok     try tidying"
   echo "== first script, registered"
   awk '/^ *```text/ { inside = 1; next } /^ *```/ { inside = 0 } inside { sub(/^   /, ""); print }' README.md
   echo "== doctor"
