@@ -66,6 +66,11 @@ std::int32_t version_of(TextView value) {
   return version;
 }
 
+// A time limit alone is no connection.
+void drop_without_source(std::optional<ConnectionChoice>& connection) {
+  if (connection && !connection->names_source()) connection.reset();
+}
+
 std::int32_t seconds_of(TextView value) {
   constexpr std::size_t kMostDigits = 5;  // more than a day
   if (!all_digits(value) || value.size() > kMostDigits) {
@@ -262,6 +267,7 @@ void CommandLine::Description::add_run() {
   add_run_options(command, run.options);
   add_text(command, "FILE", "", "The script", run.file)->required();
   command.final_callback([this] {
+    drop_without_source(run.options.connection);
     if (!run.options.connection) {
       throw UsageFailure({u"run wants a connection: --connection, --connection-env or --cfp"});
     }
@@ -329,6 +335,7 @@ void CommandLine::Description::add_load(LoadRequest& load, const char* name, con
     require_plain_name(load.name);
     const TextView word = load.update ? u"update" : u"install";
     if (load.update && !load.from && !load.from_query) throw UsageFailure({u"update wants --from or --from-query"});
+    drop_without_source(load.options.connection);
     if (!load.options.connection && (load.from_query || (!load.plan && !load.out))) {
       throw UsageFailure({word, u" wants a connection: --connection, --connection-env or --cfp",
                           load.from_query ? u"" : u"; or --plan, or --out"});

@@ -30,6 +30,9 @@ struct ConnectionChoice {
   std::optional<CfpChoice> cfp;
   bool client = false;                // the client's account of the connection file
   std::int32_t connect_timeout = 15;  // in seconds
+
+  // Whether it says where the connection string comes from; the other options say more about it only.
+  bool names_source() const { return text || standard_input || variable || cfp; }
 };
 
 struct RunOptions {

@@ -72,11 +72,6 @@ std::vector<Diagnosis> diagnose(const Facts& facts) {
 
 namespace {
 
-// A time limit alone names none.
-bool names_source(const ConnectionChoice& choice) {
-  return choice.text || choice.standard_input || choice.variable || choice.cfp;
-}
-
 // Nothing after a failure of the connection file, which then stands on the error output.
 std::optional<GivenDatabase> given_database(const DoctorRequest& asked, const Surroundings& surroundings,
                                             Console& console) {
@@ -91,7 +86,7 @@ std::optional<GivenDatabase> given_database(const DoctorRequest& asked, const Su
 
 int doctor(const DoctorRequest& asked, const Request& request, const Surroundings& surroundings, Console& console) {
   std::optional<GivenDatabase> given;
-  if (asked.connection && names_source(*asked.connection)) {
+  if (asked.connection && asked.connection->names_source()) {
     given = given_database(asked, surroundings, console);
     if (!given) return exit_code::kFailed;
   }
