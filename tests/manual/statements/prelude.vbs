@@ -2,7 +2,7 @@
 Const kFolder = "@FOLDER@", kDatabase = "@DATABASE@"
 
 Sub Print(Text)
-  WScript.Echo Text
+  WScript.Echo CStr(Text)
 End Sub
 
 ' Connection parameters of an engine: 1 Jet, 2 SQL Server, 3 Oracle.
