@@ -16,6 +16,6 @@ Function NewQuery(Engine)
   Set NewQuery = CreateObject("QVRlib21.cSQL20")
   NewQuery.iSQL20_Crear Engine, "Clientes", False, Array("C.Nombre", "T+", "P.Fecha", "F+", "P.Importe", "N>Total"), _
     "Clientes C, Pedidos P", Array("C.Id", "P.IdCliente", "L")
-  NewQuery.iSQL20_Idioma = "Español"
+  NewQuery.iSQL20_Idioma = 0
 End Function
 
