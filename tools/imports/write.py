@@ -11,11 +11,13 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools/contract"))
 
 import cpp  # noqa: E402
+import csharp  # noqa: E402
 import pascal  # noqa: E402
 from idl import read_library  # noqa: E402
 
 # The files by their path below imports/.
-WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "pascal/QVRlib21_TLB.pas": pascal.source}
+WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "csharp/QVRlib21.cs": csharp.source,
+           "pascal/QVRlib21_TLB.pas": pascal.source}
 
 
 def differing(library, check):
