@@ -5,7 +5,7 @@
 //   QVRcfp parameters = new QVRcfp();
 //   if (parameters.Crear("my application", @"C:\Data", "shop")) Open(parameters.CadenaADO("my application", true));
 //
-// C# 5 and .NET Framework 4 or any later one are enough; no reference and no interop assembly is needed. Objects are
+// C# 5 and .NET Framework 4 or any later one are enough; there is no interop assembly to reference. Objects are
 // made of the library that is registered, or that the program's manifest names. They want a thread that is [STAThread],
 // and stay on it. A call that fails throws a COMException; a member that answers false or an empty text does not. Among
 // values null is Empty, DBNull.Value is Null; a text that is null is an empty one.

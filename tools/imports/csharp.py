@@ -1,4 +1,5 @@
-"""Writes the C# import: the raw interfaces, and the classes over them, which take arguments by value."""
+"""Writes the C# import: the raw interfaces, and the classes over them, which take arguments by value; and the
+manifests of programs that use the library without registration."""
 import pathlib
 import textwrap
 from xml.sax.saxutils import escape
@@ -212,3 +213,26 @@ def source(library):
         text = text.replace(f"@{name}@", value)
     # No empty line in front of a brace that closes.
     return text.replace("\n\n    }", "\n    }").replace("\n\n}", "\n}")
+
+
+def manifest(library, architecture):
+    """What a C# compiler embeds where a project has no manifest, and the library's own as a dependency."""
+    return f"""<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+<!-- Made by tools/imports/write.py: for programs without a manifest of their own. -->
+<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">
+  <assemblyIdentity type="win32" name="MyApplication.app" version="1.0.0.0"/>
+  <dependency>
+    <dependentAssembly>
+      <assemblyIdentity type="win32" name="{library.name}.SxS" version="{library.version}.0.0" \
+processorArchitecture="{architecture}"/>
+    </dependentAssembly>
+  </dependency>
+  <trustInfo xmlns="urn:schemas-microsoft-com:asm.v2">
+    <security>
+      <requestedPrivileges xmlns="urn:schemas-microsoft-com:asm.v3">
+        <requestedExecutionLevel level="asInvoker" uiAccess="false"/>
+      </requestedPrivileges>
+    </security>
+  </trustInfo>
+</assembly>
+"""
