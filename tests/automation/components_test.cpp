@@ -85,6 +85,19 @@ TEST(TextProtectionComponent, FailsTheMembersWhenItFails) {
             (Traces{u"QVRcfp.Guardar: -2147467259 Call failed.", u"QVRcfp.Crear: 75 Path/File access error"}));
 }
 
+TEST(TextProtectionComponent, FailsTheMembersWhenItAnswersWithoutAText) {
+  on_fresh_thread([] {
+    FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"},
+                              [](auto& member, auto& arguments) {
+                                LateAnswer answer = rot(member, arguments);
+                                answer.value = Var(5);
+                                return answer;
+                              });
+    save_and_load(L"without_text", false);
+  });
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Guardar: 13 Type mismatch", u"QVRcfp.Crear: 75 Path/File access error"}));
+}
+
 TEST(TextProtectionComponent, IsNotReplacedWhenItIsRegisteredButCannotBeCreated) {
   on_fresh_thread([] {
     FamilyComponent component(L"QVRServicios.ProteccionTexto", {L"Cifrar", L"Descifrar"}, rot);
@@ -103,15 +116,17 @@ TEST(ErrorReportComponent, GetsTheFailureInsteadOfTheBox) {
       return answer;
     });
     Person person;
+    const std::wstring command = L"select " + std::wstring(1000, L'1');  // longer than a box shows
     const LateObject runner(L"QVRlib21.QVRScr");
-    EXPECT_EQ(describe(
-                  runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), L"select 1", 3}).value.raw()),
+    EXPECT_EQ(describe(runner.call(L"Ejecutar1Comando", {static_cast<IDispatch*>(nullptr), command, 3}).value.raw()),
               "BOOL false");
     EXPECT_TRUE(person.boxes().empty());
     EXPECT_EQ(component.calls(),
               std::vector<std::string>{
                   "Informar(I4 91, BSTR Object variable or With block variable not set, BSTR QVRlib21, "
-                  "I4 3, BSTR Ejecutar1Comando: select 1, {BSTR Servidor no encontrado; BSTR Registro "
+                  "I4 3, BSTR Ejecutar1Comando: " +
+                  narrow(command) +
+                  ", {BSTR Servidor no encontrado; BSTR Registro "
                   "duplicado; BSTR Error indeterminado; BSTR M\u00e9todo; BSTR Objeto})"});
   });
   EXPECT_EQ(traced(), (Traces{u"QVRScr.Ejecutar1Comando: 91 Object variable or With block variable not set"}));

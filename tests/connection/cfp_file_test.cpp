@@ -96,6 +96,21 @@ TEST_F(CfpFileTest, GivesParametersBackThroughTheBuiltInProtection) {
   EXPECT_EQ(traced(), Traces{u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key"});
 }
 
+TEST_F(CfpFileTest, IsNotReadByAnotherProtection) {
+  QVRcfp cfp;
+  ASSERT_TRUE(cfp.Asignar(u"id", sample_parameters()));
+  ASSERT_TRUE(cfp.Guardar(u"id", folder.text(), u"cheap"));
+  use_builtin_protection();
+  ASSERT_TRUE(cfp.Guardar(u"id", folder.text(), u"built in"));
+  EXPECT_FALSE(cfp.Crear(u"id", folder.text(), u"cheap"));
+  thread.make_text_protection = [] { return std::make_unique<CheapProtection>(); };
+  thread.renew();
+  EXPECT_FALSE(cfp.Crear(u"id", folder.text(), u"built in"));
+  EXPECT_TRUE(cfp.Crear(u"id", folder.text(), u"cheap"));
+  EXPECT_EQ(traced(), (Traces{u"QVRcfp.Crear: 5 The protected text is damaged or was written with another key",
+                              trace_of(u"QVRcfp.Crear", 5)}));
+}
+
 TEST_F(CfpFileTest, ShowsNoFieldInPlainText) {
   use_builtin_protection();
   QVRcfp cfp;

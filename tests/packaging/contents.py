@@ -8,6 +8,7 @@ import re
 import struct
 import sys
 import tempfile
+import xml.etree.ElementTree as ElementTree
 import zipfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "qvrscript"))
@@ -16,7 +17,8 @@ import linked  # noqa: E402
 BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
         "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
-    "imports/cpp/QVRlib21.hpp", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
+    "imports/cpp/QVRlib21.hpp", "imports/csharp/QVRlib21.cs", "imports/csharp/QVRlib21.nuspec",
+    "imports/csharp/build/QVRlib21.targets", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
     "examples/cookbook/list_form.vbs",
     "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
@@ -58,6 +60,17 @@ def broken_links(files, name):
             yield f"{name} links to {target}, which is not there"
 
 
+def nuget_problems(files, name):
+    """What the NuGet package is to be made of is there, and its version is told."""
+    package = ElementTree.fromstring(files[name])
+    if not re.fullmatch(r"\d+\.\d+\.\d+", package.findtext(".//{*}version")):
+        yield f"{name} has no version"
+    for each in package.iterfind(".//{*}file"):
+        path = posixpath.normpath(posixpath.join(posixpath.dirname(name), each.get("src").replace("\\", "/")))
+        if path not in files:
+            yield f"{name} wants {path}, which is not there"
+
+
 def problems(files, source):
     listed = dict(reversed(line.split("  ", 1)) for line in files["SHA256SUMS"].decode().splitlines())
     sums = {name: hashlib.sha256(data).hexdigest() for name, data in files.items() if name != "SHA256SUMS"}
@@ -78,6 +91,8 @@ def problems(files, source):
             yield from linux_problems(data, {page: files[page].decode() for page in PAGES})
         if name.endswith((".bas", ".cls", ".cmd")) and data.count(b"\n") != data.count(b"\r\n"):
             yield f"{name} has lines that do not end in CR LF, which Visual Basic's editor and labels of batch files need"
+        if name.endswith(".nuspec"):
+            yield from nuget_problems(files, name)
         if name.endswith(".md"):
             yield from broken_links(files, name)
 

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Writes the typed imports of every language from the IDL: write.py [--check].
 
-Each import is one file below imports/, and has a writer of its own beside this file: a function that takes the library
-and gives the file's text. With --check nothing is written; files that differ from what would be written are named.
+Each of these files below imports/ has a writer of its own beside this one: a function that takes the library and gives
+the file's text. With --check nothing is written; files that differ from what would be written are named.
 """
+import functools
 import pathlib
 import sys
 
@@ -11,11 +12,15 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools/contract"))
 
 import cpp  # noqa: E402
+import csharp  # noqa: E402
 import pascal  # noqa: E402
 from idl import read_library  # noqa: E402
 
 # The files by their path below imports/.
-WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "pascal/QVRlib21_TLB.pas": pascal.source}
+WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "csharp/QVRlib21.cs": csharp.source,
+           "csharp/build/program32.manifest": functools.partial(csharp.manifest, architecture="x86"),
+           "csharp/build/program64.manifest": functools.partial(csharp.manifest, architecture="amd64"),
+           "pascal/QVRlib21_TLB.pas": pascal.source}
 
 
 def differing(library, check):

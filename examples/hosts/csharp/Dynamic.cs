@@ -1,4 +1,4 @@
-// The library from C# without an interop assembly: Dynamic FOLDER [PROVIDER OPTIONS]
+// The library from C# by the names of its members: Dynamic FOLDER [PROVIDER OPTIONS]
 //   csc /platform:x86 Dynamic.cs        the platform is the width of the library that is registered
 using System;
 
