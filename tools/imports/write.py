@@ -14,13 +14,15 @@ sys.path.insert(0, str(ROOT / "tools/contract"))
 import cpp  # noqa: E402
 import csharp  # noqa: E402
 import pascal  # noqa: E402
+import pywin32  # noqa: E402
 from idl import read_library  # noqa: E402
 
 # The files by their path below imports/.
 WRITERS = {"cpp/QVRlib21.hpp": cpp.source, "csharp/QVRlib21.cs": csharp.source,
            "csharp/build/program32.manifest": functools.partial(csharp.manifest, architecture="x86"),
            "csharp/build/program64.manifest": functools.partial(csharp.manifest, architecture="amd64"),
-           "pascal/QVRlib21_TLB.pas": pascal.source}
+           "pascal/QVRlib21_TLB.pas": pascal.source,
+           "python/QVRlib21.py": pywin32.module, "python/QVRlib21.pyi": pywin32.stub}
 
 
 def differing(library, check):
