@@ -161,7 +161,7 @@ def class_text(coclass, library, base, stub):
     lines = [f"class {coclass.name}({base if coclass.others else '_Object'}):"]
     if stub:
         lines += ["    def __init__(self, existing: Any) -> None: ..."] if coclass.name == base else []
-        lines += ["    def __init__(self, existing: Any = ...) -> None: ..."] if coclass.others else []
+        lines += ["    def __init__(self, existing: Any = ...) -> None: ..."] if coclass.others or coclass.source else []
         lines += [line for each, accessor in members for line in heading(each, accessor, stub)]
         return "\n".join([*lines, *events])
     lines += [f'    """{coclass.help}."""', "", *constructor(coclass, interface, base)]
