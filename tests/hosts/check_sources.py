@@ -10,7 +10,7 @@ SOURCES = {
     "vba/Hosts.bas": ({"Progress", "Finished"}, {"Print", "Raise", "Script"}),
     "vba/ScriptProgress.cls": (None, {"Print"}),
     "powershell/hosts.ps1": ({"Progress", "Finished"}, set()),
-    "python/hosts_pywin32.py": (set(), {"replace", "datetime", "argv", "exit", "client"}),
+    "python/hosts_pywin32.py": (set(), {"datetime", "argv", "exit", "on_progreso", "on_terminado"}),
     "python/hosts_comtypes.py": (set(), {"datetime", "argv", "exit", "client"}),
     "csharp/Dynamic.cs": (set(), {"CreateInstance", "GetTypeFromProgID", "Error", "Length", "WriteLine"}),
     "csharp/Early.cs": (set(), {"Error", "Length", "WriteLine"}),
@@ -32,7 +32,7 @@ def without_texts(path, source):
 
 
 def strangers(path, source, names, known):
-    called = re.findall(r"(?:\.|->)\s*([A-Za-z_]\w*)", without_texts(path, source))
+    called = re.findall(r"\.\s*([A-Za-z_]\w*)", without_texts(path, source))
     accessors = {name[4:] if name.startswith(("get_", "set_")) else name for name in called}
     return sorted(accessors - names - known), len(accessors & names)
 
