@@ -4,6 +4,8 @@ set -eu
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export WINEPREFIX=${QVR_WINEPREFIX:-$root/build/wine} WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 unset DISPLAY WAYLAND_DISPLAY
+# A display of the caller's own, for programs that are to be seen.
+[ -z "${QVR_DISPLAY:-}" ] || export DISPLAY=$QVR_DISPLAY
 if [ "${1:-}" = --stop ]; then
   wineserver -k || true  # there may be none
   exit
