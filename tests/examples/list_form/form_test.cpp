@@ -59,8 +59,13 @@ TEST_F(ListForm, LeavesTheListAndColoursTheBoxOfARefusedSearch) {
   refused.boxes[kAmount] = "much";
   refused.refused = {kAmount};
   expect(form, refused);
+  // What is behind the list is as it was, too.
+  form.click_heading(kNumber);
+  refused.arrow = "0 up";
+  expect(form, refused);
   form.type(kAmount, L">400");
-  Sight changed = kNarrowed;
+  Sight changed = refused;
+  changed.refused.clear();
   changed.boxes[kAmount] = ">400";
   expect(form, changed);
   form.press_enter(kAmount);

@@ -57,7 +57,7 @@ TEST_F(ListFormUpdate, MovesABarWithEachCommandAndIsNotNeededAgain) {
     EXPECT_EQ(program.exit_code(), 0u);
   }
   EXPECT_TRUE(std::is_sorted(places.begin(), places.end()));
-  EXPECT_GT(places.size(), 10u);
+  ASSERT_GT(places.size(), 10u);
   EXPECT_LE(places.back(), kCommands);
 
   const Program again(folder());
