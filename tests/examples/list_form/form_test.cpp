@@ -28,6 +28,13 @@ void narrow_and_sort(const Form& form) {
   for (const std::size_t column : {kDate, kAmount, kAmount}) form.click_heading(column);
 }
 
+TEST_F(ListForm, FindsTheLibraryByItsManifest) {
+  CLSID registered;
+  EXPECT_EQ(CLSIDFromProgID(L"QVRlib21.cSQL20", &registered), CO_E_CLASSSTRING);
+  const Program program(folder());
+  expect(Form(program), kWhole);
+}
+
 TEST_F(ListForm, NarrowsByEachBoxWithEnter) {
   const Program program(folder());
   const Form form(program);
