@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 began=$SECONDS
-need windows win64 native bench clang tests manual browser servers
+need windows win64 native bench clang tests manual browser screen servers
 need_wine wine-core wine64
 need_drivers32
 need_pascal32

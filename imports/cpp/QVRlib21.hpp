@@ -4,9 +4,9 @@
 //   qvrlib21::QVRcfp parameters = qvrlib21::create<qvrlib21::QVRcfp>();
 //   if (parameters.Crear(L"my application", L"C:\\Data", L"shop")) open(parameters.CadenaADO(L"my application", true));
 //
-// C++17 and Windows' own headers are enough; link ole32 and oleaut32. The thread has called CoInitializeEx, and objects
-// stay on the thread that made them. Texts are UTF-16. A call that fails throws Failure; a member that answers false or
-// an empty text does not.
+// C++17 and Windows' own headers are enough; link ole32, oleaut32 and uuid. The thread has called CoInitializeEx, and
+// objects stay on the thread that made them. Texts are UTF-16. A call that fails throws Failure; a member that answers
+// false or an empty text does not.
 #pragma once
 
 #include <windows.h>
@@ -359,8 +359,9 @@ inline std::wstring taken_description() {
   return description;
 }
 
+// Of a call that has no error object of its own: one that the thread has is another's.
 inline void check(HRESULT code) {
-  if (FAILED(code)) throw Failure(code, taken_description());
+  if (FAILED(code)) throw Failure(code);
 }
 
 // A text as the library takes and gives it.
@@ -416,6 +417,20 @@ class Reference {
  private:
   Interface* object_ = nullptr;
 };
+
+template <class Interface>
+bool tells_errors(const Reference<Interface>& object) {
+  void* found = nullptr;
+  if (FAILED(object->QueryInterface(IID_ISupportErrorInfo, &found))) return false;
+  const Reference<ISupportErrorInfo> support(static_cast<ISupportErrorInfo*>(found));
+  return support->InterfaceSupportsErrorInfo(kInterfaceId<Interface>) == S_OK;
+}
+
+// Of a member's call.
+template <class Interface>
+void check(const Reference<Interface>& object, HRESULT code) {
+  if (FAILED(code)) throw Failure(code, tells_errors(object) ? taken_description() : std::wstring());
+}
 
 }  // namespace detail
 
@@ -537,44 +552,44 @@ class iSQL20 {
   // What was added to the query, as one text to be kept.
   std::wstring CriterioActualCompleto() const {
     detail::Text answer;
-    detail::check(object_->get_CriterioActualCompleto(answer.address()));
+    detail::check(object_, object_->get_CriterioActualCompleto(answer.address()));
     return answer.copy();
   }
   // Puts back what was added from such a text.
   void CriterioActualCompleto(std::wstring_view Valor) const {
     detail::Text Valor_(Valor);
-    detail::check(object_->put_CriterioActualCompleto(Valor_.get()));
+    detail::check(object_, object_->put_CriterioActualCompleto(Valor_.get()));
   }
   // Makes what was added part of the statement as created.
   void AdoptaComoOriginal(bool AdoptarWhere, bool AdoptarHaving, bool AdoptarOrder) const {
     VARIANT_BOOL AdoptarWhere_ = detail::truth(AdoptarWhere);
     VARIANT_BOOL AdoptarHaving_ = detail::truth(AdoptarHaving);
     VARIANT_BOOL AdoptarOrder_ = detail::truth(AdoptarOrder);
-    detail::check(object_->AdoptaComoOriginal(&AdoptarWhere_, &AdoptarHaving_, &AdoptarOrder_));
+    detail::check(object_, object_->AdoptaComoOriginal(&AdoptarWhere_, &AdoptarHaving_, &AdoptarOrder_));
   }
   // Narrows the query; False for an empty condition and for one that is there already.
   bool AmpliarCondicionWhere(std::wstring_view Condicion, std::wstring_view Criterio = {}) const {
     detail::Text Condicion_(Condicion);
     detail::Text Criterio_(Criterio);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->AmpliarCondicionWhere(Condicion_.address(), Criterio_.address(), &answer));
+    detail::check(object_, object_->AmpliarCondicionWhere(Condicion_.address(), Criterio_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // Sorts by this column first, once more in reverse; always False.
   bool AmpliarOrden(short NuevaColumna) const {
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->AmpliarOrden(&NuevaColumna, &answer));
+    detail::check(object_, object_->AmpliarOrden(&NuevaColumna, &answer));
     return answer != VARIANT_FALSE;
   }
   // Replaces the query's order.
   void CambiaOrden(std::wstring_view NuevoOrden) const {
     detail::Text NuevoOrden_(NuevoOrden);
-    detail::check(object_->CambiaOrden(NuevoOrden_.address()));
+    detail::check(object_, object_->CambiaOrden(NuevoOrden_.address()));
   }
   // Whether there is a query.
   bool Creado() const {
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->get_Creado(&answer));
+    detail::check(object_, object_->get_Creado(&answer));
     return answer != VARIANT_FALSE;
   }
   // Creates the query from columns, tables, relations and initial clauses.
@@ -592,7 +607,8 @@ class iSQL20 {
     detail::Text CondicionHAVINGInicial_(CondicionHAVINGInicial);
     detail::Text TextoORDERBYInicial_(TextoORDERBYInicial);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->Crear(&MotorBD, NombreObjeto_.address(), &UsarDistinct_, ColumnasSELECT_.address(),
+    detail::check(object_,
+                  object_->Crear(&MotorBD, NombreObjeto_.address(), &UsarDistinct_, ColumnasSELECT_.address(),
                                  TablasFROM_.address(), RelacionTablas_.address(), CondicionWHEREInicial_.address(),
                                  &NumColumnasGROUPBY, CondicionHAVINGInicial_.address(), TextoORDERBYInicial_.address(),
                                  &TOP, &Idioma, &answer));
@@ -602,19 +618,19 @@ class iSQL20 {
   bool CrearDesdeTextoDefinicion(std::wstring_view TextoDefinicion) const {
     detail::Text TextoDefinicion_(TextoDefinicion);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->CrearDesdeTextoDefinicion(TextoDefinicion_.address(), &answer));
+    detail::check(object_, object_->CrearDesdeTextoDefinicion(TextoDefinicion_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // The whole query as one text to be kept.
   std::wstring TextoDefinicion() const {
     detail::Text answer;
-    detail::check(object_->get_TextoDefinicion(answer.address()));
+    detail::check(object_, object_->get_TextoDefinicion(answer.address()));
     return answer.copy();
   }
   // What was added, in words for the user.
   std::wstring CriterioActual() const {
     detail::Text answer;
-    detail::check(object_->get_CriterioActual(answer.address()));
+    detail::check(object_, object_->get_CriterioActual(answer.address()));
     return answer.copy();
   }
   // Narrows the query by what a user typed for a column; False for what is no search.
@@ -624,100 +640,100 @@ class iSQL20 {
     detail::Text TextoBusqueda_(TextoBusqueda);
     detail::Text Criterio_(Criterio);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(
-        object_->InterpretarBusqueda(NombreCampoRS_.address(), TextoBusqueda_.address(), Criterio_.address(), &answer));
+    detail::check(object_, object_->InterpretarBusqueda(NombreCampoRS_.address(), TextoBusqueda_.address(),
+                                                        Criterio_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // The current ORDER BY clause, or its list alone.
   std::wstring ParteOrder(bool SinClausula = false) const {
     VARIANT_BOOL SinClausula_ = detail::truth(SinClausula);
     detail::Text answer;
-    detail::check(object_->ParteOrder(&SinClausula_, answer.address()));
+    detail::check(object_, object_->ParteOrder(&SinClausula_, answer.address()));
     return answer.copy();
   }
   // Takes away what was added.
   void RestauraOriginal(bool RestaurarWhereYHaving, bool RestaurarOrder) const {
     VARIANT_BOOL RestaurarWhereYHaving_ = detail::truth(RestaurarWhereYHaving);
     VARIANT_BOOL RestaurarOrder_ = detail::truth(RestaurarOrder);
-    detail::check(object_->RestauraOriginal(&RestaurarWhereYHaving_, &RestaurarOrder_));
+    detail::check(object_, object_->RestauraOriginal(&RestaurarWhereYHaving_, &RestaurarOrder_));
   }
   // The statement as it is now.
   std::wstring SQL() const {
     detail::Text answer;
-    detail::check(object_->get_SQL(answer.address()));
+    detail::check(object_, object_->get_SQL(answer.address()));
     return answer.copy();
   }
   // The statement as it was created.
   std::wstring SQLOriginal() const {
     detail::Text answer;
-    detail::check(object_->get_SQLOriginal(answer.address()));
+    detail::check(object_, object_->get_SQLOriginal(answer.address()));
     return answer.copy();
   }
   // The statement as it was created, without its order.
   std::wstring SQLOriginalSinOrden() const {
     detail::Text answer;
-    detail::check(object_->get_SQLOriginalSinOrden(answer.address()));
+    detail::check(object_, object_->get_SQLOriginalSinOrden(answer.address()));
     return answer.copy();
   }
   // The statement as it is now, without its order.
   std::wstring SQLSinOrden() const {
     detail::Text answer;
-    detail::check(object_->get_SQLSinOrden(answer.address()));
+    detail::check(object_, object_->get_SQLSinOrden(answer.address()));
     return answer.copy();
   }
   // Type letter of the column with this name in a record set.
   std::wstring TipoCampo(std::wstring_view NombreCampoRS) const {
     detail::Text NombreCampoRS_(NombreCampoRS);
     detail::Text answer;
-    detail::check(object_->TipoCampo(NombreCampoRS_.address(), answer.address()));
+    detail::check(object_, object_->TipoCampo(NombreCampoRS_.address(), answer.address()));
     return answer.copy();
   }
   // Position of the column with this name in a record set; 0 for none.
   short NumColumna(std::wstring_view NombreCampoRS) const {
     detail::Text NombreCampoRS_(NombreCampoRS);
     short answer = 0;
-    detail::check(object_->NumColumna(NombreCampoRS_.address(), &answer));
+    detail::check(object_, object_->NumColumna(NombreCampoRS_.address(), &answer));
     return answer;
   }
   // Number of columns.
   short NumColumnas() const {
     short answer = 0;
-    detail::check(object_->NumColumnas(&answer));
+    detail::check(object_, object_->NumColumnas(&answer));
     return answer;
   }
   // Text of the caller's own.
   std::wstring Tag() const {
     detail::Text answer;
-    detail::check(object_->get_Tag(answer.address()));
+    detail::check(object_, object_->get_Tag(answer.address()));
     return answer.copy();
   }
   // Text of the caller's own.
   void Tag(std::wstring_view Valor) const {
     detail::Text Valor_(Valor);
-    detail::check(object_->put_Tag(Valor_.get()));
+    detail::check(object_, object_->put_Tag(Valor_.get()));
   }
   // Limit of rows; 0 for none.
-  void TOP(long Valor) const { detail::check(object_->put_TOP(Valor)); }
+  void TOP(long Valor) const { detail::check(object_, object_->put_TOP(Valor)); }
   // Limit of rows; 0 for none.
   long TOP() const {
     long answer = 0;
-    detail::check(object_->get_TOP(&answer));
+    detail::check(object_, object_->get_TOP(&answer));
     return answer;
   }
   // Language number; writing also sets the library's language.
-  void Idioma(long Valor) const { detail::check(object_->put_Idioma(Valor)); }
+  void Idioma(long Valor) const { detail::check(object_, object_->put_Idioma(Valor)); }
   // Language number.
   long Idioma() const {
     long answer = 0;
-    detail::check(object_->get_Idioma(&answer));
+    detail::check(object_, object_->get_Idioma(&answer));
     return answer;
   }
   // Database engine; texts that are there do not change.
-  void MotorBD(MotoresBD Valor) const { detail::check(object_->put_MotorBD(Valor)); }
+  void MotorBD(MotoresBD Valor) const { detail::check(object_, object_->put_MotorBD(Valor)); }
   // Database engine; 0 when not set.
   MotoresBD MotorBD() const {
     MotoresBD answer{};
-    detail::check(object_->get_MotorBD(&answer));
+    detail::check(object_, object_->get_MotorBD(&answer));
     return answer;
   }
 
@@ -737,25 +753,25 @@ class Ov {
   // Version as one number: 2.10.24 is 21024.
   long Version() const {
     long answer = 0;
-    detail::check(object_->Version(&answer));
+    detail::check(object_, object_->Version(&answer));
     return answer;
   }
   // Version as text: 2.10.24.
   std::wstring CadenaVersion() const {
     detail::Text answer;
-    detail::check(object_->CadenaVersion(answer.address()));
+    detail::check(object_, object_->CadenaVersion(answer.address()));
     return answer.copy();
   }
   // Folder of the library file, without a separator at its end.
   std::wstring Path() const {
     detail::Text answer;
-    detail::check(object_->Path(answer.address()));
+    detail::check(object_, object_->Path(answer.address()));
     return answer.copy();
   }
   // Path of the library file, ending in .dll.
   std::wstring PathCompleto() const {
     detail::Text answer;
-    detail::check(object_->PathCompleto(answer.address()));
+    detail::check(object_, object_->PathCompleto(answer.address()));
     return answer.copy();
   }
 
@@ -786,7 +802,8 @@ class QVRcfp {
     detail::Text ClaveCli_(ClaveCli);
     detail::Text OtrosParametros_(OtrosParametros);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->Asignar(ID_.address(), &MotorBD, Provider_.address(), DataSource_.address(),
+    detail::check(object_,
+                  object_->Asignar(ID_.address(), &MotorBD, Provider_.address(), DataSource_.address(),
                                    InitialCatalogOTablespace_.address(), UsuarioAdm_.address(), ClaveAdm_.address(),
                                    UsuarioCli_.address(), ClaveCli_.address(), OtrosParametros_.address(), &answer));
     return answer != VARIANT_FALSE;
@@ -797,7 +814,7 @@ class QVRcfp {
     detail::Text R_(R);
     detail::Text A_(A);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->Crear(ID_.address(), R_.address(), A_.address(), &answer));
+    detail::check(object_, object_->Crear(ID_.address(), R_.address(), A_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // Writes the parameters to file A.cfp of folder R; False when that fails.
@@ -806,7 +823,7 @@ class QVRcfp {
     detail::Text R_(R);
     detail::Text A_(A);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->Guardar(ID_.address(), R_.address(), A_.address(), &answer));
+    detail::check(object_, object_->Guardar(ID_.address(), R_.address(), A_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // OLE DB connection string with the administrator's or the client's account.
@@ -814,7 +831,7 @@ class QVRcfp {
     detail::Text ID_(ID);
     VARIANT_BOOL Adm_ = detail::truth(Adm);
     detail::Text answer;
-    detail::check(object_->CadenaADO(ID_.address(), &Adm_, answer.address()));
+    detail::check(object_, object_->CadenaADO(ID_.address(), &Adm_, answer.address()));
     return answer.copy();
   }
   // OLE DB connection string with this account.
@@ -822,7 +839,7 @@ class QVRcfp {
     detail::Text Usuario_(Usuario);
     detail::Text Clave_(Clave);
     detail::Text answer;
-    detail::check(object_->CadenaADOUsuario(Usuario_.address(), Clave_.address(), answer.address()));
+    detail::check(object_, object_->CadenaADOUsuario(Usuario_.address(), Clave_.address(), answer.address()));
     return answer.copy();
   }
   // Value of a typed text; type T text, N number, F date, L logical.
@@ -830,7 +847,7 @@ class QVRcfp {
     detail::Text TipoTNFL_(TipoTNFL);
     detail::Text Texto_(Texto);
     Value answer;
-    detail::check(object_->TextoAValor(TipoTNFL_.address(), Texto_.address(), answer.address()));
+    detail::check(object_, object_->TextoAValor(TipoTNFL_.address(), Texto_.address(), answer.address()));
     return answer;
   }
   // Typed text of a value; type T text, N number, F date, L logical.
@@ -838,144 +855,144 @@ class QVRcfp {
     detail::Text TipoTNFL_(TipoTNFL);
     Value Valor_(Valor);
     detail::Text answer;
-    detail::check(object_->ValorATexto(TipoTNFL_.address(), Valor_.address(), answer.address()));
+    detail::check(object_, object_->ValorATexto(TipoTNFL_.address(), Valor_.address(), answer.address()));
     return answer.copy();
   }
   // Name of the file that the parameters came from or were saved to.
   std::wstring Archivo() const {
     detail::Text answer;
-    detail::check(object_->get_Archivo(answer.address()));
+    detail::check(object_, object_->get_Archivo(answer.address()));
     return answer.copy();
   }
   // Database engine; 0 when not set.
   MotoresBD MotorBD() const {
     MotoresBD answer{};
-    detail::check(object_->get_MotorBD(&answer));
+    detail::check(object_, object_->get_MotorBD(&answer));
     return answer;
   }
   // OLE DB provider.
   std::wstring Provider() const {
     detail::Text answer;
-    detail::check(object_->get_Provider(answer.address()));
+    detail::check(object_, object_->get_Provider(answer.address()));
     return answer.copy();
   }
   // Database file, server or service name.
   std::wstring DataSource() const {
     detail::Text answer;
-    detail::check(object_->get_DataSource(answer.address()));
+    detail::check(object_, object_->get_DataSource(answer.address()));
     return answer.copy();
   }
   // SQL Server catalogue or Oracle tablespace.
   std::wstring InitialCatalogOTablespace() const {
     detail::Text answer;
-    detail::check(object_->get_InitialCatalogOTablespace(answer.address()));
+    detail::check(object_, object_->get_InitialCatalogOTablespace(answer.address()));
     return answer.copy();
   }
   // Administrator user.
   std::wstring UsuarioAdm() const {
     detail::Text answer;
-    detail::check(object_->get_UsuarioAdm(answer.address()));
+    detail::check(object_, object_->get_UsuarioAdm(answer.address()));
     return answer.copy();
   }
   // Client user.
   std::wstring UsuarioCli() const {
     detail::Text answer;
-    detail::check(object_->get_UsuarioCli(answer.address()));
+    detail::check(object_, object_->get_UsuarioCli(answer.address()));
     return answer.copy();
   }
   // Further connection options, appended as they stand.
   std::wstring OtrosParametros() const {
     detail::Text answer;
-    detail::check(object_->get_OtrosParametros(answer.address()));
+    detail::check(object_, object_->get_OtrosParametros(answer.address()));
     return answer.copy();
   }
   // Administrator password.
   std::wstring ClaveAdm(std::wstring_view ID) const {
     detail::Text ID_(ID);
     detail::Text answer;
-    detail::check(object_->get_ClaveAdm(ID_.address(), answer.address()));
+    detail::check(object_, object_->get_ClaveAdm(ID_.address(), answer.address()));
     return answer.copy();
   }
   // Client password.
   std::wstring ClaveCli(std::wstring_view ID) const {
     detail::Text ID_(ID);
     detail::Text answer;
-    detail::check(object_->get_ClaveCli(ID_.address(), answer.address()));
+    detail::check(object_, object_->get_ClaveCli(ID_.address(), answer.address()));
     return answer.copy();
   }
   // Text in quotes, its own quotes doubled.
   std::wstring ComillasSQL(std::wstring_view Cadena) const {
     detail::Text Cadena_(Cadena);
     detail::Text answer;
-    detail::check(object_->ComillasSQL(Cadena_.address(), answer.address()));
+    detail::check(object_, object_->ComillasSQL(Cadena_.address(), answer.address()));
     return answer.copy();
   }
   // Literal of a value, chosen by its type.
   std::wstring ExpSQL(const Value& Valor) const {
     Value Valor_(Valor);
     detail::Text answer;
-    detail::check(object_->ExpSQL(Valor_.address(), answer.address()));
+    detail::check(object_, object_->ExpSQL(Valor_.address(), answer.address()));
     return answer.copy();
   }
   // Date literal; Null for what is no date.
   std::wstring FechaSQL(const Value& Fecha) const {
     Value Fecha_(Fecha);
     detail::Text answer;
-    detail::check(object_->FechaSQL(Fecha_.address(), answer.address()));
+    detail::check(object_, object_->FechaSQL(Fecha_.address(), answer.address()));
     return answer.copy();
   }
   // Time literal; Null for what is no date.
   std::wstring HoraSQL(const Value& Fecha) const {
     Value Fecha_(Fecha);
     detail::Text answer;
-    detail::check(object_->HoraSQL(Fecha_.address(), answer.address()));
+    detail::check(object_, object_->HoraSQL(Fecha_.address(), answer.address()));
     return answer.copy();
   }
   // Date and time literal, or the clock for Ahora; Null for what is no date.
   std::wstring FechaHoraSQL(const Value& Fecha) const {
     Value Fecha_(Fecha);
     detail::Text answer;
-    detail::check(object_->FechaHoraSQL(Fecha_.address(), answer.address()));
+    detail::check(object_, object_->FechaHoraSQL(Fecha_.address(), answer.address()));
     return answer.copy();
   }
   // Date, time or date and time literal, the narrowest that holds the value.
   std::wstring FechaSQLv(const Value& Fecha) const {
     Value Fecha_(Fecha);
     detail::Text answer;
-    detail::check(object_->FechaSQLv(Fecha_.address(), answer.address()));
+    detail::check(object_, object_->FechaSQLv(Fecha_.address(), answer.address()));
     return answer.copy();
   }
   // Truth literal.
   std::wstring LogicoSQL(bool Valor) const {
     VARIANT_BOOL Valor_ = detail::truth(Valor);
     detail::Text answer;
-    detail::check(object_->LogicoSQL(&Valor_, answer.address()));
+    detail::check(object_, object_->LogicoSQL(&Valor_, answer.address()));
     return answer.copy();
   }
   // The server's clock as an expression.
   std::wstring AhoraSQL() const {
     detail::Text answer;
-    detail::check(object_->AhoraSQL(answer.address()));
+    detail::check(object_, object_->AhoraSQL(answer.address()));
     return answer.copy();
   }
   // Condition that the field is true.
   std::wstring sqlEsTrue(std::wstring_view Campo) const {
     detail::Text Campo_(Campo);
     detail::Text answer;
-    detail::check(object_->sqlEsTrue(Campo_.address(), answer.address()));
+    detail::check(object_, object_->sqlEsTrue(Campo_.address(), answer.address()));
     return answer.copy();
   }
   // Condition that the field is false.
   std::wstring sqlEsFalse(std::wstring_view Campo) const {
     detail::Text Campo_(Campo);
     detail::Text answer;
-    detail::check(object_->sqlEsFalse(Campo_.address(), answer.address()));
+    detail::check(object_, object_->sqlEsFalse(Campo_.address(), answer.address()));
     return answer.copy();
   }
   // The false constant.
   std::wstring sqlFalse() const {
     detail::Text answer;
-    detail::check(object_->sqlFalse(answer.address()));
+    detail::check(object_, object_->sqlFalse(answer.address()));
     return answer.copy();
   }
   // Quoted LIKE pattern of a text with * and ?.
@@ -985,47 +1002,48 @@ class QVRcfp {
     VARIANT_BOOL ComodinInicial_ = detail::truth(ComodinInicial);
     VARIANT_BOOL ComodinFinal_ = detail::truth(ComodinFinal);
     detail::Text answer;
-    detail::check(object_->CadenaParaLikeSQL(Cadena_.address(), &ComodinInicial_, &ComodinFinal_, answer.address()));
+    detail::check(object_,
+                  object_->CadenaParaLikeSQL(Cadena_.address(), &ComodinInicial_, &ComodinFinal_, answer.address()));
     return answer.copy();
   }
   // Statement that reads the server's clock into a column FechaSistema.
   std::wstring sqlFechaSistema() const {
     detail::Text answer;
-    detail::check(object_->sqlFechaSistema(answer.address()));
+    detail::check(object_, object_->sqlFechaSistema(answer.address()));
     return answer.copy();
   }
   // Limit of rows before the select list; empty for Oracle.
   std::wstring sqlTOP(long Numero) const {
     detail::Text answer;
-    detail::check(object_->sqlTOP(&Numero, answer.address()));
+    detail::check(object_, object_->sqlTOP(&Numero, answer.address()));
     return answer.copy();
   }
   // Limit of rows as a condition; empty but for Oracle.
   std::wstring sqlRowNum(long Numero, bool AnteponerAndSiProcede) const {
     VARIANT_BOOL AnteponerAndSiProcede_ = detail::truth(AnteponerAndSiProcede);
     detail::Text answer;
-    detail::check(object_->sqlRowNum(&Numero, &AnteponerAndSiProcede_, answer.address()));
+    detail::check(object_, object_->sqlRowNum(&Numero, &AnteponerAndSiProcede_, answer.address()));
     return answer.copy();
   }
   // Join condition for triples of column, column and relation I, L or R.
   std::wstring sqlWhereRelacionTablas(const Value& mCampo1Campo2Relacion) const {
     Value mCampo1Campo2Relacion_(mCampo1Campo2Relacion);
     detail::Text answer;
-    detail::check(object_->sqlWhereRelacionTablas(mCampo1Campo2Relacion_.address(), answer.address()));
+    detail::check(object_, object_->sqlWhereRelacionTablas(mCampo1Campo2Relacion_.address(), answer.address()));
     return answer.copy();
   }
   // Name of a column in the result.
   std::wstring sqlAlias(std::wstring_view Alias) const {
     detail::Text Alias_(Alias);
     detail::Text answer;
-    detail::check(object_->sqlAlias(Alias_.address(), answer.address()));
+    detail::check(object_, object_->sqlAlias(Alias_.address(), answer.address()));
     return answer.copy();
   }
   // Concatenation of expressions.
   std::wstring sqlConcatenar(const Value& Cadenas) const {
     Value Cadenas_(Cadenas);
     detail::Text answer;
-    detail::check(object_->sqlConcatenar(Cadenas_.address(), answer.address()));
+    detail::check(object_, object_->sqlConcatenar(Cadenas_.address(), answer.address()));
     return answer.copy();
   }
   // The field, or the alternative where it is null.
@@ -1033,7 +1051,8 @@ class QVRcfp {
     detail::Text CampoComprobar_(CampoComprobar);
     detail::Text CampoAlternativo_(CampoAlternativo);
     detail::Text answer;
-    detail::check(object_->sqlEsNulo(CampoComprobar_.address(), CampoAlternativo_.address(), answer.address()));
+    detail::check(object_,
+                  object_->sqlEsNulo(CampoComprobar_.address(), CampoAlternativo_.address(), answer.address()));
     return answer.copy();
   }
   // Field mapped by pairs of value and result, an odd last one being the default.
@@ -1041,7 +1060,7 @@ class QVRcfp {
     detail::Text Campo_(Campo);
     Value ParejasValoresMasOmision_(ParejasValoresMasOmision);
     detail::Text answer;
-    detail::check(object_->sqlCASE(Campo_.address(), ParejasValoresMasOmision_.address(), answer.address()));
+    detail::check(object_, object_->sqlCASE(Campo_.address(), ParejasValoresMasOmision_.address(), answer.address()));
     return answer.copy();
   }
   // INSERT statement without a list of columns.
@@ -1049,7 +1068,7 @@ class QVRcfp {
     detail::Text NombreTabla_(NombreTabla);
     Value MValores_(MValores);
     detail::Text answer;
-    detail::check(object_->SqlINSERT(NombreTabla_.address(), MValores_.address(), answer.address()));
+    detail::check(object_, object_->SqlINSERT(NombreTabla_.address(), MValores_.address(), answer.address()));
     return answer.copy();
   }
   // UPDATE statement for the row with this whole-number key.
@@ -1060,8 +1079,8 @@ class QVRcfp {
     Value MCampos_(MCampos);
     Value MValores_(MValores);
     detail::Text answer;
-    detail::check(object_->SqlUPDATE(NombreTabla_.address(), NombreCampoClave_.address(), &Clave_cd, MCampos_.address(),
-                                     MValores_.address(), answer.address()));
+    detail::check(object_, object_->SqlUPDATE(NombreTabla_.address(), NombreCampoClave_.address(), &Clave_cd,
+                                              MCampos_.address(), MValores_.address(), answer.address()));
     return answer.copy();
   }
   // INSERT statement with a list of columns.
@@ -1070,8 +1089,8 @@ class QVRcfp {
     Value MCampos_(MCampos);
     Value MValores_(MValores);
     detail::Text answer;
-    detail::check(
-        object_->SqlInsert2(NombreTabla_.address(), MCampos_.address(), MValores_.address(), answer.address()));
+    detail::check(object_, object_->SqlInsert2(NombreTabla_.address(), MCampos_.address(), MValores_.address(),
+                                               answer.address()));
     return answer.copy();
   }
   // UPDATE statement with a condition of any form.
@@ -1082,15 +1101,15 @@ class QVRcfp {
     Value MValores_(MValores);
     detail::Text Condicion_(Condicion);
     detail::Text answer;
-    detail::check(object_->SqlUpdate2(NombreTabla_.address(), MCampos_.address(), MValores_.address(),
-                                      Condicion_.address(), answer.address()));
+    detail::check(object_, object_->SqlUpdate2(NombreTabla_.address(), MCampos_.address(), MValores_.address(),
+                                               Condicion_.address(), answer.address()));
     return answer.copy();
   }
   // Calls a stored procedure of SQL Server; output values come back in the array.
   bool EjecutarProcSQL7(IDispatch* Conexion, std::wstring_view NombreProc, Value& Parametros) const {
     detail::Text NombreProc_(NombreProc);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->EjecutarProcSQL7(&Conexion, NombreProc_.address(), Parametros.address(), &answer));
+    detail::check(object_, object_->EjecutarProcSQL7(&Conexion, NombreProc_.address(), Parametros.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // Appends a parameter whose type fits the engine to a command.
@@ -1101,8 +1120,8 @@ class QVRcfp {
     detail::Text Nombre_(Nombre);
     Value Valor_(Valor);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->AgregarParametroADO(&Comando, TipoSQLServer_.address(), Nombre_.address(), Valor_.address(),
-                                               &Ancho, &Direction, &answer));
+    detail::check(object_, object_->AgregarParametroADO(&Comando, TipoSQLServer_.address(), Nombre_.address(),
+                                                        Valor_.address(), &Ancho, &Direction, &answer));
     return answer != VARIANT_FALSE;
   }
 
@@ -1127,8 +1146,8 @@ class QVRScr {
     detail::Text CadenaConexion_(CadenaConexion);
     detail::Text TextoMostrar_(TextoMostrar != nullptr ? *TextoMostrar : L"");
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->EjecutarComandos(ID_.address(), &MotorBD, TextosComandos_.address(),
-                                            CadenaConexion_.address(), TextoMostrar_.address(), &answer));
+    detail::check(object_, object_->EjecutarComandos(ID_.address(), &MotorBD, TextosComandos_.address(),
+                                                     CadenaConexion_.address(), TextoMostrar_.address(), &answer));
     if (TextoMostrar != nullptr) *TextoMostrar = TextoMostrar_.copy();
     return answer != VARIANT_FALSE;
   }
@@ -1136,13 +1155,13 @@ class QVRScr {
   bool Ejecutar1Comando(IDispatch* Conexion, std::wstring_view TextoComando, long MotorBD) const {
     detail::Text TextoComando_(TextoComando);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(object_->Ejecutar1Comando(&Conexion, TextoComando_.address(), &MotorBD, &answer));
+    detail::check(object_, object_->Ejecutar1Comando(&Conexion, TextoComando_.address(), &MotorBD, &answer));
     return answer != VARIANT_FALSE;
   }
   // The engine's built-in administrator account.
   std::wstring UsuarioSegunMotor(long MotorBD) const {
     detail::Text answer;
-    detail::check(object_->UsuarioSegunMotor(&MotorBD, answer.address()));
+    detail::check(object_, object_->UsuarioSegunMotor(&MotorBD, answer.address()));
     return answer.copy();
   }
   // Text of the scripts that create a database, ready to be run; empty when one cannot be read.
@@ -1161,7 +1180,8 @@ class QVRScr {
     detail::Text ClaveUsuarioQVRCli_(ClaveUsuarioQVRCli);
     VARIANT_BOOL Encri_ = detail::truth(Encri);
     detail::Text answer;
-    detail::check(object_->CargarDefinicion(ID_.address(), &MotorBD, Ruta_.address(), NombreDefinicion_.address(),
+    detail::check(object_,
+                  object_->CargarDefinicion(ID_.address(), &MotorBD, Ruta_.address(), NombreDefinicion_.address(),
                                             NombreBaseOTablespace_.address(), UsuarioQVRAdm_.address(),
                                             ClaveUsuarioQVRAdm_.address(), UsuarioQVRCli_.address(),
                                             ClaveUsuarioQVRCli_.address(), &Encri_, answer.address()));
@@ -1183,11 +1203,11 @@ class QVRScr {
     detail::Text ClaveUsuarioQVRCli_(ClaveUsuarioQVRCli);
     VARIANT_BOOL Encri_ = detail::truth(Encri);
     detail::Text answer;
-    detail::check(object_->CargarActualizacion(ID_.address(), &MotorBD, Ruta_.address(), Aplicacion_.address(),
-                                               &VersionActual, NombreBaseOTablespace_.address(),
-                                               UsuarioQVRAdm_.address(), ClaveUsuarioQVRAdm_.address(),
-                                               UsuarioQVRCli_.address(), ClaveUsuarioQVRCli_.address(), &Encri_,
-                                               answer.address()));
+    detail::check(object_, object_->CargarActualizacion(ID_.address(), &MotorBD, Ruta_.address(), Aplicacion_.address(),
+                                                        &VersionActual, NombreBaseOTablespace_.address(),
+                                                        UsuarioQVRAdm_.address(), ClaveUsuarioQVRAdm_.address(),
+                                                        UsuarioQVRCli_.address(), ClaveUsuarioQVRCli_.address(),
+                                                        &Encri_, answer.address()));
     return answer.copy();
   }
 
@@ -1205,36 +1225,36 @@ class QVRprp {
   const detail::Reference<Interface>& reference() const { return object_; }
 
   // Removes every property.
-  void Borra() const { detail::check(object_->Borra()); }
+  void Borra() const { detail::check(object_, object_->Borra()); }
   // Adds a property; type T text, N number, F date, L logical.
   void CreaPropiedad(std::wstring_view Tipo, std::wstring_view Nombre, const Value& Valor) const {
     detail::Text Tipo_(Tipo);
     detail::Text Nombre_(Nombre);
     Value Valor_(Valor);
-    detail::check(object_->CreaPropiedad(Tipo_.address(), Nombre_.address(), Valor_.address()));
+    detail::check(object_, object_->CreaPropiedad(Tipo_.address(), Nombre_.address(), Valor_.address()));
   }
   // Value of a property by its name or its position from 0; Empty for none.
   Value Item(const Value& NombreOIndice) const {
     Value NombreOIndice_(NombreOIndice);
     Value answer;
-    detail::check(object_->get_Item(NombreOIndice_.address(), answer.address()));
+    detail::check(object_, object_->get_Item(NombreOIndice_.address(), answer.address()));
     return answer;
   }
   // Value of a property by its name or its position from 0; Empty for none.
   void Item(const Value& NombreOIndice, const Value& Valor) const {
     Value NombreOIndice_(NombreOIndice);
-    detail::check(object_->put_Item(NombreOIndice_.address(), Valor.get()));
+    detail::check(object_, object_->put_Item(NombreOIndice_.address(), Valor.get()));
   }
   // Number of properties.
   long NumPropiedades() const {
     long answer = 0;
-    detail::check(object_->get_NumPropiedades(&answer));
+    detail::check(object_, object_->get_NumPropiedades(&answer));
     return answer;
   }
   // Name of the property at a position from 0; empty for none.
   std::wstring NombrePropiedad(long Indice) const {
     detail::Text answer;
-    detail::check(object_->get_NombrePropiedad(&Indice, answer.address()));
+    detail::check(object_, object_->get_NombrePropiedad(&Indice, answer.address()));
     return answer.copy();
   }
 
@@ -1255,7 +1275,7 @@ class cSQL20 : public iSQL20 {
   // Name of the class.
   std::wstring Name() const {
     detail::Text answer;
-    detail::check(own_->get_Name(answer.address()));
+    detail::check(own_, own_->get_Name(answer.address()));
     return answer.copy();
   }
   // Narrows the groups; False for an empty condition and for one that is there already.
@@ -1263,34 +1283,34 @@ class cSQL20 : public iSQL20 {
     detail::Text Condicion_(Condicion);
     detail::Text Criterio_(Criterio);
     VARIANT_BOOL answer = VARIANT_FALSE;
-    detail::check(own_->AmpliarCondicionHaving(Condicion_.address(), Criterio_.address(), &answer));
+    detail::check(own_, own_->AmpliarCondicionHaving(Condicion_.address(), Criterio_.address(), &answer));
     return answer != VARIANT_FALSE;
   }
   // Replaces the query's conditions; what was added goes.
   void CambiaCondicion(std::wstring_view NuevaCondicionWhere, std::wstring_view NuevaCondicionHaving) const {
     detail::Text NuevaCondicionWhere_(NuevaCondicionWhere);
     detail::Text NuevaCondicionHaving_(NuevaCondicionHaving);
-    detail::check(own_->CambiaCondicion(NuevaCondicionWhere_.address(), NuevaCondicionHaving_.address()));
+    detail::check(own_, own_->CambiaCondicion(NuevaCondicionWhere_.address(), NuevaCondicionHaving_.address()));
   }
   // The current WHERE clause, or its condition alone.
   std::wstring ParteWhere(bool SoloCondicion = false) const {
     VARIANT_BOOL SoloCondicion_ = detail::truth(SoloCondicion);
     detail::Text answer;
-    detail::check(own_->ParteWhere(&SoloCondicion_, answer.address()));
+    detail::check(own_, own_->ParteWhere(&SoloCondicion_, answer.address()));
     return answer.copy();
   }
   // The current HAVING clause, or its condition alone.
   std::wstring ParteHaving(bool SoloCondicion = false) const {
     VARIANT_BOOL SoloCondicion_ = detail::truth(SoloCondicion);
     detail::Text answer;
-    detail::check(own_->ParteHaving(&SoloCondicion_, answer.address()));
+    detail::check(own_, own_->ParteHaving(&SoloCondicion_, answer.address()));
     return answer.copy();
   }
   // Expression of the column with this name in a record set.
   std::wstring ExpresionOriginal(std::wstring_view NombreCampoRS) const {
     detail::Text NombreCampoRS_(NombreCampoRS);
     detail::Text answer;
-    detail::check(own_->ExpresionOriginal(NombreCampoRS_.address(), answer.address()));
+    detail::check(own_, own_->ExpresionOriginal(NombreCampoRS_.address(), answer.address()));
     return answer.copy();
   }
 
@@ -1311,7 +1331,7 @@ class uSQL20 : public iSQL20 {
   // Name of the class.
   std::wstring Name() const {
     detail::Text answer;
-    detail::check(own_->get_Name(answer.address()));
+    detail::check(own_, own_->get_Name(answer.address()));
     return answer.copy();
   }
 

@@ -121,6 +121,65 @@ TEST(CppImportClasses, ThrowWhatTheLibraryRaises) {
   }
 }
 
+// An error that nobody asked for stays with the thread: it tells nothing of later calls.
+void leave_error(const wchar_t* description) {
+  ICreateErrorInfo* made = nullptr;
+  IErrorInfo* info = nullptr;
+  BSTR text = SysAllocString(description);
+  ASSERT_EQ(CreateErrorInfo(&made), S_OK);
+  ASSERT_EQ(made->SetDescription(text), S_OK);
+  ASSERT_EQ(made->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&info)), S_OK);
+  ASSERT_EQ(SetErrorInfo(0, info), S_OK);
+  info->Release();
+  made->Release();
+  SysFreeString(text);
+}
+
+TEST(CppImportValue, DoesNotTakeAnErrorOfOthersForItsOwn) {
+  leave_error(L"of an earlier call");
+  try {
+    Value(L"word").number();
+    FAIL() << "nothing was thrown";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.code(), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(failure.description(), L"");
+  }
+  SetErrorInfo(0, nullptr);
+}
+
+TEST(CppImportClasses, TellTheirOwnErrorAfterOneOfOthers) {
+  library();
+  expect_any_traces();
+  const auto cfp = create<QVRcfp>();
+  leave_error(L"of an earlier call");
+  try {
+    cfp.sqlConcatenar(1);
+    FAIL() << "nothing was thrown";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.description(), L"Type mismatch");
+  }
+}
+
+// An object that has no errors of its own to tell.
+struct Silent final : IUnknown {
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+  ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
+  ULONG STDMETHODCALLTYPE Release() override { return 1; }
+};
+
+TEST(CppImportClasses, ReadNoErrorOfAnObjectThatTellsNone) {
+  Silent silent;
+  leave_error(L"of an earlier call");
+  try {
+    detail::check(detail::Reference<IUnknown>(&silent), E_FAIL);
+    FAIL() << "nothing was thrown";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.code(), E_FAIL);
+    EXPECT_EQ(failure.description(), L"");
+  }
+  SetErrorInfo(0, nullptr);
+}
+
 TEST(CppImportClasses, AreMadeFromAFileWithoutRegistration) {
   const LibraryFile file(beside_program(L"QVRlib21.dll"));
   EXPECT_EQ(file.create<Ov>().PathCompleto(), beside_program(L"QVRlib21.dll"));

@@ -14,14 +14,14 @@ import zipfile
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "qvrscript"))
 import linked  # noqa: E402
 
-BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "qvrscript.exe", "registration_free.exe",
-        "registration_free.exe.manifest"]
+BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "list_form.exe", "list_form.exe.manifest",
+        "qvrscript.exe", "registration_free.exe", "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
     "imports/cpp/QVRlib21.hpp", "imports/csharp/QVRlib21.cs", "imports/csharp/QVRlib21.nuspec",
     "imports/python/QVRlib21.py", "imports/python/QVRlib21.pyi",
     "imports/csharp/build/QVRlib21.targets", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
-    "examples/cookbook/list_form.vbs",
+    "examples/cookbook/list_form.vbs", "examples/list_form/README.md", "docs/images/list-form.png",
     "examples/hosts/vba/Hosts.bas", "examples/hosts/vba/ScriptProgress.cls"]
 PAGES = ["README.md", "LEAME.md"]
 MACHINES = {0x14C: 32, 0x8664: 64}

@@ -104,7 +104,7 @@ def method(member, accessor, pointer, name):
              f"{kind} {name}({', '.join(given(member, each) for each in accessor.parameters)}) const {{"]
     lines += [each for each in [*(local(member, each) for each in accessor.parameters), declared] if each]
     arguments = [argument(member, each) for each in accessor.parameters] + ([address] if address else [])
-    lines.append(f"detail::check({pointer}->{slot_name(member, accessor)}({', '.join(arguments)}));")
+    lines.append(f"detail::check({pointer}, {pointer}->{slot_name(member, accessor)}({', '.join(arguments)}));")
     lines += [each for each in (taken_back(member, each) for each in accessor.parameters) if each]
     return lines + ([f"return {answer};"] if answer else []) + ["}"]
 

@@ -28,6 +28,13 @@ void narrow_and_sort(const Form& form) {
   for (const std::size_t column : {kDate, kAmount, kAmount}) form.click_heading(column);
 }
 
+TEST_F(ListForm, FindsTheLibraryByItsManifest) {
+  CLSID registered;
+  EXPECT_EQ(CLSIDFromProgID(L"QVRlib21.cSQL20", &registered), CO_E_CLASSSTRING);
+  const Program program(folder());
+  expect(Form(program), kWhole);
+}
+
 TEST_F(ListForm, NarrowsByEachBoxWithEnter) {
   const Program program(folder());
   const Form form(program);
@@ -59,8 +66,13 @@ TEST_F(ListForm, LeavesTheListAndColoursTheBoxOfARefusedSearch) {
   refused.boxes[kAmount] = "much";
   refused.refused = {kAmount};
   expect(form, refused);
+  // What is behind the list is as it was, too.
+  form.click_heading(kNumber);
+  refused.arrow = "0 up";
+  expect(form, refused);
   form.type(kAmount, L">400");
-  Sight changed = kNarrowed;
+  Sight changed = refused;
+  changed.refused.clear();
   changed.boxes[kAmount] = ">400";
   expect(form, changed);
   form.press_enter(kAmount);

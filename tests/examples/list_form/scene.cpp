@@ -42,6 +42,11 @@ class Surroundings : public testing::Environment {
   std::unique_ptr<TestAdo> ado_;
 };
 
+std::wstring connection_string(const char* setting) {
+  const std::string options = std::getenv(setting);
+  return L"Provider=MSDASQL;Extended Properties=\"" + std::wstring(options.begin(), options.end()) + L"\"";
+}
+
 const testing::Environment* const kSurroundings = testing::AddGlobalTestEnvironment(new Surroundings);
 
 }  // namespace
@@ -58,11 +63,9 @@ Scene::Scene()
 
 Scene::~Scene() { std::filesystem::remove_all(folder_); }
 
-list_form::Connection Scene::session() const {
-  const std::string options = std::getenv("QVR_TESTS_CONNECTION");
-  return list_form::Connection(L"Provider=MSDASQL;Extended Properties=\"" +
-                               std::wstring(options.begin(), options.end()) + L"\"");
-}
+list_form::Connection Scene::session() { return list_form::Connection(connection_string("QVR_TESTS_CONNECTION")); }
+
+list_form::Connection Scene::administrator() { return list_form::Connection(connection_string("QVR_TESTS_ADMIN")); }
 
 bool Scene::table_exists(const std::wstring& name) const {
   try {

@@ -11,12 +11,15 @@
 namespace qvr::tests {
 
 class Scene : public testing::Test {
+ public:
+  // Sessions of the test's own.
+  static list_form::Connection session();
+  static list_form::Connection administrator();
+
  protected:
   Scene();
   ~Scene() override;
 
-  // A session of the test's own.
-  list_form::Connection session() const;
   std::wstring folder() const { return folder_; }
   std::filesystem::path filter_file() const { return folder_ / "list_form.filters"; }
   bool table_exists(const std::wstring& name) const;

@@ -1,5 +1,6 @@
 #include "screen.h"
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
@@ -89,5 +90,12 @@ void Picture::save(const std::filesystem::path& file) const {
 }
 
 std::set<std::uint32_t> Picture::colours() const { return {points_.begin(), points_.end()}; }
+
+double Picture::filled() const {
+  constexpr std::ptrdiff_t kFrame = 2;
+  const auto row = points_.begin() + size_.cy / 2 * size_.cx;
+  const auto first = row + kFrame, last = row + size_.cx - kFrame;
+  return static_cast<double>(std::count(first, last, *first)) / static_cast<double>(last - first);
+}
 
 }  // namespace qvr::tests

@@ -36,6 +36,8 @@ class Picture {
   explicit Picture(HWND window);
   void save(const std::filesystem::path& file) const;
   std::set<std::uint32_t> colours() const;
+  // How much of the row in the middle has the colour that it has at the left, of a window with a frame.
+  double filled() const;
 
  private:
   SIZE size_{};

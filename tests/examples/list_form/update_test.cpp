@@ -1,7 +1,5 @@
 // The update at the start: its bar, a database that needs none, and commands that fail.
-#include <windows.h>
-
-#include <commctrl.h>
+#include <optional>
 
 #include "orders.h"
 #include "scene.h"
@@ -10,9 +8,8 @@
 namespace qvr::tests {
 namespace {
 
-constexpr int kCommands = 72;
-constexpr int kBar = 2;
-constexpr LRESULT kHeldAt = 25;
+constexpr int kLabel = 1, kBar = 2;
+constexpr double kHeldAt = 40, kCommands = 72;
 
 class ListFormUpdate : public Scene {
  protected:
@@ -23,42 +20,63 @@ class ListFormUpdate : public Scene {
   }
 };
 
-// Asks at once and again; nothing for a window that has gone meanwhile.
-LRESULT asked(HWND window, UINT message, WPARAM word) {
-  DWORD_PTR answer = 0;
-  return SendMessageTimeoutW(window, message, word, 0, SMTO_NORMAL, 60'000, &answer) != 0 ? static_cast<LRESULT>(answer)
-                                                                                          : 0;
-}
+// The database stays at one command of the update, the thirtieth order, as long as this object lives.
+class HeldUpdate {
+ public:
+  HeldUpdate() {
+    remove();
+    session_.execute(
+        L"CREATE FUNCTION wait_here() RETURNS trigger LANGUAGE plpgsql SET lock_timeout = 0 AS "
+        L"'BEGIN IF NEW.Numero = 1030 THEN PERFORM pg_advisory_xact_lock(21); END IF; RETURN NEW; END'");
+    session_.execute(
+        L"CREATE FUNCTION make_wait() RETURNS event_trigger LANGUAGE plpgsql AS "
+        L"'BEGIN IF to_regclass(''pedidos'') IS NOT NULL THEN CREATE TRIGGER wait_here BEFORE INSERT ON pedidos "
+        L"FOR EACH ROW EXECUTE FUNCTION wait_here(); END IF; END'");
+    session_.execute(
+        L"CREATE EVENT TRIGGER make_wait ON ddl_command_end WHEN TAG IN ('CREATE TABLE') EXECUTE FUNCTION "
+        L"make_wait()");
+    session_.rows(L"SELECT 1 FROM pg_advisory_lock(21)", 1);
+  }
+  ~HeldUpdate() { session_.rows(L"SELECT 1 FROM pg_advisory_unlock(21)", 1); }
+  HeldUpdate(const HeldUpdate&) = delete;
+  HeldUpdate& operator=(const HeldUpdate&) = delete;
+
+  bool reached() const {
+    return !session_.rows(L"SELECT 1 FROM pg_locks WHERE locktype = 'advisory' AND NOT granted", 1).empty();
+  }
+  // What the update found is its own; the next one is not held.
+  static void remove() {
+    const list_form::Connection session = Scene::administrator();
+    session.execute(L"DROP EVENT TRIGGER IF EXISTS make_wait");
+    session.execute(L"DROP FUNCTION IF EXISTS make_wait, wait_here CASCADE");
+  }
+
+ private:
+  list_form::Connection session_ = Scene::administrator();
+};
 
 TEST_F(ListFormUpdate, MovesABarWithEachCommandAndIsNotNeededAgain) {
-  std::vector<LRESULT> places;
   {
+    std::optional<HeldUpdate> held(std::in_place);
     const Program program(folder());
-    HWND window = nullptr;
-    ASSERT_TRUE(comes_true([&] { return (window = visible_window(L"list_form_update")) != nullptr; }));
-    const HWND bar = GetDlgItem(window, kBar);
-    bool held = false;
-    EXPECT_EQ(comes_true([&] { return asked(bar, PBM_GETRANGE, FALSE) == kCommands; }), true);
-    while (visible_window(L"list_form_update") != nullptr) {
-      const LRESULT place = asked(bar, PBM_GETPOS, 0);
-      if (place != 0 && (places.empty() || places.back() != place)) places.push_back(place);
-      if (held || place < kHeldAt) continue;
-      held = true;
-      program.hold();
-      const Picture picture(window);
-      picture.save(QVR_TESTS_PICTURES "/list-form-update.bmp");
-      EXPECT_GT(picture.colours().size(), 8u);
-      program.go_on();
-    }
-    EXPECT_TRUE(held);
+    ASSERT_TRUE(comes_true([&] { return held->reached(); }));
+    const HWND window = visible_window(L"list_form_update");
+    wchar_t label[64] = L"";
+    GetWindowTextW(GetDlgItem(window, kLabel), label, static_cast<int>(std::size(label)));
+    EXPECT_STREQ(label, L"Command 40 of 72");
+    EXPECT_NEAR(Picture(GetDlgItem(window, kBar)).filled(), kHeldAt / kCommands, 0.02);
+    const Picture picture(window);
+    picture.save(QVR_TESTS_PICTURES "/list-form-update.bmp");
+    EXPECT_GT(picture.colours().size(), 8u);
+    EXPECT_EQ(visible_window(L"list_form"), nullptr);
+    held.reset();
     const Form form(program);
     EXPECT_EQ(form.sight(), (Sight{all_orders(), "60 orders", "", {}, {}}));
+    EXPECT_EQ(visible_window(L"list_form_update"), nullptr);
     form.close();
     EXPECT_EQ(program.exit_code(), 0u);
   }
-  EXPECT_TRUE(std::is_sorted(places.begin(), places.end()));
-  EXPECT_GT(places.size(), 10u);
-  EXPECT_LE(places.back(), kCommands);
+  HeldUpdate::remove();
 
   const Program again(folder());
   bool updated = false;

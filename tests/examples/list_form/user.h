@@ -25,9 +25,6 @@ class Program {
   bool ended() const { return WaitForSingleObject(running_.hProcess, 0) == WAIT_OBJECT_0; }
   // When it has ended.
   DWORD exit_code() const;
-  // Nothing moves on the screen until it goes on.
-  void hold() const { SuspendThread(running_.hThread); }
-  void go_on() const { ResumeThread(running_.hThread); }
 
  private:
   PROCESS_INFORMATION running_{};

@@ -3,38 +3,23 @@
 
 Each is run in the script host of Windows with the library registered; what it prints is compared whole.
 """
-import os
 import pathlib
 import re
-import subprocess
 import sys
 import tempfile
 import unittest
 
-from statements import HERE, ROOT, entries, pages
+from statements import HERE, entries, pages
+
+sys.path.insert(0, str(HERE.parent))
+
+import windows  # noqa: E402
 
 WIDTH, BIN, *PAGES = sys.argv[1:]
-SYSTEM = r"C:\windows\system32" if WIDTH == "64" else r"C:\windows\syswow64"
+WINDOWS = windows.Windows(WIDTH, BIN)
 CODE_OF_PAGE = "..."  # a line of a try that stands for the page's own code
 DECLARES = re.compile(r"^\s*(?:Public |Private )?(?:Sub|Function|Class)\b", re.M | re.I)
 MARK = "== try "
-
-
-def wine(*command):
-    environment = dict(os.environ, LC_ALL="C.UTF-8")
-    if WIDTH == "64":  # the loader of the other width would see its programs
-        environment["QVR_WINE"] = "/usr/lib/wine/wine64"
-    return subprocess.run([ROOT / "tools/wine.sh", *command], env=environment, stdin=subprocess.DEVNULL, timeout=120,
-                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-
-
-def windows_path(path):
-    return "Z:" + str(path).replace("/", "\\")
-
-
-def register(*switches):
-    for name in ("QVRlib21.dll", "testado.dll"):
-        wine(SYSTEM + r"\regsvr32.exe", *switches, "/s", windows_path(pathlib.Path(BIN) / name)).check_returncode()
 
 
 def body(entry):
@@ -48,10 +33,9 @@ def run(code):
         database = f"Extended Properties=\"\"DRIVER={{SQLite3}};Database={folder}/tried.db;\"\""
         prelude = (HERE / "prelude.vbs").read_text(encoding="utf-8")
         path = pathlib.Path(folder) / "tried.vbs"
-        path.write_text(prelude.replace("@FOLDER@", windows_path(folder)).replace("@DATABASE@", database) + code,
+        path.write_text(prelude.replace("@FOLDER@", windows.path(folder)).replace("@DATABASE@", database) + code,
                         encoding="utf-8", newline="\r\n")
-        ended = wine(SYSTEM + r"\cscript.exe", "//nologo", windows_path(path))
-        return ended.stdout.decode("utf-8", "replace").replace("\r\n", "\n")
+        return windows.told(WINDOWS.run(WINDOWS.system + r"\cscript.exe", "//nologo", windows.path(path)))
 
 
 def outputs(tries):
@@ -74,11 +58,11 @@ class Tries(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        register()
+        WINDOWS.register()
 
     @classmethod
     def tearDownClass(cls):
-        register("/u")
+        WINDOWS.register("/u")
 
 
 def add(page, tries):

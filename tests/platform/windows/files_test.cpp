@@ -1,11 +1,15 @@
 // Files on Windows: which are refused, and how they are replaced.
 #include <windows.h>
 
+#include <sddl.h>
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <memory>
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "base/failure.h"
 #include "platform/platform.h"
@@ -186,6 +190,35 @@ TEST(WindowsFiles, KeepTheirMarks) {
     EXPECT_EQ(folder.read(u"x.cfp"), "new");
     EXPECT_TRUE(DeleteFileW(path.c_str()));
   }
+}
+
+std::wstring rights_of(const std::wstring& path) {
+  DWORD size = 0;
+  GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::vector<std::byte> descriptor(size);
+  EXPECT_TRUE(GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size));
+  LPWSTR text = nullptr;
+  EXPECT_TRUE(ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor.data(), SDDL_REVISION_1,
+                                                                   DACL_SECURITY_INFORMATION, &text, nullptr));
+  const std::wstring rights = text;
+  LocalFree(text);
+  return rights;
+}
+
+// Everybody may write it, unlike a new file.
+TEST(WindowsFiles, KeepTheirRights) {
+  const TemporaryFolder folder;
+  folder.write(u"x.cfp", "former");
+  const std::wstring path = folder.file(u"x.cfp").wstring(), usual = rights_of(path);
+  PSECURITY_DESCRIPTOR own = nullptr;
+  ASSERT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;;FA;;;WD)", SDDL_REVISION_1, &own, nullptr));
+  ASSERT_TRUE(SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, own));
+  LocalFree(own);
+  const std::wstring former = rights_of(path);
+  ASSERT_NE(former, usual);
+  save(folder.file_text(u"x.cfp"), "new");
+  EXPECT_EQ(rights_of(path), former);
+  EXPECT_EQ(folder.read(u"x.cfp"), "new");
 }
 
 // The mask is that of Dir in Visual Basic; who lists a folder gets all its files.

@@ -51,6 +51,22 @@ class Run(ProgramTest):
                     self.nonsense(f"{script}:3") + "qvrscript: not everything ran: 2 of 3 commands; committed\n")
         self.assertEqual(self.rows("select N from T"), [("1",), ("3",)])
 
+    def test_sqlite_takes_several_statements_behind_ddl_only(self):
+        self.make_table()
+        ended = self.run_script("--quiet", self.write("x.cfc", "create table U(N int); insert into T values('1')\nGO\n"))
+        self.expect(ended, 0, "")
+        self.assertEqual(self.rows("select N from T"), [("1",)])
+        script = self.write("y.cfc", "insert into T values('2'); insert into T values('3')\nGO\n")
+        ended = self.run_script("--quiet", script)
+        self.assertEqual(ended.code, 1)
+        self.assertIn("[SQLite]only one SQL statement allowed", ended.err)
+        failing = self.write("z.cfc", "create table V(N int); nonsense\nGO\ninsert into T values('4')\nGO\n")
+        self.assertEqual(self.run_script("--quiet", "--continue", failing).code, 1)
+        self.assertEqual(self.rows("select name from sqlite_master where name = 'V'"), [("V",)])
+
+    def test_sqlite_runs_comments_alone(self):
+        self.expect(self.run_script("--quiet", self.write("x.cfc", "-- a\nGO\n/* b */\nGO\n")), 0, "")
+
     def test_without_a_transaction_what_ran_stays(self):
         self.make_table()
         script = self.write("x.cfc", HALF_FAILS)

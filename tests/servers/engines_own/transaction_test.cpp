@@ -49,6 +49,28 @@ TEST_F(EngineRun, ATableStaysOrIsTakenBackWithTheRun) {
   EXPECT_EQ(has_table(u"u"), by_server(true, false));
 }
 
+// Of PostgreSQL's own; MariaDB knows neither.
+struct Outside {
+  const char* name;
+  TextView statement;
+};
+
+constexpr Outside kOutside[] = {
+    {"cleaning up", u"vacuum T"},
+    {"an index beside its readers", u"create index concurrently I on T(X)"},
+};
+
+using EngineRunOutside = Rows<EngineRun, Outside>;
+
+TEST_P(EngineRunOutside, IsRefusedInATransaction) {
+  answer(BoxAnswer::No);
+  EXPECT_FALSE(runs({u"insert into T(N) values(1)", GetParam().statement}));
+  EXPECT_EQ(was_told(u"cannot run inside a transaction block"), by_server(false, true));
+  EXPECT_EQ(runs({GetParam().statement}, {}, Text(kNoTransaction)), by_server(false, true));
+}
+
+INSTANTIATE_TEST_SUITE_P(, EngineRunOutside, testing::ValuesIn(kOutside), row_name);
+
 constexpr TextView kNonsense = u"nonsense", kDuplicate = u"insert into T(N) values(1)";
 
 // The levels of psqlODBC's own rollback, which it has for failures inside a transaction; MariaDB takes back the failed
