@@ -3,8 +3,6 @@
 namespace list_form {
 namespace {
 
-using qvrlib21::Failure;
-
 Value column_definitions() {
   std::vector<Value> definitions;
   for (const Column& column : kColumns) {
@@ -61,38 +59,44 @@ bool OrderList::search(std::size_t column, const std::wstring& text) {
   const std::wstring before = query_.CriterioActualCompleto();
   Searches wanted = searches_;
   wanted[column] = text;
-  if (narrow(wanted) && take_up(before, wanted)) return true;
-  restore(before);
-  return false;
-}
-
-// Reads the rows; where the database refuses the statement, the list is put back.
-bool OrderList::take_up(const std::wstring& before, const Searches& searches) {
-  try {
-    read();
-  } catch (const Failure&) {
+  const bool understood = narrow(wanted);
+  if (understood) {
+    take_up(before, wanted);
+  } else {
     restore(before);
-    return false;
   }
-  searches_ = searches;
-  return true;
+  return understood;
 }
 
 // Columns count from 1; the answer is always false.
 void OrderList::sort(std::size_t column) {
+  const std::wstring before = query_.CriterioActualCompleto();
   query_.AmpliarOrden(static_cast<short>(column + 1));
-  read();
+  take_up(before, searches_);
 }
 
 void OrderList::clear() {
+  const std::wstring before = query_.CriterioActualCompleto();
   query_.RestauraOriginal(true, true);
-  searches_ = {};
-  read();
+  take_up(before, {});
 }
 
 bool OrderList::apply(const Filter& filter) {
   const std::wstring before = query_.CriterioActualCompleto();
-  return restore(filter.criterion) && take_up(before, filter.searches);
+  const bool understood = restore(filter.criterion);
+  if (understood) take_up(before, filter.searches);
+  return understood;
+}
+
+// Reads the rows. Where the database refuses the statement the list is put back, and the failure goes on.
+void OrderList::take_up(const std::wstring& before, const Searches& searches) {
+  try {
+    read();
+  } catch (...) {
+    restore(before);
+    throw;
+  }
+  searches_ = searches;
 }
 
 Filter OrderList::filter(const std::wstring& name) const { return {name, query_.CriterioActualCompleto(), searches_}; }

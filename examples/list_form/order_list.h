@@ -56,7 +56,7 @@ class OrderList {
  private:
   bool narrow(const Searches& searches) const;
   bool restore(const std::wstring& criterion) const;
-  bool take_up(const std::wstring& criterion, const Searches& searches);
+  void take_up(const std::wstring& before, const Searches& searches);
   void read();
 
   Connection connection_;

@@ -81,6 +81,24 @@ TEST_F(ListForm, LeavesTheListAndColoursTheBoxOfARefusedSearch) {
   expect(form, changed);
 }
 
+TEST_F(ListForm, TellsWhatTheDatabaseRefusesAndGoesOn) {
+  const Program program(folder());
+  const Form form(program);
+  form.search(kCustomer, L"ana");
+  form.search(kServed, L"no");
+  expect(form, kNarrowed);
+  session().execute(L"ALTER TABLE Pedidos RENAME TO Otra");
+  form.click_heading(kAmount);
+  ASSERT_TRUE(comes_true([&] { return form.sight().line != kNarrowed.line; }));
+  Sight refused = kNarrowed;
+  refused.line = form.sight().line;
+  EXPECT_NE(refused.line.find("pedidos"), std::string::npos) << refused.line;
+  expect(form, refused);
+  session().execute(L"ALTER TABLE Otra RENAME TO Pedidos");
+  form.press_enter(kServed);
+  expect(form, kNarrowed);
+}
+
 TEST_F(ListForm, SortsByAHeadingAndTurnsRound) {
   const Program program(folder());
   const Form form(program);
