@@ -202,6 +202,46 @@ begin
   Compare('UsuarioSegunMotor', Early.UsuarioSegunMotor(Engine), Late.UsuarioSegunMotor(Engine));
 end;
 
+type
+  TFailing = class
+    Heard: Integer;
+    procedure Terminado(Sender: TObject; Exito: Boolean);
+  end;
+
+procedure TFailing.Terminado(Sender: TObject; Exito: Boolean);
+begin
+  Inc(Heard);
+  raise Exception.Create('of the program');
+end;
+
+{ Nothing is loaded from a folder that there is not, which both are told. The call goes on behind a handler that fails. }
+procedure CompareFailingHandlers;
+var
+  Failing: TFailing;
+  Early: TQVRScr;
+  Late: _QVRScrDisp;
+  Id, Folder, Name, None: WideString;
+  Engine: Integer;
+  Encrypted: WordBool;
+begin
+  Failing := TFailing.Create;
+  Early := TQVRScr.Create;
+  Late := _QVRScrDisp(ObjectOf(CLASS_QVRScr));
+  Early.OnTerminado := Failing.Terminado;
+  Id := 'id';
+  Folder := 'C:\none';
+  Name := 'Shop';
+  None := '';
+  Engine := 2;
+  Encrypted := False;
+  Compare('CargarDefinicion with a handler that fails',
+    '[' + Early.CargarDefinicion(Id, Engine, Folder, Name, None, None, None, None, None, Encrypted) + ']',
+    '[' + Late.CargarDefinicion(Id, Engine, Folder, Name, None, None, None, None, None, Encrypted) + ']');
+  Compare('Terminado', Number(Failing.Heard), '1');
+  Early.Free;
+  Failing.Free;
+end;
+
 procedure CompareProperties;
 var
   Early: _QVRprp;
@@ -235,6 +275,7 @@ begin
     CompareQueries;
     CompareUnions;
     CompareScripts;
+    CompareFailingHandlers;
     CompareProperties;
   except
     on E: Exception do
