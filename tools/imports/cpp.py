@@ -2,6 +2,8 @@
 import pathlib
 import subprocess
 
+from habits import DIRECTIONS, direction, is_changed, slot_name
+
 TEMPLATE = pathlib.Path(__file__).resolve().with_name("QVRlib21.hpp.in")
 
 RAW = {"BSTR": "BSTR", "VARIANT": "VARIANT", "VARIANT_BOOL": "VARIANT_BOOL", "long": "long", "short": "short",
@@ -21,11 +23,6 @@ RESULT = {"BSTR": ("std::wstring", "detail::Text answer;", "answer.address()", "
           "long": ("long", "long answer = 0;", "&answer", "answer"),
           "short": ("short", "short answer = 0;", "&answer", "answer"),
           "MotoresBD": ("MotoresBD", "MotoresBD answer{};", "&answer", "answer")}
-# ADO's constants of the one enumeration in the library's signatures.
-DIRECTIONS = {"adParamUnknown": 0, "adParamInput": 1, "adParamOutput": 2, "adParamInputOutput": 3,
-              "adParamReturnValue": 4}
-# The only arguments by which the library answers: the values of a procedure's outputs, and the text that was shown.
-CHANGED = {("EjecutarProcSQL7", "Parametros"), ("EjecutarComandos", "TextoMostrar")}
 
 
 def guid(text):
@@ -37,10 +34,6 @@ def guid(text):
 def enum(name, help_text, values):
     lines = [f"  {constant} = {value}," for constant, value in values.items()]
     return "\n".join([f"// {help_text}.", f"enum {name} : std::int32_t {{", *lines, "};", ""])
-
-
-def slot_name(member, accessor):
-    return ("get_" if accessor.kind == "get" else "put_" if accessor.kind == "put" else "") + member.name
 
 
 def raw_interface(interface):
@@ -59,14 +52,10 @@ def default_of(parameter):
     if parameter.type == "VARIANT":
         return " = Value::missing()"
     if parameter.type == "ParameterDirectionEnum":
-        return " = " + next(name for name, value in DIRECTIONS.items() if value == int(parameter.default))
+        return f" = {direction(parameter)}"
     if parameter.type == "VARIANT_BOOL":
         return " = false"
     return f" = {parameter.default}" if parameter.default else " = {}"
-
-
-def is_changed(member, parameter):
-    return (member.name, parameter.name) in CHANGED
 
 
 def given(member, parameter):

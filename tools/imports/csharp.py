@@ -4,7 +4,7 @@ import pathlib
 import textwrap
 from xml.sax.saxutils import escape
 
-from cpp import DIRECTIONS, is_changed, slot_name
+from habits import DIRECTIONS, direction, is_changed, slot_name
 
 TEMPLATE = pathlib.Path(__file__).resolve().with_name("QVRlib21.cs.in")
 TYPES = {"BSTR": "string", "VARIANT": "object", "VARIANT_BOOL": "bool", "long": "int", "short": "short",
@@ -38,8 +38,7 @@ def constant_of(parameter):
     if not parameter.optional or parameter.type == "VARIANT":
         return None
     if parameter.type == "ParameterDirectionEnum":
-        name = next(name for name, value in DIRECTIONS.items() if value == int(parameter.default))
-        return f"ParameterDirectionEnum.{name}"
+        return f"ParameterDirectionEnum.{direction(parameter)}"
     return {"BSTR": '""', "VARIANT_BOOL": "false"}.get(parameter.type, parameter.default)
 
 

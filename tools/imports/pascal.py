@@ -2,6 +2,8 @@
 import pathlib
 import textwrap
 
+from habits import is_changed
+
 TEMPLATE = pathlib.Path(__file__).resolve().with_name("QVRlib21_TLB.pas.in")
 TYPES = {"BSTR": "WideString", "VARIANT": "OleVariant", "VARIANT_BOOL": "WordBool", "long": "Integer",
          "short": "SmallInt", "MotoresBD": "MotoresBD", "Connection": "IDispatch", "Command": "IDispatch",
@@ -11,8 +13,6 @@ DISPATCHED = {**TYPES, "MotoresBD": "Integer", "ParameterDirectionEnum": "Intege
 # What the classes show instead.
 SHOWN = {**TYPES, "VARIANT_BOOL": "Boolean"}
 DEFAULTS = {"WideString": "''", "Boolean": "False"}
-# The only arguments by which the library answers: the values of a procedure's outputs, and the text that was shown.
-CHANGED = {("EjecutarProcSQL7", "Parametros"), ("EjecutarComandos", "TextoMostrar")}
 # Reserved words of the language among the contract's names.
 RESERVED = {"type", "property", "file"}
 WIDTH = 118
@@ -103,7 +103,7 @@ def default_of(parameter):
 
 def shown_parameters(member, accessor):
     """With the defaults of those behind which none has to be given; EmptyParam stands for a value that is left out."""
-    changed = [(member.name, each.name) in CHANGED for each in accessor.parameters]
+    changed = [is_changed(member, each) for each in accessor.parameters]
     shown = []
     for at, each in enumerate(accessor.parameters):
         later = [default_of(other) and not changed[at + more + 1]
@@ -178,7 +178,7 @@ def body(coclass, holder, member, accessor):
     variables, before, after, arguments = [], [], [], []
     for each in accessor.parameters:
         name, kind = name_of(each.name), TYPES[each.type]
-        if (member.name, each.name) in CHANGED or not each.by_reference:
+        if is_changed(member, each) or not each.by_reference:
             arguments.append(name)
             continue
         own = f"{each.name}_"

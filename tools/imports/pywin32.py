@@ -2,7 +2,7 @@
 import pathlib
 import textwrap
 
-from cpp import CHANGED, DIRECTIONS
+from habits import DIRECTIONS, direction, is_changed
 
 FOLDER = pathlib.Path(__file__).resolve().parent
 WIDTH = 118
@@ -41,17 +41,12 @@ def enums(library, stub):
     return ("\n\n" if stub else "\n\n\n").join(enum(name, "" if stub else text, values) for name, text, values in told)
 
 
-def is_changed(member, parameter):
-    return (member.name, parameter.name) in CHANGED
-
-
 def stated_default(parameter):
     """What the contract states, for the stub's readers; the call leaves the argument out."""
     if parameter.type == "VARIANT":
         return "..."
     if parameter.type == "ParameterDirectionEnum":
-        names = {str(value): name for name, value in DIRECTIONS.items()}
-        return f"ParameterDirectionEnum.{names[parameter.default]}"
+        return f"ParameterDirectionEnum.{direction(parameter)}"
     return DEFAULTS.get(parameter.type) or parameter.default
 
 
