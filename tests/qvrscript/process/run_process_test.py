@@ -53,8 +53,8 @@ class Run(ProgramTest):
 
     def test_sqlite_takes_several_statements_behind_ddl_only(self):
         self.make_table()
-        ended = self.run_script("--quiet", self.write("x.cfc", "create table U(N int); insert into T values('1')\nGO\n"))
-        self.expect(ended, 0, "")
+        script = self.write("x.cfc", "create table U(N int); insert into T values('1')\nGO\n")
+        self.expect(self.run_script("--quiet", script), 0, "")
         self.assertEqual(self.rows("select N from T"), [("1",)])
         script = self.write("y.cfc", "insert into T values('2'); insert into T values('3')\nGO\n")
         ended = self.run_script("--quiet", script)
@@ -209,6 +209,16 @@ class Run(ProgramTest):
         self.assertIn("  state     IM002", lines)
         self.assertEqual(lines[-1], "qvrscript: failed after 0 of 1 commands; nothing was run")
         self.assertEqual(len([line for line in lines if line.startswith("qvrscript")]), 1)
+
+    def test_verbose_adds_the_trace_on_the_error_output(self):
+        unopened = ("run", "--engine", "sqlserver", "--quiet", "--connection", "Provider=MSDASQL;Data Source=NoSuchDsn")
+        script = self.write("x.cfc", TABLE)
+        plain, verbose = self.run_program(*unopened, script), self.run_program(*unopened, "--verbose", script)
+        self.assertEqual((plain.out, verbose.out, verbose.code), ("", "", 1))
+        trace = [line for line in verbose.err.splitlines() if line not in plain.err.splitlines()]
+        self.assertEqual(len(trace), 1)
+        self.assertRegex(trace[0],
+                         r"^trace: QVRScr\.EjecutarComandos: -2147467259 told by another component \(.+:\d+\)$")
 
     def test_control_characters_do_not_reach_the_terminal(self):
         script = self.write("x.cfc", "nonsense \x1b[2J\x07\nGO\n")
