@@ -7,6 +7,9 @@ need windows
 need_wine
 need_built win32 QVRlib21 testado gestion answer_boxes qvrscript
 
+# Wine's programs get their arguments in the character set of the locale, and some of the example's have accents.
+[ "$(locale charmap)" = UTF-8 ] || export LC_ALL=C.UTF-8
+
 work=$build/demo
 rm -rf "$work"
 mkdir -p "$work"
