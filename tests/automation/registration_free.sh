@@ -3,10 +3,8 @@
 # Usage: registration_free.sh 32|64 BIN
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 300 "$tools/wine.sh" "$@"; }
-windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+. "$here/../support/windows.sh" "$1"
 
-[ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 # Wine registers a type library that it finds by a manifest: not in the prefix of the other tests.
 . "$here/../support/own_prefix.sh"
 mkdir "$work/with" "$work/without"

@@ -4,13 +4,8 @@
 # Usage: script_host.sh 32|64 LIBRARY SCRIPT
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 300 "$here/../../tools/wine.sh" "$@"; }
-windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+. "$here/../support/windows.sh" "$1"
 
-system='C:\windows\system32'
-[ "$1" = 64 ] || system='C:\windows\syswow64'
-# The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
-[ "$1" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 library=$(windows_path "$2")
 ado=$(windows_path "$(dirname "$2")/testado.dll")
 # Tidying up goes on to its end; what cannot be taken back fails the test too.

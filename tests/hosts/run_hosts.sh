@@ -3,14 +3,8 @@
 # Usage: run_hosts.sh 32|64 BIN SOURCES
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 300 "$here/../../tools/wine.sh" "$@"; }
-windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+. "$here/../support/windows.sh" "$1"
 
-width=$1
-system='C:\windows\system32'
-[ "$width" = 64 ] || system='C:\windows\syswow64'
-# The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
-[ "$width" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 bin=$(windows_path "$2")
 sources=$(windows_path "$3")
 expected=$3/expected.txt

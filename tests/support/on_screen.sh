@@ -4,7 +4,8 @@ set -euo pipefail
 work=$(mktemp -d)
 tidy_up() {
   local outcome=$?
-  [ -z "${server:-}" ] || kill "$server" || true
+  # A screen that has ended by itself was not there for all that was to be seen.
+  if [ -n "${server:-}" ]; then kill "$server" || outcome=1; fi
   rm -rf "$work"
   exit "$outcome"
 }

@@ -3,14 +3,8 @@
 # Usage: recipes.sh 32|64 BIN RECIPES
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 300 "$here/../../../tools/wine.sh" "$@" </dev/null; }
-windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+. "$here/../../support/windows.sh" "$1"
 
-width=$1
-system='C:\windows\system32'
-[ "$width" = 64 ] || system='C:\windows\syswow64'
-# The 32-bit loader, which "wine" starts first, would see the 32-bit programs in the folder of the 64-bit ones.
-[ "$width" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 bin=$(windows_path "$2")
 recipes=$3
 # The library's texts are those of the user's language.
@@ -19,11 +13,18 @@ work=$(mktemp -d)
 report='HKLM\Software\Classes\QVRServicios.InformeErrores'
 outcome=0
 
+# What the recipe of the service leaves in the prefix, as far as it has come. In a trap bash's plain return would give the
+# status from before the trap.
+quietly() { wine "$@" >"$work/log" 2>&1; }
+take_away_service() {
+  if quietly sc query Cuentas; then quietly sc delete Cuentas || return 1; fi
+  if quietly reg query "$report"; then quietly reg delete "$report" /f || return 1; fi
+}
+
 # Tidying up goes on to its end; what cannot be taken back fails the test too.
 tidy_up() {
   outcome=$(($? | outcome))
-  wine sc delete Cuentas >"$work/log" 2>&1 || true
-  wine reg delete "$report" /f >"$work/log" 2>&1 || true
+  take_away_service || outcome=1
   for each in QVRlib21.dll testado.dll; do wine "$system\\regsvr32.exe" /u /s "$bin\\$each" || outcome=1; done
   wine "$system\\regsvr32.exe" /s /u /n /i:user "$bin\\QVRlib21.dll" || outcome=1
   rm -rf "$work"
@@ -59,7 +60,7 @@ version() { wine "$system\\cscript.exe" //nologo "$(windows_path "$work/version.
 # Whatever an earlier test that was ended left.
 batch remove machine >"$work/log"
 batch remove user >"$work/log"
-wine sc delete Cuentas >"$work/log" 2>&1 || true
+take_away_service
 {
   installed 'before' 0
   installed 'for the machine' "$(batch install machine)"

@@ -2,13 +2,8 @@
 # Tries libraries as a user does and compares all that is told of it, and what is left of it. Usage: try.sh 32|64 BIN
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-wine() { timeout 300 "$here/../../../tools/wine.sh" "$@" </dev/null; }
-windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+. "$here/../../support/windows.sh" "$1"
 
-width=$1
-system='C:\windows\system32'
-[ "$width" = 64 ] || system='C:\windows\syswow64'
-[ "$width" = 32 ] || export QVR_WINE=/usr/lib/wine/wine64
 regsvr() { wine "$system\\regsvr32.exe" /s "$@"; }
 
 prefix=${QVR_WINEPREFIX:-$here/../../../build/wine}
