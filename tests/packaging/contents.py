@@ -18,7 +18,7 @@ BOTH = ["QVRlib21.dll", "QVRlib21.tlb", "QVRlib21.SxS.manifest", "list_form.exe"
         "qvrscript.exe", "registration_free.exe", "registration_free.exe.manifest"]
 WANTED = [f"win{width}/{name}" for width in (32, 64) for name in BOTH] + [
     "imports/cpp/QVRlib21.hpp", "imports/csharp/QVRlib21.cs", "imports/csharp/QVRlib21.nuspec",
-    "imports/python/QVRlib21.py", "imports/python/QVRlib21.pyi",
+    "imports/pascal/QVRlib21_TLB.pas", "imports/python/QVRlib21.py", "imports/python/QVRlib21.pyi",
     "imports/csharp/build/QVRlib21.targets", "README.md", "LEAME.md", "CHANGELOG.md", "SHA256SUMS", "first.vbs",
     "linux/qvrscript", "linux/qvrscript.1", "linux/completions/qvrscript", "docs/failures.md", "docs/automation.md", "examples/gestion/main.cpp", "examples/registration_free/main.cpp",
     "examples/cookbook/list_form.vbs", "examples/list_form/README.md", "docs/images/list-form.png",
